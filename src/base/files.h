@@ -1,0 +1,31 @@
+// Files as runs of bytes: reading that trusts nothing, saving that loses nothing.
+#pragma once
+
+#include "base/bytes.h"
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace wortlex {
+
+/// Nothing that this program reads is larger; what is, is somebody else's file.
+inline constexpr std::size_t largest_file = std::size_t{256} << 20;
+
+/// The first `limit` bytes of a file; nothing if it cannot be opened, is no regular file or breaks
+/// off with an error.
+std::optional<Bytes> read_file(const std::string& path, std::size_t limit = largest_file);
+
+/// Replaces `path` by `content`, wholly or not at all: the bytes go to a file beside it, are flushed
+/// to the disk and take its place. A symbolic link keeps pointing, mode and owner are kept. A file
+/// that could not itself be opened for writing is refused. Returns whether the new content stands.
+bool save_atomically(const std::string& path, ByteView content);
+
+/// `folder` + `name`, or where that does not exist the file of the same name but for capitals.
+std::string find_data_file(const std::string& folder, std::string_view name);
+
+/// A folder path of a settings file in the form of this system: slashes, and one at the end.
+/// An empty path stays empty.
+std::string native_folder(std::string_view stored);
+
+} // namespace wortlex

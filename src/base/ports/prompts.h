@@ -1,0 +1,42 @@
+// Messages and questions to the user. Logic that must ask is handed one; tests hand in a script.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace wortlex {
+
+enum class Icon { none, information, question, warning, error };
+
+/// What a message box says. Texts are UTF-8; `\n` breaks a line.
+struct Message {
+    std::string_view text;
+    std::string_view caption = "Wortlex";
+    Icon icon = Icon::none;
+};
+
+enum class Answer { yes, no, cancel };
+enum class ReplaceAnswer { yes, yes_to_all, no, cancel };
+
+class Prompts {
+public:
+    virtual ~Prompts() = default;
+
+    virtual void tell(const Message& message) = 0;
+    /// Yes or no; never `cancel`.
+    virtual Answer ask_yes_no(const Message& question) = 0;
+    virtual Answer ask_yes_no_cancel(const Message& question) = 0;
+    /// Whether an entry that exists already is to be replaced; `existing` and `consequence` are the
+    /// two texts of the question.
+    virtual ReplaceAnswer ask_replace(std::string_view existing, std::string_view consequence) = 0;
+    /// A colour as 0x00BBGGRR, or nothing when the user leaves it.
+    virtual std::optional<std::uint32_t> choose_colour(std::uint32_t start) = 0;
+    /// A folder, ending in a slash, or nothing.
+    virtual std::optional<std::string> choose_folder(std::string_view title, const std::string& start) = 0;
+    /// A message with a check box; returns whether it is to be shown again.
+    virtual bool remind(const Message& message) = 0;
+};
+
+} // namespace wortlex

@@ -1,0 +1,40 @@
+// Text in a fixed array, as records and files hold it.
+#pragma once
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+#include <string_view>
+
+namespace wortlex {
+
+/// A Windows-1252 text in `N` bytes. It ends at the first NUL or, in a damaged file, with the array.
+/// What a file holds behind the NUL is kept, so that it is written back as it was.
+template <std::size_t N>
+struct Text {
+    static constexpr std::size_t capacity = N;
+
+    std::array<char, N> bytes{};
+
+    Text() = default;
+    explicit Text(std::string_view text) { assign(text); }
+
+    std::string_view view() const {
+        return {bytes.data(),
+                static_cast<std::size_t>(std::find(bytes.begin(), bytes.end(), '\0') - bytes.begin())};
+    }
+
+    bool empty() const { return bytes[0] == '\0'; }
+
+    /// Takes at most `N - 1` bytes of `text` and clears the rest.
+    void assign(std::string_view text) {
+        text = text.substr(0, std::min(text.find('\0'), N - 1));
+        const auto end = std::copy(text.begin(), text.end(), bytes.begin());
+        std::fill(end, bytes.end(), '\0');
+    }
+
+    /// Equal as read: what stands behind the NUL does not count.
+    bool operator==(const Text& other) const { return view() == other.view(); }
+};
+
+} // namespace wortlex

@@ -1,0 +1,52 @@
+#include "mash/records/schedule_file.h"
+
+#include "base/files.h"
+
+namespace wortlex {
+namespace {
+
+constexpr auto schedule_file_layout = layout<MashDesign, 14875>(
+    at(
+        0, [](auto& design) -> auto& { return design.mash.step_count; }),
+    at(4, &MashDesign::grain_weight),
+    at(
+        8, [](auto& design) -> auto& { return design.mash.grain_temperature; }),
+    at(12, &MashDesign::dough_in_water),
+    at(
+        16, [](auto& design) -> auto& { return design.mash.tun_thermal_mass; }),
+    at(
+        20, [](auto& design) -> auto& { return design.mash.steps; }, mash_step_layout),
+    at(
+        14620, [](auto& design) -> auto& { return design.mash.mash_name; }));
+
+} // namespace
+
+bool SaveMashSchedule(const std::string& path, const MashDesign& design) {
+    return save_atomically(path, mash_schedule_bytes(design));
+}
+
+ScheduleLoad LoadMashSchedule(const std::string& path, MashDesign& design, const Settings& settings) {
+    const auto file = read_file(path, schedule_file_layout.size);
+    return file ? read_mash_schedule(*file, design, settings) : ScheduleLoad::not_found;
+}
+
+ScheduleLoad LoadMashSchedule(const std::string& path, ComplexMash& mash, const Settings& settings) {
+    MashDesign design{mash};
+    const auto result = LoadMashSchedule(path, design, settings);
+    if (result != ScheduleLoad::not_found) mash = design.mash;
+    return result;
+}
+
+ScheduleLoad read_mash_schedule(ByteView file, MashDesign& design, const Settings& settings) {
+    ByteReader reader(file);
+    reader.read(design, schedule_file_layout);
+    design.mash.tun_thermal_mass = settings.tun_thermal_mass;
+    design.mash.steps[0].heat_type = StepHeat::infuse;
+    return reader.complete() ? ScheduleLoad::loaded : ScheduleLoad::incomplete;
+}
+
+Bytes mash_schedule_bytes(const MashDesign& design) {
+    return encoded(design, schedule_file_layout);
+}
+
+} // namespace wortlex
