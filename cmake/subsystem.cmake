@@ -1,4 +1,4 @@
-# subsystem(name folder [QT] DEPENDS rooms... SOURCES files... [HEADERS_ONLY])
+# subsystem(name folder [QT] DEPENDS rooms... SOURCES files...)
 # One library for one room. What it may include is what it links: `DEPENDS` is also written to a table that the
 # guard tools/check_rooms.cmake reads.
 function(subsystem name folder)
@@ -10,10 +10,11 @@ function(subsystem name folder)
     if(ROOM_QT)
         target_link_libraries(${name} PUBLIC Qt6::Widgets)
     endif()
-    set_property(GLOBAL APPEND PROPERTY WORTLEX_ROOMS "${folder}|${name}|${ROOM_DEPENDS}")
+    list(JOIN ROOM_DEPENDS " " depends)
+    set_property(GLOBAL APPEND PROPERTY WORTLEX_ROOMS "${folder} ${name} ${depends}")
 endfunction()
 
-# Writes "folder|name|dependency dependency ..." a line for the guard.
+# Writes "folder name dependency dependency ..." a line for the guard.
 function(write_room_table path)
     get_property(rooms GLOBAL PROPERTY WORTLEX_ROOMS)
     set(table "")

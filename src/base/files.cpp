@@ -124,8 +124,8 @@ bool save_atomically(const std::string& path, ByteView content) {
     const auto old = inspect(target);
     if (target.empty() || !old.writable) return false;
 
-    auto folder = std::filesystem::path(target).parent_path().string();
-    if (folder.empty()) folder = ".";
+    const auto parent = std::filesystem::path(target).parent_path().string();
+    const auto folder = parent.empty() ? std::string(".") : parent;
     auto temporary = folder + "/.wortlex-XXXXXX";
     OpenFile file(::mkostemp(temporary.data(), O_CLOEXEC));
     if (!file.is_open()) return false;

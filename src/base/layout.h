@@ -23,9 +23,9 @@ struct Plain {};
 /// record (or an array of such) the layout of that record.
 template <class Access, class Sub>
 struct Field {
-    std::size_t offset;
-    Access access;
-    Sub sub;
+    std::size_t offset = 0;
+    Access access{};
+    Sub sub{};
 };
 
 template <class Access>
@@ -192,7 +192,7 @@ public:
         }
         complete_ = false;
         if (rest_.empty()) return;
-        std::array<std::byte, RecordLayout::size> whole;
+        std::array<std::byte, RecordLayout::size> whole{};
         format.put(record, whole.data());
         std::memcpy(whole.data(), rest_.data(), rest_.size());
         format.get(record, whole.data());

@@ -67,22 +67,22 @@ float generic_utilization(int minutes) {
 
 // The hop itself, in any of the three forms.
 struct Addition {
-    float alpha;
-    int minutes;
-    HopForm form;
-    HopTiming timing;
+    float alpha = 0; // percent
+    int minutes = 0;
+    HopForm form{};
+    HopTiming timing{};
     bool form_always_counts = false;
     bool as_fraction = false; // utilization of Garetz and Generic, for display
 };
 
 // What it is boiled in.
 struct Kettle {
-    float batch;
-    float wort;
-    float sg;
-    float tinseth_gravity; // SG - 1
-    float desired_ibu;
-    float elevation;
+    float batch = 0; // gallons
+    float wort = 0;
+    float sg = 1;
+    float tinseth_gravity = 0; // SG - 1
+    float desired_ibu = 0;
+    float elevation = 0; // feet
     float bag = 1;
     float filter = 1;
 };

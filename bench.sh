@@ -1,0 +1,29 @@
+#!/usr/bin/env bash
+# Prints how fast the program is: one recalculation, a load and a save, and wortlex-report over 10,000 recipes, each
+# from 25 to 400 lines of malts and hops.
+set -eu
+cd "$(dirname "$0")"
+. tools/install.sh
+install_missing g++ cmake ninja-build libbenchmark-dev
+
+cmake --preset bench > /dev/null
+cmake --build --preset bench
+build/bench/bench/documents_bench --benchmark_counters_tabular=true
+
+folder=$(mktemp -d)
+trap 'rm -rf "$folder"' EXIT
+build/bench/tools/make-brewery data "$folder"
+cd "$folder"
+for lines in 25 100 400; do
+    count=$((lines == 400 ? 2000 : 10000))
+    mkdir "many_$lines"
+    "$OLDPWD/build/bench/bench/write_recipe" "$lines" "many_$lines/recipe.rec"
+    seq "$count" | sed "s|.*|many_$lines/&.rec|" | xargs -n 1000 sh -c 'for f; do cp "$0" "$f"; done' "many_$lines/recipe.rec"
+    rm "many_$lines/recipe.rec"
+    started=$(date +%s.%N)
+    find "many_$lines" -name '*.rec' -print0 | xargs -0 -n "$count" "$OLDPWD/build/bench/src/wortlex-report" --json > figures.json
+    ended=$(date +%s.%N)
+    [ "$(wc -l < figures.json)" -eq "$count" ]
+    echo "wortlex-report --json, $lines malts and hops: $(echo "$count $started $ended" | awk '{ printf "%d files in %.2f s, %.0f files a second\n", $1, $3 - $2, $1 / ($3 - $2) }')"
+    rm -rf "many_$lines"
+done

@@ -1,0 +1,24 @@
+#!/usr/bin/env bash
+# Builds everything with the sanitizers on and runs all checks: the tests, once more under a comma locale, the
+# guards, the format of the code and the lint. `./test.sh NAME` runs only the tests whose name holds NAME.
+set -eu
+cd "$(dirname "$0")"
+. tools/install.sh
+install_missing g++ cmake ninja-build libgtest-dev libgmock-dev locales clang-format clang-tidy
+
+cmake --preset test > /dev/null
+cmake --build --preset test
+if [ $# -gt 0 ]; then
+    exec ctest --preset test -R "$1"
+fi
+ctest --preset test
+
+# A comma for the decimal point: no figure may notice.
+comma_locales=$PWD/build/locales
+if [ ! -d "$comma_locales/de_DE.UTF-8" ]; then
+    mkdir -p "$comma_locales"
+    localedef -i de_DE -f UTF-8 "$comma_locales/de_DE.UTF-8"
+fi
+LOCPATH=$comma_locales LC_ALL=de_DE.UTF-8 ctest --preset test -R _tests
+
+tools/lint.sh

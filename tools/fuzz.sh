@@ -1,0 +1,37 @@
+#!/usr/bin/env bash
+# fuzz.sh [MINUTES] [TARGET ...]: runs each fuzz target (or those named) for MINUTES, 5 if not told, two at a time. A
+# finding stops its target and is kept in build/fuzz/findings.
+set -eu
+cd "$(dirname "$0")/.."
+. tools/install.sh
+install_missing clang cmake ninja-build
+
+minutes=${1:-5}
+[ $# -eq 0 ] || shift
+cmake --preset fuzz > /dev/null
+cmake --build --preset fuzz
+[ -d build/fuzz/brewery ] || build/fuzz/tools/make-brewery data build/fuzz/brewery
+[ $# -gt 0 ] || set -- recipe session settings schedule color_table database
+
+run() {
+    target=$1
+    corpus=build/fuzz/corpus/$target
+    mkdir -p "$corpus" build/fuzz/findings build/fuzz/logs
+    case $target in
+    recipe) cp build/fuzz/brewery/Recipes/*.rec "$corpus" ;;
+    session) cp build/fuzz/brewery/Sessions/*.brw "$corpus" ;;
+    settings) cp build/fuzz/brewery/WlxMSys.DAT "$corpus" ;;
+    color_table) cp build/fuzz/brewery/kv_lovrgb.ldt "$corpus" ;;
+    database) cp build/fuzz/brewery/WATER.DAT "$corpus" ;;
+    esac
+    if build/fuzz/fuzz/"$target"_fuzz "$corpus" -max_total_time=$((minutes * 60)) -max_len=1500000 -rss_limit_mb=4096 \
+        -artifact_prefix="build/fuzz/findings/$target-" > "build/fuzz/logs/$target" 2>&1; then
+        echo "$target: no finding in $minutes minutes; $(grep -E '^Done' "build/fuzz/logs/$target")"
+    else
+        echo "$target: a finding, see build/fuzz/logs/$target"
+        return 1
+    fi
+}
+export -f run
+export minutes
+printf '%s\n' "$@" | xargs -P 2 -I TARGET bash -c 'run TARGET'
