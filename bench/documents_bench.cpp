@@ -1,7 +1,7 @@
 // One full recalculation under each method, base and hop formula, and a load and a save, by the number of
 // lines.
 #include "base/files.h"
-#include "documents/recalculation.h"
+#include "documents/opening.h"
 #include "documents/records/document_files.h"
 #include "sample_document.h"
 

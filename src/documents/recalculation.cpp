@@ -22,11 +22,6 @@ void update_hops_if_any(const OpenDocument& open) {
     if (!open.document.hops.empty()) hops_update(open.document, open.figures, open.settings);
 }
 
-void colour_and_mash(const OpenDocument& open) {
-    colour_update(open.document, open.figures, open.settings);
-    mash_refresh(open);
-}
-
 // The dough-in alone fills a recipe's mash, the infusions too that of a session that heats by them.
 void recalculate_simple(const OpenDocument& open) {
     const auto& mash = open.document.simple_mash;
@@ -87,19 +82,13 @@ void mash_refresh(const OpenDocument& open) {
     refresh_water(open);
 }
 
-void gravity_update(BrewDocument& document, RecipeFigures& figures, const Settings& settings) {
-    if (!document.malts.empty()) document.og_points = compute_og(document, figures, settings);
+void colour_and_mash(const OpenDocument& open) {
+    colour_update(open.document, open.figures, open.settings);
+    mash_refresh(open);
 }
 
-void recalculate_opened(const OpenDocument& open) {
-    auto& document = open.document;
-    if (open.settings.wort_equals_batch != 0 && open.session == nullptr)
-        document.wort_size = document.batch_size;
-    open.figures = {};
-    total_grain_update(document, open.figures);
-    document.og_points = compute_og(document, open.figures, open.settings);
-    hops_update(document, open.figures, open.settings);
-    colour_and_mash(open);
+void gravity_update(BrewDocument& document, RecipeFigures& figures, const Settings& settings) {
+    if (!document.malts.empty()) document.og_points = compute_og(document, figures, settings);
 }
 
 void wort_size_changed(const OpenDocument& open) {

@@ -1,4 +1,4 @@
-// The order of work after each kind of change to a document, and when a window opens on one.
+// The order of work after each kind of change to a document.
 #pragma once
 
 #include "base/number.h"
@@ -35,6 +35,9 @@ void colour_update(const BrewDocument& document, RecipeFigures& figures, const S
 /// The mashed grain, the water and volume of the schedule in force and, in a session, the water balance.
 void mash_refresh(const OpenDocument& open);
 
+/// Colour, then mash: how most changes end.
+void colour_and_mash(const OpenDocument& open);
+
 /// Works out the schedule in force from the mashed grain as it stands, without telling the water balance.
 void recalculate_schedule(const OpenDocument& open);
 
@@ -43,10 +46,6 @@ void refresh_water(const OpenDocument& open);
 
 /// `compute_og` into `og_points`, if there are malts.
 void gravity_update(BrewDocument& document, RecipeFigures& figures, const Settings& settings);
-
-/// The whole order of work as a window opens on a loaded document. Without malts gravity and boil gravity are
-/// those of water.
-void recalculate_opened(const OpenDocument& open);
 
 /// After each kind of edit. The value itself is already in the document, in stored units.
 void wort_size_changed(const OpenDocument& open);

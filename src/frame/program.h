@@ -2,6 +2,7 @@
 #pragma once
 
 #include "base/ports/prompts.h"
+#include "documents/opening.h"
 #include "documents/session_figures.h"
 #include "frame/settings/settings.h"
 #include "frame/settings/system_files.h"

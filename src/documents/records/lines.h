@@ -72,4 +72,8 @@ struct YeastUse {
 inline constexpr auto yeast_use_layout =
     layout<YeastUse, 473>(at(0, &YeastUse::record, yeast_layout), at(468, &YeastUse::reserved_468));
 
+/// A line just added from the database, with the usual increment of the settings as its amount.
+HopUse new_hop_line(const HopRecord& hop, std::int32_t boil_minutes, float increment);
+MaltUse new_malt_line(const MaltRecord& malt, float increment);
+
 } // namespace wortlex

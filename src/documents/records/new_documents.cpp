@@ -3,6 +3,25 @@
 
 namespace wortlex {
 
+HopUse new_hop_line(const HopRecord& hop, std::int32_t boil_minutes, float increment) {
+    HopUse line;
+    line.record = hop;
+    line.age_months = 1;
+    line.storage_temperature = 20.0F;
+    line.alpha = hop.alpha;
+    line.storage_kind = StorageKind::airtight;
+    line.amount = increment;
+    line.boil_time = static_cast<std::int16_t>(boil_minutes);
+    return line;
+}
+
+MaltUse new_malt_line(const MaltRecord& malt, float increment) {
+    MaltUse line;
+    line.record = malt;
+    line.amount = increment;
+    return line;
+}
+
 BrewDocument new_document(const Settings& settings, ScheduleKind schedule_in_force) {
     BrewDocument document;
     document.wort_size = settings.wort_size;

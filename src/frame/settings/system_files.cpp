@@ -126,6 +126,12 @@ void set_folder(FolderSet& folders, FolderKind kind, std::string_view path) {
     }
 }
 
+void follow_user(FolderSet& folders, FolderKind kind, const std::string& path) {
+    if (folders.save_automatically != 1) return;
+    const auto end = path.rfind('/');
+    if (end != std::string::npos) set_folder(folders, kind, path.substr(0, end + 1));
+}
+
 FolderSet LoadFolders(const std::string& data_folder) {
     FolderSet folders;
     const auto file = read_file(find_data_file(data_folder, "WlxDir.dir"), folder_set_layout.size);

@@ -73,6 +73,8 @@ bool SaveFoldersIfAutomatic(const std::string& data_folder, const FolderSet& fol
 
 std::string folder_path(const FolderSet& folders, FolderKind kind);
 void set_folder(FolderSet& folders, FolderKind kind, std::string_view path);
+/// After a file dialog: takes the folder of the chosen `path`, if the folders are to follow the user.
+void follow_user(FolderSet& folders, FolderKind kind, const std::string& path);
 /// The name below the data folder, with its slash.
 std::string_view default_sub_folder(FolderKind kind);
 

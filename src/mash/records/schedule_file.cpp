@@ -19,7 +19,25 @@ constexpr auto schedule_file_layout = layout<MashDesign, 14875>(
     at(
         14620, [](auto& design) -> auto& { return design.mash.mash_name; }));
 
+constexpr std::string_view schedule_filter = "Mash Schedule File (*.msh)|*.msh";
+
+std::optional<std::string> remembered(const std::optional<std::string>& path, FolderSet& folders) {
+    if (path) follow_user(folders, FolderKind::mash_schedules, *path);
+    return path;
+}
+
 } // namespace
+
+std::optional<std::string> ChooseMashScheduleToSave(Files& files, FolderSet& folders,
+                                                    const std::string& suggested_name) {
+    const auto folder = folder_path(folders, FolderKind::mash_schedules);
+    return remembered(files.choose_to_save({schedule_filter, folder, suggested_name, "msh"}), folders);
+}
+
+std::optional<std::string> ChooseMashScheduleToOpen(Files& files, FolderSet& folders) {
+    const auto folder = folder_path(folders, FolderKind::mash_schedules);
+    return remembered(files.choose_to_open({schedule_filter, folder, {}, "msh"}), folders);
+}
 
 bool SaveMashSchedule(const std::string& path, const MashDesign& design) {
     return save_atomically(path, mash_schedule_bytes(design));

@@ -1,6 +1,8 @@
 // The mash schedule file, extension "msh": a complex schedule by itself.
 #pragma once
 
+#include "base/ports/desk.h"
+#include "frame/settings/system_files.h"
 #include "mash/records/schedules.h"
 
 #include <string>
@@ -22,7 +24,13 @@ ScheduleLoad LoadMashSchedule(const std::string& path, MashDesign& design, const
 /// The same into a document, which keeps its own grain and water.
 ScheduleLoad LoadMashSchedule(const std::string& path, ComplexMash& mash, const Settings& settings);
 
-/// The same from the bytes of a file.
+/// Asks for the file, starting in the folder for mash schedules, which follows the user where the settings
+/// say so.
+std::optional<std::string> ChooseMashScheduleToSave(Files& files, FolderSet& folders,
+                                                    const std::string& suggested_name);
+std::optional<std::string> ChooseMashScheduleToOpen(Files& files, FolderSet& folders);
+
+/// Loading and saving from and to the bytes of a file.
 ScheduleLoad read_mash_schedule(ByteView file, MashDesign& design, const Settings& settings);
 Bytes mash_schedule_bytes(const MashDesign& design);
 

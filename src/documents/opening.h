@@ -1,0 +1,26 @@
+// The order of work as a window opens on a document.
+#pragma once
+
+#include "documents/snapshot.h"
+
+namespace wortlex {
+
+/// Works a loaded document out anew: gravity, bitterness, colour, mash and, in a session, water. Under "wort
+/// size equals batch size" a recipe's wort size follows first. Without malts gravity and boil gravity are
+/// those of water.
+void recalculate_opened(const OpenDocument& open);
+
+/// What the recipe window starts from.
+struct OpenedRecipe {
+    RecipeLocks locks;
+    bool show_potential = true; ///< the malt list shows potentials, not contributions
+    DocumentSnapshot saved;
+};
+
+/// Everything that happens as the recipe window opens. A new recipe takes the efficiency of the settings.
+OpenedRecipe open_recipe_window(const OpenDocument& open, bool loaded_from_file);
+
+/// Makes `open` a new session, which starts from the brewer's usual water figures.
+void start_session(const OpenDocument& open, const WaterNeeds& usual);
+
+} // namespace wortlex
