@@ -11,5 +11,5 @@ cmake --build --preset release --target make-brewery wortlex-report
 build/release/tools/make-brewery data brewery
 report=$PWD/build/release/src/wortlex-report
 cd brewery
-[ $# -gt 0 ] || set -- "Recipes/Best Bitter.rec"
+[ $# -gt 0 ] || set -- "Recipes/Ploughman's Best Bitter.rec"
 exec "$report" "$@"

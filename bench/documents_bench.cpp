@@ -1,6 +1,7 @@
 // One full recalculation under each method, base and hop formula, and a load and a save, by the number of
 // lines.
 #include "base/files.h"
+#include "base/ports/quiet_prompts.h"
 #include "documents/opening.h"
 #include "documents/records/document_files.h"
 #include "sample_document.h"
@@ -36,19 +37,6 @@ const Settings& default_settings() {
     return settings;
 }
 
-class NoPrompts : public Prompts {
-public:
-    void tell(const Message&) override {}
-    Answer ask_yes_no(const Message&) override { return Answer::no; }
-    Answer ask_yes_no_cancel(const Message&) override { return Answer::cancel; }
-    ReplaceAnswer ask_replace(std::string_view, std::string_view) override { return ReplaceAnswer::cancel; }
-    std::optional<std::uint32_t> choose_colour(std::uint32_t) override { return std::nullopt; }
-    std::optional<std::string> choose_folder(std::string_view, const std::string&) override {
-        return std::nullopt;
-    }
-    bool remind(const Message&) override { return true; }
-};
-
 std::string measured_file() {
     return (std::filesystem::temp_directory_path() / "wortlex-measured.rec").string();
 }
@@ -66,7 +54,7 @@ void load(benchmark::State& state) {
 void save(benchmark::State& state) {
     const auto path = measured_file();
     auto document = sample_document(static_cast<std::size_t>(state.range(0)), default_settings());
-    NoPrompts prompts;
+    QuietPrompts prompts;
     for (auto _ : state) {
         if (!save_recipe(path, document, prompts)) state.SkipWithError("cannot write the file");
     }

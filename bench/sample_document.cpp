@@ -7,7 +7,7 @@ namespace {
 
 MaltUse malt(std::size_t i) {
     MaltUse line;
-    line.record.name.assign("Malt " + std::to_string(i));
+    line.record.name.assign(std::to_string(i) + ". malt");
     line.record.malt_type = i % 5 == 4 ? MaltType::sugar : MaltType::grain;
     line.record.potential = 1.036F;
     line.record.colour = narrow(2.0 + 3.0 * static_cast<double>(i % 20));
@@ -20,7 +20,7 @@ MaltUse malt(std::size_t i) {
 
 HopUse hop(std::size_t i) {
     HopUse line;
-    line.record.name.assign("Hop " + std::to_string(i));
+    line.record.name.assign(std::to_string(i) + ". hop");
     set_form(line.record, static_cast<HopForm>(i % 3));
     line.record.alpha = line.alpha = 5.5F;
     line.amount = 0.25F;

@@ -58,6 +58,12 @@ constexpr void set_form(HopRecord& hop, HopForm form) {
         static_cast<std::uint8_t>((hop.storage_and_form & 0x0F) | (static_cast<unsigned>(form) & 0x0F) << 4);
 }
 
+/// As lists show it and sort by it.
+constexpr std::string_view form_word(HopForm form) {
+    if (form == HopForm::plug) return "Plug";
+    return form == HopForm::pellet ? "Pellet" : "Whole";
+}
+
 enum class MaltType : std::uint8_t { none = 0, grain = 1, extract = 2, sugar = 3, other = 4 };
 
 struct MaltRecord {

@@ -1,4 +1,5 @@
 // wortlex-report: the figures of recipe and session files, for whole folders of them.
+#include "base/ports/quiet_prompts.h"
 #include "frame/report/document_report.h"
 
 #include <cstdio>
@@ -56,21 +57,12 @@ void complain(const std::string& file, std::string_view what) {
     print(stderr, line + "\n");
 }
 
-// There is nobody to ask: messages go to standard error, and every question is answered with the careful
-// word.
-class ConsolePrompts : public Prompts {
+// Messages go to standard error.
+class ConsolePrompts : public QuietPrompts {
 public:
     void tell(const Message& message) override { complain(subject, message.text); }
-    Answer ask_yes_no(const Message&) override { return Answer::no; }
-    Answer ask_yes_no_cancel(const Message&) override { return Answer::cancel; }
-    ReplaceAnswer ask_replace(std::string_view, std::string_view) override { return ReplaceAnswer::cancel; }
-    std::optional<std::uint32_t> choose_colour(std::uint32_t) override { return std::nullopt; }
-    std::optional<std::string> choose_folder(std::string_view, const std::string&) override {
-        return std::nullopt;
-    }
-    bool remind(const Message&) override { return true; }
 
-    std::string subject;
+    std::string subject; ///< the file that a message is about
 };
 
 std::string_view failure(LoadResult result) {

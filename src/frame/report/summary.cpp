@@ -4,6 +4,7 @@
 #include "measures/units.h"
 
 #include <algorithm>
+#include <array>
 
 namespace wortlex {
 namespace {
@@ -83,11 +84,19 @@ std::string gravity(float points, const Settings& settings) {
            fixed(sg_to_plato(sg), 1) + " Plato)";
 }
 
+std::string brew_date(const SessionDocument& session) {
+    if (session.brew_year == 0) return {};
+    const auto two = [](int number) { return (number < 10 ? "-0" : "-") + std::to_string(number); };
+    return ", " + std::to_string(session.brew_year) + two(session.brew_month) + two(session.brew_day);
+}
+
 std::string heading(const Program& program, const Evaluation& evaluation) {
     const auto& document = program.document;
     const auto& settings = program.settings;
     std::string out = utf8_from_windows1252(document.title.view());
-    out += evaluation.kind == DocumentKind::session ? " - Brewing Session\n" : " - Recipe\n";
+    out += evaluation.kind == DocumentKind::session ? " - Brewing Session" + brew_date(program.session)
+                                                    : " - Recipe";
+    out += "\n";
     out += "  " + evaluation.file + "\n  " + std::string(word(document.recipe_kind));
     if (!document.style.name.empty()) out += ", " + utf8_from_windows1252(document.style.name.view());
     out += "\n\n  Batch " + volume(document.batch_size, settings) + "   Wort " +
@@ -97,8 +106,9 @@ std::string heading(const Program& program, const Evaluation& evaluation) {
            std::string(word(settings.HopFormula)) + ")   Colour " +
            fixed(to_shown_colour(program.figures.colour.srm, settings), 1) + " " +
            std::string(words(settings).colour) + "\n";
-    return out + "  Pre-boil " + volume(evaluation.pre_boil.volume, settings) + " at " +
-           gravity(evaluation.pre_boil.points, settings) + "\n";
+    return out +
+           "  Before the boil, by its rate of evaporation: " + volume(evaluation.pre_boil.volume, settings) +
+           " at " + gravity(evaluation.pre_boil.points, settings) + "\n";
 }
 
 std::string malt_list(const Program& program) {
@@ -120,56 +130,113 @@ std::string hop_list(const Program& program) {
     const auto& settings = program.settings;
     std::string unit(words(settings).hops);
     unit.insert(0, 7 - unit.size(), ' ');
-    std::string out = "\n  " + column("Hops", name_width) + unit + "  alpha   min   IBU\n";
+    constexpr std::size_t form_width = 8;
+    std::string out = "\n  " + column("Hops", name_width - form_width) + column("Form", form_width) + unit +
+                      "  alpha   min   IBU\n";
     for (const auto& line : program.document.hops) {
-        out += "  " + column(line.record.name.view(), name_width) +
+        out += "  " + column(line.record.name.view(), name_width - form_width) +
+               column(form_word(form(line.record)), form_width) +
                figure(hop_to_shown(line.amount, settings), 2, 7) + figure(line.alpha, 1, 7) + " " +
                time_word(line, program.document.boil_minutes) + figure(line.ibu, 1, 6) + "\n";
     }
     return out;
 }
 
-std::string mash_line(const Program& program) {
+std::string other_ingredients(const Program& program) {
+    const auto& document = program.document;
+    std::string out;
+    for (const auto& line : document.extras) {
+        constexpr std::array<std::string_view, 7> units = {"oz", "g", "lb", "tsp", "tbsp", "cups", "units"};
+        const auto unit = static_cast<std::size_t>(line.record.amount_unit);
+        out += "  " + column(line.record.name.view(), name_width) + figure(line.amount, 2, 7) + " " +
+               std::string(unit < units.size() ? units[unit] : "") + "\n";
+    }
+    if (!out.empty()) out = "\n  Extras\n" + out;
+    const auto& yeast = document.yeast.record;
+    if (!yeast.name.empty())
+        out += "\n  Yeast: " + utf8_from_windows1252(yeast.lab.view()) + " " +
+               utf8_from_windows1252(yeast.catalog_number.view()) + " " +
+               utf8_from_windows1252(yeast.name.view()) + "\n";
+    if (!document.water.name.empty())
+        out += "  Water: " + utf8_from_windows1252(document.water.name.view()) + "\n";
+    return out;
+}
+
+std::string temperature(std::int32_t fahrenheit, const Settings& settings) {
+    return figure(to_shown_temperature(static_cast<float>(fahrenheit), settings), 0, 5) + " " +
+           std::string(words(settings).temperature);
+}
+
+std::string quarts(float amount, const Settings& settings) {
+    return volume(narrow(amount / 4.0), settings);
+}
+
+constexpr std::size_t rest_width = 22;
+
+std::string rests(const SimpleMash& mash, const InfusionExtras& infusions, const Settings& settings) {
+    const auto row = [&](std::string_view name, const Rest& rest, float infused) {
+        if (!rest.is_present()) return std::string();
+        return "    " + column(name, rest_width) + temperature(rest.temperature, settings) +
+               figure(rest.minutes, 0, 5) + " min" +
+               (infused > 0 ? ", " + quarts(infused, settings) + " added" : std::string()) + "\n";
+    };
+    return row("Dough In", mash.dough_in, 0) + row("Acid Rest", mash.acid, 0) +
+           row("Protein Rest", mash.protein, infusions.protein.amount) +
+           row("Intermediate Rest", mash.intermediate, infusions.intermediate.amount) +
+           row("Saccharification Rest", mash.saccharification, infusions.saccharification.amount) +
+           row("Mash Out", mash.mash_out, infusions.mash_out.amount) + row("Sparge", mash.sparge, 0);
+}
+
+std::string step_water(const MashStep& step, const Settings& settings) {
+    if (!(step.amount > 0)) return {};
+    const auto amount = ", " + quarts(step.amount, settings);
+    if (step.heat_type == StepHeat::decoction) return amount + " pulled";
+    return amount + " added at" + temperature(step.infuse_temperature, settings);
+}
+
+std::string steps(const ComplexMash& mash, const Settings& settings) {
+    std::string out;
+    for (const auto& step : mash.used_steps())
+        out += "    " + column(step.name.view(), rest_width) + temperature(step.start_temperature, settings) +
+               figure(step.rest_minutes, 0, 5) + " min" + step_water(step, settings) + "\n";
+    return out;
+}
+
+std::string mash_schedule(const Program& program, const Evaluation& evaluation) {
     const auto& settings = program.settings;
+    if (!(program.figures.mash_grain > 0)) return {};
     const bool is_complex = has_complex_schedule(program.document);
     const auto& mash = program.figures.mash;
-    std::string out = "\n  Mash (" + std::string(is_complex ? "complex" : "simple") + "): water " +
-                      volume(narrow(mash.quarts / 4.0), settings) + ", mash " +
-                      volume(mash.gallons, settings) + "\n";
-    if (!is_complex) return out;
-    for (const auto& step : program.document.mash.used_steps()) {
-        out += "    " + column(step.name.view(), 20) +
-               figure(to_shown_temperature(static_cast<float>(step.start_temperature), settings), 0, 5) +
-               " " + std::string(words(settings).temperature) + figure(step.rest_minutes, 0, 5) + " min";
-        if (step.amount > 0)
-            out +=
-                ", " + volume(narrow(step.amount / 4.0), settings) +
-                (step.heat_type == StepHeat::decoction ? " pulled" : " added at ") +
-                (step.heat_type == StepHeat::decoction
-                     ? std::string()
-                     : fixed(to_shown_temperature(static_cast<float>(step.infuse_temperature), settings), 0) +
-                           " " + std::string(words(settings).temperature));
-        out += "\n";
-    }
-    return out;
+    const bool is_session = evaluation.kind == DocumentKind::session;
+    const auto& infusions = is_session ? program.session.infusions : InfusionExtras{};
+    return "\n  Mash: water " + quarts(mash.quarts, settings) + ", volume " + volume(mash.gallons, settings) +
+           "\n" +
+           (is_complex ? steps(program.document.mash, settings)
+                       : rests(program.document.simple_mash, infusions, settings));
 }
 
 std::string brew_day(const Program& program, const Evaluation& evaluation) {
     const auto& settings = program.settings;
+    const auto& session = program.session;
     const auto& alcohol = evaluation.fermentation;
-    return "\n  Alcohol " + fixed(alcohol.alcohol_by_volume, 2) + " % by volume, " +
-           fixed(alcohol.alcohol_by_weight, 2) + " % by weight   ADF " +
-           fixed(alcohol.apparent_attenuation, 1) + " %   RDF " + fixed(alcohol.real_attenuation, 1) +
-           " %\n  Mash efficiency " + fixed(evaluation.efficiency.efficiency * 100.0, 0) +
-           " %\n  Water needed " + volume(program.water.needed, settings) + ", into the kettle " +
-           volume(program.water.into_kettle, settings) + ", to the fermenter " +
-           volume(program.water.after_cooling, settings) + "\n";
+    const auto& water = program.water;
+    const auto points = [](float sg) { return narrow((sg - 1.0) * 1000); };
+    return "\n  Measured OG " + gravity(points(session.actual_og), settings) + ", FG " +
+           gravity(points(session.actual_fg), settings) + "\n  Alcohol " +
+           fixed(alcohol.alcohol_by_volume, 2) + " % by volume, " + fixed(alcohol.alcohol_by_weight, 2) +
+           " % by weight   ADF " + fixed(alcohol.apparent_attenuation, 1) + " %   RDF " +
+           fixed(alcohol.real_attenuation, 1) + " %\n  Mash efficiency " +
+           fixed(evaluation.efficiency.efficiency * 100.0, 0) + " %\n  Water plan: needed " +
+           volume(water.needed, settings) + ", into the kettle " + volume(water.into_kettle, settings) +
+           ", after the boil " + volume(water.after_boil, settings) + ", to the fermenter " +
+           volume(water.after_cooling, settings) + "\n";
 }
 
 } // namespace
 
 std::string summary(const Program& program, const Evaluation& evaluation) {
-    auto page = heading(program, evaluation) + malt_list(program) + hop_list(program) + mash_line(program);
+    auto page = heading(program, evaluation) + malt_list(program) + hop_list(program) +
+                other_ingredients(program) + mash_schedule(program, evaluation);
     if (evaluation.kind == DocumentKind::session) page += brew_day(program, evaluation);
     return page;
 }
