@@ -276,7 +276,7 @@ float alpha_after_storage(float start_alpha, std::int16_t months, float lost_per
     const float left = narrow(100.0 - lost_percent);
     const float share_left = left > 0 ? narrow(left / 100.0) : 0.001F;
     const float ratio = share_left != 0 ? narrow((5 * 100.0) / (share_left * 100.0)) : 1.0F;
-    const float rate = narrow((std::log(ratio) - std::log(5.0)) / 180);
+    const float rate = narrow((std::log(double{ratio}) - std::log(5.0)) / 180);
     const float exponent = narrow(double{rate} * temperature_factor * storage_share * days);
     const double divisor = std::exp(double{exponent});
     return divisor == 0 ? 0.0F : std::max(narrow(start_alpha * (1 / divisor)), 0.0F);
