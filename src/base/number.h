@@ -22,14 +22,24 @@ constexpr std::int32_t truncate(double x) {
     return x > below && x < above ? static_cast<std::int32_t>(x) : std::numeric_limits<std::int32_t>::min();
 }
 
-/// `value` with exactly `decimals` digits behind the point.
+/// `value` with exactly `decimals` digits behind the point, 40 at the most.
 std::string fixed(double value, int decimals);
 
 /// `value` in at most `digits` significant digits, with an exponent where that is shorter.
 std::string significant(double value, int digits);
 
-/// The number that the whole of `text` spells, blanks around it allowed; nothing otherwise.
+/// The finite number that the whole of `text` spells, blanks around it allowed; nothing otherwise.
 std::optional<double> parse_number(std::string_view text);
+
+/// The number that `text` begins with, blanks before it allowed; 0 where it begins with none. What is too
+/// large for a double is infinite.
+double leading_number(std::string_view text);
+
+/// Prints by a pattern with one place for the number: "%d" or "%f" with a width, leading zeros ("%06.1f")
+/// and, for
+/// "%f", decimals; "%%" is a percent sign. "%d" cuts off what is behind the point. The rest of the pattern
+/// stands as it is.
+std::string formatted(std::string_view pattern, double value);
 
 /// Likewise a whole number.
 std::optional<std::int32_t> parse_whole(std::string_view text);

@@ -61,6 +61,11 @@ std::string_view print_file(DocumentKind kind) {
     return kind == DocumentKind::recipe ? "RPSys.DAT" : "BPSys.DAT";
 }
 
+std::string_view stored_path(const FolderSet& folders, FolderKind kind) {
+    if (kind == FolderKind::recipes) return folders.recipes.view();
+    return folders.others[static_cast<std::size_t>(kind) - 1].view();
+}
+
 // All sections and graphs, printed as a form.
 PrintSelection whole_print(DocumentKind kind, float printer_scale) {
     using enum PrintSection;
@@ -114,8 +119,7 @@ std::string_view default_sub_folder(FolderKind kind) {
 }
 
 std::string folder_path(const FolderSet& folders, FolderKind kind) {
-    if (kind == FolderKind::recipes) return native_folder(folders.recipes.view());
-    return native_folder(folders.others[static_cast<std::size_t>(kind) - 1].view());
+    return native_folder(stored_path(folders, kind));
 }
 
 void set_folder(FolderSet& folders, FolderKind kind, std::string_view path) {
@@ -141,7 +145,7 @@ FolderSet LoadFolders(const std::string& data_folder) {
             if (file->size() <= kind * folder_field)
                 set_folder(folders, static_cast<FolderKind>(kind), data_folder);
         }
-        if (folder_path(folders, FolderKind::html_exports).size() < 2)
+        if (stored_path(folders, FolderKind::html_exports).size() < 2)
             set_folder(folders, FolderKind::html_exports, data_folder);
     }
     if (folders.save_automatically > 1) folders.save_automatically = 0;
