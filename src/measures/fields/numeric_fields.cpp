@@ -16,7 +16,9 @@ int extra_decimals(std::uint32_t precision) {
 }
 
 std::string pattern_of(int width, int decimals) {
-    return "%" + std::to_string(width) + "." + std::to_string(decimals) + "f";
+    std::string pattern = "%";
+    pattern += std::to_string(width) + '.' + std::to_string(decimals) + 'f';
+    return pattern;
 }
 
 std::string read(const TextField& field, int length) {
