@@ -19,7 +19,7 @@ namespace wortlex {
 /// Stands for "no layout of its own": numbers, texts and bytes.
 struct Plain {};
 
-/// One entry of a layout: a member pointer, or a callable from record to field, and for a nested
+/// One entry of a layout: a member pointer or a way through one (`via`), and for a nested
 /// record (or an array of such) the layout of that record.
 template <class Access, class Sub>
 struct Field {
@@ -36,6 +36,23 @@ constexpr auto at(std::size_t offset, Access access) {
 template <class Access, class Sub>
 constexpr auto at(std::size_t offset, Access access, Sub sub) {
     return Field<Access, Sub>{offset, access, sub};
+}
+
+/// Reaches a field inside a member: `at(4, via(&Step::water, &Water::amount))`.
+template <class Outer, class Inner>
+struct Via {
+    Outer outer{};
+    Inner inner{};
+
+    template <class Record>
+    constexpr auto& operator()(Record& record) const {
+        return std::invoke(inner, std::invoke(outer, record));
+    }
+};
+
+template <class Outer, class Inner>
+constexpr auto via(Outer outer, Inner inner) {
+    return Via<Outer, Inner>{outer, inner};
 }
 
 namespace stored {

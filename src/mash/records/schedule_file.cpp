@@ -6,18 +6,11 @@ namespace wortlex {
 namespace {
 
 constexpr auto schedule_file_layout = layout<MashDesign, 14875>(
-    at(
-        0, [](auto& design) -> auto& { return design.mash.step_count; }),
-    at(4, &MashDesign::grain_weight),
-    at(
-        8, [](auto& design) -> auto& { return design.mash.grain_temperature; }),
-    at(12, &MashDesign::dough_in_water),
-    at(
-        16, [](auto& design) -> auto& { return design.mash.tun_thermal_mass; }),
-    at(
-        20, [](auto& design) -> auto& { return design.mash.steps; }, mash_step_layout),
-    at(
-        14620, [](auto& design) -> auto& { return design.mash.mash_name; }));
+    at(0, via(&MashDesign::mash, &ComplexMash::step_count)), at(4, &MashDesign::grain_weight),
+    at(8, via(&MashDesign::mash, &ComplexMash::grain_temperature)), at(12, &MashDesign::dough_in_water),
+    at(16, via(&MashDesign::mash, &ComplexMash::tun_thermal_mass)),
+    at(20, via(&MashDesign::mash, &ComplexMash::steps), mash_step_layout),
+    at(14620, via(&MashDesign::mash, &ComplexMash::mash_name)));
 
 constexpr std::string_view schedule_filter = "Mash Schedule File (*.msh)|*.msh";
 

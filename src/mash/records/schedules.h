@@ -71,6 +71,17 @@ struct InfusionExtras {
     bool operator==(const InfusionExtras&) const = default;
 };
 
+inline constexpr auto infusion_extras_layout = layout<InfusionExtras, 41>(
+    at(0, &InfusionExtras::heat_type), at(1, &InfusionExtras::reserved_bytes),
+    at(5, via(&InfusionExtras::protein, &Infusion::temperature)),
+    at(9, via(&InfusionExtras::intermediate, &Infusion::temperature)),
+    at(13, via(&InfusionExtras::saccharification, &Infusion::temperature)),
+    at(17, via(&InfusionExtras::mash_out, &Infusion::temperature)), at(21, &InfusionExtras::reserved_word),
+    at(25, via(&InfusionExtras::protein, &Infusion::amount)),
+    at(29, via(&InfusionExtras::intermediate, &Infusion::amount)),
+    at(33, via(&InfusionExtras::saccharification, &Infusion::amount)),
+    at(37, via(&InfusionExtras::mash_out, &Infusion::amount)));
+
 enum class StepHeat : std::uint8_t { infuse = 0, direct = 1, decoction = 2 };
 
 struct MashStep {
