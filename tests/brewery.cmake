@@ -2,7 +2,6 @@ room_tests(brewery_tests
     DEPENDS frame_report
     SOURCES
         tools/make_brewery_test.cpp
-        frame/report/json_test.cpp
         frame/report/report_test.cpp)
 target_compile_definitions(brewery_tests PRIVATE
     MAKE_BREWERY="$<TARGET_FILE:make-brewery>"

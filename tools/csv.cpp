@@ -21,7 +21,7 @@ std::string take_quoted(std::string_view& rest, const Place& place) {
 }
 
 std::string take_plain(std::string_view& rest, const Place& place) {
-    const std::string cell(rest.substr(0, rest.find(',')));
+    std::string cell(rest.substr(0, rest.find(',')));
     if (cell.find('"') != std::string::npos) refuse(place, "a quote stands inside a cell without quotes");
     rest.remove_prefix(cell.size());
     return cell;

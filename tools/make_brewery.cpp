@@ -25,6 +25,7 @@ std::vector<Sample> read_samples(const std::string& folder, const Databases& dat
     if (error) throw SourceFault(folder + ": cannot be read");
     std::sort(paths.begin(), paths.end());
     std::vector<Sample> samples;
+    samples.reserve(paths.size());
     for (const auto& path : paths) samples.push_back(read_sample(path, databases, settings));
     return samples;
 }
