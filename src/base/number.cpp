@@ -88,7 +88,8 @@ std::string significant(double value, int digits) {
 }
 
 std::optional<double> parse_number(std::string_view text) {
-    return parse_all<double>(text);
+    const auto number = parse_all<double>(text);
+    return number && std::isfinite(*number) ? number : std::nullopt;
 }
 
 double leading_number(std::string_view text) {
@@ -96,8 +97,9 @@ double leading_number(std::string_view text) {
     if (text.starts_with('+')) text.remove_prefix(1);
     double number = 0;
     const auto end = std::from_chars(text.data(), text.data() + text.size(), number);
-    if (end.ec == std::errc::result_out_of_range) return std::numeric_limits<double>::infinity();
-    return number;
+    if (end.ec != std::errc::result_out_of_range) return number;
+    const bool is_tiny = std::string_view(text.data(), end.ptr).find('-', 1) != std::string_view::npos;
+    return is_tiny ? 0.0 : std::numeric_limits<double>::infinity();
 }
 
 std::string formatted(std::string_view pattern, double value) {

@@ -10,9 +10,9 @@ namespace wortlex {
 
 /// What one malt line gives at batch size.
 struct LineFigures {
-    double sg = 1;      ///< that the line alone would give
-    double extract = 0; ///< pounds
-    double value = 0;   ///< its summand, in points x gallons or in pounds of extract
+    double line_sg = 1;      ///< that the line alone would give
+    double line_extract = 0; ///< pounds
+    double line_value = 0;   ///< its summand, in points x gallons or in pounds of extract
 };
 
 struct RecipeFigures {

@@ -60,6 +60,9 @@ float points_of_total(double value, double gallons, const Settings& settings) {
     return settings.gravity_base == GravityBase::points ? per_gallon : points_from_extract(per_gallon);
 }
 
+// Which lines are asked for what they could give at best.
+enum class MaltShare { all, mashed, other };
+
 // What a line could give at best. Method #2 takes a mashed line for pure extract.
 double best_yield(const MaltRecord& malt, MaltShare share, const Settings& settings) {
     if (!is_method_2(settings)) return full_yield(malt, settings);
@@ -74,6 +77,16 @@ bool belongs_to(const MaltRecord& malt, MaltShare share) {
     return share == MaltShare::all || is_mashed(malt) == (share == MaltShare::mashed);
 }
 
+float points_of_share(const BrewDocument& document, MaltShare share, const Settings& settings) {
+    double total = 0;
+    for (const auto& line : document.malts) {
+        if (belongs_to(line.record, share))
+            total += line_value(best_yield(line.record, share, settings), line.amount, settings.sucrose_value,
+                                settings);
+    }
+    return total > 0 ? points_of_total(total, document.batch_size, settings) : 0.0F;
+}
+
 } // namespace
 
 float compute_og(BrewDocument& document, RecipeFigures& figures, const Settings& settings) {
@@ -86,13 +99,13 @@ float compute_og(BrewDocument& document, RecipeFigures& figures, const Settings&
         auto& line = document.malts[i];
         auto& shown = figures.lines[i];
         const double yield = line_yield(line.record, document.efficiency, settings);
-        shown.extract = line.amount * yield;
-        shown.value = line_value(yield, line.amount, sucrose, settings);
-        line.points = narrow(by_points ? shown.value / document.batch_size
-                                       : shown.extract / document.batch_size * sucrose);
-        shown.sg = trunc_5(line.points) / 1000 + 1;
-        figures.total_value += shown.value;
-        figures.total_extract_pounds += shown.extract;
+        shown.line_extract = line.amount * yield;
+        shown.line_value = line_value(yield, line.amount, sucrose, settings);
+        line.points = narrow(by_points ? shown.line_value / document.batch_size
+                                       : shown.line_extract / document.batch_size * sucrose);
+        shown.line_sg = trunc_5(line.points) / 1000 + 1;
+        figures.total_value += shown.line_value;
+        figures.total_extract_pounds += shown.line_extract;
     }
     figures.recipe_sucrose = sucrose;
     figures.tinseth_points =
@@ -128,14 +141,16 @@ double variable_sucrose_value(double extract_pounds, float gallons) {
            0.0000018845 * p * p * p * p * p;
 }
 
-float potential_points(const BrewDocument& document, MaltShare share, const Settings& settings) {
-    double total = 0;
-    for (const auto& line : document.malts) {
-        if (belongs_to(line.record, share))
-            total += line_value(best_yield(line.record, share, settings), line.amount, settings.sucrose_value,
-                                settings);
-    }
-    return total > 0 ? points_of_total(total, document.batch_size, settings) : 0.0F;
+float potential_points(const BrewDocument& document, const Settings& settings) {
+    return points_of_share(document, MaltShare::all, settings);
+}
+
+float mash_potential_points(const BrewDocument& document, const Settings& settings) {
+    return points_of_share(document, MaltShare::mashed, settings);
+}
+
+float other_potential_points(const BrewDocument& document, const Settings& settings) {
+    return points_of_share(document, MaltShare::other, settings);
 }
 
 void hold_gravity(BrewDocument& document, RecipeFigures& figures, float& locked_efficiency,

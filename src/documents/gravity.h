@@ -17,11 +17,11 @@ float compute_wort_points(const BrewDocument& document, const Settings& settings
 /// wort gets stronger.
 double variable_sucrose_value(double extract_pounds, float gallons);
 
-/// Which lines are asked for what they could give at best.
-enum class MaltShare { all, mashed, other };
-
-/// Points at batch size of these lines at 100 % extraction; 0 without any.
-float potential_points(const BrewDocument& document, MaltShare share, const Settings& settings);
+/// Points at batch size at 100 % extraction, of all lines, of the mashed ones and of the others; 0 without
+/// any.
+float potential_points(const BrewDocument& document, const Settings& settings);
+float mash_potential_points(const BrewDocument& document, const Settings& settings);
+float other_potential_points(const BrewDocument& document, const Settings& settings);
 
 /// Changes the weights of mashed lines so that the gravity that `locked_efficiency` gave stays under the
 /// document's efficiency, which then is the locked one. `og_points` stays as it is.

@@ -35,9 +35,9 @@ EfficiencyFigures session_efficiency(const BrewDocument& document, const Session
 
     EfficiencyFigures figures;
     figures.achieved_points = narrow(gallons * ((og - 1.0) * 1000) / document.batch_size);
-    figures.total_points = potential_points(document, MaltShare::all, settings);
-    figures.mash_points = potential_points(document, MaltShare::mashed, settings);
-    figures.extract_points = potential_points(document, MaltShare::other, settings);
+    figures.total_points = potential_points(document, settings);
+    figures.mash_points = mash_potential_points(document, settings);
+    figures.extract_points = other_potential_points(document, settings);
     if (figures.mash_points > 0 && figures.extract_points > 0) {
         figures.actual_mash_points = narrow(double{figures.achieved_points} - figures.extract_points);
         figures.efficiency =

@@ -1,46 +1,88 @@
-// Stand-ins for what is on the user's desk.
+// Stand-ins for the user and for what is on the desk.
 #pragma once
 
 #include "base/ports/desk.h"
+#include "base/ports/prompts.h"
 
 #include <gtest/gtest.h>
 
 #include <deque>
 #include <map>
+#include <variant>
 #include <vector>
 
 namespace wortlex {
 
+/// A user who has been told what will be asked: checks every word, and misses what is not asked.
+class ScriptedPrompts : public Prompts {
+public:
+    using Colour = std::optional<std::uint32_t>;
+    using Folder = std::optional<std::string>;
+    using Reply = std::variant<std::monostate, Answer, ReplaceAnswer, Colour, Folder, bool>;
+
+    ~ScriptedPrompts() override { EXPECT_TRUE(script_.empty()) << "never came: " << script_.front().text; }
+
+    /// `what` is tell, yes/no, yes/no/cancel, replace, colour, folder or reminder; a second text of a
+    /// question stands for the caption.
+    void expect(std::string what, std::string text, Reply reply, Icon icon = {},
+                std::string caption = "Wortlex") {
+        script_.push_back({what, text, caption, icon, reply});
+    }
+    void expect_tell(std::string text, Icon icon = {}) { expect("tell", text, {}, icon); }
+
+    void tell(const Message& message) override { take("tell", message, std::monostate()); }
+    Answer ask_yes_no(const Message& m) override { return take("yes/no", m, Answer::no); }
+    Answer ask_yes_no_cancel(const Message& m) override { return take("yes/no/cancel", m, Answer::cancel); }
+    ReplaceAnswer ask_replace(std::string_view existing, std::string_view consequence) override {
+        return take("replace", {existing, consequence}, ReplaceAnswer::cancel);
+    }
+    Colour choose_colour(std::uint32_t start) override {
+        return take("colour", {std::to_string(start), ""}, Colour());
+    }
+    Folder choose_folder(std::string_view title, const std::string& start) override {
+        return take("folder", {title, start}, Folder());
+    }
+    bool remind(const Message& message) override { return take("reminder", message, true); }
+
+private:
+    struct Step {
+        std::string what, text, caption;
+        Icon icon;
+        Reply reply;
+    };
+
+    template <class Answered>
+    Answered take(const std::string& what, const Message& message, Answered otherwise) {
+        const auto step = script_.empty() ? Step{"nothing", "", "", {}, {}} : script_.front();
+        if (!script_.empty()) script_.pop_front();
+        EXPECT_EQ((std::tuple{step.what, step.text, step.caption, step.icon}),
+                  (std::tuple{what, message.text, message.caption, message.icon}));
+        const auto* const given = std::get_if<Answered>(&step.reply);
+        return given ? *given : otherwise;
+    }
+
+    std::deque<Step> script_;
+};
+
 /// Hands out paths in order (nothing: the user leaves the dialog) and keeps what was offered.
 class ScriptedFiles : public Files {
 public:
-    struct Offer {
-        bool saving;
-        std::string filter, folder, suggested_name, extension;
-    };
-
     explicit ScriptedFiles(std::deque<std::optional<std::string>> paths = {}) : paths_(std::move(paths)) {}
     ~ScriptedFiles() override { EXPECT_TRUE(paths_.empty()) << "a file dialog never came"; }
 
-    std::optional<std::string> choose_to_open(const FileChoice& choice) override {
-        return next(choice, false);
-    }
-    std::optional<std::string> choose_to_save(const FileChoice& choice) override {
-        return next(choice, true);
-    }
+    using Path = std::optional<std::string>;
+    Path choose_to_open(const FileChoice& choice) override { return next("open ", choice); }
+    Path choose_to_save(const FileChoice& choice) override { return next("save ", choice); }
 
-    std::vector<Offer> offers;
+    std::vector<std::string> offers; ///< "open" or "save", filter, folder, name, extension
 
 private:
-    std::optional<std::string> next(const FileChoice& choice, bool saving) {
-        offers.push_back({saving, std::string(choice.filter), choice.folder, choice.suggested_name,
-                          std::string(choice.extension)});
-        if (paths_.empty()) {
-            ADD_FAILURE() << "a file dialog was not expected: " << choice.filter;
-            return std::nullopt;
-        }
-        auto path = std::move(paths_.front());
-        paths_.pop_front();
+    std::optional<std::string> next(std::string what, const FileChoice& c) {
+        what.append(c.filter) += ' ' + c.folder + ' ' + c.suggested_name + ' ';
+        offers.push_back(what.append(c.extension));
+        EXPECT_FALSE(paths_.empty()) << "a file dialog was not expected: " << what;
+        const auto path = paths_.empty() ? std::nullopt : paths_.front();
+        if (!paths_.empty()) paths_.pop_front();
         return path;
     }
 
@@ -50,14 +92,12 @@ private:
 struct FixedClock : Clock {
     std::int64_t seconds = 0;
     CalendarDate date;
-
     std::int64_t now() const override { return seconds; }
     CalendarDate today() const override { return date; }
 };
 
 struct RecordingClipboard : Clipboard {
     std::vector<std::string> texts;
-
     void put_text(std::string_view utf8) override { texts.emplace_back(utf8); }
 };
 

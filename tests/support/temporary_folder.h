@@ -17,17 +17,14 @@ public:
     }
     TemporaryFolder(const TemporaryFolder&) = delete;
     TemporaryFolder& operator=(const TemporaryFolder&) = delete;
-    ~TemporaryFolder() {
-        std::error_code ignored;
-        std::filesystem::remove_all(path_, ignored);
-    }
+    ~TemporaryFolder() { std::filesystem::remove_all(path_); }
 
     /// Ends in a slash.
     const std::string& path() const { return path_; }
     std::string operator/(const std::string& name) const { return path_ + name; }
-    std::size_t entries() const {
-        return static_cast<std::size_t>(
-            std::distance(std::filesystem::directory_iterator(path_), std::filesystem::directory_iterator()));
+    long entries() const {
+        return std::distance(std::filesystem::directory_iterator(path_),
+                             std::filesystem::directory_iterator());
     }
 
 private:

@@ -58,11 +58,11 @@ void malt(JsonWriter& json, const Program& program, std::size_t i) {
     json.number("amount", line.amount)
         .number("points", line.points)
         .number("percent", double{line.amount} / program.figures.total_grain * 100)
-        .number("sg", figures.sg)
-        .number("extract", figures.extract)
+        .number("sg", figures.line_sg)
+        .number("extract", figures.line_extract)
         .number("potential_shown", potential_to_shown(line.record.potential, traits, program.settings))
-        .number("extract_shown",
-                extract_to_shown(narrow(figures.sg), narrow(figures.extract), totals, program.settings))
+        .number("extract_shown", extract_to_shown(narrow(figures.line_sg), narrow(figures.line_extract),
+                                                  totals, program.settings))
         .end_object();
 }
 
