@@ -207,22 +207,5 @@ TEST(NewDocuments, StartWithTheirValues) {
                           std::array{0.14F, 0.14F, 0.14F}, std::array{42, 42, 42}}));
 }
 
-TEST(DocumentLines, StartWithTheRecordAndTheIncrement) {
-    HopRecord hop;
-    hop.alpha = 4.25F;
-    EXPECT_TRUE(new_hop_line(hop, 75, 0.25F) ==
-                (HopUse{hop, 1, 20.0F, 4.25F, StorageKind::airtight, 0.25F, 75, 0.0F}));
-    EXPECT_TRUE(new_malt_line({}, 0.5F) == (MaltUse{{}, 0.5F, 0.0F}));
-}
-
-TEST(HopTiming, IsReadAgainstTheBoilOfTheMoment) {
-    using enum HopTiming;
-    // clang-format off
-    for (const auto& [time, minutes, timing] : {std::tuple{-5, 60, dry}, {0, 60, boil}, {60, 60, boil},
-         {61, 60, first_wort}, {62, 60, mash}, {63, 60, beyond}, {61, 90, boil}, {1, 0, first_wort}})
-        // clang-format on
-        EXPECT_EQ(hop_timing(time, minutes), timing) << time << " of " << minutes;
-}
-
 } // namespace
 } // namespace wortlex

@@ -52,19 +52,6 @@ TEST(MashRecords, StepsInUseStayWithinTheSlots) {
     EXPECT_FALSE((Rest{150, 0}.is_present() || Rest{0, 30}.is_present() || !Rest{150, 30}.is_present()));
 }
 
-TEST(MashRecords, DesignerStartsWithASizeForItsBrewer) {
-    auto image = WriteDefaultSettings();
-    image.grain_temperature = 71.9F;
-    image.tun_thermal_mass = 2;
-    const auto home = new_mash_design(settings_from(image));
-    const auto& last = home.mash.steps[49];
-    EXPECT_EQ((std::tuple{home.grain_weight, home.mash.grain_temperature, home.mash.tun_thermal_mass,
-                          last.step_colour, last.rest_colour}),
-              (std::tuple{10.0F, 71, 2.0F, 255U, 65535U}));
-    image.system_mode = SystemMode::pro_brewer;
-    EXPECT_EQ(new_mash_design(settings_from(image)).grain_weight, 1200.0F);
-}
-
 TEST(WaterUsage, ComesBackFromItsFile) {
     const TemporaryFolder folder;
     WaterNeeds needs, again;
