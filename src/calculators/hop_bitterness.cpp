@@ -1,6 +1,7 @@
 #include "calculators/hop_bitterness.h"
 
 #include "base/number.h"
+#include "measures/units.h"
 
 #include <algorithm>
 #include <cmath>
@@ -238,7 +239,7 @@ void weight_from_ibu(HopCalculator& calculator, const Settings& settings) {
     } else {
         return;
     }
-    calculator.grams = narrow(calculator.ounces * hop_grams_per_ounce);
+    calculator.grams = narrow(calculator.ounces * grams_per_ounce);
 }
 
 float hbu(float ounces, float alpha) {

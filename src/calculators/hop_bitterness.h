@@ -61,7 +61,6 @@ void ibu_from_weight(HopCalculator& calculator, const Settings& settings);
 void weight_from_ibu(HopCalculator& calculator, const Settings& settings);
 
 /// Home bittering units: ounces, and metric ones: grams, times alpha percent.
-inline constexpr double hop_grams_per_ounce = 28.35;
 float hbu(float ounces, float alpha);
 float mbu(float grams, float alpha);
 

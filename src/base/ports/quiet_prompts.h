@@ -7,7 +7,7 @@ namespace wortlex {
 
 /// Keeps silent and answers every question with the careful word: no, or leave it.
 class QuietPrompts : public Prompts {
-  public:
+public:
     void tell(const Message&) override {}
     Answer ask_yes_no(const Message&) override { return Answer::no; }
     Answer ask_yes_no_cancel(const Message&) override { return Answer::cancel; }

@@ -19,8 +19,8 @@ enum class LoadResult {
 
 inline constexpr std::string_view file_not_found = "File Not Found!";
 
-/// What to say of a load that failed, with the file's name where that helps.
-std::string load_message(LoadResult result, const std::string& path);
+/// What is wrong with a file that did not load in full, to follow its name.
+std::string_view load_fault(LoadResult result);
 
 /// Reads a recipe into `document` and brings its malt lines up to date. A file too short to tell the schedule
 /// kind takes the one that `document` had.

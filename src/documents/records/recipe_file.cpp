@@ -4,14 +4,14 @@
 
 namespace wortlex {
 
-std::string load_message(LoadResult result, const std::string& path) {
+std::string_view load_fault(LoadResult result) {
     switch (result) {
     case LoadResult::not_found:
-        return std::string(file_not_found);
+        return file_not_found;
     case LoadResult::damaged:
-        return "The file " + path + " is damaged or is no Wortlex document. It was not opened.";
+        return "is damaged or is no Wortlex document; it was not opened";
     case LoadResult::incomplete:
-        return "The file " + path + " ended early. What is missing was left empty.";
+        return "ended early; what is missing was left empty";
     case LoadResult::loaded:
         break;
     }

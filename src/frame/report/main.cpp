@@ -65,11 +65,6 @@ public:
     std::string subject; ///< the file that a message is about
 };
 
-std::string_view failure(LoadResult result) {
-    return result == LoadResult::damaged ? "is damaged or is no Wortlex document; it was not opened"
-                                         : file_not_found;
-}
-
 // Returns whether all went well.
 bool report_file(Program& program, const std::string& file, const Options& options, ConsolePrompts& prompts) {
     const auto kind = document_kind(file);
@@ -78,11 +73,8 @@ bool report_file(Program& program, const std::string& file, const Options& optio
         return false;
     }
     const auto load = load_document(program, file, *kind);
-    if (load == LoadResult::not_found || load == LoadResult::damaged) {
-        complain(file, failure(load));
-        return false;
-    }
-    if (load == LoadResult::incomplete) complain(file, "ended early; what is missing was left empty");
+    if (load != LoadResult::loaded) complain(file, load_fault(load));
+    if (load == LoadResult::not_found || load == LoadResult::damaged) return false;
     if (options.save_as) {
         prompts.subject = *options.save_as;
         return *kind == DocumentKind::recipe

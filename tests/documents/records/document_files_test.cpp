@@ -69,7 +69,7 @@ TEST(DocumentFiles, MissingAndDamagedFilesLeaveTheLiveDocumentUntouched) {
         }
         EXPECT_TRUE(live == before);
     }
-    EXPECT_EQ(load_message(LoadResult::not_found, "a.rec"), "File Not Found!");
+    EXPECT_EQ(load_fault(LoadResult::not_found), "File Not Found!");
 }
 
 TEST(DocumentFiles, YieldsAreRebasedOnThePotential) {
