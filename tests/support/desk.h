@@ -101,6 +101,11 @@ struct RecordingClipboard : Clipboard {
     void put_text(std::string_view utf8) override { texts.emplace_back(utf8); }
 };
 
+struct RecordingCommands : Commands {
+    std::vector<int> started;
+    void start(int command) override { started.push_back(command); }
+};
+
 /// Keeps every change and passes it on to the listeners.
 struct RecordingNotices : Notices {
     std::vector<Change> told;

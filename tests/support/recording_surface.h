@@ -3,6 +3,8 @@
 
 #include "base/ports/surface.h"
 
+#include <deque>
+#include <map>
 #include <sstream>
 
 namespace wortlex {
@@ -60,6 +62,37 @@ private:
         std::ostringstream digits;
         digits << std::hex << std::uppercase << (0x1000000 | (colour & 0xFFFFFF));
         return digits.str().substr(1);
+    }
+};
+
+/// Every page is a surface of its own; `pages` outlives the document.
+struct RecordingPrinter : Printer {
+    std::string document;
+    std::deque<RecordingSurface> pages;
+    bool refuses = false;
+    bool ended = false;
+
+    bool begin(std::string_view document_name) override {
+        document = document_name;
+        if (!refuses) next_page();
+        return !refuses;
+    }
+    Surface& page() override { return pages.back(); }
+    void next_page() override { pages.emplace_back(); }
+    void end() override { ended = true; }
+};
+
+/// Pictures by path, in memory.
+struct FakePictures : Pictures {
+    std::map<std::string, Pixels> files;
+
+    std::optional<Pixels> load(const std::string& path) override {
+        const auto found = files.find(path);
+        return found == files.end() ? std::nullopt : std::optional(found->second);
+    }
+    bool save(const std::string& path, const Pixels& pixels, int) override {
+        files[path] = pixels;
+        return true;
     }
 };
 
