@@ -271,7 +271,7 @@ float alpha_after_storage(float start_alpha, std::int16_t months, float lost_per
         0.435F, 0.416F, 0.397F, 0.379F,  0.362F, 0.345F, 0.33F,  0.315F, 0.301F, 0.287F, 0.274F,
         0.262F, 0.25F,  0.239F, 0.228F,  0.218F, 0.208F, 0.198F, 0.189F, 0.181F, 0.173F, 0.165F,
         0.157F, 0.15F,  0.144F, 0.137F,  0.131F, 0.125F, 0.119F, 0.114F, 0.109F, 0.104F, 0.099F};
-    const double row = std::clamp(65.0 - (double{1} * truncate(celsius) + 30), 0.0, 65.0);
+    const double row = std::clamp(65.0 - (static_cast<double>(truncate(celsius)) + 30), 0.0, 65.0);
     const float temperature_factor = speed[static_cast<std::size_t>(row)];
     const float days = narrow(months * 30.0);
     const float left = narrow(100.0 - lost_percent);

@@ -24,15 +24,15 @@ float TotalMashVolume(float grain, float water, float grain_water_volume) {
 std::int32_t StrikeTemperature(std::int32_t wanted, std::int32_t grain_temperature, float ratio,
                                float thermal_mass) {
     if (!(ratio > 0)) return wanted;
-    const auto strike =
-        truncate(grain_heat / ratio * (double{1} * wanted - grain_temperature) + double{1} * wanted);
+    const auto strike = truncate(grain_heat / ratio * (static_cast<double>(wanted) - grain_temperature) +
+                                 static_cast<double>(wanted));
     if (thermal_mass == 0) return strike;
     return truncate(strike + 2 * (thermal_mass / 10.0 * strike));
 }
 
 float InfusionAmount(std::int32_t to, std::int32_t from, std::int32_t infusion, float water, float grain) {
     if (infusion == to) return 0;
-    const double rise = double{1} * to - from, drop = double{1} * infusion - to;
+    const double rise = static_cast<double>(to) - from, drop = static_cast<double>(infusion) - to;
     return std::max(narrow(rise * (grain * grain_heat + water) / drop), 0.0F);
 }
 
@@ -46,10 +46,10 @@ float DecoctionVolume(std::int32_t from, std::int32_t to, const DecoctionMash& m
                                           : 0.0F;
     const float grain_per_quart = narrow(1.0 / (ratio + quarts_per_pound_of_grain));
     const float water_per_quart = narrow(double{grain_per_quart} * ratio * pounds_per_quart);
-    const double drop =
-        (double{1} * returned - from) * (double{grain_per_quart} * mash.heat_capacity + water_per_quart);
+    const double drop = (static_cast<double>(returned) - from) *
+                        (double{grain_per_quart} * mash.heat_capacity + water_per_quart);
     if (drop == 0) return 0;
-    const double rise = double{1} * to - from;
+    const double rise = static_cast<double>(to) - from;
     return narrow(rise * (double{mash.grain} * mash.heat_capacity + water_pounds) / drop);
 }
 

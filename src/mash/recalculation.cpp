@@ -34,29 +34,33 @@ float single_step_infusion(const SimpleMash& mash, InfusionExtras& infusions, fl
 }
 
 float multi_step_infusions(const SimpleMash& mash, InfusionExtras& infusions, float dough_in, float grain) {
-    const auto& [kind, dough, acid, protein, intermediate, saccharification, mash_out, sparge, water,
-                 reserved] = mash;
-    auto& [heat, bytes, to_protein, to_intermediate, to_saccharification, to_mash_out, word] = infusions;
+    const auto& protein = mash.protein;
+    const auto& intermediate = mash.intermediate;
+    const auto& saccharification = mash.saccharification;
+    auto& to_protein = infusions.protein;
+    auto& to_intermediate = infusions.intermediate;
+    auto& to_saccharification = infusions.saccharification;
+    auto& to_mash_out = infusions.mash_out;
     const double q = dough_in;
     double total = q;
 
-    if (infuse(protein, first_present({&acid}), to_protein, q, grain)) total = q + to_protein.amount;
+    if (infuse(protein, first_present({&mash.acid}), to_protein, q, grain)) total = q + to_protein.amount;
 
     const double at_protein = protein.is_present() ? q + to_protein.amount : q;
-    if (infuse(intermediate, first_present({&protein, &acid}), to_intermediate, at_protein, grain))
+    if (infuse(intermediate, first_present({&protein, &mash.acid}), to_intermediate, at_protein, grain))
         total = q + at_protein + to_intermediate.amount;
 
     const double at_intermediate =
         intermediate.is_present() ? at_protein + to_intermediate.amount : at_protein;
     const double sum_to_intermediate = q + to_protein.amount + to_intermediate.amount;
-    if (infuse(saccharification, first_present({&intermediate, &protein, &acid}), to_saccharification,
+    if (infuse(saccharification, first_present({&intermediate, &protein, &mash.acid}), to_saccharification,
                at_intermediate, grain))
         total = sum_to_intermediate + to_saccharification.amount;
 
     const double at_saccharification =
         saccharification.is_present() ? at_intermediate + to_saccharification.amount : at_intermediate;
-    if (infuse(mash_out, first_present({&saccharification, &intermediate, &protein, &acid}), to_mash_out,
-               at_saccharification, grain))
+    if (infuse(mash.mash_out, first_present({&saccharification, &intermediate, &protein, &mash.acid}),
+               to_mash_out, at_saccharification, grain))
         total = sum_to_intermediate + to_saccharification.amount + to_mash_out.amount;
 
     return narrow(total);

@@ -32,7 +32,7 @@ inline float two_decimals(float x) {
 /// Whether two gravities (SG) count as the same when an ingredient is matched against the database.
 inline bool gravity_close(float a, float b) {
     const auto tenths = [](float sg) { return truncate((sg - 1.0) * 1000 * 100 / 10 + 0.5); };
-    return std::abs(double{1} * tenths(a) - tenths(b)) < 10;
+    return std::abs(static_cast<double>(tenths(a)) - tenths(b)) < 10;
 }
 
 } // namespace wortlex
