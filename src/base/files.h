@@ -12,6 +12,9 @@ namespace wortlex {
 /// Nothing that this program reads is larger; what is, is somebody else's file.
 inline constexpr std::size_t largest_file = std::size_t{256} << 20;
 
+/// What the user is told of a document or schedule that cannot be opened.
+inline constexpr std::string_view file_not_found = "File Not Found!";
+
 /// The first `limit` bytes of a file; nothing if it cannot be opened, is no regular file or breaks
 /// off with an error.
 std::optional<Bytes> read_file(const std::string& path, std::size_t limit = largest_file);

@@ -333,6 +333,40 @@ TEST(MashRefresh, FillsTheMashByTheScheduleInForce) {
     EXPECT_EQ(b.document.mash.steps[0].amount, 10.0F) << "the whole byte counts";
 }
 
+TEST(Opening, OfARecipeTakesItsSnapshotAndANewOneTheUsualEfficiency) {
+    for (const auto& [mode, actual_extract, potentials] :
+         {std::tuple{method_1, 0U, true}, {method_1, 1U, false}, {method_2, 0U, false}}) {
+        Brewery b;
+        b.settings.efficiency_mode = mode;
+        b.settings.view_actual_extract = actual_extract;
+        b.settings.efficiency = 0.6F;
+        const auto loaded = open_recipe_window(b.recipe(), true);
+        EXPECT_EQ((std::pair{loaded.locks.locked_efficiency, loaded.show_potential}),
+                  (std::pair{0.75F, potentials}));
+        EXPECT_FALSE(document_changed(b.document, loaded.saved)) << "opening is no change";
+        b.document.mash.step_count = 1;
+        EXPECT_TRUE(document_changed(b.document, loaded.saved)) << "the schedule belongs to the image";
+        EXPECT_EQ(open_recipe_window(b.recipe(), false).locks.locked_efficiency, 0.6F);
+        EXPECT_EQ(b.document.efficiency, 0.6F);
+    }
+}
+
+TEST(Opening, OfANewSessionStartsFromTheUsualWater) {
+    Brewery b;
+    b.settings.batch_size = b.settings.wort_size = 11;
+    WaterNeeds usual;
+    std::tie(usual.sparge, usual.boil_minutes, usual.grain) = std::tuple{4.0F, 90.0F, 12.0F};
+    const auto log_before = b.session;
+    start_session(b.brew_day(), usual);
+    EXPECT_TRUE(b.document.malts.empty() && !has_complex_schedule(b.document));
+    EXPECT_EQ((std::pair{b.document.batch_size, b.document.wort_size}), (std::pair{5.0F, 5.0F}));
+    const auto& needs = b.session.water_needs;
+    expect_figures(std::array{needs.sparge, needs.boil_minutes, needs.grain, b.water.needed}, {4, 60, 0, 4},
+                   "seeded from the empty recipe");
+    EXPECT_TRUE(session_changed(b.session, log_before));
+    EXPECT_FALSE(session_changed(b.session, SessionDocument(b.session)));
+}
+
 TEST(Snapshot, TellsWhetherThereIsAnythingToSave) {
     using D = BrewDocument;
     const auto changed_with_and_without_schedule = +[](void (*edit)(BrewDocument&)) {

@@ -17,8 +17,6 @@ enum class LoadResult {
     damaged ///< a list longer than the file, or of negative length
 };
 
-inline constexpr std::string_view file_not_found = "File Not Found!";
-
 /// What is wrong with a file that did not load in full, to follow its name.
 std::string_view load_fault(LoadResult result);
 

@@ -9,8 +9,6 @@
 
 namespace wortlex {
 
-inline constexpr std::string_view mash_schedule_not_found = "File Not Found!";
-
 /// Replaces the file atomically; false if that failed.
 bool SaveMashSchedule(const std::string& path, const MashDesign& design);
 
