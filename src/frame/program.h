@@ -2,23 +2,55 @@
 #pragma once
 
 #include "base/ports/prompts.h"
+#include "calculators/beer_colour.h"
+#include "databases/records/database_file.h"
 #include "documents/opening.h"
 #include "documents/session_figures.h"
+#include "frame/documents.h"
+#include "frame/recent.h"
 #include "frame/settings/settings.h"
 #include "frame/settings/system_files.h"
+#include "frame/tools.h"
 
 namespace wortlex {
 
+/// What the calculators start from; larger for a brewery than for a kitchen.
+struct CalculatorDefaults {
+    float carbonation_gallons = 0;
+    float mash_grain = 0;   ///< pounds
+    float mash_gallons = 0; ///< of the mash tools, as the others
+    float dough_in_quarts = 0;
+
+    bool operator==(const CalculatorDefaults&) const = default;
+};
+
 struct Program {
     std::string data_folder; ///< ends in a slash
-    SystemFiles system;      ///< the images, as on the disk
-    Settings settings;       ///< the working values
-    WaterNeeds water_usage;  ///< the brewer's usual figures
+    FolderSet folders;
+    SystemFiles system;          ///< the images, as on the disk
+    Settings settings;           ///< the working values
+    std::uint8_t art_scheme = 0; ///< as it was at the start: a new choice waits for the next one
+    PrintSelection recipe_print;
+    PrintSelection session_print;
+    ReminderFlags reminders;
+    WaterNeeds water_usage; ///< the brewer's usual figures
 
     BrewDocument document; ///< the one live recipe, also under a session
     RecipeFigures figures;
     SessionDocument session;
-    WaterBalance water; ///< of the session
+    WaterBalance water;        ///< of the session
+    float water_to_grain = 0;  ///< of the simple mash, quarts per pound; 0 for a loaded document
+    DocumentFile recipe_file;  ///< where the live document comes from,
+    DocumentFile session_file; ///< by the window that works on it
+    RecentDocuments recent_documents;
+
+    Database<WaterRecord> water_database; ///< the one that stays in memory
+    ColorTable color_table;
+    CalculatorDefaults calculator_defaults;
+
+    ToolTable tools;
+    MainPosition main_position; ///< as it was at the start
+    ToolPositions tool_positions;
 };
 
 /// Reads the settings and the usual water figures and makes an empty document. Without a whole settings file

@@ -1,13 +1,12 @@
 // Stand-ins for the user and for what is on the desk.
 #pragma once
 
-#include "base/ports/desk.h"
+#include "base/ports/notice_board.h"
 #include "base/ports/prompts.h"
 
 #include <gtest/gtest.h>
 
 #include <deque>
-#include <map>
 #include <variant>
 #include <vector>
 
@@ -107,21 +106,13 @@ struct RecordingCommands : Commands {
 };
 
 /// Keeps every change and passes it on to the listeners.
-struct RecordingNotices : Notices {
+struct RecordingNotices : NoticeBoard {
     std::vector<Change> told;
-    std::map<int, std::function<void(Change)>> listeners;
-    int last = 0;
 
     void tell(Change change) override {
         told.push_back(change);
-        const auto now_listening = listeners; // a listener may stop listening
-        for (const auto& [number, heard] : now_listening) heard(change);
+        NoticeBoard::tell(change);
     }
-    int listen(std::function<void(Change)> heard) override {
-        listeners.emplace(++last, std::move(heard));
-        return last;
-    }
-    void stop(int listener) override { listeners.erase(listener); }
 };
 
 } // namespace wortlex

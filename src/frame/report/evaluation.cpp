@@ -1,24 +1,6 @@
 #include "frame/report/evaluation.h"
 
-#include <algorithm>
-
 namespace wortlex {
-
-std::optional<DocumentKind> document_kind(std::string_view path) {
-    if (path.size() < 4) return std::nullopt;
-    std::string ending(path.substr(path.size() - 4));
-    std::transform(ending.begin(), ending.end(), ending.begin(),
-                   [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + ('a' - 'A')) : c; });
-    if (ending == ".rec") return DocumentKind::recipe;
-    if (ending == ".brw") return DocumentKind::session;
-    return std::nullopt;
-}
-
-LoadResult load_document(Program& program, const std::string& path, DocumentKind kind) {
-    program.document.mash_flags = static_cast<std::uint8_t>(program.settings.default_schedule);
-    if (kind == DocumentKind::recipe) return load_recipe(path, program.document, program.settings);
-    return load_session(path, program.document, program.session, program.settings);
-}
 
 Evaluation evaluate(Program& program, const std::string& path, DocumentKind kind, LoadResult load) {
     Evaluation evaluation{path, kind, load, {}, {}, {}};

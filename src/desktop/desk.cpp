@@ -1,0 +1,60 @@
+#include "desktop/desk.h"
+
+#include "desktop/message_boxes.h"
+#include "desktop/text.h"
+
+#include <QClipboard>
+#include <QDate>
+#include <QDateTime>
+#include <QDir>
+#include <QFile>
+#include <QFileDialog>
+#include <QGuiApplication>
+
+namespace wortlex {
+namespace {
+
+// "Recipe File (*.rec)|*.rec" as the toolkit has it: the patterns stand in the caption's brackets.
+QString filter_of(std::string_view filter) {
+    const auto bar = filter.find('|');
+    if (bar == std::string_view::npos) return string_of(filter);
+    const auto caption = filter.substr(0, std::min(filter.find('('), bar));
+    return string_of(caption) + QLatin1Char('(') + string_of(filter.substr(bar + 1)) + QLatin1Char(')');
+}
+
+std::optional<std::string> run(const FileChoice& choice, QFileDialog::AcceptMode mode) {
+    const auto folder = QFile::decodeName(QByteArray::fromStdString(choice.folder));
+    QFileDialog dialog(window_in_use(), {}, folder, filter_of(choice.filter));
+    dialog.setWindowModality(Qt::WindowModal);
+    dialog.setAcceptMode(mode);
+    dialog.setFileMode(mode == QFileDialog::AcceptOpen ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
+    dialog.setDefaultSuffix(string_of(choice.extension));
+    if (!choice.suggested_name.empty()) dialog.selectFile(QString::fromStdString(choice.suggested_name));
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
+    return QFile::encodeName(dialog.selectedFiles().front()).toStdString();
+}
+
+} // namespace
+
+std::optional<std::string> FileDialogs::choose_to_open(const FileChoice& choice) {
+    return run(choice, QFileDialog::AcceptOpen);
+}
+
+std::optional<std::string> FileDialogs::choose_to_save(const FileChoice& choice) {
+    return run(choice, QFileDialog::AcceptSave);
+}
+
+std::int64_t SystemClock::now() const {
+    return QDateTime::currentSecsSinceEpoch();
+}
+
+CalendarDate SystemClock::today() const {
+    const auto date = QDate::currentDate();
+    return {date.day(), date.month(), date.year()};
+}
+
+void SystemClipboard::put_text(std::string_view utf8) {
+    QGuiApplication::clipboard()->setText(string_of(utf8));
+}
+
+} // namespace wortlex

@@ -1,0 +1,37 @@
+// The two fields that are painted: a patch of colour and a drawing.
+#pragma once
+
+#include "base/ports/surface.h"
+
+#include <QAbstractButton>
+
+#include <functional>
+
+namespace wortlex {
+
+class SwatchButton : public QAbstractButton {
+public:
+    /// Without an action it is only a patch and takes no focus.
+    SwatchButton(std::function<std::uint32_t()> colour, std::function<void()> press, QWidget* parent);
+    QSize sizeHint() const override;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    std::function<std::uint32_t()> colour_;
+};
+
+class Canvas : public QWidget {
+public:
+    Canvas(Extent least, std::function<void(Surface&)> draw, QWidget* parent);
+    QSize sizeHint() const override { return minimumSize(); }
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    std::function<void(Surface&)> draw_;
+};
+
+} // namespace wortlex

@@ -1,0 +1,72 @@
+#include "desktop/fields.h"
+
+#include <QFocusEvent>
+#include <QTimer>
+#include <QWheelEvent>
+
+#include <cmath>
+
+namespace wortlex {
+namespace {
+
+class FocusSelector : public QObject {
+public:
+    explicit FocusSelector(QLineEdit& edit) : QObject(&edit), edit_(edit) { edit.installEventFilter(this); }
+
+    // A click sets the caret after the focus has come, so the selection waits until it is over.
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (event->type() == QEvent::FocusIn &&
+            static_cast<QFocusEvent*>(event)->reason() == Qt::MouseFocusReason)
+            QTimer::singleShot(0, &edit_, &QLineEdit::selectAll);
+        return QObject::eventFilter(watched, event);
+    }
+
+private:
+    QLineEdit& edit_;
+};
+
+} // namespace
+
+void LineField::set_text(const std::string& text) {
+    const auto wanted = QString::fromStdString(text);
+    if (edit_.text() == wanted) return;
+    edit_.setText(wanted);
+    if (edit_.isReadOnly()) edit_.setCursorPosition(0);
+}
+
+void PageField::set_text(const std::string& text) {
+    const auto wanted = QString::fromStdString(text);
+    if (edit_.toPlainText() != wanted) edit_.setPlainText(wanted);
+}
+
+void PageField::set_caret(int position) {
+    auto cursor = edit_.textCursor();
+    cursor.setPosition(std::min(position, edit_.document()->characterCount() - 1));
+    edit_.setTextCursor(cursor);
+}
+
+ArrowField::ArrowField(QWidget* parent) : QAbstractSpinBox(parent) {
+    setAccelerated(true);
+    setFocusPolicy(Qt::StrongFocus);
+}
+
+void ArrowField::stepBy(int steps) {
+    if (!stepped) return;
+    for (int step = 0; step < std::abs(steps); ++step) stepped(steps > 0 ? Spin::up : Spin::down);
+    lineEdit()->selectAll();
+}
+
+QAbstractSpinBox::StepEnabled ArrowField::stepEnabled() const {
+    return StepUpEnabled | StepDownEnabled;
+}
+
+void ArrowField::wheelEvent(QWheelEvent* event) {
+    if (hasFocus()) return QAbstractSpinBox::wheelEvent(event);
+    event->ignore();
+}
+
+void select_on_focus(QLineEdit& edit) {
+    new FocusSelector(edit); // the field owns it
+}
+
+} // namespace wortlex

@@ -1,0 +1,57 @@
+// Text fields of the toolkit as the numeric fields see them, and a field with arrows.
+#pragma once
+
+#include "measures/fields/numeric_fields.h"
+
+#include <QAbstractSpinBox>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+
+#include <functional>
+
+namespace wortlex {
+
+class LineField : public TextField {
+public:
+    explicit LineField(QLineEdit& edit) : edit_(edit) {}
+    std::string text() const override { return edit_.text().toStdString(); }
+    /// An equal text is left alone, and with it caret and selection.
+    void set_text(const std::string& text) override;
+    int caret() const override { return edit_.cursorPosition(); }
+    void set_caret(int position) override { edit_.setCursorPosition(position); }
+
+private:
+    QLineEdit& edit_;
+};
+
+class PageField : public TextField {
+public:
+    explicit PageField(QPlainTextEdit& edit) : edit_(edit) {}
+    std::string text() const override { return edit_.toPlainText().toStdString(); }
+    void set_text(const std::string& text) override;
+    int caret() const override { return edit_.textCursor().position(); }
+    void set_caret(int position) override;
+
+private:
+    QPlainTextEdit& edit_;
+};
+
+/// A line with arrows. The text is the form's business, so nothing typed is judged here.
+class ArrowField : public QAbstractSpinBox {
+public:
+    explicit ArrowField(QWidget* parent);
+    QLineEdit& line() const { return *lineEdit(); }
+    void stepBy(int steps) override;
+
+    std::function<void(Spin)> stepped;
+
+protected:
+    StepEnabled stepEnabled() const override;
+    /// Only the focused field turns with the wheel: scrolling past one must not change a recipe.
+    void wheelEvent(QWheelEvent* event) override;
+};
+
+/// The text is selected whole as the field is entered, however it is entered.
+void select_on_focus(QLineEdit& edit);
+
+} // namespace wortlex

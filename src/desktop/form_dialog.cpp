@@ -1,0 +1,38 @@
+#include "desktop/form_dialog.h"
+
+#include <QDialogButtonBox>
+#include <QVBoxLayout>
+
+namespace wortlex {
+
+FormDialog::FormDialog(Form& form, const DialogUse& use, const Places& places, QWidget* owner)
+    : QDialog(owner), form_(form), widgets_(form, places.settings, *this) {
+    setWindowModality(Qt::WindowModal);
+    dress_window(*this, window_info(use.template_name), use.caption, use.opener, owner, places);
+    auto* const layout = new QVBoxLayout(this);
+    layout->addLayout(lay_out(form, widgets_));
+    auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Ok, this);
+    if (use.has_cancel) buttons->addButton(QDialogButtonBox::Cancel);
+    layout->addWidget(buttons);
+    connect(buttons, &QDialogButtonBox::accepted, this, &FormDialog::accept);
+    connect(buttons, &QDialogButtonBox::rejected, this, &FormDialog::reject);
+}
+
+void FormDialog::accept() {
+    form_.accept();
+    QDialog::accept();
+}
+
+void FormDialog::reject() {
+    form_.cancel();
+    QDialog::reject();
+}
+
+bool run_dialog(Form& form, const DialogUse& use, const Places& places, QWidget* owner) {
+    FormDialog dialog(form, use, places, owner);
+    const bool accepted = dialog.exec() == QDialog::Accepted;
+    form.show_again = nullptr;
+    return accepted;
+}
+
+} // namespace wortlex

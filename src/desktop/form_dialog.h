@@ -1,0 +1,35 @@
+// A modal dialog made of a form: its rows above, its buttons below.
+#pragma once
+
+#include "desktop/form_widgets.h"
+#include "desktop/tool_window.h"
+
+#include <QDialog>
+
+namespace wortlex {
+
+struct DialogUse {
+    std::string_view template_name;
+    std::size_t caption = 0;
+    Opener opener = Opener::main;
+    bool has_cancel = true;
+};
+
+/// Disables only its owner. OK and Cancel carry out the form's hooks.
+class FormDialog : public QDialog {
+public:
+    FormDialog(Form& form, const DialogUse& use, const Places& places, QWidget* owner);
+    FormWidgets& widgets() { return widgets_; }
+
+    void accept() override;
+    void reject() override;
+
+private:
+    Form& form_;
+    FormWidgets widgets_;
+};
+
+/// Shows the form until it is closed; whether with OK.
+bool run_dialog(Form& form, const DialogUse& use, const Places& places, QWidget* owner);
+
+} // namespace wortlex

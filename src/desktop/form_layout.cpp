@@ -1,0 +1,104 @@
+#include "desktop/form_widgets.h"
+#include "desktop/text.h"
+
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QHBoxLayout>
+
+namespace wortlex {
+namespace {
+
+// Rows below each other, labels in the first of two columns.
+class RowsLayout : private RowVisitor {
+public:
+    RowsLayout(const FormWidgets& widgets, QGridLayout& grid) : widgets_(widgets), grid_(grid) {}
+
+    void add(const Rows& rows) {
+        for (const auto& row : rows.rows()) row->accept(*this);
+        grid_.setColumnStretch(1, 1);
+    }
+
+private:
+    void visit(EntryRow& row) override { add_field(row); }
+    void visit(ChoiceRow& row) override { add_field(row); }
+    void visit(CheckRow& row) override { add_field(row); }
+    void visit(NoteRow& row) override { add_field(row); }
+    void visit(SwatchRow& row) override { add_field(row); }
+    void visit(CanvasRow& row) override { add_field(row); }
+    void visit(ListRow& row) override { add_field(row); }
+
+    // Buttons that follow each other stand side by side.
+    void visit(ButtonRow& row) override {
+        if (buttons_ == nullptr) {
+            buttons_ = new QHBoxLayout;
+            buttons_->addStretch();
+            grid_.addLayout(buttons_, grid_.rowCount(), 0, 1, 2);
+        }
+        buttons_->addWidget(&widgets_.field(row));
+    }
+
+    void visit(GridRow& row) override {
+        buttons_ = nullptr;
+        auto* const table = new QGridLayout;
+        for (std::size_t column = 0; column < row.captions.size(); ++column)
+            table->addWidget(new QLabel(string_of(row.captions[column]())), 0, static_cast<int>(column) + 1,
+                             Qt::AlignHCenter);
+        for (const auto& line : row.lines) add_line(*table, *line);
+        grid_.addLayout(table, grid_.rowCount(), 0, 1, 2);
+    }
+
+    void add_line(QGridLayout& table, const GridRow::Line& line) const {
+        const int place = table.rowCount();
+        auto* const label = new QLabel(string_of(line.label()));
+        table.addWidget(label, place, 0);
+        int column = 1;
+        for (const auto& cell : line.cells.rows()) {
+            auto& field = widgets_.field(*cell);
+            if (column == 1) label->setBuddy(&field);
+            if (field.accessibleName().isEmpty())
+                field.setAccessibleName(label->text().remove(QLatin1Char('&')));
+            table.addWidget(&field, place, column++);
+        }
+    }
+
+    void add_field(Row& row) {
+        buttons_ = nullptr;
+        auto* const label = widgets_.label(row);
+        const int place = grid_.rowCount();
+        if (label != nullptr) grid_.addWidget(label, place, 0);
+        grid_.addWidget(&widgets_.field(row), place, label == nullptr ? 0 : 1, 1, label == nullptr ? 2 : 1);
+    }
+
+    const FormWidgets& widgets_;
+    QGridLayout& grid_;
+    QHBoxLayout* buttons_ = nullptr;
+};
+
+QLayout* rows_layout(const Rows& rows, const FormWidgets& widgets) {
+    auto* const grid = new QGridLayout;
+    RowsLayout(widgets, *grid).add(rows);
+    return grid;
+}
+
+} // namespace
+
+QLayout* lay_out(const Form& form, const FormWidgets& widgets) {
+    auto* const columns = new QHBoxLayout;
+    QVBoxLayout* column = nullptr;
+    for (const auto& group : form.groups()) {
+        if (column == nullptr || group->begins_column) columns->addLayout(column = new QVBoxLayout, 1);
+        auto* const rows = rows_layout(group->content, widgets);
+        if (group->heading().empty()) {
+            column->addLayout(rows);
+            continue;
+        }
+        auto* const box = new QGroupBox(string_of(group->heading()));
+        box->setLayout(rows);
+        column->addWidget(box);
+    }
+    for (int place = 0; place < columns->count(); ++place)
+        static_cast<QVBoxLayout*>(columns->itemAt(place)->layout())->addStretch();
+    return columns;
+}
+
+} // namespace wortlex

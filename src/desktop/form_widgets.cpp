@@ -1,0 +1,241 @@
+#include "desktop/form_widgets.h"
+
+#include "desktop/colours.h"
+#include "desktop/drawings.h"
+#include "desktop/fields.h"
+#include "desktop/list_view.h"
+#include "desktop/text.h"
+
+#include <QButtonGroup>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QStyle>
+#include <QVBoxLayout>
+
+namespace wortlex {
+namespace {
+
+// What a screen reader says: the label without its mnemonic and colon.
+QString spoken(QString label) {
+    label.remove(QLatin1Char('&'));
+    if (label.endsWith(QLatin1Char(':'))) label.chop(1);
+    return label;
+}
+
+void aim_at_width(QLineEdit& line, const EntryRow& row, int beside) {
+    const int digit = line.fontMetrics().horizontalAdvance(QLatin1Char('0'));
+    line.setMinimumWidth(std::min(digit * row.columns, 40 * digit));
+    auto* const field = beside > 0 ? line.parentWidget() : &line;
+    const int width = digit * (row.columns + 2) + beside;
+    field->setMinimumWidth(width);
+    if (row.is_number()) field->setMaximumWidth(2 * width);
+    if (row.is_number()) line.setAlignment(Qt::AlignRight);
+}
+
+} // namespace
+
+FormWidgets::FormWidgets(Form& form, const SystemSettings& colours, QWidget& parent)
+    : form_(form), colours_(colours), parent_(parent) {
+    form.for_each([this](Row& row) { make(row); });
+    form.show_again = [this](const Row* except) { refresh(except); };
+    refresh();
+}
+
+QWidget& FormWidgets::field(const Row& row) const {
+    return *shown_.at(&row).field;
+}
+
+QWidget& FormWidgets::field(std::string_view key) const {
+    return field(form_.row(key));
+}
+
+QLabel* FormWidgets::label(const Row& row) const {
+    return shown_.at(&row).label;
+}
+
+QLabel* FormWidgets::label(std::string_view key) const {
+    return label(form_.row(key));
+}
+
+void FormWidgets::make(Row& row) {
+    row.accept(*this);
+    const auto found = shown_.find(&row);
+    if (found == shown_.end()) return;
+    found->second.field->setObjectName(string_of(row.key));
+    if (row.area) apply_colours(*found->second.field, *row.area, colours_);
+}
+
+FormWidgets::Shown& FormWidgets::keep(Row& row, QWidget& field, std::function<void()> refresh) {
+    return shown_[&row] = {&field, nullptr, std::move(refresh)};
+}
+
+void FormWidgets::add_label(Shown& shown, const Row& row) {
+    if (row.label_text().empty()) return;
+    shown.label = new QLabel(&parent_);
+    shown.label->setBuddy(shown.field);
+}
+
+void FormWidgets::show_state(const Row& row, const Shown& shown) const {
+    const auto text = string_of(row.label_text());
+    if (shown.label != nullptr) shown.label->setText(text);
+    if (!text.isEmpty()) shown.field->setAccessibleName(spoken(text));
+    shown.field->setToolTip(string_of(row.hint_text()));
+    shown.field->setEnabled(row.is_enabled());
+    const bool visible = row.is_visible();
+    if (shown.field->isVisibleTo(&parent_) != visible) shown.field->setVisible(visible);
+    if (shown.label != nullptr) shown.label->setVisible(visible);
+}
+
+void FormWidgets::refresh(const Row* except) {
+    for (const auto& [row, shown] : shown_) {
+        if (row != except && shown.refresh) shown.refresh();
+        show_state(*row, shown);
+        // A list brings its own rows up to date even while it is the one being used.
+    }
+}
+
+void FormWidgets::visit(EntryRow& row) {
+    if (row.is_multi_line()) return make_page(row);
+    make_line(row);
+}
+
+void FormWidgets::make_page(EntryRow& row) {
+    auto* const page = new QPlainTextEdit(&parent_);
+    page->setReadOnly(row.is_read_only());
+    page->setTabChangesFocus(true);
+    const auto field = std::make_shared<PageField>(*page);
+    // The toolkit tells its own writes too; only those of the user reach the form.
+    const auto writes = std::make_shared<bool>(false);
+    auto show = [&row, field, writes] {
+        *writes = true;
+        row.show(*field);
+        *writes = false;
+    };
+    QObject::connect(page, &QPlainTextEdit::textChanged, &alive_, [this, &row, field, writes] {
+        if (!*writes) form_.type(row, *field);
+    });
+    add_label(keep(row, *page, std::move(show)), row);
+}
+
+void FormWidgets::make_line(EntryRow& row) {
+    QLineEdit* line = nullptr;
+    QWidget* widget = nullptr;
+    std::shared_ptr<LineField> field;
+    if (row.has_arrows()) {
+        auto* const arrows = new ArrowField(&parent_);
+        line = &arrows->line();
+        widget = arrows;
+        field = std::make_shared<LineField>(*line);
+        arrows->stepped = [this, &row, field](Spin direction) { form_.spin(row, *field, direction); };
+    } else {
+        widget = line = new QLineEdit(&parent_);
+        field = std::make_shared<LineField>(*line);
+    }
+    line->setReadOnly(row.is_read_only());
+    aim_at_width(*line, row,
+                 widget == line ? 0 : 2 * widget->style()->pixelMetric(QStyle::PM_ScrollBarExtent));
+    select_on_focus(*line);
+    auto show = [&row, field] {
+        if (!row.text_when_disabled.empty() && !row.is_enabled())
+            return field->set_text(row.text_when_disabled);
+        row.show(*field);
+    };
+    QObject::connect(line, &QLineEdit::textEdited, &alive_, [this, &row, field] { form_.type(row, *field); });
+    QObject::connect(line, &QLineEdit::editingFinished, &alive_, show);
+    add_label(keep(row, *widget, std::move(show)), row);
+}
+
+void FormWidgets::visit(ChoiceRow& row) {
+    if (row.shape == ChoiceRow::Look::drop_down) return make_drop_down(row);
+    make_buttons(row);
+}
+
+void FormWidgets::make_drop_down(ChoiceRow& row) {
+    auto* const box = new QComboBox(&parent_);
+    for (const auto& word : row.words) box->addItem(string_of(word()));
+    auto show = [&row, box] {
+        for (std::size_t i = 0; i < row.words.size(); ++i)
+            box->setItemText(static_cast<int>(i), string_of(row.words[i]()));
+        const auto chosen = row.chosen();
+        box->setCurrentIndex(chosen ? static_cast<int>(*chosen) : -1);
+    };
+    QObject::connect(box, &QComboBox::activated, &alive_,
+                     [this, &row](int option) { form_.choose(row, static_cast<std::size_t>(option)); });
+    add_label(keep(row, *box, std::move(show)), row);
+}
+
+void FormWidgets::make_buttons(ChoiceRow& row) {
+    auto* const frame = new QWidget(&parent_);
+    auto* const layout = new QBoxLayout(
+        row.shape == ChoiceRow::Look::across ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom, frame);
+    layout->setContentsMargins(0, 0, 0, 0);
+    auto* const buttons = new QButtonGroup(frame);
+    for (std::size_t option = 0; option < row.words.size(); ++option) {
+        auto* const button = new QRadioButton(frame);
+        button->setObjectName(string_of(row.key + '_' + std::to_string(option)));
+        buttons->addButton(button, static_cast<int>(option));
+        layout->addWidget(button);
+    }
+    if (row.shape == ChoiceRow::Look::across) layout->addStretch();
+    auto show = [&row, buttons] {
+        const auto chosen = row.chosen();
+        buttons->setExclusive(chosen.has_value()); // none is marked where the value is none of them
+        for (auto* const button : buttons->buttons()) {
+            const auto option = static_cast<std::size_t>(buttons->id(button));
+            button->setText(string_of(row.words[option]()));
+            button->setEnabled(!row.option_when || row.option_when(option));
+            button->setChecked(chosen == option);
+        }
+        buttons->setExclusive(true);
+    };
+    QObject::connect(buttons, &QButtonGroup::idClicked, &alive_,
+                     [this, &row](int option) { form_.choose(row, static_cast<std::size_t>(option)); });
+    add_label(keep(row, *frame, std::move(show)), row);
+}
+
+void FormWidgets::visit(CheckRow& row) {
+    auto* const box = new QCheckBox(&parent_);
+    keep(row, *box, [&row, box] {
+        box->setText(string_of(row.label_text()));
+        box->setChecked(row.checked.get());
+    });
+    QObject::connect(box, &QCheckBox::clicked, &alive_,
+                     [this, &row](bool checked) { form_.check(row, checked); });
+}
+
+void FormWidgets::visit(NoteRow& row) {
+    auto* const words = new QLabel(&parent_);
+    words->setWordWrap(true);
+    words->setTextFormat(Qt::PlainText);
+    keep(row, *words, [&row, words] { words->setText(string_of(row.label_text())); });
+}
+
+void FormWidgets::visit(SwatchRow& row) {
+    auto* const patch = new SwatchButton(row.colour, row.press, &parent_);
+    add_label(keep(row, *patch, [patch] { patch->update(); }), row);
+}
+
+void FormWidgets::visit(CanvasRow& row) {
+    auto* const canvas = new Canvas(row.size, row.draw, &parent_);
+    keep(row, *canvas, [canvas] { canvas->update(); });
+}
+
+void FormWidgets::visit(ListRow& row) {
+    auto* const list = new ListView(row, &parent_);
+    list->selected = [this, &row](std::int32_t index) { form_.select(row, index); };
+    keep(row, *list, [list] { list->refresh(); });
+}
+
+void FormWidgets::visit(ButtonRow& row) {
+    auto* const button = new QPushButton(&parent_);
+    keep(row, *button, [&row, button] { button->setText(string_of(row.label_text())); });
+    if (!row.press) row.enabled(false);
+    QObject::connect(button, &QPushButton::clicked, &alive_, [&row] { row.press(); });
+}
+
+// Its cells are rows of their own; only the layout knows of lines and columns.
+void FormWidgets::visit(GridRow&) {}
+
+} // namespace wortlex

@@ -1,0 +1,64 @@
+// The one renderer of forms: a widget for each row, kept up to date.
+#pragma once
+
+#include "measures/fields/form.h"
+
+#include <QLabel>
+#include <QWidget>
+
+#include <unordered_map>
+
+namespace wortlex {
+
+/// Owns no widget: all belong to `parent`. The form and the settings must outlive it.
+class FormWidgets : private RowVisitor {
+public:
+    FormWidgets(Form& form, const SystemSettings& colours, QWidget& parent);
+
+    /// The field, button or list of a row.
+    QWidget& field(std::string_view key) const;
+    QWidget& field(const Row& row) const;
+    /// What stands before a field; none where the row has no label, or bears it itself.
+    QLabel* label(std::string_view key) const;
+    QLabel* label(const Row& row) const;
+
+    /// Shows every row as it is now, but the one being typed in.
+    void refresh(const Row* except = nullptr);
+
+private:
+    struct Shown {
+        QWidget* field = nullptr;
+        QLabel* label = nullptr;
+        std::function<void()> refresh;
+    };
+
+    void visit(EntryRow& row) override;
+    void visit(ChoiceRow& row) override;
+    void visit(CheckRow& row) override;
+    void visit(NoteRow& row) override;
+    void visit(SwatchRow& row) override;
+    void visit(CanvasRow& row) override;
+    void visit(ListRow& row) override;
+    void visit(ButtonRow& row) override;
+    void visit(GridRow& row) override;
+
+    void make(Row& row);
+    Shown& keep(Row& row, QWidget& field, std::function<void()> refresh);
+    void add_label(Shown& shown, const Row& row);
+    void show_state(const Row& row, const Shown& shown) const;
+    void make_page(EntryRow& row);
+    void make_line(EntryRow& row);
+    void make_drop_down(ChoiceRow& row);
+    void make_buttons(ChoiceRow& row);
+
+    Form& form_;
+    const SystemSettings& colours_;
+    QWidget& parent_;
+    std::unordered_map<const Row*, Shown> shown_;
+    QObject alive_; ///< its end cuts every connection, before the fields that it served go
+};
+
+/// A form's groups laid out in their columns, labels before fields.
+QLayout* lay_out(const Form& form, const FormWidgets& widgets);
+
+} // namespace wortlex

@@ -1,0 +1,102 @@
+#include "desktop/list_view.h"
+
+#include <QHeaderView>
+
+#include <algorithm>
+
+namespace wortlex {
+
+int ListModel::rowCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : static_cast<int>(shown_count_);
+}
+
+int ListModel::columnCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : static_cast<int>(row_.columns.size());
+}
+
+bool ListModel::is_number(int column) const {
+    return row_.columns[static_cast<std::size_t>(column)].is_number;
+}
+
+QVariant ListModel::data(const QModelIndex& index, int role) const {
+    if (role == Qt::TextAlignmentRole)
+        return QVariant(Qt::AlignVCenter | (is_number(index.column()) ? Qt::AlignRight : Qt::AlignLeft));
+    if (role != Qt::DisplayRole) return {};
+    const auto row = static_cast<std::size_t>(index.row());
+    if (row >= row_.count()) return {};
+    return QString::fromStdString(row_.cell(row, static_cast<std::size_t>(index.column())));
+}
+
+QVariant ListModel::headerData(int section, Qt::Orientation orientation, int role) const {
+    if (orientation != Qt::Horizontal) return {};
+    if (role == Qt::TextAlignmentRole)
+        return QVariant(Qt::AlignVCenter | (is_number(section) ? Qt::AlignRight : Qt::AlignLeft));
+    if (role != Qt::DisplayRole) return {};
+    return QString::fromStdString(row_.columns[static_cast<std::size_t>(section)].caption());
+}
+
+void ListModel::reload() {
+    if (row_.count() != shown_count_) {
+        beginResetModel();
+        shown_count_ = row_.count();
+        endResetModel();
+    } else if (shown_count_ > 0) {
+        Q_EMIT dataChanged(index(0, 0), index(static_cast<int>(shown_count_) - 1, columnCount() - 1));
+    }
+    Q_EMIT headerDataChanged(Qt::Horizontal, 0, columnCount() - 1);
+}
+
+ListView::ListView(const ListRow& row, QWidget* parent)
+    : QTreeView(parent), row_(row), model_(new ListModel(row, this)) {
+    setModel(model_);
+    setRootIsDecorated(false);
+    setUniformRowHeights(true);
+    setAllColumnsShowFocus(true);
+    setTabKeyNavigation(false);
+    header()->setSectionsClickable(static_cast<bool>(row.click_header));
+    header()->setSectionsMovable(false);
+    header()->setStretchLastSection(false);
+    header()->setHighlightSections(false);
+    connect(header(), &QHeaderView::sectionClicked, this, [this](int column) {
+        if (row_.click_header) row_.click_header(static_cast<std::size_t>(column));
+    });
+    connect(this, &QTreeView::activated, this, [this] {
+        if (row_.activate) row_.activate();
+    });
+    size_columns();
+}
+
+void ListView::size_columns() {
+    const int digit = fontMetrics().horizontalAdvance(QLatin1Char('0'));
+    for (int column = 0; column < model_->columnCount(); ++column) {
+        const auto& told = row_.columns[static_cast<std::size_t>(column)];
+        const int caption =
+            fontMetrics().horizontalAdvance(QString::fromStdString(told.caption())) + 2 * digit;
+        header()->resizeSection(column, std::max(digit * (told.width + 1), caption));
+        header()->setSectionResizeMode(column,
+                                       told.stretches ? QHeaderView::Stretch : QHeaderView::Interactive);
+    }
+}
+
+QSize ListView::sizeHint() const {
+    int digits = 0;
+    for (const auto& column : row_.columns) digits += column.width + 1;
+    const int digit = fontMetrics().horizontalAdvance(QLatin1Char('0'));
+    return {digit * digits + 3 * digit, fontMetrics().height() * 8};
+}
+
+void ListView::refresh() {
+    is_refreshing_ = true;
+    model_->reload();
+    size_columns();
+    const int row = row_.selected == nullptr ? -1 : std::min(*row_.selected, model_->rowCount() - 1);
+    setCurrentIndex(row < 0 ? QModelIndex() : model_->index(row, 0));
+    is_refreshing_ = false;
+}
+
+void ListView::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
+    QTreeView::currentChanged(current, previous);
+    if (!is_refreshing_ && selected) selected(current.row());
+}
+
+} // namespace wortlex

@@ -1,0 +1,47 @@
+// A list row of a form as a table with real columns.
+#pragma once
+
+#include "measures/fields/rows.h"
+
+#include <QAbstractTableModel>
+#include <QTreeView>
+
+namespace wortlex {
+
+class ListModel : public QAbstractTableModel {
+public:
+    ListModel(const ListRow& row, QObject* parent) : QAbstractTableModel(parent), row_(row) {}
+    int rowCount(const QModelIndex& parent = {}) const override;
+    int columnCount(const QModelIndex& parent = {}) const override;
+    QVariant data(const QModelIndex& index, int role) const override;
+    QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+    /// Everything may have changed.
+    void reload();
+
+private:
+    bool is_number(int column) const;
+
+    const ListRow& row_;
+    std::size_t shown_count_ = 0; ///< that the view has been told of
+};
+
+/// Selects whole rows, one at a time; typing finds by the first column.
+class ListView : public QTreeView {
+public:
+    ListView(const ListRow& row, QWidget* parent);
+    /// Shows the list anew, with the row of the form's selection selected.
+    void refresh();
+    QSize sizeHint() const override;
+
+    std::function<void(std::int32_t row)> selected;
+
+private:
+    void size_columns();
+    void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
+
+    const ListRow& row_;
+    ListModel* model_;
+    bool is_refreshing_ = false;
+};
+
+} // namespace wortlex

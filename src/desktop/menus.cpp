@@ -1,0 +1,24 @@
+#include "desktop/menus.h"
+
+#include "desktop/text.h"
+
+namespace wortlex {
+
+QAction& add_action(QMenu& menu, std::string_view caption, int command, const MenuAction& does) {
+    auto* const action = menu.addAction(string_of(caption));
+    action->setObjectName(QString::number(command));
+    action->setShortcut(does.key);
+    action->setEnabled(static_cast<bool>(does.action));
+    if (does.action) QObject::connect(action, &QAction::triggered, action, does.action);
+    return *action;
+}
+
+QMenu& add_menu(QMenu& menu, std::string_view caption) {
+    return *menu.addMenu(string_of(caption));
+}
+
+QMenu& add_menu(QMenuBar& bar, std::string_view caption) {
+    return *bar.addMenu(string_of(caption));
+}
+
+} // namespace wortlex

@@ -1,0 +1,109 @@
+#include "desktop/message_boxes.h"
+
+#include "desktop/colours.h"
+#include "desktop/text.h"
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QColorDialog>
+#include <QFile>
+#include <QFileDialog>
+#include <QMessageBox>
+
+namespace wortlex {
+namespace {
+
+QMessageBox::Icon icon_of(Icon icon) {
+    switch (icon) {
+    case Icon::information:
+        return QMessageBox::Information;
+    case Icon::question:
+        return QMessageBox::Question;
+    case Icon::warning:
+        return QMessageBox::Warning;
+    case Icon::error:
+        return QMessageBox::Critical;
+    default:
+        return QMessageBox::NoIcon;
+    }
+}
+
+void prepare(QMessageBox& box, const Message& message, QMessageBox::StandardButtons buttons) {
+    box.setWindowModality(Qt::WindowModal);
+    box.setWindowTitle(string_of(message.caption));
+    box.setTextFormat(Qt::PlainText);
+    box.setText(string_of(message.text));
+    box.setIcon(icon_of(message.icon));
+    box.setStandardButtons(buttons);
+    box.setTextInteractionFlags(Qt::TextSelectableByMouse);
+}
+
+int show(const Message& message, QMessageBox::StandardButtons buttons) {
+    QMessageBox box(window_in_use());
+    prepare(box, message, buttons);
+    return box.exec();
+}
+
+Answer answer_of(int button) {
+    if (button == QMessageBox::Yes) return Answer::yes;
+    return button == QMessageBox::No ? Answer::no : Answer::cancel;
+}
+
+} // namespace
+
+QWidget* window_in_use() {
+    if (auto* const modal = QApplication::activeModalWidget()) return modal;
+    if (auto* const active = QApplication::activeWindow()) return active;
+    for (auto* const window : QApplication::topLevelWidgets())
+        if (window->isVisible()) return window;
+    return nullptr;
+}
+
+void MessageBoxes::tell(const Message& message) {
+    show(message, QMessageBox::Ok);
+}
+
+// Closing a yes/no box without a word is the careful answer.
+Answer MessageBoxes::ask_yes_no(const Message& question) {
+    return show(question, QMessageBox::Yes | QMessageBox::No) == QMessageBox::Yes ? Answer::yes : Answer::no;
+}
+
+Answer MessageBoxes::ask_yes_no_cancel(const Message& question) {
+    return answer_of(show(question, QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel));
+}
+
+ReplaceAnswer MessageBoxes::ask_replace(std::string_view existing, std::string_view consequence) {
+    const auto text = std::string(existing).append(consequence);
+    const int button = show({.text = text, .icon = Icon::question},
+                            QMessageBox::Yes | QMessageBox::YesToAll | QMessageBox::No | QMessageBox::Cancel);
+    if (button == QMessageBox::YesToAll) return ReplaceAnswer::yes_to_all;
+    const auto answer = answer_of(button);
+    if (answer == Answer::yes) return ReplaceAnswer::yes;
+    return answer == Answer::no ? ReplaceAnswer::no : ReplaceAnswer::cancel;
+}
+
+std::optional<std::uint32_t> MessageBoxes::choose_colour(std::uint32_t start) {
+    const auto chosen = QColorDialog::getColor(colour_of(start), window_in_use());
+    if (!chosen.isValid()) return std::nullopt;
+    return static_cast<std::uint32_t>(chosen.red() | chosen.green() << 8 | chosen.blue() << 16);
+}
+
+std::optional<std::string> MessageBoxes::choose_folder(std::string_view title, const std::string& start) {
+    const auto chosen = QFileDialog::getExistingDirectory(
+        window_in_use(), string_of(title), QFile::decodeName(QByteArray::fromStdString(start)));
+    if (chosen.isEmpty()) return std::nullopt;
+    auto path = QFile::encodeName(chosen).toStdString();
+    if (path.back() != '/') path += '/';
+    return path;
+}
+
+bool MessageBoxes::remind(const Message& message) {
+    QMessageBox box(window_in_use());
+    prepare(box, message, QMessageBox::Ok);
+    auto* const check = new QCheckBox(QStringLiteral("Do not show me this message again."), &box);
+    box.setCheckBox(check);
+    box.exec();
+    return !check->isChecked();
+}
+
+} // namespace wortlex

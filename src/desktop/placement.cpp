@@ -1,0 +1,97 @@
+#include "desktop/placement.h"
+
+#include <QEvent>
+#include <QGuiApplication>
+#include <QScreen>
+
+#include <algorithm>
+
+namespace wortlex {
+namespace {
+
+std::int64_t shared_area(const Rectangle& a, const Rectangle& b) {
+    const std::int64_t width = std::int64_t{std::min(a.right, b.right)} - std::max(a.left, b.left);
+    const std::int64_t height = std::int64_t{std::min(a.bottom, b.bottom)} - std::max(a.top, b.top);
+    return width > 0 && height > 0 ? width * height : 0;
+}
+
+// The start of a stretch of `length` moved into low to high.
+std::int32_t moved_in(std::int32_t start, std::int32_t length, std::int32_t low, std::int32_t high) {
+    return std::clamp(start, low, std::max(low, high - length));
+}
+
+} // namespace
+
+Rectangle within_screens(const Rectangle& wanted, std::span<const Rectangle> screens) {
+    if (screens.empty()) return wanted;
+    const auto& screen =
+        *std::max_element(screens.begin(), screens.end(), [&](const Rectangle& a, const Rectangle& b) {
+            return shared_area(wanted, a) < shared_area(wanted, b);
+        });
+    // A damaged file may hold any numbers, so the differences are formed wide.
+    const auto extent = [](std::int64_t low, std::int64_t high, std::int64_t most) {
+        return static_cast<std::int32_t>(std::clamp(high - low, std::int64_t{1}, most));
+    };
+    const auto width = extent(wanted.left, wanted.right, std::int64_t{screen.right} - screen.left);
+    const auto height = extent(wanted.top, wanted.bottom, std::int64_t{screen.bottom} - screen.top);
+    const auto left = moved_in(wanted.left, width, screen.left, screen.right);
+    const auto top = moved_in(wanted.top, height, screen.top, screen.bottom);
+    return {left, top, left + width, top + height};
+}
+
+Rectangle centred_over(const Rectangle& origin, int width, int height) {
+    const int left = origin.left + (origin.right - origin.left - width) / 2;
+    const int top = origin.top + (origin.bottom - origin.top - height) / 2;
+    return {left, top, left + width, top + height};
+}
+
+std::vector<Rectangle> screen_rectangles() {
+    std::vector<Rectangle> screens;
+    for (const auto* const screen : QGuiApplication::screens()) {
+        const auto area = screen->availableGeometry();
+        screens.push_back({area.left(), area.top(), area.left() + area.width(), area.top() + area.height()});
+    }
+    return screens;
+}
+
+Rectangle rectangle_of(const QWidget& window) {
+    const auto corner = window.pos();
+    return {corner.x(), corner.y(), corner.x() + window.width(), corner.y() + window.height()};
+}
+
+WindowPlace::WindowPlace(QWidget& window, QWidget* origin, int slot, const Places& places)
+    : QObject(&window), window_(window), origin_(origin), slot_(slot), places_(places) {
+    window.installEventFilter(this);
+}
+
+bool WindowPlace::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::Show && !is_put_) put();
+    if (event->type() == QEvent::Hide && !event->spontaneous()) remember();
+    return QObject::eventFilter(watched, event);
+}
+
+void WindowPlace::put() {
+    is_put_ = true;
+    const auto screens = screen_rectangles();
+    auto place = Rectangle{};
+    if (slot_ != no_place && places_.settings.save_window_positions != 0)
+        place = places_.positions.slots[static_cast<std::size_t>(slot_)];
+    if (place.left == 0) {
+        const auto origin = origin_ != nullptr ? rectangle_of(*origin_->window())
+                            : !screens.empty() ? screens.front()
+                                               : Rectangle{0, 0, 640, 480};
+        place = centred_over(origin, window_.width(), window_.height());
+    }
+    place = within_screens(place, screens);
+    window_.resize(place.right - place.left, place.bottom - place.top);
+    window_.move(place.left, place.top);
+}
+
+void WindowPlace::remember() {
+    if (slot_ == no_place || places_.settings.save_window_positions == 0 || window_.isMinimized()) return;
+    auto place = rectangle_of(window_);
+    if (place.left == 0) place.left = 1; // a left of zero would read as no place at all
+    places_.positions.slots[static_cast<std::size_t>(slot_)] = place;
+}
+
+} // namespace wortlex

@@ -1,0 +1,51 @@
+// Where windows stand: at their remembered place or centred on their origin, and always on a screen.
+#pragma once
+
+#include "desktop/window_table.h"
+#include "frame/settings/settings.h"
+#include "frame/settings/system_files.h"
+
+#include <QObject>
+#include <QPointer>
+#include <QWidget>
+
+#include <span>
+
+namespace wortlex {
+
+/// `wanted` moved, and where it is too large cut, to lie within the screen that it covers most; with no
+/// screen at all it stays. A window that lies on none goes to the first.
+Rectangle within_screens(const Rectangle& wanted, std::span<const Rectangle> screens);
+
+/// A window of this size centred over `origin`.
+Rectangle centred_over(const Rectangle& origin, int width, int height);
+
+/// What the placement of every window reads and writes.
+struct Places {
+    ToolPositions& positions;
+    const SystemSettings& settings;
+};
+
+std::vector<Rectangle> screen_rectangles();
+Rectangle rectangle_of(const QWidget& window);
+
+/// Puts a window, as it is first shown, to its place in `slot`, or centres it over `origin`, and remembers
+/// its place when it goes.
+class WindowPlace : public QObject {
+public:
+    /// The window owns it. `slot` may be `no_place`.
+    WindowPlace(QWidget& window, QWidget* origin, int slot, const Places& places);
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void put();
+    void remember();
+
+    QWidget& window_;
+    QPointer<QWidget> origin_;
+    int slot_;
+    Places places_;
+    bool is_put_ = false;
+};
+
+} // namespace wortlex

@@ -1,0 +1,51 @@
+#include "desktop/tool_window.h"
+
+#include "desktop/text.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QDialog>
+
+#include <utility>
+
+namespace wortlex {
+
+void dress_window(QWidget& window, const WindowInfo& info, std::size_t use, Opener opener, QWidget* origin,
+                  const Places& places) {
+    window.setObjectName(string_of(info.template_name));
+    window.setWindowTitle(string_of(info.captions.at(use)));
+    new WindowPlace(window, origin, info.places.at(static_cast<std::size_t>(opener)),
+                    places); // the window owns it
+}
+
+bool show_modal_child(const QWidget& window) {
+    for (auto* const child : window.findChildren<QDialog*>()) {
+        if (!child->isVisible() || !child->isModal()) continue;
+        if (!show_modal_child(*child)) bring_forward(*child);
+        return true;
+    }
+    return false;
+}
+
+void bring_forward(QWidget& window) {
+    if (window.isMinimized()) window.showNormal();
+    window.show();
+    window.raise();
+    window.activateWindow();
+    if (window.focusWidget() == nullptr) window.setFocus();
+}
+
+ToolWindow::ToolWindow() {
+    setAttribute(Qt::WA_DeleteOnClose);
+}
+
+void ToolWindow::closeEvent(QCloseEvent* event) {
+    if (show_modal_child(*this) || !may_close()) {
+        event->ignore();
+        return;
+    }
+    event->accept();
+    if (closed) std::exchange(closed, nullptr)();
+}
+
+} // namespace wortlex

@@ -1,0 +1,35 @@
+// The base of the windows that stay open beside each other.
+#pragma once
+
+#include "desktop/placement.h"
+
+#include <QWidget>
+
+#include <functional>
+
+namespace wortlex {
+
+/// Applies a window's row of the table: name, caption by use, place by opener.
+void dress_window(QWidget& window, const WindowInfo& info, std::size_t use, Opener opener, QWidget* origin,
+                  const Places& places);
+
+/// Brings the modal dialog that a window has open to the front; false if it has none.
+bool show_modal_child(const QWidget& window);
+
+/// Shows, raises and focuses a window, from its icon too.
+void bring_forward(QWidget& window);
+
+/// Modeless and without an owner, so that it can lie behind the main window. Deleted when closed.
+class ToolWindow : public QWidget {
+public:
+    ToolWindow();
+
+    std::function<void()> closed; ///< told once, when it is gone from the screen
+
+protected:
+    /// Whether nothing stands against closing; asks the user where there is unsaved work.
+    virtual bool may_close() { return true; }
+    void closeEvent(QCloseEvent* event) override;
+};
+
+} // namespace wortlex

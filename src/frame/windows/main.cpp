@@ -1,0 +1,48 @@
+// wortlex: run in a brewery folder, it opens the main window on it, and a document given by name.
+#include "frame/start.h"
+#include "frame/windows/main_window.h"
+
+#include <QApplication>
+#include <QFile>
+#include <QIcon>
+#include <QLockFile>
+
+namespace wortlex {
+namespace {
+
+// Two programs on one brewery folder would overwrite each other's databases. A folder that cannot be written
+// to needs no guard.
+bool is_open_elsewhere(QLockFile& lock) {
+    lock.setStaleLockTime(0); // only the end of the other program frees the folder, not the hour
+    return !lock.tryLock() && lock.error() == QLockFile::LockFailedError;
+}
+
+int run(int count, char** arguments) {
+    const QApplication application(count, arguments);
+    QApplication::setApplicationName(QStringLiteral("wortlex"));
+    QApplication::setDesktopFileName(QStringLiteral("wortlex"));
+    QApplication::setWindowIcon(QIcon(QStringLiteral(":/artwork/application/wortlex.svg")));
+    // The end is the main window's to tell: a recipe that is closed behind it must not end the program.
+    QApplication::setQuitOnLastWindowClosed(false);
+    MessageBoxes prompts;
+    const auto folder = working_folder();
+    QLockFile lock(QString::fromLocal8Bit(folder) + QStringLiteral(".wortlex.lock"));
+    if (is_open_elsewhere(lock)) {
+        prompts.tell({.text = "Wortlex is already open in this brewery folder.", .icon = Icon::information});
+        return 0;
+    }
+    Program program;
+    if (!start(program, folder, prompts)) return 0;
+    MainWindow window(program);
+    window.show();
+    if (const auto files = QApplication::arguments(); files.size() > 1)
+        window.open_file(QFile::encodeName(files.at(1)).toStdString());
+    return QApplication::exec();
+}
+
+} // namespace
+} // namespace wortlex
+
+int main(int count, char** arguments) {
+    return wortlex::run(count, arguments);
+}

@@ -1,0 +1,158 @@
+#include "frame/windows/main_window.h"
+
+#include "desktop/menus.h"
+#include "desktop/text.h"
+#include "documents/windows/recipe_window.h"
+#include "frame/exit.h"
+#include "frame/windows/open_window.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QDragEnterEvent>
+#include <QFile>
+#include <QMimeData>
+
+namespace wortlex {
+namespace {
+
+constexpr int recipe_closed = 6000;
+
+QKeySequence key_of(int command) {
+    switch (command) {
+    case command::new_recipe:
+        return QKeySequence::New;
+    case command::open_recipe:
+        return QKeySequence::Open;
+    case command::exit:
+        return QKeySequence::Quit;
+    default:
+        return {};
+    }
+}
+
+// The one document among what is dragged, or nothing.
+std::optional<std::string> dragged_document(const QMimeData& dragged) {
+    if (dragged.urls().size() != 1 || !dragged.urls().front().isLocalFile()) return std::nullopt;
+    auto path = QFile::encodeName(dragged.urls().front().toLocalFile()).toStdString();
+    return document_kind(path) ? std::optional(std::move(path)) : std::nullopt;
+}
+
+int command_of(DocumentKind kind) {
+    return kind == DocumentKind::recipe ? command::open_recipe : command::open_session;
+}
+
+} // namespace
+
+MainWindow::MainWindow(Program& program) : program_(program) {
+    const auto& info = window_info("GENERIC");
+    setObjectName(string_of(info.template_name));
+    setWindowTitle(string_of(info.captions[0]));
+    setAcceptDrops(true);
+    board_ = new PictureBoard(program.data_folder, art_scheme(program.art_scheme), commands_, prompts_, this);
+    setCentralWidget(board_);
+    carry_out_commands();
+    add_menu();
+    board_->show_commands();
+    put();
+}
+
+void MainWindow::carry_out_commands() {
+    commands_.carry_out(command::new_recipe, [this] {
+        if (!wants(DocumentKind::recipe)) return;
+        new_recipe(program_);
+        show_recipe();
+    });
+    commands_.carry_out(command::open_recipe, [this] {
+        if (wants(DocumentKind::recipe) && choose_and_open(program_, DocumentKind::recipe, files_, prompts_))
+            show_recipe();
+    });
+    commands_.carry_out(command::exit, [this] { close(); });
+}
+
+bool MainWindow::wants(DocumentKind kind) {
+    return want_document(program_.tools, kind, prompts_) == Wanted::go_on;
+}
+
+void MainWindow::add_menu() {
+    fill_menu(*menuBar(), main_menu(), [this](int command) -> MenuAction {
+        if (!commands_.is_built(command)) return {};
+        return {[this, command] { commands_.start(command); }, key_of(command)};
+    });
+    auto* const recent = menuBar()->findChild<QAction*>(QString::number(command::open_recent));
+    auto* const menu = new QMenu(this);
+    recent->setMenu(menu);
+    recent->setEnabled(true);
+    connect(menu, &QMenu::aboutToShow, this, [this, menu] { fill_recent(*menu); });
+    fill_recent(*menu);
+}
+
+void MainWindow::fill_recent(QMenu& menu) {
+    menu.clear();
+    const auto& recent = program_.recent_documents;
+    for (std::size_t i = 0; i < recent.size(); ++i) {
+        auto name = QFile::decodeName(QByteArray::fromStdString(recent_name(recent, i)));
+        name.replace(QLatin1Char('&'), QLatin1String("&&"));
+        auto* const action =
+            menu.addAction(QLatin1Char('&') + QString::number(i + 1) + QLatin1Char(' ') + name);
+        const auto kind = document_kind(recent[i]);
+        action->setEnabled(kind && commands_.is_built(command_of(*kind)));
+        action->setToolTip(QFile::decodeName(QByteArray::fromStdString(recent[i])));
+        connect(action, &QAction::triggered, this, [this, path = recent[i]] { open_file(path); });
+    }
+    if (recent.empty()) menu.addAction(QStringLiteral("No Documents Yet"))->setEnabled(false);
+    menu.setToolTipsVisible(true);
+}
+
+// Only the corner is taken from the last time, never the size.
+void MainWindow::put() {
+    resize(sizeHint());
+    const auto& last = program_.main_position.window;
+    const auto place =
+        within_screens({last.left, last.top, last.left + width(), last.top + height()}, screen_rectangles());
+    move(place.left, place.top);
+}
+
+void MainWindow::open_file(const std::string& path) {
+    const auto kind = document_kind(path);
+    if (kind && !commands_.is_built(command_of(*kind))) return;
+    if (open_document_file(program_, path, prompts_)) show_recipe();
+}
+
+void MainWindow::show_recipe() {
+    auto* const window = new RecipeWindow(program_, {files_, prompts_}, this); // deletes itself when closed
+    show_tool(*window, command::new_recipe, recipe_closed);
+    window->tell_method();
+}
+
+void MainWindow::show_tool(ToolWindow& window, int command, int closing_notification) {
+    auto handle = std::make_shared<OpenWindow>(window);
+    opened(program_.tools, command, handle);
+    window.closed = [this, handle, closing_notification] { closed(program_.tools, closing_notification); };
+    window.show();
+}
+
+void MainWindow::closeEvent(QCloseEvent* event) {
+    if (show_modal_child(*this)) return event->ignore();
+    std::optional<MainPosition> position;
+    if (!isMinimized()) position = {rectangle_of(*this), static_cast<std::uint8_t>(isMaximized() ? 1 : 0)};
+    if (!leave(program_, position)) return event->ignore();
+    event->accept();
+    // The calculators that are still open have nothing to lose.
+    QMetaObject::invokeMethod(qApp, &QCoreApplication::quit, Qt::QueuedConnection);
+}
+
+void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
+    const auto path = dragged_document(*event->mimeData());
+    if (path && commands_.is_built(command_of(*document_kind(*path)))) event->acceptProposedAction();
+}
+
+void MainWindow::dropEvent(QDropEvent* event) {
+    const auto path = dragged_document(*event->mimeData());
+    if (!path) return;
+    event->acceptProposedAction();
+    // Questions wait until the drag is over: until then the other program hangs on our answer.
+    QMetaObject::invokeMethod(
+        this, [this, path] { open_file(*path); }, Qt::QueuedConnection);
+}
+
+} // namespace wortlex

@@ -1,0 +1,45 @@
+// The main window: its menu, its picture, and where commands become windows.
+#pragma once
+
+#include "desktop/desk.h"
+#include "desktop/message_boxes.h"
+#include "desktop/tool_window.h"
+#include "frame/program.h"
+#include "frame/windows/picture_board.h"
+
+#include <QMainWindow>
+
+namespace wortlex {
+
+class MainWindow : public QMainWindow {
+public:
+    /// `program` has started.
+    explicit MainWindow(Program& program);
+
+    CommandTable& commands() { return commands_; }
+    /// Opens a document file as if it were dropped on the window.
+    void open_file(const std::string& path);
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+
+private:
+    void carry_out_commands();
+    void add_menu();
+    void fill_recent(QMenu& menu);
+    void put();
+    bool wants(DocumentKind kind);
+    void show_recipe();
+    /// Shows a new tool window and keeps the books of it until it closes.
+    void show_tool(ToolWindow& window, int command, int closing_notification);
+
+    Program& program_;
+    MessageBoxes prompts_;
+    FileDialogs files_;
+    CommandTable commands_;
+    PictureBoard* board_ = nullptr;
+};
+
+} // namespace wortlex

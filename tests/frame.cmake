@@ -1,0 +1,1 @@
+room_tests(frame_tests DEPENDS frame SOURCES frame/frame_test.cpp)
