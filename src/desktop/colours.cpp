@@ -19,8 +19,6 @@ void apply_colours(QWidget& field, ColorArea area, const SystemSettings& setting
         palette.setColor(group, QPalette::Base, ground);
         palette.setColor(group, QPalette::AlternateBase, ground);
         palette.setColor(group, QPalette::PlaceholderText, text);
-        palette.setColor(group, QPalette::Highlight, text);
-        palette.setColor(group, QPalette::HighlightedText, ground);
     }
     palette.setColor(QPalette::Disabled, QPalette::Base, palette.color(QPalette::Disabled, QPalette::Window));
     field.setPalette(palette);

@@ -6,9 +6,9 @@
 namespace wortlex {
 
 FormDialog::FormDialog(Form& form, const DialogUse& use, const Places& places, QWidget* owner)
-    : QDialog(owner), form_(form), widgets_(form, places.settings, *this) {
+    : QDialog(owner), form_(form), widgets_(form, places.settings, *this),
+      place_(dress_window(*this, window_info(use.template_name), use.caption, use.opener, owner, places)) {
     setWindowModality(Qt::WindowModal);
-    dress_window(*this, window_info(use.template_name), use.caption, use.opener, owner, places);
     auto* const layout = new QVBoxLayout(this);
     layout->addLayout(lay_out(form, widgets_));
     auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Ok, this);
@@ -16,6 +16,11 @@ FormDialog::FormDialog(Form& form, const DialogUse& use, const Places& places, Q
     layout->addWidget(buttons);
     connect(buttons, &QDialogButtonBox::accepted, this, &FormDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &FormDialog::reject);
+}
+
+void FormDialog::setVisible(bool visible) {
+    if (visible) place_.put();
+    QDialog::setVisible(visible);
 }
 
 void FormDialog::accept() {

@@ -23,10 +23,12 @@ public:
 
     void accept() override;
     void reject() override;
+    void setVisible(bool visible) override;
 
 private:
     Form& form_;
     FormWidgets widgets_;
+    WindowPlace& place_;
 };
 
 /// Shows the form until it is closed; whether with OK.

@@ -30,7 +30,7 @@ void aim_at_width(QLineEdit& line, const EntryRow& row, int beside) {
     auto* const field = beside > 0 ? line.parentWidget() : &line;
     const int width = digit * (row.columns + 2) + beside;
     field->setMinimumWidth(width);
-    if (row.is_number()) field->setMaximumWidth(2 * width);
+    if (row.is_number()) field->setMaximumWidth(width);
     if (row.is_number()) line.setAlignment(Qt::AlignRight);
 }
 

@@ -82,7 +82,7 @@ QSize ListView::sizeHint() const {
     int digits = 0;
     for (const auto& column : row_.columns) digits += column.width + 1;
     const int digit = fontMetrics().horizontalAdvance(QLatin1Char('0'));
-    return {digit * digits + 3 * digit, fontMetrics().height() * 8};
+    return {digit * digits + 3 * digit, fontMetrics().height() * 10};
 }
 
 void ListView::refresh() {

@@ -5,6 +5,7 @@
 #include <QScreen>
 
 #include <algorithm>
+#include <utility>
 
 namespace wortlex {
 namespace {
@@ -65,13 +66,13 @@ WindowPlace::WindowPlace(QWidget& window, QWidget* origin, int slot, const Place
 }
 
 bool WindowPlace::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() == QEvent::Show && !is_put_) put();
     if (event->type() == QEvent::Hide && !event->spontaneous()) remember();
     return QObject::eventFilter(watched, event);
 }
 
 void WindowPlace::put() {
-    is_put_ = true;
+    if (std::exchange(is_put_, true)) return;
+    if (!window_.testAttribute(Qt::WA_Resized)) window_.adjustSize();
     const auto screens = screen_rectangles();
     auto place = Rectangle{};
     if (slot_ != no_place && places_.settings.save_window_positions != 0)

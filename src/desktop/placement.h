@@ -29,16 +29,16 @@ struct Places {
 std::vector<Rectangle> screen_rectangles();
 Rectangle rectangle_of(const QWidget& window);
 
-/// Puts a window, as it is first shown, to its place in `slot`, or centres it over `origin`, and remembers
-/// its place when it goes.
+/// Puts a window to its place in `slot`, or centres it over `origin`, and remembers its place when it goes.
 class WindowPlace : public QObject {
 public:
     /// The window owns it. `slot` may be `no_place`.
     WindowPlace(QWidget& window, QWidget* origin, int slot, const Places& places);
+    /// To be called before the window is first shown; later calls do nothing.
+    void put();
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    void put();
     void remember();
 
     QWidget& window_;

@@ -10,12 +10,12 @@
 
 namespace wortlex {
 
-void dress_window(QWidget& window, const WindowInfo& info, std::size_t use, Opener opener, QWidget* origin,
-                  const Places& places) {
+WindowPlace& dress_window(QWidget& window, const WindowInfo& info, std::size_t use, Opener opener,
+                          QWidget* origin, const Places& places) {
     window.setObjectName(string_of(info.template_name));
     window.setWindowTitle(string_of(info.captions.at(use)));
-    new WindowPlace(window, origin, info.places.at(static_cast<std::size_t>(opener)),
-                    places); // the window owns it
+    return *new WindowPlace(window, origin, info.places.at(static_cast<std::size_t>(opener)),
+                            places); // the window owns it
 }
 
 bool show_modal_child(const QWidget& window) {
@@ -35,8 +35,15 @@ void bring_forward(QWidget& window) {
     if (window.focusWidget() == nullptr) window.setFocus();
 }
 
-ToolWindow::ToolWindow() {
+ToolWindow::ToolWindow(const WindowInfo& info, std::size_t use, Opener opener, QWidget* origin,
+                       const Places& places)
+    : place_(dress_window(*this, info, use, opener, origin, places)) {
     setAttribute(Qt::WA_DeleteOnClose);
+}
+
+void ToolWindow::setVisible(bool visible) {
+    if (visible) place_.put();
+    QWidget::setVisible(visible);
 }
 
 void ToolWindow::closeEvent(QCloseEvent* event) {

@@ -9,9 +9,10 @@
 
 namespace wortlex {
 
-/// Applies a window's row of the table: name, caption by use, place by opener.
-void dress_window(QWidget& window, const WindowInfo& info, std::size_t use, Opener opener, QWidget* origin,
-                  const Places& places);
+/// Applies a window's row of the table: name, caption by use, place by opener. The place is the window's to
+/// put.
+WindowPlace& dress_window(QWidget& window, const WindowInfo& info, std::size_t use, Opener opener,
+                          QWidget* origin, const Places& places);
 
 /// Brings the modal dialog that a window has open to the front; false if it has none.
 bool show_modal_child(const QWidget& window);
@@ -22,7 +23,8 @@ void bring_forward(QWidget& window);
 /// Modeless and without an owner, so that it can lie behind the main window. Deleted when closed.
 class ToolWindow : public QWidget {
 public:
-    ToolWindow();
+    ToolWindow(const WindowInfo& info, std::size_t use, Opener opener, QWidget* origin, const Places& places);
+    void setVisible(bool visible) override;
 
     std::function<void()> closed; ///< told once, when it is gone from the screen
 
@@ -30,6 +32,9 @@ protected:
     /// Whether nothing stands against closing; asks the user where there is unsaved work.
     virtual bool may_close() { return true; }
     void closeEvent(QCloseEvent* event) override;
+
+private:
+    WindowPlace& place_;
 };
 
 } // namespace wortlex

@@ -31,6 +31,7 @@ public:
         };
         rows_.shown(std::move(key), blank_without_style(std::move(text)))
             .label(std::move(label))
+            .figure()
             .width(6)
             .colours(ColorArea::style_guidelines);
     }
@@ -89,6 +90,7 @@ void size_rows(Rows& rows, const RecipeSubject& subject) {
     rows.button("pre_boil", "Pre-Boil", nullptr);
     rows.shown("boil_minutes", [&] { return formatted("%d", document.boil_minutes); })
         .label("Boil Time")
+        .figure()
         .width(6);
     rows.shown("efficiency",
                [&] {
@@ -96,6 +98,7 @@ void size_rows(Rows& rows, const RecipeSubject& subject) {
                                                : formatted("%0.0f", narrow(document.efficiency * 100.0));
                })
         .label("% Efficiency")
+        .figure()
         .width(6);
     rows.check("efficiency_lock", subject.view.locks.efficiency).label("Lock").enabled(false);
 }

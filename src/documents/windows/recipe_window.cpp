@@ -32,10 +32,10 @@ void add_field(QGridLayout& grid, const FormWidgets& widgets, std::string_view k
 } // namespace
 
 RecipeWindow::RecipeWindow(Program& program, const RecipeWindowPorts& ports, QWidget* origin)
-    : program_(program), ports_(ports), subject_{open_recipe(program), view_, program.color_table},
+    : ToolWindow(window_info("RECIPEDIALOG"), 0, Opener::main, origin,
+                 {program.tool_positions, program.settings}),
+      program_(program), ports_(ports), subject_{open_recipe(program), view_, program.color_table},
       form_(made_form(subject_)), widgets_(form_, program.settings, *this) {
-    dress_window(*this, window_info("RECIPEDIALOG"), 0, Opener::main, origin,
-                 {program.tool_positions, program.settings});
     auto* const layout = new QVBoxLayout(this);
     add_menu();
     auto* const top = new QHBoxLayout;
@@ -93,19 +93,17 @@ QLayout* RecipeWindow::size_part() {
 QWidget* RecipeWindow::style_part() {
     auto* const box = new QGroupBox(tr("Style"), this);
     auto* const grid = new QGridLayout(box);
-    add_field(*grid, widgets_, "style_class", 0, 0, 3);
-    add_field(*grid, widgets_, "style_name", 1, 0, 3);
-    add_field(*grid, widgets_, "style_type", 2, 0, 3);
-    add_field(*grid, widgets_, "style_book", 0, 4);
-    grid->addWidget(&widgets_.field("pick_style"), 1, 5);
-    int row = 3;
+    int row = 0;
+    for (const auto* const key : {"style_class", "style_name", "style_type", "style_book"})
+        add_field(*grid, widgets_, key, row++, 0);
+    row = 0;
     for (const auto& [low, high] :
          {std::pair{"min_sg", "max_sg"}, {"min_ibu", "max_ibu"}, {"min_colour", "max_colour"}}) {
-        add_field(*grid, widgets_, low, row, 0);
-        add_field(*grid, widgets_, high, row++, 2);
+        add_field(*grid, widgets_, low, row, 2);
+        add_field(*grid, widgets_, high, row++, 4);
     }
+    grid->addWidget(&widgets_.field("pick_style"), row, 2, 1, 4, Qt::AlignRight);
     grid->setColumnStretch(1, 1);
-    grid->setColumnStretch(3, 1);
     return box;
 }
 

@@ -256,10 +256,15 @@ bool ParsedRow::spun(TextField& field, Spin direction) {
     return has_changed;
 }
 
-ShownRow::ShownRow(std::string row_key, std::function<std::string()> text, bool is_number)
-    : EntryOptions(std::move(row_key), is_number ? ColorArea::shown_numbers : ColorArea::shown_text),
-      text_(std::move(text)), number_(is_number) {
-    columns = is_number ? 8 : 20;
+ShownRow::ShownRow(std::string row_key, std::function<std::string()> text)
+    : EntryOptions(std::move(row_key), ColorArea::shown_text), text_(std::move(text)) {
+    columns = 20;
+}
+
+ShownRow& ShownRow::figure() {
+    number_ = true;
+    area = ColorArea::shown_numbers;
+    return width(8);
 }
 
 } // namespace wortlex

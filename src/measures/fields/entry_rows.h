@@ -161,8 +161,10 @@ private:
 /// A figure or text that is only shown. It can be focused and copied.
 class ShownRow : public EntryOptions<ShownRow> {
 public:
-    ShownRow(std::string row_key, std::function<std::string()> text, bool is_number);
+    ShownRow(std::string row_key, std::function<std::string()> text);
     ShownRow& lines() { return multi_line_ = true, *this; }
+    /// Looks like a number, even where it may be blank.
+    ShownRow& figure();
 
     void show(TextField& field) const override { field.set_text(text_()); }
     bool is_read_only() const override { return true; }
@@ -171,7 +173,7 @@ public:
 
 private:
     std::function<std::string()> text_;
-    bool number_;
+    bool number_ = false;
     bool multi_line_ = false;
 };
 

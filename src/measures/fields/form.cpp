@@ -36,14 +36,13 @@ ParsedRow& Rows::parsed(std::string key, std::function<std::string()> text,
 }
 
 ShownRow& Rows::shown(std::string key, std::function<std::string()> text) {
-    return add<ShownRow>(std::move(key), std::move(text), false);
+    return add<ShownRow>(std::move(key), std::move(text));
 }
 
 ShownRow& Rows::shown_number(std::string key, std::function<float()> value, Live<std::string> pattern) {
-    return add<ShownRow>(
-        std::move(key),
-        [value = std::move(value), pattern = std::move(pattern)] { return formatted(pattern(), value()); },
-        true);
+    return shown(std::move(key), [value = std::move(value),
+                                  pattern = std::move(pattern)] { return formatted(pattern(), value()); })
+        .figure();
 }
 
 ChoiceRow& Rows::choice(std::string key, Binding<std::int32_t> code, std::vector<Live<std::string>> words) {
