@@ -1,1 +1,7 @@
 room_tests(frame_tests DEPENDS frame SOURCES frame/frame_test.cpp)
+
+find_package(Qt6 REQUIRED COMPONENTS Test)
+add_executable(windows_tests support/qt_main.cpp desktop/desktop_test.cpp frame/windows/main_window_test.cpp)
+target_include_directories(windows_tests PRIVATE ${CMAKE_CURRENT_SOURCE_DIR})
+target_link_libraries(windows_tests PRIVATE frame_windows Qt6::Test GTest::gmock GTest::gtest)
+add_test(NAME windows_tests COMMAND windows_tests)

@@ -91,7 +91,8 @@ void WindowPlace::put() {
 void WindowPlace::remember() {
     if (slot_ == no_place || places_.settings.save_window_positions == 0 || window_.isMinimized()) return;
     auto place = rectangle_of(window_);
-    if (place.left == 0) place.left = 1; // a left of zero would read as no place at all
+    // A left of zero would read as no place at all.
+    if (place.left == 0) place = {1, place.top, place.right + 1, place.bottom};
     places_.positions.slots[static_cast<std::size_t>(slot_)] = place;
 }
 

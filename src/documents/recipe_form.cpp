@@ -4,8 +4,6 @@
 #include "measures/gravity.h"
 #include "measures/units.h"
 
-#include <algorithm>
-
 namespace wortlex {
 namespace {
 
@@ -107,16 +105,11 @@ void figure_rows(Rows& rows, const RecipeSubject& subject) {
     const auto& document = subject.open.document;
     const auto& figures = subject.open.figures;
     const auto& settings = subject.open.settings;
-    const auto decimals = [](std::uint32_t fewest, std::uint32_t precision) {
-        return "%0." + std::to_string(fewest + std::min(precision, 2U)) + "f";
-    };
-    rows.shown_number(
-            "sg", [&] { return sg_of(document.og_points); },
-            [&settings, decimals] { return decimals(3, settings.sg_precision); })
+    rows.shown_sg(
+            "sg", [&] { return sg_of(document.og_points); }, settings)
         .label("SG");
-    rows.shown_number(
-            "plato", [&] { return sg_to_plato(sg_of(document.og_points)); },
-            [&settings, decimals] { return decimals(1, settings.plato_precision); })
+    rows.shown_plato(
+            "plato", [&] { return sg_to_plato(sg_of(document.og_points)); }, settings)
         .label("Plato");
     rows.shown_number(
             "total_ibu", [&] { return document.total_ibu; }, "%0.1f")

@@ -35,7 +35,7 @@ inline std::ptrdiff_t first_difference(ByteView a, ByteView b) {
     return in_a == a.end() && in_b == b.end() ? -1 : in_a - a.begin();
 }
 
-struct Row {
+struct Placed {
     std::size_t offset;
     Bytes bytes;
 };
@@ -49,7 +49,7 @@ auto element(const std::array<T, N>& list) -> decltype(element(list[0]));
 
 /// A field of the file's type `Stored`, or an array of such; enums count as their width.
 template <class Stored>
-Row field(std::size_t offset, const auto& value) {
+Placed field(std::size_t offset, const auto& value) {
     using Element = decltype(element(value));
     static_assert(sizeof(Element) == sizeof(Stored));
     static_assert(std::is_floating_point_v<Element> == std::is_floating_point_v<Stored>);
@@ -58,24 +58,24 @@ Row field(std::size_t offset, const auto& value) {
     return {offset, {bytes.begin(), bytes.end()}};
 }
 // clang-format off
-inline Row u8(std::size_t offset, const auto& value) { return field<std::uint8_t>(offset, value); }
-inline Row i16(std::size_t offset, const auto& value) { return field<std::int16_t>(offset, value); }
-inline Row i32(std::size_t offset, const auto& value) { return field<std::int32_t>(offset, value); }
-inline Row u32(std::size_t offset, const auto& value) { return field<std::uint32_t>(offset, value); }
-inline Row f32(std::size_t offset, const auto& value) { return field<float>(offset, value); }
-inline Row text(std::size_t offset, const auto& value) { return field<char>(offset, value); }
+inline Placed u8(std::size_t offset, const auto& value) { return field<std::uint8_t>(offset, value); }
+inline Placed i16(std::size_t offset, const auto& value) { return field<std::int16_t>(offset, value); }
+inline Placed i32(std::size_t offset, const auto& value) { return field<std::int32_t>(offset, value); }
+inline Placed u32(std::size_t offset, const auto& value) { return field<std::uint32_t>(offset, value); }
+inline Placed f32(std::size_t offset, const auto& value) { return field<float>(offset, value); }
+inline Placed text(std::size_t offset, const auto& value) { return field<char>(offset, value); }
 // clang-format on
 
 /// The records of a list one after the other.
-Row each(std::size_t offset, const auto& list, auto table) {
-    Row row{offset, {}};
+Placed each(std::size_t offset, const auto& list, auto table) {
+    Placed row{offset, {}};
     for (const auto& record : list) std::ranges::copy(table(record), std::back_inserter(row.bytes));
     return row;
 }
 
 /// The bytes of a record, whose rows leave neither gap nor overlap.
 struct Table : Bytes {
-    Table(std::initializer_list<Row> rows) {
+    Table(std::initializer_list<Placed> rows) {
         for (const auto& row : rows) {
             EXPECT_EQ(row.offset, size()) << "the row before is wider or narrower than its table says";
             insert(end(), row.bytes.begin(), row.bytes.end());

@@ -1,4 +1,6 @@
 // wortlex: run in a brewery folder, it opens the main window on it, and a document given by name.
+#include "desktop/desk.h"
+#include "desktop/message_boxes.h"
 #include "frame/start.h"
 #include "frame/windows/main_window.h"
 
@@ -33,7 +35,8 @@ int run(int count, char** arguments) {
     }
     Program program;
     if (!start(program, folder, prompts)) return 0;
-    MainWindow window(program);
+    FileDialogs files;
+    MainWindow window(program, prompts, files);
     window.show();
     if (const auto files = QApplication::arguments(); files.size() > 1)
         window.open_file(QFile::encodeName(files.at(1)).toStdString());

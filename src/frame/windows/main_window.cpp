@@ -43,7 +43,8 @@ int command_of(DocumentKind kind) {
 
 } // namespace
 
-MainWindow::MainWindow(Program& program) : program_(program) {
+MainWindow::MainWindow(Program& program, Prompts& prompts, Files& files)
+    : program_(program), prompts_(prompts), files_(files) {
     const auto& info = window_info("GENERIC");
     setObjectName(string_of(info.template_name));
     setWindowTitle(string_of(info.captions[0]));

@@ -1,8 +1,6 @@
 // The main window: its menu, its picture, and where commands become windows.
 #pragma once
 
-#include "desktop/desk.h"
-#include "desktop/message_boxes.h"
 #include "desktop/tool_window.h"
 #include "frame/program.h"
 #include "frame/windows/picture_board.h"
@@ -14,7 +12,7 @@ namespace wortlex {
 class MainWindow : public QMainWindow {
 public:
     /// `program` has started.
-    explicit MainWindow(Program& program);
+    MainWindow(Program& program, Prompts& prompts, Files& files);
 
     CommandTable& commands() { return commands_; }
     /// Opens a document file as if it were dropped on the window.
@@ -36,8 +34,8 @@ private:
     void show_tool(ToolWindow& window, int command, int closing_notification);
 
     Program& program_;
-    MessageBoxes prompts_;
-    FileDialogs files_;
+    Prompts& prompts_;
+    Files& files_;
     CommandTable commands_;
     PictureBoard* board_ = nullptr;
 };

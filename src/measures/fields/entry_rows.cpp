@@ -89,9 +89,8 @@ void NumberRow::show(TextField& field) const {
     show_float(field, shown(), pattern_());
 }
 
-bool NumberRow::store(float shown_value, bool has_changed) {
-    if (has_changed) value_.set(from_shown_ ? from_shown_(shown_value) : shown_value);
-    return has_changed;
+void NumberRow::store(float shown_value, float before) {
+    if (shown_value != before) value_.set(from_shown_ ? from_shown_(shown_value) : shown_value);
 }
 
 bool NumberRow::type_into(TextField& field, float& value, const Range& range) const {
@@ -111,18 +110,23 @@ bool NumberRow::typed(TextField& field) {
     const Range range{typed_low_(), typed_high_()};
     const float before = shown();
     float value = before;
-    if (outside_ == Outside::ignore) return store(value, type_into(field, value, range));
+    if (outside_ == Outside::ignore) {
+        const bool has_changed = type_into(field, value, range);
+        store(value, before);
+        return has_changed;
+    }
     type_into(field, value, {-anything, anything});
     const float held = std::clamp(value, range.low, range.high);
-    const bool has_changed = store(held, held != before);
+    store(held, before);
     if (held != value && outside_ == Outside::rewrite) show(field);
-    return has_changed;
+    return held != before;
 }
 
 bool NumberRow::spun(TextField& field, Spin direction) {
     if (!step_) return false;
     const SpinRange range{spun_low_(), spun_high_(), (*step_)()};
-    float value = shown();
+    const float before = shown();
+    float value = before;
     bool has_changed = false;
     if (scale_ == Scale::sg)
         has_changed = spin_sg(field, value, range, field_length, direction, scale_width, *settings_);
@@ -130,7 +134,8 @@ bool NumberRow::spun(TextField& field, Spin direction) {
         has_changed = spin_plato(field, value, range, field_length, direction, scale_width, *settings_);
     else
         has_changed = spin_float(field, value, range, field_length, direction, pattern_());
-    return store(value, has_changed);
+    store(value, before);
+    return has_changed;
 }
 
 IntegerRow::IntegerRow(std::string row_key, Binding<std::int32_t> value)

@@ -70,7 +70,7 @@ public:
 
 private:
     float shown() const;
-    bool store(float shown_value, bool has_changed);
+    void store(float shown_value, float before);
     bool type_into(TextField& field, float& value, const Range& range) const;
 
     Binding<float> value_;

@@ -1,6 +1,7 @@
 #include "measures/fields/form.h"
 
 #include "base/number.h"
+#include "measures/rounding.h"
 
 #include <cassert>
 
@@ -43,6 +44,18 @@ ShownRow& Rows::shown_number(std::string key, std::function<float()> value, Live
     return shown(std::move(key), [value = std::move(value),
                                   pattern = std::move(pattern)] { return formatted(pattern(), value()); })
         .figure();
+}
+
+ShownRow& Rows::shown_sg(std::string key, std::function<float()> value, const Settings& settings) {
+    return shown_number(
+        std::move(key), [value = std::move(value)] { return trunc_to_precision(value(), 5); },
+        [&settings] { return sg_pattern(0, settings); });
+}
+
+ShownRow& Rows::shown_plato(std::string key, std::function<float()> value, const Settings& settings) {
+    return shown_number(
+        std::move(key), [value = std::move(value)] { return trunc_to_precision(value(), 3); },
+        [&settings] { return plato_pattern(0, settings); });
 }
 
 ChoiceRow& Rows::choice(std::string key, Binding<std::int32_t> code, std::vector<Live<std::string>> words) {

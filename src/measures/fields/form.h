@@ -29,6 +29,8 @@ public:
                       std::function<bool(const std::string&)> take);
     ShownRow& shown(std::string key, std::function<std::string()> text);
     ShownRow& shown_number(std::string key, std::function<float()> value, Live<std::string> pattern);
+    ShownRow& shown_sg(std::string key, std::function<float()> value, const Settings& settings);
+    ShownRow& shown_plato(std::string key, std::function<float()> value, const Settings& settings);
     ChoiceRow& choice(std::string key, Binding<std::int32_t> code, std::vector<Live<std::string>> words);
     CheckRow& check(std::string key, Binding<bool> value);
     NoteRow& note(std::string key, Live<std::string> text);

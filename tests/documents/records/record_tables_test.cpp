@@ -77,7 +77,7 @@ Table infusions(const InfusionExtras& r) { return {u8(0, r.heat_type), u8(1, r.r
 Table schedule_file(const MashDesign& r) { return {i32(0, r.mash.step_count), f32(4, r.grain_weight),
     i32(8, r.mash.grain_temperature), f32(12, r.dough_in_water), f32(16, r.mash.tun_thermal_mass),
     each(20, r.mash.steps, mash_step), text(14620, r.mash.mash_name)}; }
-Row count(std::size_t at, const auto& list) { return i32(at, static_cast<std::int32_t>(list.size())); }
+Placed count(std::size_t at, const auto& list) { return i32(at, static_cast<std::int32_t>(list.size())); }
 // All up to the end of the simple mash.
 Table opening(const BrewDocument& r, const Lines& lines) {
     const auto malts = 1157 + 635 * lines.hops, extras = malts + 529 * lines.malts, y = lines.yeast_start();

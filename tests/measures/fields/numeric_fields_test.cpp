@@ -1,23 +1,11 @@
 #include "base/number.h"
 #include "measures/fields/numeric_fields.h"
+#include "support/field.h"
 
 #include <gtest/gtest.h>
 
 namespace wortlex {
 namespace {
-
-struct Field : TextField {
-    std::string content;
-    int position = 0;
-    explicit Field(std::string text = "", int caret = 0) : content(std::move(text)), position(caret) {}
-    std::string text() const override { return content; }
-    void set_text(const std::string& text) override {
-        content = text;
-        position = 0; // as a toolkit puts it
-    }
-    int caret() const override { return position; }
-    void set_caret(int place) override { position = place; }
-};
 
 Settings with_precision(std::uint32_t precision) {
     Settings settings;
@@ -35,14 +23,14 @@ TEST(TypedFloat, TakesNumbersInRangeAndThrowsOutWhatNoNumberHas) {
          {"0.99", "0.99", 3.5F}, {"100.1", "100.1", 3.5F}, {"", "", 3.5F}, {"3.5", "3.5", 3.5F},
          {"12.34567", "12.34567", 12.345F}}) {
         // clang-format on
-        Field field(typed, 2);
+        PlainField field(typed, 2);
         float held = 3.5F;
         EXPECT_EQ(typed_float(field, held, {1, 100}, 4), value != 3.5F) << typed;
         EXPECT_EQ(field.content, text) << typed;
         EXPECT_EQ(held, value) << typed;
         EXPECT_EQ(field.position, 2) << typed;
     }
-    Field empty, minus("-4");
+    PlainField empty, minus("-4");
     float value = 3.5F;
     EXPECT_TRUE(typed_signed_float(minus, value, {-5, 5}, 4));
     EXPECT_EQ(value, -4.0F);
@@ -53,14 +41,14 @@ TEST(TypedFloat, TakesNumbersInRangeAndThrowsOutWhatNoNumberHas) {
 TEST(TypedScales, CountTheirDecimalsAndCutWhatIsBeyond) {
     for (const auto& [precision, sg, plato] :
          {std::tuple{0U, 1.048F, 12.3F}, {1U, 1.0481F, 12.34F}, {2U, 1.04812F, 12.345F}}) {
-        Field gravity("1.048127"), extract("12.3456");
+        PlainField gravity("1.048127"), extract("12.3456");
         float sg_value = 1, plato_value = 0;
         EXPECT_TRUE(typed_sg(gravity, sg_value, {1, 2}, 5, with_precision(precision)));
         EXPECT_TRUE(typed_plato(extract, plato_value, {0, 40}, 4, with_precision(precision)));
         EXPECT_FLOAT_EQ(sg_value, sg);
         EXPECT_FLOAT_EQ(plato_value, plato);
     }
-    Field refused("9");
+    PlainField refused("9");
     float sg = 1.0481279F, plato = 12.34567F;
     EXPECT_FALSE(typed_sg(refused, sg, {1, 2}, 5, with_precision(0)));
     EXPECT_FALSE(typed_plato(refused, plato, {10, 40}, 5, with_precision(0)));
@@ -75,7 +63,7 @@ TEST(TypedTemperature, PullsTheNumberIntoItsRange) {
          {celsius, "106", 50, "105", 105}, {fahrenheit, "", 150, "", 0}, {fahrenheit, "15x", 150, "15", 150},
          {fahrenheit, "x", 150, "150", 150}, {celsius, "x", 212, "100", 212}, {celsius, "x", 99, "37", 99}}) {
         // clang-format on
-        Field field(typed);
+        PlainField field(typed);
         std::int32_t held = old;
         EXPECT_EQ(typed_temperature(units, field, held, 3), value != old) << typed;
         EXPECT_EQ((std::pair{field.content, held}), (std::pair{std::string(text), value})) << typed;
@@ -90,12 +78,12 @@ TEST(Spin, StepsFromInsideTheRangeAndMayEndBeyond) {
          {"4", 2, up, "4.50", 4.5F}, {"4", 2, none, "4", 4}, {"99", 2, up, "2.50", 2.5F},
          {"99", 2, none, "99", 2}, {"", 2, down, "1.50", 1.5F}, {"2x", 3, none, "2x", 2}}) {
         // clang-format on
-        Field field(text);
+        PlainField field(text);
         float held = old;
         EXPECT_EQ(spin_float(field, held, {1, 10, 0.5F}, 4, direction, "%0.2f"), value != old) << text;
         EXPECT_EQ((std::pair{field.content, held}), (std::pair{std::string(shown), value})) << text;
     }
-    Field whole("7"), gravity("1.050"), extract("12.0"), warm("105");
+    PlainField whole("7"), gravity("1.050"), extract("12.0"), warm("105");
     std::int32_t seven = 7, degrees = 105;
     float sg = 1.05F, plato = 12;
     EXPECT_TRUE(spin_int(whole, seven, {0, 9, 1}, 2, Spin::down, "%3d"));
@@ -106,7 +94,7 @@ TEST(Spin, StepsFromInsideTheRangeAndMayEndBeyond) {
 }
 
 TEST(Show, PrintsByThePatternOfTheField) {
-    Field field;
+    PlainField field;
     show_sg(field, 1.0480499F, 7, with_precision(2));
     EXPECT_EQ(field.content, "1.04805");
     show_sg(field, 1.0486F, 6, with_precision(0));

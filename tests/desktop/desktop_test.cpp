@@ -1,0 +1,182 @@
+#include "desktop/form_dialog.h"
+#include "support/qt_keys.h"
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QDialogButtonBox>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+
+namespace wortlex {
+namespace {
+
+// What a form and its windows stand on.
+struct Desk {
+    SystemSettings settings = WriteDefaultSettings();
+    ToolPositions positions;
+    Places places{positions, settings};
+};
+
+TEST(Placement, KeepsWindowsOnTheScreensThatThereAre) {
+    const std::vector<Rectangle> screens = {{0, 0, 1000, 800}, {1000, 100, 1800, 700}};
+    // clang-format off
+    for (const auto& [wanted, place] : {
+             std::pair<Rectangle, Rectangle>{{10, 20, 210, 120}, {10, 20, 210, 120}},
+             {{900, 20, 1100, 120}, {900, 20, 1100, 120}}, // half on each: the first that covers as much...
+             {{-50, -70, 150, 30}, {0, 0, 200, 100}}, {{950, 750, 1150, 850}, {800, 700, 1000, 800}},
+             {{1100, 650, 1300, 750}, {1100, 600, 1300, 700}}, // within the second
+             {{5000, 5000, 5200, 5100}, {800, 700, 1000, 800}}, // on none
+             {{0, 0, 4000, 3000}, {0, 0, 1000, 800}}, // larger than the screen
+             {{500, 500, 400, 400}, {500, 500, 501, 501}}, // inside out
+             {{-2147483647, -2147483647, 2147483647, 2147483647}, {0, 0, 1000, 800}}}) {
+        // clang-format on
+        const auto result = within_screens(wanted, screens);
+        if (wanted.left == 900) {
+            EXPECT_TRUE(result.left == 800 || result.left == 1000) << "wholly on one of the two";
+            continue;
+        }
+        EXPECT_EQ(result, place) << wanted.left << ", " << wanted.top;
+    }
+    EXPECT_EQ(within_screens({7, 8, 9, 10}, {}), (Rectangle{7, 8, 9, 10}));
+    EXPECT_EQ(centred_over({100, 100, 300, 200}, 100, 50), (Rectangle{150, 125, 250, 175}));
+}
+
+TEST(FormDialog, TypesAndSpinsWithRealKeysWhateverTheLocale) {
+    Desk desk;
+    float gravity = 1.5F, amount = 3.5F;
+    Form form;
+    form.group("Fermenter");
+    form.rows().number("gravity", gravity).label("&Gravity").range(1, 2).step(0.25F).format("%0.2f");
+    form.rows().number("amount", amount).label("&Amount").range(0, 100);
+    form.rows()
+        .shown_number(
+            "sum", [&] { return gravity + amount; }, "%0.2f")
+        .label("Sum");
+    FormDialog dialog(form, {"RECIPEDIALOG"}, desk.places, nullptr);
+    dialog.show();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&dialog));
+    const auto line = [&](const char* key) { return line_of(dialog.widgets().field(key)); };
+    EXPECT_EQ(line("gravity")->text(), "1.50");
+    type_over(*line("gravity"), "1.75");
+    EXPECT_EQ(gravity, 1.75F);
+    EXPECT_EQ(line("sum")->text(), "5.25") << "linked fields follow the typing";
+    QTest::keyClick(line("gravity"), Qt::Key_Up);
+    EXPECT_EQ(std::pair(gravity, line("gravity")->text()), std::pair(2.0F, QStringLiteral("2.00")));
+    QTest::keyClick(line("gravity"), Qt::Key_Up);
+    EXPECT_EQ(gravity, 2.0F) << "at the end of the range an arrow does nothing";
+    type_over(*line("amount"), "4,5x");
+    EXPECT_EQ(line("amount")->text(), "45") << "a comma is thrown out as it is typed";
+    type_over(*line("amount"), "x");
+    EXPECT_EQ(line("amount")->text(), "45.00");
+    type_over(*line("amount"), "700");
+    EXPECT_EQ(line("amount")->text(), "700") << "out of range, it stands while it is typed";
+    QTest::keyClick(line("amount"), Qt::Key_Tab);
+    EXPECT_EQ(std::pair(amount, line("amount")->text()), std::pair(70.0F, QStringLiteral("70.00")));
+}
+
+TEST(FormDialog, ShowsEveryKindOfRowAndItsState) {
+    Desk desk;
+    Text<12> name("Helles");
+    bool dry = false;
+    std::int32_t code = 1, selected = 1, pressed = 0;
+    Form form;
+    form.rows().text("name", name).label("Name").enabled([&] { return !dry; }).text_when_disabled = "N/A";
+    form.rows().check("dry", dry).label("&Dry");
+    form.rows().choice("kind", code, {"Ale", "Lager"}).label("Kind").visible([&] { return !dry; });
+    form.rows()
+        .list(
+            "list", {{.caption = "Name"}, {.caption = "%", .is_number = true}}, [] { return 3; },
+            [](std::size_t row, std::size_t column) { return std::to_string(row * 10 + column); })
+        .selection(selected);
+    form.rows().button("press", "Press", [&] { ++pressed; });
+    form.rows().button("later", "Later", nullptr);
+    FormDialog dialog(form, {"RECIPEDIALOG"}, desk.places, nullptr);
+    dialog.show();
+    const auto& widgets = dialog.widgets();
+    auto& check = widgets.field("dry");
+    QTest::mouseClick(&check, Qt::LeftButton, {}, QPoint(5, check.height() / 2));
+    EXPECT_TRUE(dry);
+    EXPECT_EQ(line_of(widgets.field("name"))->text(), "N/A");
+    EXPECT_FALSE(widgets.field("name").isEnabled());
+    EXPECT_FALSE(widgets.field("kind").isVisible() || widgets.label("kind")->isVisible());
+    QTest::keyClick(&check, Qt::Key_Space);
+    EXPECT_EQ(line_of(widgets.field("name"))->text(), "Helles");
+    QTest::mouseClick(dialog.findChild<QRadioButton*>("kind_0"), Qt::LeftButton);
+    EXPECT_EQ(code, 0);
+    QTest::keyClick(&widgets.field("list"), Qt::Key_Down);
+    EXPECT_EQ(selected, 2);
+    QTest::mouseClick(&widgets.field("press"), Qt::LeftButton);
+    EXPECT_EQ(pressed, 1);
+    EXPECT_FALSE(widgets.field("later").isEnabled()) << "its window does not exist yet";
+    EXPECT_EQ(widgets.field("name").accessibleName(), "Name");
+}
+
+TEST(FormDialog, OkCommitsAndEscRestores) {
+    Desk desk;
+    struct Record {
+        float value = 1;
+    } record;
+    for (const bool ok : {true, false}) {
+        Form form;
+        form.rows().number("value", record.value).range(0, 9);
+        form.restore_on_cancel(record);
+        FormDialog dialog(form, {"RECIPEDIALOG"}, desk.places, nullptr);
+        dialog.show();
+        type_over(*line_of(dialog.widgets().field("value")), ok ? "5" : "7");
+        if (ok)
+            QTest::mouseClick(dialog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok),
+                              Qt::LeftButton);
+        else
+            QTest::keyClick(&dialog, Qt::Key_Escape);
+        EXPECT_FALSE(dialog.isVisible());
+        EXPECT_EQ(record.value, 5);
+    }
+}
+
+TEST(ToolWindow, StaysWhileItsModalDialogIsOpen) {
+    Desk desk;
+    int closings = 0;
+    auto* const window =
+        new ToolWindow(window_info("RECIPEDIALOG"), 0, Opener::main, nullptr, desk.places); // deletes itself
+    window->closed = [&] { ++closings; };
+    window->show();
+    {
+        Form form;
+        FormDialog dialog(form, {"RECIPEDIALOG"}, desk.places, window);
+        dialog.show();
+        EXPECT_FALSE(window->close());
+        EXPECT_TRUE(window->isVisible() && dialog.isVisible());
+        dialog.reject();
+    }
+    EXPECT_TRUE(window->close());
+    EXPECT_EQ(closings, 1);
+}
+
+TEST(WindowPlace, IsRememberedInItsSlot) {
+    Desk desk;
+    desk.settings.save_window_positions = 1;
+    for (const int x : {60, 0}) {
+        QWidget window;
+        WindowPlace place(window, nullptr, 7, desk.places);
+        window.resize(200, 100);
+        place.put();
+        if (x == 0) {
+            EXPECT_EQ(window.geometry(), QRect(60, 50, 200, 100)) << "as the first one left it";
+        }
+        window.move(x, 50);
+        window.show();
+        window.hide();
+    }
+    EXPECT_EQ(desk.positions.slots[7], (Rectangle{1, 50, 201, 150})) << "a left of zero would be no place";
+    desk.settings.save_window_positions = 0;
+    QWidget window, origin;
+    origin.setGeometry(100, 100, 400, 300);
+    window.resize(200, 100);
+    WindowPlace(window, &origin, 7, desk.places).put();
+    EXPECT_EQ(window.pos(), QPoint(200, 200)) << "not to be used: centred";
+}
+
+} // namespace
+} // namespace wortlex
