@@ -17,10 +17,10 @@ DatabaseState load(const std::string& folder, std::string_view name, const Recor
     const auto file = read_file(find_data_file(folder, name), 4 + database_slots * RecordLayout::size);
     const auto state = file ? read_database(*file, format, database) : DatabaseState::missing;
     if (state != DatabaseState::loaded) {
-        const auto* const what =
-            state == DatabaseState::missing
-                ? " was not found. Its database is empty until the file is back."
-                : " is damaged or too short. Its database is shown empty, and the file is left as it is.";
+        const auto* const what = state == DatabaseState::missing
+                                     ? " was not found. Its database is empty until the file is back."
+                                     : " is damaged or too short. It is shown as far as it holds, and stays "
+                                       "as it is until you save.";
         prompts.tell({.text = "The file " + std::string(name) + what, .icon = Icon::warning});
     }
     return state;

@@ -5,6 +5,8 @@
 #include "base/ports/prompts.h"
 #include "databases/records/ingredients.h"
 
+#include <algorithm>
+
 namespace wortlex {
 
 inline constexpr std::size_t database_slots = 1000;
@@ -24,18 +26,19 @@ struct Database {
 enum class DatabaseState { loaded, missing, damaged };
 
 /// Reads a database from the bytes of its file. A file that is too short, or whose count is negative or
-/// above 1,000, is damaged; the database then counts as empty.
+/// above 1,000, is damaged; the database then holds as much as there is.
 template <class Record, class RecordLayout>
 DatabaseState read_database(ByteView file, const RecordLayout& format, Database<Record>& database) {
     database = {};
     constexpr std::size_t whole = 4 + database_slots * RecordLayout::size;
-    if (file.size() < whole) return DatabaseState::damaged;
+    if (file.size() < 4) return DatabaseState::damaged;
     const auto count = get_little_endian<std::int32_t>(file.data());
-    if (count < 0 || count > static_cast<std::int32_t>(database_slots)) return DatabaseState::damaged;
-    database.count = count;
+    const auto most =
+        static_cast<std::int32_t>(std::min(database_slots, (file.size() - 4) / RecordLayout::size));
+    database.count = std::clamp(count, 0, most);
     ByteReader reader(file.subspan(4));
     for (auto& slot : database.slots) reader.read(slot, format);
-    return DatabaseState::loaded;
+    return database.count == count && file.size() >= whole ? DatabaseState::loaded : DatabaseState::damaged;
 }
 
 /// The bytes of the file.
@@ -48,8 +51,8 @@ Bytes database_bytes(const Database<Record>& database, const RecordLayout& forma
     return file;
 }
 
-/// Each reads its file in the data folder. What is missing or damaged is told by name, counts as empty and is
-/// never overwritten unasked.
+/// Each reads its file in the data folder. What is missing or damaged is told by name, opened as far as it
+/// holds and never overwritten unasked.
 DatabaseState LoadHops(const std::string& data_folder, Database<HopRecord>& hops, Prompts& prompts);
 DatabaseState LoadMalts(const std::string& data_folder, Database<MaltRecord>& malts, Prompts& prompts);
 DatabaseState LoadYeasts(const std::string& data_folder, Database<YeastRecord>& yeasts, Prompts& prompts);

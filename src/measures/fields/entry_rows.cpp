@@ -79,6 +79,16 @@ NumberRow& NumberRow::shown_as(std::function<float(float)> to_shown, std::functi
     return *this;
 }
 
+NumberRow& NumberRow::when_typed(std::function<void(float before, float after)> then) {
+    when_typed_ = std::move(then);
+    return *this;
+}
+
+NumberRow& NumberRow::when_spun(std::function<void(float before, float after)> then) {
+    when_spun_ = std::move(then);
+    return *this;
+}
+
 float NumberRow::shown() const {
     return to_shown_ ? to_shown_(value_.get()) : value_.get();
 }
@@ -113,12 +123,14 @@ bool NumberRow::typed(TextField& field) {
     if (outside_ == Outside::ignore) {
         const bool has_changed = type_into(field, value, range);
         store(value, before);
+        if (has_changed && when_typed_) when_typed_(before, value);
         return has_changed;
     }
     type_into(field, value, {-anything, anything});
     const float held = std::clamp(value, range.low, range.high);
     store(held, before);
     if (held != value && outside_ == Outside::rewrite) show(field);
+    if (held != before && when_typed_) when_typed_(before, held);
     return held != before;
 }
 
@@ -135,6 +147,7 @@ bool NumberRow::spun(TextField& field, Spin direction) {
     else
         has_changed = spin_float(field, value, range, field_length, direction, pattern_());
     store(value, before);
+    if (value != before && when_spun_) when_spun_(before, value);
     return has_changed;
 }
 

@@ -60,6 +60,9 @@ public:
     NumberRow& step(Live<float> by);
     NumberRow& format(Live<std::string> pattern); ///< of `show_float`; not for SG and Plato
     NumberRow& outside(Outside rule);
+    /// What a change by typing alone, or by the arrows alone, brings with it; both values as shown.
+    NumberRow& when_typed(std::function<void(float before, float after)> then);
+    NumberRow& when_spun(std::function<void(float before, float after)> then);
     /// From the stored to the shown unit, and back.
     NumberRow& shown_as(std::function<float(float)> to_shown, std::function<float(float)> from_shown);
 
@@ -82,6 +85,7 @@ private:
     Live<std::string> pattern_ = "%0.2f";
     Outside outside_ = Outside::ignore;
     std::function<float(float)> to_shown_, from_shown_;
+    std::function<void(float, float)> when_typed_, when_spun_;
 };
 
 class IntegerRow : public EntryOptions<IntegerRow> {

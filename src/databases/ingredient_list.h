@@ -1,0 +1,72 @@
+// A database list as its window sees it, whichever the database.
+#pragma once
+
+#include "base/ports/desk.h"
+#include "measures/fields/form.h"
+
+namespace wortlex {
+
+/// The list that keeps a database, and the list from which an entry is picked.
+enum class ListSide { maintenance = 0, pick = 1 };
+
+/// What a pick list starts with, and keeps for the next one when an entry was picked.
+struct ListChoice {
+    std::size_t filter = 0;
+    bool only_in_stock = false;
+
+    bool operator==(const ListChoice&) const = default;
+};
+
+/// A form on a copy of an entry. Accepting it stores the entry.
+struct EntryForm {
+    Form form;
+    std::string_view dialog_template;
+    std::size_t caption = 0;
+};
+
+struct ListHead {
+    std::string caption;
+    int width = 10;
+    bool is_number = false;
+    bool stretches = false;
+};
+
+class IngredientList {
+public:
+    virtual ~IngredientList() = default;
+
+    virtual std::vector<ListHead> heads() const = 0;
+    virtual std::vector<std::string> filter_labels() const = 0; ///< empty: nothing to choose
+    virtual bool has_stock() const = 0;
+    virtual bool can_clone() const = 0;
+    virtual std::string caption() const = 0;
+    virtual std::string_view dialog_template() const = 0;
+
+    virtual std::size_t shown_count() const = 0;
+    virtual std::string cell(std::size_t row, std::size_t column) const = 0;
+
+    /// The chosen filter and the selected row, -1 for none.
+    std::int32_t filter = 0;
+    bool only_in_stock = false;
+    std::int32_t selected = -1;
+
+    /// Builds the list anew for a filter, switch or click on a column's head.
+    virtual void choose_filter(std::int32_t chosen, Prompts& prompts) = 0;
+    virtual void show_only_in_stock(bool only) = 0;
+    virtual void click(std::size_t column) = 0;
+
+    /// Null where there is nothing to edit, or no room for more, which is told.
+    virtual std::unique_ptr<EntryForm> new_entry(Prompts& prompts) = 0;
+    virtual std::unique_ptr<EntryForm> edit_entry() = 0;
+    virtual std::unique_ptr<EntryForm> inventory(Prompts& prompts) = 0;
+    virtual void clone_entry(Prompts& prompts) = 0;
+    virtual void delete_entry(Prompts& prompts) = 0;
+    virtual void import(Files& files, Prompts& prompts) = 0;
+    /// The same from a file that is known.
+    virtual void import_file(const std::string& path, Prompts& prompts) = 0;
+    virtual void save(Prompts& prompts) = 0;
+    /// Asks about changes and keeps the order for the next time. False: the list stays open.
+    virtual bool close(Prompts& prompts) = 0;
+};
+
+} // namespace wortlex

@@ -1,0 +1,23 @@
+// The stock of one entry: what comes in, what goes out.
+#pragma once
+
+#include "base/ports/prompts.h"
+#include "measures/fields/form.h"
+
+namespace wortlex {
+
+struct InventorySubject {
+    std::string name;
+    std::string unit;
+    float stock = 0; ///< in the stored unit
+    std::function<float(float)> to_shown;
+    std::function<float(float)> from_shown;
+    float most_typed = 10000;
+    std::function<void(float)> store;
+};
+
+/// An amount to add or take, in the unit shown; the stock never falls below 0. `prompts` must outlive the
+/// form.
+void inventory_form(Form& form, const InventorySubject& subject, Prompts& prompts);
+
+} // namespace wortlex

@@ -1,0 +1,94 @@
+// The order of a database list, which lives in the array itself, and the files that remember it.
+#pragma once
+
+#include "databases/catalogue.h"
+
+#include <algorithm>
+#include <cmath>
+#include <numeric>
+
+namespace wortlex {
+
+/// Directions by column, 1 meaning that the next click sorts downwards, and the column sorted by last.
+struct SortState {
+    std::vector<std::uint8_t> descending;
+    std::size_t column = 0;
+
+    bool operator==(const SortState&) const = default;
+};
+
+/// A missing or short file, or a column that there is not, gives zeros.
+SortState LoadSort(const std::string& path, std::size_t columns);
+bool SaveSort(const std::string& path, const SortState& sort);
+
+/// The same from and to the bytes of a file.
+SortState read_sort(ByteView file, std::size_t columns);
+Bytes sort_bytes(const SortState& sort);
+
+/// `text` for comparisons without regard to case: A to Z fold, other letters stand as their Windows-1252
+/// bytes do.
+std::string folded(std::string_view text);
+
+namespace sorting {
+
+// The keys of one column, worked out once.
+struct Keys {
+    std::vector<std::string> texts;
+    std::vector<float> numbers;
+    bool descending = false;
+
+    // Below 0: `a` comes before `b`. What is no number comes last in either direction.
+    int compare(std::size_t a, std::size_t b) const {
+        int order = 0;
+        if (!texts.empty()) {
+            order = texts[a].compare(texts[b]);
+        } else {
+            const float x = numbers[a], y = numbers[b];
+            if (std::isnan(x) || std::isnan(y))
+                return static_cast<int>(std::isnan(x)) - static_cast<int>(std::isnan(y));
+            order = static_cast<int>(x > y) - static_cast<int>(x < y);
+        }
+        return descending ? -order : order;
+    }
+};
+
+template <class Record>
+Keys keys_of(const CatalogueColumn<Record>& column, std::span<const Record> entries, bool descending) {
+    Keys keys{.texts = {}, .numbers = {}, .descending = descending};
+    if (const auto* const text = std::get_if<0>(&column.key))
+        for (const auto& entry : entries) keys.texts.push_back(folded((*text)(entry)));
+    else
+        for (const auto& entry : entries) keys.numbers.push_back(std::get<1>(column.key)(entry));
+    return keys;
+}
+
+} // namespace sorting
+
+/// Sorts by the chain of a column, each key in the direction of its own column; equal entries keep their
+/// order.
+template <class Record>
+void sort_by(std::span<Record> entries, const Catalogue<Record>& catalogue, std::size_t column,
+             const std::vector<std::uint8_t>& descending) {
+    std::vector<sorting::Keys> chain;
+    for (const auto key : catalogue.chains[column])
+        chain.push_back(sorting::keys_of<Record>(catalogue.columns[key], entries, descending[key] != 0));
+    std::vector<std::size_t> order(entries.size());
+    std::iota(order.begin(), order.end(), 0);
+    std::stable_sort(order.begin(), order.end(), [&](std::size_t a, std::size_t b) {
+        for (const auto& keys : chain)
+            if (const int by_key = keys.compare(a, b); by_key != 0) return by_key < 0;
+        return false;
+    });
+    std::vector<Record> sorted;
+    sorted.reserve(entries.size());
+    for (const auto place : order) sorted.push_back(entries[place]);
+    std::copy(sorted.begin(), sorted.end(), entries.begin());
+}
+
+/// The order of the files: by the first column, upwards.
+template <class Record>
+void sort_canonically(std::span<Record> entries, const Catalogue<Record>& catalogue) {
+    sort_by(entries, catalogue, 0, std::vector<std::uint8_t>(catalogue.columns.size(), 0));
+}
+
+} // namespace wortlex

@@ -1,0 +1,405 @@
+// The one list behind all six databases: what a catalogue describes, kept, sorted, filtered, edited and
+// imported.
+#pragma once
+
+#include "databases/import.h"
+#include "databases/ingredient_list.h"
+#include "databases/inventory.h"
+#include "databases/sorting.h"
+
+namespace wortlex {
+
+/// Whether two databases have the same entries and leftovers. Entries that sort alike may have changed
+/// places, and a figure that is no number equals itself.
+template <class Record>
+bool holds_the_same(const Database<Record>& a, const Database<Record>& b) {
+    if (a.count != b.count) return false;
+    const auto same = [](const Record& x, const Record& y) {
+        return x == y || encoded(x, layout_of(x)) == encoded(y, layout_of(y));
+    };
+    const auto end = a.slots.begin() + a.count;
+    return std::is_permutation(a.slots.begin(), end, b.slots.begin(), same) &&
+           std::equal(end, a.slots.end(), b.slots.begin() + b.count, same);
+}
+
+template <class Record>
+class Store : public IngredientList {
+public:
+    /// On `database`, which a maintenance list edits; a pick list is given an array of its own.
+    Store(Catalogue<Record> catalogue, ListSide side, std::string data_folder, Database<Record>& database)
+        : catalogue_(std::move(catalogue)), database_(database), side_(side),
+          data_folder_(std::move(data_folder)) {}
+
+    /// Reads the file and the order of the last time, and selects the first row.
+    void open(Prompts& prompts);
+
+    std::vector<ListHead> heads() const override;
+    std::vector<std::string> filter_labels() const override;
+    bool has_stock() const override { return catalogue_.stock.amount != nullptr; }
+    bool can_clone() const override { return !catalogue_.words.clone_warning.empty(); }
+    std::string caption() const override;
+    std::string_view dialog_template() const override;
+    std::size_t shown_count() const override { return shown_.size(); }
+    std::string cell(std::size_t row, std::size_t column) const override {
+        return catalogue_.columns[column].cell(database_.slots[shown_[row]]);
+    }
+
+    void choose_filter(std::int32_t chosen, Prompts& prompts) override;
+    void show_only_in_stock(bool only) override;
+    void click(std::size_t column) override;
+
+    std::unique_ptr<EntryForm> new_entry(Prompts& prompts) override;
+    std::unique_ptr<EntryForm> edit_entry() override;
+    std::unique_ptr<EntryForm> inventory(Prompts& prompts) override;
+    void clone_entry(Prompts& prompts) override;
+    void delete_entry(Prompts& prompts) override;
+    void import(Files& files, Prompts& prompts) override;
+    void import_file(const std::string& path, Prompts& prompts) override;
+    void save(Prompts& prompts) override;
+    bool close(Prompts& prompts) override;
+
+    /// The entry that the selected row means: the first one that reads the same. Nothing without a selection.
+    std::optional<std::size_t> selected_entry() const;
+    const Record& entry(std::size_t index) const { return database_.slots[index]; }
+
+protected:
+    std::span<Record> entries() {
+        return std::span(database_.slots).first(static_cast<std::size_t>(database_.count));
+    }
+    bool is_changed();
+    bool write(Prompts& prompts);
+    void reload(Prompts& prompts);
+    /// The list as it was before the array was sorted for the file.
+    void show_again();
+    /// Asked before changes are written by the button or on closing; an empty text: not asked.
+    virtual std::string save_question(bool /*closing*/) const { return {}; }
+    const Catalogue<Record>& catalogue() const { return catalogue_; }
+
+    Catalogue<Record> catalogue_;
+    Database<Record>& database_;
+
+private:
+    bool passes(const Record& record) const;
+    void fill();
+    void append(const Record& record);
+    bool has_room(Prompts& prompts) const;
+    std::unique_ptr<EntryForm> form_on(std::shared_ptr<Record> copy, std::string_view dialog_template,
+                                       std::function<void(const Record&)> store) const;
+    std::string sort_path() const {
+        return data_folder_ + std::string(catalogue_.words.sort_files[static_cast<std::size_t>(side_)]);
+    }
+    std::string data_path() const { return find_data_file(data_folder_, catalogue_.words.data_file); }
+
+    struct Merge {
+        int changed = 0;
+        int left_out = 0; ///< for want of room
+        bool all = false; ///< every question is answered
+        bool cancelled = false;
+    };
+    void merge(Record record, Merge& merge, Prompts& prompts);
+    void finish_import(const Merge& merge, Prompts& prompts);
+
+    ListSide side_;
+    std::string data_folder_;
+    Database<Record> saved_;
+    SortState sort_;
+    std::vector<std::size_t> shown_; ///< the entries in the list, row by row
+};
+
+template <class Record>
+void Store<Record>::open(Prompts& prompts) {
+    reload(prompts);
+    sort_ = LoadSort(sort_path(), catalogue_.columns.size());
+    click(sort_.column);
+}
+
+template <class Record>
+void Store<Record>::reload(Prompts& prompts) {
+    catalogue_.load(database_, prompts);
+    if (side_ == ListSide::maintenance) sort_canonically<Record>(entries(), catalogue_);
+    saved_ = database_;
+}
+
+template <class Record>
+std::vector<ListHead> Store<Record>::heads() const {
+    std::vector<ListHead> heads;
+    for (const auto& column : catalogue_.columns)
+        heads.push_back({column.caption, column.width, column.is_number, column.stretches});
+    return heads;
+}
+
+template <class Record>
+std::vector<std::string> Store<Record>::filter_labels() const {
+    std::vector<std::string> labels;
+    for (const auto& choice : catalogue_.filters) labels.push_back(choice.label);
+    return labels;
+}
+
+template <class Record>
+std::string Store<Record>::caption() const {
+    const auto& chosen = catalogue_.filters[static_cast<std::size_t>(filter)];
+    return side_ == ListSide::pick ? chosen.pick_caption : chosen.maintenance_caption;
+}
+
+template <class Record>
+std::string_view Store<Record>::dialog_template() const {
+    return side_ == ListSide::pick ? catalogue_.words.pick_template : catalogue_.words.maintenance_template;
+}
+
+template <class Record>
+bool Store<Record>::passes(const Record& record) const {
+    if (only_in_stock && has_stock() && record.*catalogue_.stock.amount == 0) return false;
+    const auto& test = catalogue_.filters[static_cast<std::size_t>(filter)].passes;
+    return !test || test(record);
+}
+
+template <class Record>
+void Store<Record>::fill() {
+    shown_.clear();
+    for (std::size_t i = 0; i < entries().size(); ++i)
+        if (passes(database_.slots[i])) shown_.push_back(i);
+    selected = shown_.empty() ? -1 : 0;
+}
+
+template <class Record>
+void Store<Record>::choose_filter(std::int32_t chosen, Prompts& /*prompts*/) {
+    filter = chosen;
+    fill();
+}
+
+template <class Record>
+void Store<Record>::show_only_in_stock(bool only) {
+    only_in_stock = only;
+    fill();
+}
+
+template <class Record>
+void Store<Record>::click(std::size_t column) {
+    for (std::size_t other = 0; other < sort_.descending.size(); ++other)
+        if (other != column) sort_.descending[other] = 0;
+    sort_by<Record>(entries(), catalogue_, column, sort_.descending);
+    fill();
+    sort_.descending[column] ^= 1;
+    sort_.column = column;
+}
+
+template <class Record>
+void Store<Record>::show_again() {
+    sort_.descending[sort_.column] ^= 1;
+    click(sort_.column);
+}
+
+template <class Record>
+std::optional<std::size_t> Store<Record>::selected_entry() const {
+    if (selected < 0 || static_cast<std::size_t>(selected) >= shown_.size()) return std::nullopt;
+    const auto& wanted = database_.slots[shown_[static_cast<std::size_t>(selected)]];
+    const auto reads_the_same = [&](const Record& record) {
+        return std::all_of(catalogue_.identity.begin(), catalogue_.identity.end(), [&](std::size_t column) {
+            const auto& cell = catalogue_.columns[column].cell;
+            return cell(record) == cell(wanted);
+        });
+    };
+    const auto all = database_.entries();
+    const auto found = std::find_if(all.begin(), all.end(), reads_the_same);
+    return static_cast<std::size_t>(found - all.begin());
+}
+
+template <class Record>
+std::unique_ptr<EntryForm> Store<Record>::form_on(std::shared_ptr<Record> copy,
+                                                  std::string_view dialog_template,
+                                                  std::function<void(const Record&)> store) const {
+    auto entry = std::make_unique<EntryForm>();
+    entry->dialog_template = dialog_template;
+    catalogue_.entry_form(entry->form, *copy);
+    entry->form.on_accept([copy, store = std::move(store)] { store(*copy); });
+    return entry;
+}
+
+template <class Record>
+bool Store<Record>::has_room(Prompts& prompts) const {
+    if (database_.count < catalogue_.new_limit) return true;
+    prompts.tell({.text = no_room, .icon = Icon::warning});
+    return false;
+}
+
+template <class Record>
+void Store<Record>::append(const Record& record) {
+    const auto place = static_cast<std::size_t>(database_.count);
+    database_.slots[place] = record;
+    ++database_.count;
+    shown_.push_back(place);
+    selected = static_cast<std::int32_t>(shown_.size()) - 1;
+}
+
+template <class Record>
+std::unique_ptr<EntryForm> Store<Record>::new_entry(Prompts& prompts) {
+    if (!has_room(prompts)) return nullptr;
+    return form_on(std::make_shared<Record>(catalogue_.new_record(static_cast<std::size_t>(filter))),
+                   catalogue_.words.entry_template, [this](const Record& record) { append(record); });
+}
+
+template <class Record>
+std::unique_ptr<EntryForm> Store<Record>::edit_entry() {
+    const auto index = selected_entry();
+    if (!index) return nullptr;
+    return form_on(std::make_shared<Record>(database_.slots[*index]), catalogue_.words.entry_template,
+                   [this, place = *index](const Record& record) { database_.slots[place] = record; });
+}
+
+template <class Record>
+std::unique_ptr<EntryForm> Store<Record>::inventory(Prompts& prompts) {
+    const auto index = selected_entry();
+    if (!index || !has_stock()) return nullptr;
+    const auto& stock = catalogue_.stock;
+    auto& record = database_.slots[*index];
+    auto entry = std::make_unique<EntryForm>();
+    entry->dialog_template = catalogue_.words.inventory_template;
+    inventory_form(entry->form,
+                   {.name = catalogue_.delete_name(record),
+                    .unit = stock.unit(record),
+                    .stock = record.*stock.amount,
+                    .to_shown = stock.to_shown,
+                    .from_shown = stock.from_shown,
+                    .most_typed = stock.most_typed,
+                    .store = [this, place = *index](
+                                 float left) { database_.slots[place].*catalogue_.stock.amount = left; }},
+                   prompts);
+    return entry;
+}
+
+template <class Record>
+void Store<Record>::clone_entry(Prompts& prompts) {
+    const auto index = selected_entry();
+    if (!index) return prompts.tell({.text = nothing_to_clone, .icon = Icon::information});
+    if (!has_room(prompts)) return;
+    if (prompts.ask_yes_no({.text = catalogue_.words.clone_warning, .icon = Icon::warning}) != Answer::yes)
+        return;
+    append(Record(database_.slots[*index]));
+}
+
+template <class Record>
+void Store<Record>::delete_entry(Prompts& prompts) {
+    const auto index = selected_entry();
+    if (!index) return;
+    const auto question = "Do you really want to delete the\n\n" +
+                          catalogue_.delete_name(database_.slots[*index]) + "\n\nentry?";
+    if (prompts.ask_yes_no({.text = question, .icon = Icon::question}) != Answer::yes) return;
+    const auto all = entries();
+    std::move(all.begin() + static_cast<std::ptrdiff_t>(*index) + 1, all.end(),
+              all.begin() + static_cast<std::ptrdiff_t>(*index));
+    // The last entry stays behind in the slot that has become free; the one behind that is cleared.
+    if (all.size() < database_.slots.size()) database_.slots[all.size()] = {};
+    --database_.count;
+    std::erase(shown_, *index);
+    for (auto& row : shown_)
+        if (row > *index) --row;
+    selected = shown_.empty() ? 0 : std::max(selected - 1, 0);
+}
+
+template <class Record>
+void Store<Record>::import(Files& files, Prompts& prompts) {
+    const auto& words = catalogue_.words;
+    const auto path = files.choose_to_open({words.import_filter, data_folder_, {}, words.import_extension});
+    if (path) import_file(*path, prompts);
+}
+
+template <class Record>
+void Store<Record>::import_file(const std::string& path, Prompts& prompts) {
+    const auto file = read_file(path);
+    if (!file) return prompts.tell({.text = file_not_found, .icon = Icon::error});
+    auto records = transferred<Record>(*file);
+    const auto unreadable =
+        std::erase_if(records, [](const Record& record) { return !looks_like_a_record(record); });
+    if (records.empty()) return prompts.tell({.text = nothing_to_import(path), .icon = Icon::error});
+    sort_canonically<Record>(entries(), catalogue_);
+    Merge merge;
+    for (auto& record : records) {
+        this->merge(std::move(record), merge, prompts);
+        if (merge.cancelled) return show_again();
+    }
+    if (unreadable > 0) prompts.tell({.text = left_out_unreadable(unreadable), .icon = Icon::warning});
+    finish_import(merge, prompts);
+}
+
+template <class Record>
+void Store<Record>::merge(Record record, Merge& merge, Prompts& prompts) {
+    const auto all = entries();
+    const auto found = std::find_if(all.begin(), all.end(),
+                                    [&](const Record& there) { return catalogue_.is_same(there, record); });
+    if (found == all.end()) {
+        if (database_.count >= import_limit) {
+            ++merge.left_out;
+            return;
+        }
+        if (has_stock()) record.*catalogue_.stock.amount = 0;
+        database_.slots[all.size()] = std::move(record);
+        ++database_.count;
+        ++merge.changed;
+        return;
+    }
+    if (!merge.all) {
+        const auto answer =
+            prompts.ask_replace(catalogue_.exists_text(record), catalogue_.words.replace_warning);
+        merge.cancelled = answer == ReplaceAnswer::cancel;
+        merge.all = answer == ReplaceAnswer::yes_to_all;
+        if (merge.cancelled || answer == ReplaceAnswer::no) return;
+    }
+    catalogue_.keep(record, *found);
+    *found = std::move(record);
+    ++merge.changed;
+}
+
+template <class Record>
+void Store<Record>::finish_import(const Merge& merge, Prompts& prompts) {
+    if (merge.left_out > 0) {
+        const auto text = database_full(catalogue_.words.full, merge.left_out);
+        prompts.tell({.text = text, .icon = Icon::warning});
+    }
+    if (merge.changed > 0) {
+        if (const auto old = read_file(data_path())) save_atomically(data_path() + ".bak", *old);
+        if (write(prompts)) prompts.tell({.text = imported, .icon = Icon::information});
+    }
+    show_again();
+}
+
+template <class Record>
+bool Store<Record>::is_changed() {
+    sort_canonically<Record>(entries(), catalogue_);
+    return !holds_the_same(database_, saved_);
+}
+
+template <class Record>
+bool Store<Record>::write(Prompts& prompts) {
+    sort_canonically<Record>(entries(), catalogue_);
+    if (!catalogue_.save(database_)) {
+        prompts.tell({.text = not_saved, .icon = Icon::error});
+        return false;
+    }
+    saved_ = database_;
+    return true;
+}
+
+template <class Record>
+void Store<Record>::save(Prompts& prompts) {
+    write(prompts);
+    show_again();
+}
+
+template <class Record>
+bool Store<Record>::close(Prompts& prompts) {
+    if (side_ == ListSide::maintenance && is_changed()) {
+        const bool wants_save = prompts.ask_yes_no({.text = catalogue_.words.closing_question,
+                                                    .icon = Icon::warning}) == Answer::yes;
+        if (wants_save && !write(prompts)) {
+            show_again();
+            return false;
+        }
+        if (!wants_save) reload(prompts);
+    }
+    auto sort = sort_;
+    sort.descending[sort.column] ^= 1; // the click that opens the list next time repeats the order last seen
+    SaveSort(sort_path(), sort);
+    return true;
+}
+
+} // namespace wortlex
