@@ -2,6 +2,7 @@
 #pragma once
 
 #include "base/ports/desk.h"
+#include "base/ports/prompts.h"
 #include "measures/fields/form.h"
 
 namespace wortlex {

@@ -14,12 +14,14 @@
 namespace wortlex {
 namespace {
 
-// "Recipe File (*.rec)|*.rec" as the toolkit has it: the patterns stand in the caption's brackets.
+// "Recipe File (*.rec)|*.rec" as the toolkit has it: the pattern in the last brackets counts. A caption may
+// name another one.
 QString filter_of(std::string_view filter) {
     const auto bar = filter.find('|');
     if (bar == std::string_view::npos) return string_of(filter);
-    const auto caption = filter.substr(0, std::min(filter.find('('), bar));
-    return string_of(caption) + QLatin1Char('(') + string_of(filter.substr(bar + 1)) + QLatin1Char(')');
+    const auto caption = string_of(filter.substr(0, bar));
+    const auto pattern = QLatin1Char('(') + string_of(filter.substr(bar + 1)) + QLatin1Char(')');
+    return caption.endsWith(pattern) ? caption : caption + QLatin1Char(' ') + pattern;
 }
 
 std::optional<std::string> run(const FileChoice& choice, QFileDialog::AcceptMode mode) {

@@ -45,6 +45,18 @@ void PageField::set_caret(int position) {
     edit_.setTextCursor(cursor);
 }
 
+Page::Page(QWidget* parent) : QPlainTextEdit(parent) {
+    setTabChangesFocus(true);
+    setMinimumHeight(sizeHint().height());
+}
+
+QSize Page::sizeHint() const {
+    constexpr int lines = 3, digits = 30;
+    const int frame = 2 * frameWidth() + 2 * static_cast<int>(document()->documentMargin());
+    return {digits * fontMetrics().horizontalAdvance(QLatin1Char('0')),
+            lines * fontMetrics().lineSpacing() + frame};
+}
+
 ArrowField::ArrowField(QWidget* parent) : QAbstractSpinBox(parent) {
     setAccelerated(true);
     setFocusPolicy(Qt::StrongFocus);

@@ -24,6 +24,13 @@ private:
     QLineEdit& edit_;
 };
 
+/// Several lines of text, by default three high.
+class Page : public QPlainTextEdit {
+public:
+    explicit Page(QWidget* parent);
+    QSize sizeHint() const override;
+};
+
 class PageField : public TextField {
 public:
     explicit PageField(QPlainTextEdit& edit) : edit_(edit) {}

@@ -4,6 +4,7 @@
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
+#include <QPlainTextEdit>
 
 namespace wortlex {
 namespace {
@@ -65,7 +66,8 @@ private:
         buttons_ = nullptr;
         auto* const label = widgets_.label(row);
         const int place = grid_.rowCount();
-        if (label != nullptr) grid_.addWidget(label, place, 0);
+        const bool is_tall = qobject_cast<QPlainTextEdit*>(&widgets_.field(row)) != nullptr;
+        if (label != nullptr) grid_.addWidget(label, place, 0, is_tall ? Qt::AlignTop : Qt::Alignment());
         grid_.addWidget(&widgets_.field(row), place, label == nullptr ? 0 : 1, 1, label == nullptr ? 2 : 1);
     }
 

@@ -102,9 +102,8 @@ void FormWidgets::visit(EntryRow& row) {
 }
 
 void FormWidgets::make_page(EntryRow& row) {
-    auto* const page = new QPlainTextEdit(&parent_);
+    auto* const page = new Page(&parent_);
     page->setReadOnly(row.is_read_only());
-    page->setTabChangesFocus(true);
     const auto field = std::make_shared<PageField>(*page);
     // The toolkit tells its own writes too; only those of the user reach the form.
     const auto writes = std::make_shared<bool>(false);

@@ -1,10 +1,25 @@
 #include "desktop/list_view.h"
 
 #include <QHeaderView>
+#include <QProxyStyle>
 
 #include <algorithm>
 
 namespace wortlex {
+
+namespace {
+
+// Air around the cells: without it a number touches the word in the next column.
+class RoomyStyle : public QProxyStyle {
+public:
+    int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override {
+        const int usual = QProxyStyle::pixelMetric(metric, option, widget);
+        if (metric == PM_FocusFrameHMargin) return usual + 4;
+        return metric == PM_FocusFrameVMargin ? usual + 1 : usual;
+    }
+};
+
+} // namespace
 
 int ListModel::rowCount(const QModelIndex& parent) const {
     return parent.isValid() ? 0 : static_cast<int>(shown_count_);
@@ -48,6 +63,10 @@ void ListModel::reload() {
 
 ListView::ListView(const ListRow& row, QWidget* parent)
     : QTreeView(parent), row_(row), model_(new ListModel(row, this)) {
+    auto* const roomy = new RoomyStyle;
+    roomy->setParent(this);
+    setStyle(roomy);
+    header()->setStyle(roomy);
     setModel(model_);
     setRootIsDecorated(false);
     setUniformRowHeights(true);
@@ -72,7 +91,7 @@ void ListView::size_columns() {
         const auto& told = row_.columns[static_cast<std::size_t>(column)];
         const int caption =
             fontMetrics().horizontalAdvance(QString::fromStdString(told.caption())) + 2 * digit;
-        header()->resizeSection(column, std::max(digit * (told.width + 1), caption));
+        header()->resizeSection(column, std::max(digit * (told.width + 2), caption));
         header()->setSectionResizeMode(column,
                                        told.stretches ? QHeaderView::Stretch : QHeaderView::Interactive);
     }
@@ -80,7 +99,7 @@ void ListView::size_columns() {
 
 QSize ListView::sizeHint() const {
     int digits = 0;
-    for (const auto& column : row_.columns) digits += column.width + 1;
+    for (const auto& column : row_.columns) digits += column.width + 2;
     const int digit = fontMetrics().horizontalAdvance(QLatin1Char('0'));
     return {digit * digits + 3 * digit, fontMetrics().height() * 10};
 }

@@ -73,9 +73,14 @@ Answer MessageBoxes::ask_yes_no_cancel(const Message& question) {
 }
 
 ReplaceAnswer MessageBoxes::ask_replace(std::string_view existing, std::string_view consequence) {
-    const auto text = std::string(existing).append(consequence);
-    const int button = show({.text = text, .icon = Icon::question},
-                            QMessageBox::Yes | QMessageBox::YesToAll | QMessageBox::No | QMessageBox::Cancel);
+    const auto text =
+        std::string(existing)
+            .append("\n\nThe particular item may have been modified by Tunvale to correct bad data or "
+                    "spelling errors.\n\n")
+            .append(consequence.substr(std::min(consequence.find_first_not_of('\n'), consequence.size())));
+    const int button =
+        show({.text = text, .caption = "Confirm Database Item Replacement", .icon = Icon::question},
+             QMessageBox::Yes | QMessageBox::YesToAll | QMessageBox::No | QMessageBox::Cancel);
     if (button == QMessageBox::YesToAll) return ReplaceAnswer::yes_to_all;
     const auto answer = answer_of(button);
     if (answer == Answer::yes) return ReplaceAnswer::yes;

@@ -1,5 +1,6 @@
 #include "desktop/placement.h"
 
+#include <QDialog>
 #include <QEvent>
 #include <QGuiApplication>
 #include <QScreen>
@@ -66,8 +67,14 @@ WindowPlace::WindowPlace(QWidget& window, QWidget* origin, int slot, const Place
 }
 
 bool WindowPlace::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() == QEvent::Hide && !event->spontaneous()) remember();
+    if (event->type() == QEvent::Hide && !event->spontaneous() && is_to_be_remembered()) remember();
     return QObject::eventFilter(watched, event);
+}
+
+// A dialog that was left keeps the place it had.
+bool WindowPlace::is_to_be_remembered() const {
+    const auto* const dialog = qobject_cast<const QDialog*>(&window_);
+    return dialog == nullptr || dialog->result() == QDialog::Accepted;
 }
 
 void WindowPlace::put() {

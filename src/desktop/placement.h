@@ -39,6 +39,7 @@ public:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    bool is_to_be_remembered() const;
     void remember();
 
     QWidget& window_;

@@ -3,6 +3,7 @@
 
 #include "base/ports/prompts.h"
 #include "calculators/beer_colour.h"
+#include "databases/ingredient_list.h"
 #include "databases/records/database_file.h"
 #include "documents/opening.h"
 #include "documents/session_figures.h"
@@ -22,6 +23,11 @@ struct CalculatorDefaults {
     float dough_in_quarts = 0;
 
     bool operator==(const CalculatorDefaults&) const = default;
+};
+
+/// What the pick lists of documents showed last.
+struct PickChoices {
+    ListChoice styles, malts, hops, yeasts, waters, extras;
 };
 
 struct Program {
@@ -47,6 +53,7 @@ struct Program {
     Database<WaterRecord> water_database; ///< the one that stays in memory
     ColorTable color_table;
     CalculatorDefaults calculator_defaults;
+    PickChoices picks;
 
     ToolTable tools;
     MainPosition main_position; ///< as it was at the start

@@ -1,5 +1,6 @@
 #include "frame/windows/main_window.h"
 
+#include "databases/windows/ingredient_windows.h"
 #include "desktop/menus.h"
 #include "desktop/text.h"
 #include "documents/windows/recipe_window.h"
@@ -67,6 +68,8 @@ void MainWindow::carry_out_commands() {
         if (wants(DocumentKind::recipe) && choose_and_open(program_, DocumentKind::recipe, files_, prompts_))
             show_recipe();
     });
+    const DatabasePorts databases{program_, files_, prompts_};
+    commands_.carry_out(command::hop_database, [this, databases] { keep_hops(databases, this); });
     commands_.carry_out(command::exit, [this] { close(); });
 }
 

@@ -56,12 +56,14 @@ void PictureBoard::show_commands() {
         buttons_[i]->setEnabled(commands_.is_built(main_screen_buttons[i].command));
 }
 
-void PictureBoard::load() {
-    pictures_ = load_art(data_folder_, scheme_, devicePixelRatioF());
+void PictureBoard::load(double device_scale) {
+    pictures_ = load_art(data_folder_, scheme_, device_scale);
+    loaded_scale_ = device_scale;
     for (std::size_t i = 0; i < buttons_.size(); ++i) {
         buttons_[i]->set_picture(pictures_.buttons[i]);
         buttons_[i]->setVisible(!pictures_.buttons[i].isNull());
     }
+    update();
 }
 
 void PictureBoard::tell_faults() const {
@@ -74,7 +76,7 @@ void PictureBoard::tell_faults() const {
 // Once a showing; the boxes wait until the window stands.
 void PictureBoard::showEvent(QShowEvent* event) {
     if (!event->spontaneous()) {
-        load();
+        load(1);
         QTimer::singleShot(0, this, [this] { tell_faults(); });
     }
     QWidget::showEvent(event);
@@ -92,6 +94,14 @@ void PictureBoard::paintEvent(QPaintEvent*) {
     painter.fillRect(rect(), Qt::black);
     if (!pictures_.background.isNull()) painter.drawPixmap(rect(), pictures_.background);
     draw_titles(painter);
+    sharpen_later();
+}
+
+// On a fine screen drawing takes longer than all else at the start: the files as they are come first.
+void PictureBoard::sharpen_later() {
+    if (devicePixelRatioF() <= loaded_scale_) return;
+    loaded_scale_ = devicePixelRatioF();
+    QTimer::singleShot(0, this, [this] { load(devicePixelRatioF()); });
 }
 
 // White over a dark shadow reads on copper and on steel.

@@ -53,7 +53,8 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    void load();
+    void load(double device_scale);
+    void sharpen_later();
     void tell_faults() const;
     void draw_titles(QPainter& painter) const;
 
@@ -62,6 +63,7 @@ private:
     CommandTable& commands_;
     Prompts& prompts_;
     ArtPictures pictures_;
+    double loaded_scale_ = 1; ///< of the pictures, or of those on their way
     std::array<PictureButton*, main_screen_buttons.size()> buttons_{};
 };
 

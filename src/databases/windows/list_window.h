@@ -1,0 +1,58 @@
+// The window of every ingredient list: to keep a database, or to pick an entry from it.
+#pragma once
+
+#include "databases/ingredient_list.h"
+#include "desktop/form_widgets.h"
+#include "desktop/placement.h"
+
+#include <QDialog>
+#include <QMimeData>
+
+namespace wortlex {
+
+struct ListPorts {
+    Places places;
+    Files& files;
+    Prompts& prompts;
+};
+
+class ListWindow : public QDialog {
+public:
+    /// On an opened list. `picked` is what Pick does with the selected entry, and answers whether the window
+    /// is done; without it the window is one that keeps the database.
+    ListWindow(IngredientList& list, std::string_view import_extension, const ListPorts& ports, Opener opener,
+               std::function<bool()> picked, QWidget* owner);
+
+    void setVisible(bool visible) override;
+    void accept() override { leave(QDialog::Accepted); }
+    void reject() override { leave(QDialog::Rejected); }
+
+protected:
+    /// Transfer files dropped on the list are imported.
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+
+private:
+    void fill_form();
+    void choice_rows(Rows& rows);
+    void list_row(Rows& rows);
+    void edit_buttons(Rows& rows);
+    void lay_out_rows();
+    /// Runs what may change the list and shows it anew.
+    void change(const std::function<void()>& action);
+    void run(std::unique_ptr<EntryForm> entry);
+    void pick();
+    void leave(int result);
+    bool can_import(const QMimeData& dragged) const;
+
+    IngredientList& list_;
+    QString import_extension_;
+    ListPorts ports_;
+    Opener opener_;
+    std::function<bool()> picked_;
+    Form form_;
+    std::unique_ptr<FormWidgets> widgets_;
+    WindowPlace* place_ = nullptr;
+};
+
+} // namespace wortlex
