@@ -4,7 +4,8 @@
 set -eu
 cd "$(dirname "$0")"
 . tools/install.sh
-install_missing git g++ cmake ninja-build libgtest-dev libgmock-dev locales clang-format clang-tidy
+install_missing git g++ cmake ninja-build qt6-base-dev qt6-svg-dev libgtest-dev libgmock-dev locales clang-format \
+    clang-tidy
 
 cmake --preset test > /dev/null
 cmake --build --preset test

@@ -4,7 +4,7 @@
 set -eu
 cd "$(dirname "$0")/.."
 . tools/install.sh
-install_missing clang cmake ninja-build
+install_missing clang cmake ninja-build qt6-base-dev qt6-svg-dev
 
 minutes=${1:-5}
 [ $# -eq 0 ] || shift

@@ -43,7 +43,10 @@ int run(int count, char** arguments) {
     MainWindow window(program, prompts, files);
     window.show();
     // Drawing the icon in all its sizes takes a tenth of the start: the window need not wait for it.
-    QTimer::singleShot(0, &window, [] { set_icon(); });
+    QTimer once_shown;
+    once_shown.setSingleShot(true);
+    QObject::connect(&once_shown, &QTimer::timeout, set_icon);
+    once_shown.start(0);
     if (const auto named = QApplication::arguments(); named.size() > 1)
         window.open_file(QFile::encodeName(named.at(1)).toStdString());
     return QApplication::exec();

@@ -1,0 +1,131 @@
+// picture-windows [--scheme N] [--dark] TARGET_DIR RECIPE: run in a brewery folder, it opens the main window
+// and a recipe, and saves a picture of each as main-window.png and recipe-window.png.
+#include "base/number.h"
+#include "base/ports/quiet_prompts.h"
+#include "desktop/desk.h"
+#include "desktop/text.h"
+#include "frame/start.h"
+#include "frame/windows/main_window.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFile>
+#include <QLoggingCategory>
+#include <QPalette>
+#include <QStyleFactory>
+
+#include <cstdio>
+#include <span>
+
+namespace wortlex {
+namespace {
+
+struct Options {
+    std::optional<std::uint8_t> scheme; ///< of the artwork; the brewer's own if not told
+    bool dark = false;
+    std::vector<std::string> names; ///< the target folder and the recipe
+};
+
+std::optional<std::uint8_t> scheme_number(std::string_view text) {
+    const auto number = parse_whole(text);
+    if (!number || *number < 0 || static_cast<std::size_t>(*number) >= art_schemes.size())
+        return std::nullopt;
+    return static_cast<std::uint8_t>(*number);
+}
+
+std::optional<Options> parse(std::span<char* const> arguments) {
+    Options options;
+    for (std::size_t i = 0; i < arguments.size(); ++i) {
+        const std::string_view argument = arguments[i];
+        if (argument == "--dark") {
+            options.dark = true;
+        } else if (argument == "--scheme" && i + 1 < arguments.size()) {
+            options.scheme = scheme_number(arguments[++i]);
+            if (!options.scheme) return std::nullopt;
+        } else {
+            options.names.emplace_back(argument);
+        }
+    }
+    return options.names.size() == 2 ? std::optional(options) : std::nullopt;
+}
+
+void darken() {
+    QPalette palette(QColor(48, 48, 48));
+    palette.setColor(QPalette::Base, QColor(32, 32, 32));
+    palette.setColor(QPalette::AlternateBase, QColor(40, 40, 40));
+    palette.setColor(QPalette::Highlight, QColor(42, 110, 176));
+    palette.setColor(QPalette::Link, QColor(110, 170, 240));
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+        palette.setColor(QPalette::Disabled, role, QColor(140, 140, 140));
+    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    QApplication::setPalette(palette);
+}
+
+bool complain(const QString& what) {
+    std::fprintf(stderr, "picture-windows: %s\n", what.toLocal8Bit().constData());
+    return false;
+}
+
+// A box would wait for an answer without end.
+class ConsolePrompts : public QuietPrompts {
+public:
+    void tell(const Message& message) override { complain(string_of(message.text)); }
+};
+
+// Lets what waits for the window to stand come to pass, too.
+void settle() {
+    for (int round = 0; round < 5; ++round) QApplication::processEvents();
+}
+
+bool save_picture(QWidget& window, const QDir& target, const QString& name) {
+    const auto path = target.filePath(name);
+    return window.grab().save(path) || complain(path + QStringLiteral(": cannot be written"));
+}
+
+QWidget* document_window(const MainWindow& main) {
+    for (auto* const window : QApplication::topLevelWidgets())
+        if (window != &main && window->isVisible() && !window->isModal()) return window;
+    return nullptr;
+}
+
+bool picture(Program& program, Prompts& prompts, const QDir& target, const std::string& recipe) {
+    FileDialogs files;
+    MainWindow main(program, prompts, files);
+    main.show();
+    settle();
+    const bool saved = save_picture(main, target, QStringLiteral("main-window.png"));
+    main.open_file(recipe);
+    settle();
+    auto* const document = document_window(main);
+    if (document == nullptr) return complain(QStringLiteral("the recipe did not open"));
+    return save_picture(*document, target, QStringLiteral("recipe-window.png")) && saved;
+}
+
+int run(const Options& options) {
+    if (options.dark) darken();
+    ConsolePrompts prompts;
+    Program program;
+    if (!start(program, working_folder(), prompts)) {
+        complain(QStringLiteral("this is not a brewery folder"));
+        return 1;
+    }
+    if (options.scheme) program.art_scheme = *options.scheme;
+    const QDir target(QFile::decodeName(options.names[0].c_str()));
+    target.mkpath(QStringLiteral("."));
+    return picture(program, prompts, target, options.names[1]) ? 0 : 1;
+}
+
+} // namespace
+} // namespace wortlex
+
+int main(int count, char** arguments) {
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+    QLoggingCategory::setFilterRules(
+        "default.warning=false"); // builders have no session, Qt would remark upon it
+    const QApplication application(count, arguments);
+    const std::span<char* const> all(arguments, static_cast<std::size_t>(count));
+    const auto options = wortlex::parse(all.subspan(1));
+    if (options) return wortlex::run(*options);
+    std::fputs("Usage: picture-windows [--scheme N] [--dark] TARGET_DIR RECIPE\n", stderr);
+    return 2;
+}
