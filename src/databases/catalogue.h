@@ -80,6 +80,12 @@ struct CatalogueBuilder {
     }
 };
 
+/// Cuts a text from a file that is longer than its dialog takes.
+template <std::size_t N>
+void cut_to(Text<N>& text, std::size_t most) {
+    if (text.view().size() > most) text.assign(std::string(text.view().substr(0, most)));
+}
+
 template <class Record>
 struct CatalogueFilter {
     std::string label; ///< with its mnemonic
@@ -113,6 +119,8 @@ struct CatalogueStock {
     std::function<float(float)> from_shown;
     std::function<std::string(const Record&)> unit;
     float most_typed = 10000;
+    /// What the inventory dialog says of the record; empty: its name.
+    std::function<std::string(const Record&)> title = nullptr;
 };
 
 template <class Record>
@@ -128,6 +136,7 @@ struct Catalogue {
 
     std::function<Record(std::size_t filter)> new_record;
     std::function<void(Form&, Record&)> entry_form;
+    std::size_t entry_caption = 0; ///< of those that the entry dialog has
 
     /// Whether an imported record is one that is there already.
     std::function<bool(const Record&, const Record&)> is_same;

@@ -36,10 +36,14 @@ class IngredientList {
 public:
     virtual ~IngredientList() = default;
 
+    /// Reads the file and the order of the last time, and selects the first row.
+    virtual void open(Prompts& prompts) = 0;
+
     virtual std::vector<ListHead> heads() const = 0;
     virtual std::vector<std::string> filter_labels() const = 0; ///< empty: nothing to choose
     virtual bool has_stock() const = 0;
     virtual bool can_clone() const = 0;
+    virtual std::string_view import_extension() const = 0;
     virtual std::string caption() const = 0;
     virtual std::string_view dialog_template() const = 0;
 

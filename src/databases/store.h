@@ -30,13 +30,13 @@ public:
         : catalogue_(std::move(catalogue)), database_(database), side_(side),
           data_folder_(std::move(data_folder)) {}
 
-    /// Reads the file and the order of the last time, and selects the first row.
-    void open(Prompts& prompts);
+    void open(Prompts& prompts) override;
 
     std::vector<ListHead> heads() const override;
     std::vector<std::string> filter_labels() const override;
     bool has_stock() const override { return catalogue_.stock.amount != nullptr; }
     bool can_clone() const override { return !catalogue_.words.clone_warning.empty(); }
+    std::string_view import_extension() const override { return catalogue_.words.import_extension; }
     std::string caption() const override;
     std::string_view dialog_template() const override;
     std::size_t shown_count() const override { return shown_.size(); }
@@ -66,14 +66,15 @@ protected:
     std::span<Record> entries() {
         return std::span(database_.slots).first(static_cast<std::size_t>(database_.count));
     }
+    /// Both sort the array as the files have it; `write` tells where it fails.
     bool is_changed();
     bool write(Prompts& prompts);
+    /// Reads the file, dropping what was changed.
     void reload(Prompts& prompts);
     /// The list as it was before the array was sorted for the file.
     void show_again();
-    /// Asked before changes are written by the button or on closing; an empty text: not asked.
-    virtual std::string save_question(bool /*closing*/) const { return {}; }
-    const Catalogue<Record>& catalogue() const { return catalogue_; }
+    ListSide side() const { return side_; }
+    const std::string& data_folder() const { return data_folder_; }
 
     Catalogue<Record> catalogue_;
     Database<Record>& database_;
@@ -210,6 +211,7 @@ std::unique_ptr<EntryForm> Store<Record>::form_on(std::shared_ptr<Record> copy,
                                                   std::function<void(const Record&)> store) const {
     auto entry = std::make_unique<EntryForm>();
     entry->dialog_template = dialog_template;
+    entry->caption = catalogue_.entry_caption;
     catalogue_.entry_form(entry->form, *copy);
     entry->form.on_accept([copy, store = std::move(store)] { store(*copy); });
     return entry;
@@ -255,7 +257,7 @@ std::unique_ptr<EntryForm> Store<Record>::inventory(Prompts& prompts) {
     auto entry = std::make_unique<EntryForm>();
     entry->dialog_template = catalogue_.words.inventory_template;
     inventory_form(entry->form,
-                   {.name = catalogue_.delete_name(record),
+                   {.name = stock.title ? stock.title(record) : catalogue_.delete_name(record),
                     .unit = stock.unit(record),
                     .stock = record.*stock.amount,
                     .to_shown = stock.to_shown,

@@ -47,11 +47,11 @@ void PageField::set_caret(int position) {
 
 Page::Page(QWidget* parent) : QPlainTextEdit(parent) {
     setTabChangesFocus(true);
-    setMinimumHeight(sizeHint().height());
+    setMinimumSize(sizeHint());
 }
 
 QSize Page::sizeHint() const {
-    constexpr int lines = 3, digits = 30;
+    constexpr int lines = 3, digits = 26;
     const int frame = 2 * frameWidth() + 2 * static_cast<int>(document()->documentMargin());
     return {digits * fontMetrics().horizontalAdvance(QLatin1Char('0')),
             lines * fontMetrics().lineSpacing() + frame};

@@ -14,8 +14,20 @@ FormDialog::FormDialog(Form& form, const DialogUse& use, const Places& places, Q
     auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Ok, this);
     if (use.has_cancel) buttons->addButton(QDialogButtonBox::Cancel);
     layout->addWidget(buttons);
+    focus_first();
     connect(buttons, &QDialogButtonBox::accepted, this, &FormDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &FormDialog::reject);
+}
+
+// The first field that can be written in.
+void FormDialog::focus_first() {
+    bool is_done = false;
+    form_.for_each([&](Row& row) {
+        const auto* const entry = dynamic_cast<EntryRow*>(&row);
+        if (is_done || entry == nullptr || entry->is_read_only() || !row.is_enabled()) return;
+        widgets_.field(row).setFocus();
+        is_done = true;
+    });
 }
 
 void FormDialog::setVisible(bool visible) {

@@ -26,6 +26,8 @@ public:
     void setVisible(bool visible) override;
 
 private:
+    void focus_first();
+
     Form& form_;
     FormWidgets widgets_;
     WindowPlace& place_;

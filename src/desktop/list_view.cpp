@@ -29,13 +29,13 @@ int ListModel::columnCount(const QModelIndex& parent) const {
     return parent.isValid() ? 0 : static_cast<int>(row_.columns.size());
 }
 
-bool ListModel::is_number(int column) const {
-    return row_.columns[static_cast<std::size_t>(column)].is_number;
+QVariant ListModel::alignment(int column) const {
+    const bool is_number = row_.columns[static_cast<std::size_t>(column)].is_number;
+    return {Qt::AlignVCenter | (is_number ? Qt::AlignRight : Qt::AlignLeft)};
 }
 
 QVariant ListModel::data(const QModelIndex& index, int role) const {
-    if (role == Qt::TextAlignmentRole)
-        return QVariant(Qt::AlignVCenter | (is_number(index.column()) ? Qt::AlignRight : Qt::AlignLeft));
+    if (role == Qt::TextAlignmentRole) return alignment(index.column());
     if (role != Qt::DisplayRole) return {};
     const auto row = static_cast<std::size_t>(index.row());
     if (row >= row_.count()) return {};
@@ -44,8 +44,7 @@ QVariant ListModel::data(const QModelIndex& index, int role) const {
 
 QVariant ListModel::headerData(int section, Qt::Orientation orientation, int role) const {
     if (orientation != Qt::Horizontal) return {};
-    if (role == Qt::TextAlignmentRole)
-        return QVariant(Qt::AlignVCenter | (is_number(section) ? Qt::AlignRight : Qt::AlignLeft));
+    if (role == Qt::TextAlignmentRole) return alignment(section);
     if (role != Qt::DisplayRole) return {};
     return QString::fromStdString(row_.columns[static_cast<std::size_t>(section)].caption());
 }

@@ -19,7 +19,7 @@ public:
     void reload();
 
 private:
-    bool is_number(int column) const;
+    QVariant alignment(int column) const;
 
     const ListRow& row_;
     std::size_t shown_count_ = 0; ///< that the view has been told of

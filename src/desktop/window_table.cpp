@@ -19,6 +19,10 @@ constexpr std::array no_places = {no_place, no_place, no_place};
 
 constexpr std::array windows = {
     WindowInfo{"GENERIC", {"Wortlex Version 1.8.a"}, no_places, 0},
+    WindowInfo{"HOPFORMULATYPEDIALOG", {"Type of Hop IBU Calculation Used"}, no_places, 0},
+    WindowInfo{"HOPIBUFROMWIEGHTDIALOG", {"Hop IBU Calculator"}, {3, 3, 3}, 0},
+    WindowInfo{"HOPIBUFROMWIEGHTDIALOG1", {"Hop IBU Calculator"}, {3, 3, 3}, 0},
+    WindowInfo{"HOPSHORTTIMEDIALOG", {"Hop Time Degradation Calculator"}, {2, 2, 2}, 0},
     WindowInfo{"RECIPEDIALOG", {"Wortlex Recipe Formulation"}, no_places, 0},
     // The lists set their own captions, by what they show.
     WindowInfo{"STYLETYPEDIALOG", {""}, from_main(38), 0},

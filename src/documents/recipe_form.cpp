@@ -154,12 +154,12 @@ void malt_rows(Rows& rows, const RecipeSubject& subject) {
             "total_grain", [&] { return grain_to_shown(subject.open.figures.total_grain, settings); },
             "%0.2f")
         .label([&] { return grain_unit(settings); });
-    const auto unit = settings.weight_units == Units::american ? "Lbs" : "kg";
+    const std::string unit = settings.weight_units == Units::american ? "Lbs" : "kg";
     for (const auto& [key, caption] : {std::pair{"malt_new", std::string("New")},
                                        {"malt_del", "Del"},
                                        {"malt_edit", "Edit"},
-                                       {"malt_more", std::string("+") + unit},
-                                       {"malt_less", std::string("-") + unit},
+                                       {"malt_more", "+" + unit},
+                                       {"malt_less", "-" + unit},
                                        {"malt_detail", "%"}})
         rows.button(key, caption, nullptr);
 }

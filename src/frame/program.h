@@ -3,6 +3,7 @@
 
 #include "base/ports/prompts.h"
 #include "calculators/beer_colour.h"
+#include "calculators/hop_memory.h"
 #include "databases/ingredient_list.h"
 #include "databases/records/database_file.h"
 #include "documents/opening.h"
@@ -53,6 +54,7 @@ struct Program {
     Database<WaterRecord> water_database; ///< the one that stays in memory
     ColorTable color_table;
     CalculatorDefaults calculator_defaults;
+    HopMemory hop_memory;
     PickChoices picks;
 
     ToolTable tools;

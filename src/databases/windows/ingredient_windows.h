@@ -6,7 +6,7 @@
 
 namespace wortlex {
 
-/// Where the lists take their questions and files.
+/// Where the lists take their data, questions and files.
 struct DatabasePorts {
     Program& program;
     Files& files;
@@ -14,12 +14,23 @@ struct DatabasePorts {
 };
 
 /// Each opens the list that keeps a database, until it is closed.
+void keep_styles(const DatabasePorts& ports, QWidget* owner);
+void keep_malts(const DatabasePorts& ports, QWidget* owner);
 void keep_hops(const DatabasePorts& ports, QWidget* owner);
+void keep_yeasts(const DatabasePorts& ports, QWidget* owner);
+void keep_waters(const DatabasePorts& ports, QWidget* owner);
+void keep_extras(const DatabasePorts& ports, QWidget* owner);
 
-/// Picks a hop for a document; nothing when the list is left.
+/// Each picks an entry for a document; nothing when the list is left. A picked style bears its book.
+std::optional<StyleRecord> pick_style(const DatabasePorts& ports, Opener opener, QWidget* owner);
+std::optional<MaltRecord> pick_malt(const DatabasePorts& ports, Opener opener, QWidget* owner);
 std::optional<HopRecord> pick_hop(const DatabasePorts& ports, Opener opener, QWidget* owner);
-/// Stays open and hands each picked hop on, as the calculators want it.
-void pick_hops_for(const DatabasePorts& ports, const std::function<void(QWidget*, const HopRecord&)>& use,
+std::optional<YeastRecord> pick_yeast(const DatabasePorts& ports, Opener opener, QWidget* owner);
+std::optional<WaterRecord> pick_water(const DatabasePorts& ports, Opener opener, QWidget* owner);
+std::optional<ExtraRecord> pick_extra(const DatabasePorts& ports, Opener opener, QWidget* owner);
+
+/// The hop list with all hops, which stays open and hands each picked one to a calculator.
+void pick_hops_for(const std::function<void(QWidget*, const HopRecord&)>& use, const DatabasePorts& ports,
                    QWidget* owner);
 
 } // namespace wortlex

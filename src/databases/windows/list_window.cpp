@@ -12,10 +12,9 @@
 
 namespace wortlex {
 
-ListWindow::ListWindow(IngredientList& list, std::string_view import_extension, const ListPorts& ports,
-                       Opener opener, std::function<bool()> picked, QWidget* owner)
-    : QDialog(owner), list_(list), import_extension_(string_of(import_extension)), ports_(ports),
-      opener_(opener), picked_(std::move(picked)) {
+ListWindow::ListWindow(IngredientList& list, const ListPorts& ports, Opener opener,
+                       std::function<bool()> picked, QWidget* owner)
+    : QDialog(owner), list_(list), ports_(ports), opener_(opener), picked_(std::move(picked)) {
     setWindowModality(Qt::WindowModal);
     setSizeGripEnabled(true);
     setAcceptDrops(!picked_);
@@ -67,7 +66,7 @@ void ListWindow::choice_rows(Rows& rows) {
 void ListWindow::list_row(Rows& rows) {
     std::vector<ListColumn> columns;
     for (const auto& head : list_.heads())
-        columns.push_back({.caption = head.caption,
+        columns.push_back({.caption = [this, place = columns.size()] { return list_.heads()[place].caption; },
                            .is_number = head.is_number,
                            .width = head.width,
                            .stretches = head.stretches});
@@ -146,7 +145,9 @@ void ListWindow::leave(int result) {
 bool ListWindow::can_import(const QMimeData& dragged) const {
     const auto urls = dragged.urls();
     return urls.size() == 1 && urls.front().isLocalFile() &&
-           QFileInfo(urls.front().path()).suffix().compare(import_extension_, Qt::CaseInsensitive) == 0;
+           QFileInfo(urls.front().path())
+                   .suffix()
+                   .compare(string_of(list_.import_extension()), Qt::CaseInsensitive) == 0;
 }
 
 void ListWindow::dragEnterEvent(QDragEnterEvent* event) {

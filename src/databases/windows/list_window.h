@@ -20,8 +20,8 @@ class ListWindow : public QDialog {
 public:
     /// On an opened list. `picked` is what Pick does with the selected entry, and answers whether the window
     /// is done; without it the window is one that keeps the database.
-    ListWindow(IngredientList& list, std::string_view import_extension, const ListPorts& ports, Opener opener,
-               std::function<bool()> picked, QWidget* owner);
+    ListWindow(IngredientList& list, const ListPorts& ports, Opener opener, std::function<bool()> picked,
+               QWidget* owner);
 
     void setVisible(bool visible) override;
     void accept() override { leave(QDialog::Accepted); }
@@ -46,7 +46,6 @@ private:
     bool can_import(const QMimeData& dragged) const;
 
     IngredientList& list_;
-    QString import_extension_;
     ListPorts ports_;
     Opener opener_;
     std::function<bool()> picked_;

@@ -1,5 +1,8 @@
 #include "frame/windows/main_window.h"
 
+#include "calculators/hop_degradation.h"
+#include "calculators/windows/hop_degradation_window.h"
+#include "calculators/windows/ibu_calculator_window.h"
 #include "databases/windows/ingredient_windows.h"
 #include "desktop/menus.h"
 #include "desktop/text.h"
@@ -45,12 +48,13 @@ int command_of(DocumentKind kind) {
 } // namespace
 
 MainWindow::MainWindow(Program& program, Prompts& prompts, Files& files)
-    : program_(program), prompts_(prompts), files_(files) {
+    : program_(program), prompts_(prompts), files_(files),
+      board_(
+          new PictureBoard(program.data_folder, art_scheme(program.art_scheme), commands_, prompts, this)) {
     const auto& info = window_info("GENERIC");
     setObjectName(string_of(info.template_name));
     setWindowTitle(string_of(info.captions[0]));
     setAcceptDrops(true);
-    board_ = new PictureBoard(program.data_folder, art_scheme(program.art_scheme), commands_, prompts_, this);
     setCentralWidget(board_);
     carry_out_commands();
     add_menu();
@@ -68,9 +72,34 @@ void MainWindow::carry_out_commands() {
         if (wants(DocumentKind::recipe) && choose_and_open(program_, DocumentKind::recipe, files_, prompts_))
             show_recipe();
     });
-    const DatabasePorts databases{program_, files_, prompts_};
-    commands_.carry_out(command::hop_database, [this, databases] { keep_hops(databases, this); });
+    carry_out_databases();
     commands_.carry_out(command::exit, [this] { close(); });
+}
+
+void MainWindow::carry_out_databases() {
+    const DatabasePorts ports{program_, files_, prompts_};
+    const auto carry_out = [this, ports](int command, void (*keep)(const DatabasePorts&, QWidget*)) {
+        commands_.carry_out(command, [this, ports, keep] { keep(ports, this); });
+    };
+    carry_out(command::style_database, keep_styles);
+    carry_out(command::malt_database, keep_malts);
+    carry_out(command::hop_database, keep_hops);
+    carry_out(command::yeast_database, keep_yeasts);
+    carry_out(command::water_database, keep_waters);
+    carry_out(command::extra_database, keep_extras);
+    commands_.carry_out(command::hop_time_degradation, [this, ports] {
+        const auto degrade = [this](QWidget* list, const HopRecord& hop) {
+            auto work = picked_hop(hop, program_.hop_memory, program_.settings);
+            degrade_hop(program_, list, work);
+        };
+        pick_hops_for(degrade, ports, this);
+    });
+    commands_.carry_out(command::hop_ibu, [this, ports] {
+        const auto calculate = [this](QWidget* list, const HopRecord& hop) {
+            run_ibu_calculator(program_, list, picked_hop(hop, program_.hop_memory, program_.settings));
+        };
+        pick_hops_for(calculate, ports, this);
+    });
 }
 
 bool MainWindow::wants(DocumentKind kind) {

@@ -25,6 +25,7 @@ protected:
 
 private:
     void carry_out_commands();
+    void carry_out_databases();
     void add_menu();
     void fill_recent(QMenu& menu);
     void put();
@@ -37,7 +38,7 @@ private:
     Prompts& prompts_;
     Files& files_;
     CommandTable commands_;
-    PictureBoard* board_ = nullptr;
+    PictureBoard* board_;
 };
 
 } // namespace wortlex

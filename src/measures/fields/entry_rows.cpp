@@ -161,10 +161,10 @@ IntegerRow& IntegerRow::typed(Live<std::int32_t> low, Live<std::int32_t> high) {
     return *this;
 }
 
-IntegerRow& IntegerRow::spun(Live<std::int32_t> low, Live<std::int32_t> high, std::int32_t by) {
+IntegerRow& IntegerRow::spun(Live<std::int32_t> low, Live<std::int32_t> high, std::int32_t step) {
     spun_low_ = std::move(low);
     spun_high_ = std::move(high);
-    step_ = by;
+    step_ = step;
     return *this;
 }
 
@@ -184,19 +184,24 @@ IntegerRow& IntegerRow::outside(Outside rule) {
     return *this;
 }
 
+IntegerRow& IntegerRow::format(std::string pattern) {
+    pattern_ = std::move(pattern);
+    return *this;
+}
+
 IntegerRow& IntegerRow::temperature(TemperatureUnits units) {
     units_ = units;
     step_ = 1;
     return *this;
 }
 
-bool IntegerRow::store(std::int32_t value, bool has_changed) {
+bool IntegerRow::store(std::int32_t value, bool has_changed) const {
     if (has_changed) value_.set(value);
     return has_changed;
 }
 
 void IntegerRow::show(TextField& field) const {
-    show_int(field, value_.get(), "%d");
+    show_int(field, value_.get(), pattern_);
 }
 
 bool IntegerRow::typed(TextField& field) {
@@ -218,7 +223,7 @@ bool IntegerRow::spun(TextField& field, Spin direction) {
     if (units_) return store(value, spin_temperature(*units_, field, value, field_length, direction));
     const SpinRange range{static_cast<float>(spun_low_()), static_cast<float>(spun_high_()),
                           static_cast<float>(step_)};
-    return store(value, spin_int(field, value, range, field_length, direction, "%d"));
+    return store(value, spin_int(field, value, range, field_length, direction, pattern_));
 }
 
 TextRow::TextRow(std::string row_key, std::function<std::string_view()> read,

@@ -97,6 +97,7 @@ public:
     IntegerRow& range(Live<std::int32_t> low, Live<std::int32_t> high);
     IntegerRow& step(std::int32_t by);
     IntegerRow& outside(Outside rule);
+    IntegerRow& format(std::string pattern); ///< of `show_int`; not for temperatures
     /// Whole degrees of `units`, pulled back into their fixed range.
     IntegerRow& temperature(TemperatureUnits units);
 
@@ -106,12 +107,13 @@ public:
     bool has_arrows() const override { return step_ > 0; }
 
 private:
-    bool store(std::int32_t value, bool has_changed);
+    bool store(std::int32_t value, bool has_changed) const;
 
     Binding<std::int32_t> value_;
     Live<std::int32_t> typed_low_, typed_high_;
     Live<std::int32_t> spun_low_, spun_high_;
     std::int32_t step_ = 0;
+    std::string pattern_ = "%d";
     Outside outside_ = Outside::ignore;
     std::optional<TemperatureUnits> units_;
 };
@@ -166,7 +168,10 @@ private:
 class ShownRow : public EntryOptions<ShownRow> {
 public:
     ShownRow(std::string row_key, std::function<std::string()> text);
-    ShownRow& lines() { return multi_line_ = true, *this; }
+    ShownRow& lines() {
+        multi_line_ = true;
+        return *this;
+    }
     /// Looks like a number, even where it may be blank.
     ShownRow& figure();
 

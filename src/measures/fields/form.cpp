@@ -143,7 +143,7 @@ bool Form::check(CheckRow& row, bool checked) {
 }
 
 // A selection is no edit of the document, but other rows may hang on it.
-void Form::select(ListRow& row, std::int32_t index) {
+void Form::select(ListRow& row, std::int32_t index) const {
     if (row.selected == nullptr || *row.selected == index) return;
     *row.selected = index;
     if (row.after_edit) row.after_edit();

@@ -49,6 +49,11 @@ public:
             std::move(key), [&field] { return field.view(); },
             [&field](std::string_view stored) { field.assign(stored); }, N - 1);
     }
+    /// A text that is no field of its own: read and written as Windows-1252, of at most so many bytes.
+    TextRow& text(std::string key, std::function<std::string_view()> read,
+                  std::function<void(std::string_view)> write, std::size_t most_bytes) {
+        return add<TextRow>(std::move(key), std::move(read), std::move(write), most_bytes);
+    }
 
     std::span<const std::unique_ptr<Row>> rows() const { return rows_; }
     /// Every row in order, those of grids included.
@@ -123,7 +128,7 @@ public:
     bool spin(EntryRow& row, TextField& field, Spin direction);
     bool choose(ChoiceRow& row, std::size_t option);
     bool check(CheckRow& row, bool checked);
-    void select(ListRow& row, std::int32_t index);
+    void select(ListRow& row, std::int32_t index) const;
 
     void accept() const;
     void cancel() const;

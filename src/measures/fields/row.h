@@ -60,12 +60,30 @@ template <class Self, class Base>
 class RowOptions : public Base {
 public:
     using Base::Base;
-    Self& label(Live<std::string> text) { return this->label_text = std::move(text), self(); }
-    Self& hint(Live<std::string> text) { return this->hint_text = std::move(text), self(); }
-    Self& enabled(Live<bool> when) { return this->is_enabled = std::move(when), self(); }
-    Self& visible(Live<bool> when) { return this->is_visible = std::move(when), self(); }
-    Self& changed(std::function<void()> then) { return this->after_edit = std::move(then), self(); }
-    Self& colours(ColorArea pair) { return this->area = pair, self(); }
+    Self& label(Live<std::string> text) {
+        this->label_text = std::move(text);
+        return self();
+    }
+    Self& hint(Live<std::string> text) {
+        this->hint_text = std::move(text);
+        return self();
+    }
+    Self& enabled(Live<bool> when) {
+        this->is_enabled = std::move(when);
+        return self();
+    }
+    Self& visible(Live<bool> when) {
+        this->is_visible = std::move(when);
+        return self();
+    }
+    Self& changed(std::function<void()> then) {
+        this->after_edit = std::move(then);
+        return self();
+    }
+    Self& colours(ColorArea pair) {
+        this->area = pair;
+        return self();
+    }
 
 private:
     Self& self() { return static_cast<Self&>(*this); }

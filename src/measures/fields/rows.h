@@ -16,11 +16,18 @@ public:
     ChoiceRow(std::string row_key, Binding<std::int32_t> code, std::vector<Live<std::string>> option_words);
     void accept(RowVisitor& visitor) override { visitor.visit(*this); }
 
-    ChoiceRow& look(Look as) { return shape = as, *this; }
+    ChoiceRow& look(Look as) {
+        shape = as;
+        return *this;
+    }
     /// The codes of the options, where they are not 0, 1, 2 ...
-    ChoiceRow& codes(std::vector<std::int32_t> numbers) { return numbers_ = std::move(numbers), *this; }
+    ChoiceRow& codes(std::vector<std::int32_t> numbers) {
+        numbers_ = std::move(numbers);
+        return *this;
+    }
     ChoiceRow& option_enabled(std::function<bool(std::size_t)> when) {
-        return option_when = std::move(when), *this;
+        option_when = std::move(when);
+        return *this;
     }
 
     /// Nothing if the value is none of the codes.
@@ -61,7 +68,10 @@ public:
     SwatchRow(std::string row_key, std::function<std::uint32_t()> paint)
         : RowOptions(std::move(row_key), std::nullopt), colour(std::move(paint)) {}
     void accept(RowVisitor& visitor) override { visitor.visit(*this); }
-    SwatchRow& pressed(std::function<void()> then) { return press = std::move(then), *this; }
+    SwatchRow& pressed(std::function<void()> then) {
+        press = std::move(then);
+        return *this;
+    }
 
     std::function<std::uint32_t()> colour;
     std::function<void()> press;
@@ -98,9 +108,13 @@ public:
     /// -1: no row. Kept within the list.
     ListRow& selection(std::int32_t& index) { return selected = &index, *this; }
     ListRow& header_clicked(std::function<void(std::size_t column)> then) {
-        return click_header = std::move(then), *this;
+        click_header = std::move(then);
+        return *this;
     }
-    ListRow& activated(std::function<void()> then) { return activate = std::move(then), *this; }
+    ListRow& activated(std::function<void()> then) {
+        activate = std::move(then);
+        return *this;
+    }
 
     std::vector<ListColumn> columns;
     std::function<std::size_t()> count;

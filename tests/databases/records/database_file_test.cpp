@@ -44,11 +44,20 @@ TEST(DatabaseFile, HoldsACountAndAThousandSlotsUnderItsOwnName) {
             [=](auto& path, auto& styles, auto& prompts) { return LoadStyles(path, bjcp, styles, prompts); });
 }
 
-TEST(DatabaseFile, BadCountOrLengthIsToldAndLeavesTheFileAlone) {
-    // clang-format off
-    for (const auto& [count, size, good] : {std::tuple{0, 0U, false}, {1, 222003U, false},
-         {1001, 222004U, false}, {-1, 222004U, false}, {1000, 222004U, true}, {2, 222100U, true}}) {
-        // clang-format on
+TEST(DatabaseFile, BadCountOrLengthIsToldAndOpenedAsFarAsItHolds) {
+    struct Case {
+        std::int32_t count;
+        std::size_t size;
+        bool good;
+        std::int32_t opened;
+    };
+    for (const auto& [count, size, good, opened] : {Case{0, 0, false, 0},
+                                                    {1, 222003, false, 1},
+                                                    {3, 4 + 222 * 3 - 1, false, 2},
+                                                    {1001, 222004, false, 1000},
+                                                    {-1, 222004, false, 0},
+                                                    {1000, 222004, true, 1000},
+                                                    {2, 222100, true, 2}}) {
         SCOPED_TRACE(count);
         const TemporaryFolder folder;
         Bytes file(size, std::byte{'x'});
@@ -56,14 +65,14 @@ TEST(DatabaseFile, BadCountOrLengthIsToldAndLeavesTheFileAlone) {
         ASSERT_TRUE(save_atomically(folder / "WATER.DAT", file));
         ScriptedPrompts prompts;
         if (!good)
-            prompts.expect_tell("The file WATER.DAT is damaged or too short. Its database is shown empty, "
-                                "and the file is left as it is.",
+            prompts.expect_tell("The file WATER.DAT is damaged or too short. It is shown as far as it holds, "
+                                "and stays as it is until you save.",
                                 Icon::warning);
         Database<WaterRecord> water;
         water.count = 7;
         EXPECT_EQ(LoadWater(folder.path(), water, prompts),
                   good ? DatabaseState::loaded : DatabaseState::damaged);
-        EXPECT_EQ(water.count, good ? count : 0);
+        EXPECT_EQ(water.count, opened);
         EXPECT_EQ(water.slots.size(), 1000U);
         EXPECT_EQ(read_file(folder / "WATER.DAT"), file);
     }

@@ -1,0 +1,66 @@
+#include "calculators/windows/ibu_calculator_window.h"
+
+#include "base/windows1252.h"
+#include "calculators/ibu_calculator.h"
+#include "calculators/windows/formula_type_window.h"
+#include "calculators/windows/hop_degradation_window.h"
+#include "desktop/form_dialog.h"
+
+namespace wortlex {
+namespace {
+
+class IbuCalculatorWindow {
+public:
+    IbuCalculatorWindow(Program& program, QWidget* owner, const HopUse& hop)
+        : program_(program), hop_(hop), settings_(program.settings),
+          calculator_(start_calculator(hop, program.hop_memory, settings_)), form_(made_form()),
+          dialog_(form_, {.template_name = template_name(), .has_cancel = false},
+                  {program.tool_positions, program.settings}, owner) {}
+
+    void run() {
+        dialog_.exec();
+        remember_calculator(calculator_, program_.hop_memory);
+    }
+
+private:
+    Form made_form() {
+        Form form;
+        ibu_calculator_form(form, calculator_, settings_, utf8_from_windows1252(hop_.record.name.view()),
+                            {.figure_time_loss = [this] { figure_time_loss(); },
+                             .choose_formula = [this] { change_formula(); },
+                             .print = nullptr,
+                             .help = nullptr});
+        return form;
+    }
+
+    std::string_view template_name() const {
+        return settings_.display_home_bittering != 0 ? "HOPIBUFROMWIEGHTDIALOG" : "HOPIBUFROMWIEGHTDIALOG1";
+    }
+
+    void figure_time_loss() {
+        hop_.alpha = calculator_.start_alpha;
+        if (const auto adjusted = degrade_hop(program_, &dialog_, hop_))
+            take_storage_loss(calculator_, hop_.alpha, *adjusted, settings_);
+        dialog_.widgets().refresh();
+    }
+
+    void change_formula() {
+        if (choose_formula(program_, &dialog_, settings_)) ibu_from_weight(calculator_, settings_);
+        dialog_.widgets().refresh();
+    }
+
+    Program& program_;
+    HopUse hop_;
+    Settings settings_; // its own: no other window is to see the formula that is tried here
+    HopCalculator calculator_;
+    Form form_;
+    FormDialog dialog_;
+};
+
+} // namespace
+
+void run_ibu_calculator(Program& program, QWidget* owner, const HopUse& picked) {
+    IbuCalculatorWindow(program, owner, picked).run();
+}
+
+} // namespace wortlex

@@ -1,0 +1,149 @@
+#include "databases/extras.h"
+
+#include "base/windows1252.h"
+
+#include <algorithm>
+
+namespace wortlex {
+namespace {
+
+constexpr std::int32_t most_time = 200;
+constexpr std::size_t most_characters = 54; // of every text that the dialog takes
+
+constexpr CatalogueWords words = {
+    .import_filter = "Extra Import File (*.eim)|*.eim",
+    .import_extension = "eim",
+    .export_file = "Extra.eim",
+    .sort_files = {"esort1.srt", "esort2.srt"},
+    .data_file = "EXTRA.DAT",
+    .full = "The Extra Ingredient Database is Full!",
+    .clone_warning =
+        "Cloning may cause problems with inventory and/or selecting if either the Name or Type of "
+        "Ingredient is not changed to reflect a unique entry. You may change any of these items "
+        "after the cloning process.\n\nDo you really want to clone this entry?",
+    .replace_warning =
+        "Replacing the item will NOT overwrite your existing inventory amounts.\n\nDo you wish "
+        "to replace this item?",
+    .closing_question = "The extra-ingredients database has been modified!\nDo you want to save the changes?",
+    .maintenance_template = "EXTRATYPEDIALOG",
+    .entry_template = "EXTRAENTRYDIALOG",
+    .inventory_template = "EXTRAINVENTORY",
+    .pick_template = "EXTRAPICKDIALOG"};
+
+std::vector<CatalogueColumn<ExtraRecord>> columns() {
+    using Extra = CatalogueBuilder<ExtraRecord>;
+    return {Extra::text("Name", 24, &ExtraRecord::name).stretched(),
+            Extra::words("Type Of Ingredient", 18,
+                         [](const ExtraRecord& extra) { return std::string(type_word(extra.extra_type)); }),
+            Extra::text("Use", 30, &ExtraRecord::use),
+            Extra::stock("In Stock", &ExtraRecord::stock, [](float amount) { return amount; })};
+}
+
+std::string stock_unit(const ExtraRecord& extra) {
+    constexpr std::array units = {"Oz", "Grams", "Lbs", "Tsp(s)", "Tbsp(s)", "Cup(s)", "Units"};
+    const auto unit = static_cast<std::size_t>(extra.amount_unit);
+    return unit < units.size() ? units[unit] : "";
+}
+
+std::string name_of(const ExtraRecord& extra) {
+    return utf8_from_windows1252(extra.name.view());
+}
+
+CatalogueFilter<ExtraRecord> only(ExtraType wanted, std::string label, const std::string& kept,
+                                  const std::string& picked) {
+    return {std::move(label), "Extra Ingredients Database Maintenance - " + kept,
+            "Extra Ingredients Pick - " + picked,
+            [wanted](const ExtraRecord& extra) { return extra.extra_type == wanted; }};
+}
+
+std::vector<CatalogueFilter<ExtraRecord>> filters() {
+    return {{"&All", "Extra Ingredients Database Maintenance - All Types",
+             "Extra Ingredients Pick - All Types", nullptr},
+            only(ExtraType::spice, "Spice", "Spices", "Spices"),
+            only(ExtraType::fruit, "&Fruit", "Fruits", "Fruits"),
+            only(ExtraType::coffee, "C&offee", "Coffee", "Coffee"),
+            only(ExtraType::fining, "Finin&g", "Fining", "Fining"),
+            only(ExtraType::other, "O&ther", "Other Types", "Other Types"),
+            only(ExtraType::herb, "Her&b", "Herb Types", "Herbs")};
+}
+
+void time_rows(Rows& rows, ExtraRecord& extra) {
+    rows.integer("time", extra.time)
+        .label("S&uggested Time:")
+        .range(0, most_time)
+        .step(1)
+        .outside(Outside::clamp);
+    rows.choice("time_unit", extra.time_unit, {"Time in &Days", "Time &in Minutes"});
+    rows.choice("time_place", extra.time_place, {"Time in Boi&l.", "Time in Fe&rmenter", "Time in &Mash"})
+        .look(ChoiceRow::Look::down);
+}
+
+// What a file brought beyond the limits of the dialog goes with its OK.
+void hold_in_range(ExtraRecord& extra) {
+    extra.time = std::clamp(extra.time, 0, most_time);
+    cut_to(extra.use, most_characters);
+    cut_to(extra.comment, most_characters);
+}
+
+} // namespace
+
+std::string_view type_word(ExtraType type) {
+    constexpr std::array<std::string_view, 6> type_words = {"Spice", "Fruit",  "Coffee",
+                                                            "Other", "Fining", "Herb"};
+    const auto code = static_cast<std::size_t>(type);
+    return code < type_words.size() ? type_words[code] : "";
+}
+
+void extra_entry_form(Form& form, ExtraRecord& extra) {
+    auto& texts = form.group("Ingredient");
+    texts.text("name", extra.name).label("&Name").limit(most_characters).width(40);
+    texts.text("use", extra.use).label("Us&e:").limit(most_characters).width(40);
+    texts.text("comment", extra.comment).label("Commen&t:").limit(most_characters).width(40);
+    time_rows(form.group("Time"), extra);
+    form.next_column();
+    form.group("Type Of Ingredient")
+        .choice("type", extra.extra_type, {"&Spice", "&Fruit", "&Coffee", "&Other", "Finin&g Agent", "&Herb"})
+        .look(ChoiceRow::Look::down);
+    form.next_column();
+    // No letters are left for these to be unique.
+    form.group("Default Measurement")
+        .choice("amount_unit", extra.amount_unit,
+                {"Ounces", "Grams", "Pounds", "Tsp", "Tbsp", "Cups", "Single Unit"})
+        .look(ChoiceRow::Look::down);
+    form.on_accept([&extra] { hold_in_range(extra); });
+}
+
+Catalogue<ExtraRecord> extra_catalogue(const Settings& /*settings*/, const std::string& data_folder) {
+    Catalogue<ExtraRecord> extras;
+    extras.words = words;
+    extras.columns = columns();
+    extras.chains = {{0}, {1, 0}, {2, 0}, {3, 0}};
+    extras.identity = {0, 1};
+    extras.filters = filters();
+    extras.stock = {.amount = &ExtraRecord::stock,
+                    .to_shown = [](float amount) { return amount; },
+                    .from_shown = [](float amount) { return amount; },
+                    .unit = stock_unit,
+                    .most_typed = 1000};
+    extras.new_record = [](std::size_t) {
+        ExtraRecord extra;
+        extra.extra_type = ExtraType::other;
+        return extra;
+    };
+    extras.entry_form = extra_entry_form;
+    extras.is_same = [](const ExtraRecord& a, const ExtraRecord& b) {
+        return a.name == b.name && a.extra_type == b.extra_type;
+    };
+    extras.keep = [](ExtraRecord& imported, const ExtraRecord& existing) { imported.stock = existing.stock; };
+    extras.exists_text = [](const ExtraRecord& extra) {
+        return name_of(extra) + " \nThis extra type already exists in the database!";
+    };
+    extras.delete_name = name_of;
+    extras.load = [data_folder](Database<ExtraRecord>& into, Prompts& prompts) {
+        return LoadExtras(data_folder, into, prompts);
+    };
+    extras.save = [data_folder](const Database<ExtraRecord>& from) { return SaveExtras(data_folder, from); };
+    return extras;
+}
+
+} // namespace wortlex

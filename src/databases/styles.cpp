@@ -1,0 +1,166 @@
+#include "databases/styles.h"
+
+namespace wortlex {
+namespace {
+
+constexpr std::string_view nothing_changed = "No changes have been made in the Styles Database!";
+
+std::string book_name(StyleBook book) {
+    return book == StyleBook::aha ? "AHA" : "BJCP";
+}
+
+std::string switch_question(StyleBook book) {
+    const auto name = book_name(book);
+    return "You have made changes to the Style Guidlines Database!\nThese guidlines adhere to " + name +
+           " guidlines and changing them may affect validity.\nAre you sure you want to save the changes?";
+}
+
+std::string save_question(StyleBook book) {
+    const std::string name = book == StyleBook::aha ? "the pre-2000 AHA" : "BJCP";
+    return "You have made changes to the Style Guidelines Database!\nThese guidelines adhere to " + name +
+           " guidelines and changing them may affect validity.\nAre you sure you want to save the changes?";
+}
+
+constexpr CatalogueWords aha_words = {
+    .import_filter = "AHA Style Import File (*.asim)|*.asim",
+    .import_extension = "asim",
+    .export_file = "Style.asim",
+    .sort_files = {"ssort1.srt", "ssort2.srt"},
+    .data_file = "STYLES.DAT",
+    .full = "The Style Database is Full!",
+    .clone_warning = "",
+    .replace_warning = "\n\nDo you wish to replace this item?",
+    .closing_question =
+        "You have made changes to the Style Guidlines Database!\nExiting now will not save the changes "
+        "made.\nThese guidlines adhere to AHA guidlines and changing them may affect validity.\nDo you want "
+        "to save the changes?",
+    .maintenance_template = "STYLETYPEDIALOG",
+    .entry_template = "STYLEENTRYDIALOG",
+    .inventory_template = "",
+    .pick_template = "STYLEPICKDIALOG"};
+
+CatalogueWords words_of(StyleBook book) {
+    auto words = aha_words;
+    if (book == StyleBook::aha) return words;
+    words.import_filter = "BJCP Style Import File (*.bsim)|*.bsim";
+    words.import_extension = "bsim";
+    words.export_file = "Style.bsim";
+    words.data_file = "STYLES.BJCP";
+    words.closing_question =
+        "You have made changes to the Style Guidlines Database!\nExiting now will not save the changes "
+        "made.\nThese guidlines adhere to BJCP guidlines and changing them may affect validity.\nDo you want "
+        "to save the changes?";
+    return words;
+}
+
+CatalogueFilter<StyleRecord> set_of(StyleBook book, std::string label) {
+    const auto styles = book_name(book) + " Styles";
+    return {std::move(label), "Style Database Maintenance - " + styles, "Style Pick - " + styles, nullptr};
+}
+
+StyleRecord new_style(std::size_t /*filter*/) {
+    StyleRecord style;
+    style.min_og = 1.020F;
+    style.max_og = 1.030F;
+    style.min_fg = 1.010F;
+    style.max_fg = 1.015F;
+    return style;
+}
+
+bool is_same_style(const StyleRecord& a, const StyleRecord& b) {
+    return a.name == b.name && a.category == b.category && a.type == b.type;
+}
+
+} // namespace
+
+std::string style_number(const StyleRecord& style) {
+    const std::string letter = style.letter == '\0' ? "?" : std::string(1, style.letter);
+    return formatted("%02d", style.number) + "-" + utf8_from_windows1252(letter);
+}
+
+std::string style_type_word(const StyleRecord& style) {
+    constexpr std::array words = {"Ale", "Lager", "Cider", "Mead", "Sake", "Ale/Lager"};
+    const auto code = static_cast<std::size_t>(style.type);
+    return code < words.size() ? words.at(code) : "N/A";
+}
+
+Catalogue<StyleRecord> style_catalogue(const Settings& settings, const std::string& data_folder,
+                                       StyleBook book) {
+    using Style = CatalogueBuilder<StyleRecord>;
+    const bool bjcp = book == StyleBook::bjcp;
+    Catalogue<StyleRecord> styles;
+    styles.words = words_of(book);
+    styles.columns = {Style::words(book_name(book) + "\n#", 6, style_number),
+                      Style::text("Category", 26, &StyleRecord::category),
+                      Style::text("Sub-Category", 30, &StyleRecord::name).stretched(),
+                      Style::words("Type", 10, style_type_word)};
+    styles.chains = {{0}, {1, 0}, {2, 0}, {3, 0}};
+    styles.identity = {1, 2, 3};
+    styles.filters = {set_of(StyleBook::aha, "&AHA"), set_of(StyleBook::bjcp, "&BJCP")};
+    styles.new_limit = 194;
+    styles.new_record = new_style;
+    styles.entry_form = [&settings](Form& form, StyleRecord& style) {
+        style_entry_form(form, style, settings);
+    };
+    styles.entry_caption = bjcp ? 1 : 0;
+    styles.is_same = is_same_style;
+    styles.keep = [](StyleRecord&, const StyleRecord&) {};
+    styles.exists_text = [](const StyleRecord& style) {
+        return utf8_from_windows1252(style.name.view()) + " " + utf8_from_windows1252(style.category.view()) +
+               "\nThis Style already exists in the database!";
+    };
+    styles.delete_name = [](const StyleRecord& style) {
+        return utf8_from_windows1252(style.category.view()) + "\n" + utf8_from_windows1252(style.name.view());
+    };
+    styles.load = [data_folder, bjcp](Database<StyleRecord>& into, Prompts& prompts) {
+        return LoadStyles(data_folder, bjcp, into, prompts);
+    };
+    styles.save = [data_folder, bjcp](const Database<StyleRecord>& from) {
+        return SaveStyles(data_folder, bjcp, from);
+    };
+    return styles;
+}
+
+StyleStore::StyleStore(Settings& settings, ListSide side, const std::string& data_folder,
+                       Database<StyleRecord>& database)
+    : Store(style_catalogue(settings, data_folder, settings.style_book), side, data_folder, database),
+      settings_(settings), book_(settings.style_book) {
+    take(book_);
+}
+
+// A damaged setting counts as the second set.
+void StyleStore::take(StyleBook book) {
+    book_ = book == StyleBook::aha ? book : StyleBook::bjcp;
+    filter = static_cast<std::int32_t>(book_);
+    catalogue_ = style_catalogue(settings_, data_folder(), book_);
+    if (side() == ListSide::maintenance) settings_.style_book = book_;
+}
+
+void StyleStore::open(Prompts& prompts) {
+    take(static_cast<StyleBook>(filter));
+    Store::open(prompts);
+}
+
+void StyleStore::choose_filter(std::int32_t chosen, Prompts& prompts) {
+    const auto book = static_cast<StyleBook>(chosen);
+    if (book == book_) return;
+    if (side() == ListSide::maintenance && is_changed()) {
+        const auto question = switch_question(book_);
+        const bool wants_save = prompts.ask_yes_no({.text = question, .icon = Icon::warning}) == Answer::yes;
+        if (wants_save && !write(prompts)) return show_again();
+    }
+    take(book);
+    reload(prompts);
+    show_again();
+}
+
+void StyleStore::save(Prompts& prompts) {
+    const auto question = save_question(book_);
+    if (!is_changed())
+        prompts.tell({.text = nothing_changed, .icon = Icon::information});
+    else if (prompts.ask_yes_no({.text = question, .icon = Icon::warning}) == Answer::yes)
+        write(prompts);
+    show_again();
+}
+
+} // namespace wortlex

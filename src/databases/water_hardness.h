@@ -1,0 +1,34 @@
+// The ions and the pH of a water from what a laboratory reports instead: hardness and alkalinity, both in ppm
+// as calcium carbonate.
+#pragma once
+
+#include "databases/records/ingredients.h"
+#include "measures/fields/form.h"
+
+namespace wortlex {
+
+/// The forms that carbon dioxide takes in water, in ppm.
+struct Carbonates {
+    double carbonic_acid = 0;
+    double bicarbonate = 0;
+    double carbonate = 0;
+};
+
+/// The share that each form has in the alkalinity at a pH, by the two dissociation constants of carbonic
+/// acid.
+Carbonates carbonates_of(float alkalinity, float ph);
+
+/// In ppm, from the part of the hardness that the ion makes.
+float calcium_of(float hardness);
+float magnesium_of(float hardness);
+
+/// The pH, 7 to 8.35, at which the charges of a water with nothing but this bicarbonate (ppm) cancel out; 7
+/// where there is none.
+float ph_of_bicarbonate(float bicarbonate);
+
+/// The converters. OK stores their result in the water, which must outlive the form.
+void calcium_hardness_form(Form& form, WaterRecord& water);
+void magnesium_hardness_form(Form& form, WaterRecord& water);
+void alkalinity_form(Form& form, WaterRecord& water);
+
+} // namespace wortlex

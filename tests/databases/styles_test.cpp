@@ -1,0 +1,141 @@
+#include "databases/styles.h"
+#include "support/desk.h"
+#include "support/field.h"
+#include "support/temporary_folder.h"
+
+#include <gtest/gtest.h>
+
+namespace wortlex {
+namespace {
+
+StyleRecord style(std::int16_t number, char letter, std::string_view category, std::string_view name,
+                  BeerType type) {
+    StyleRecord record;
+    record.category.assign(category);
+    record.name.assign(name);
+    std::tie(record.number, record.letter, record.type) = std::tie(number, letter, type);
+    return record;
+}
+
+// Both sets in files of their own, the AHA set in force.
+struct Styles {
+    TemporaryFolder folder;
+    Settings settings;
+    ScriptedPrompts prompts;
+    Database<StyleRecord> database;
+
+    Styles() {
+        write(false, {style(10, 'B', "Stout", "Dry Stout", BeerType::ale),
+                      style(2, 'A', "Bock", "Helles", BeerType::lager),
+                      style(2, '\0', "Bock", "Other", static_cast<BeerType>(9))});
+        write(true, {style(27, 'A', "Cider", "Common", BeerType::cider),
+                     style(1, 'A', "Rice", "Junmai", BeerType::sake)});
+    }
+    void write(bool bjcp, const std::vector<StyleRecord>& entries) {
+        database.count = static_cast<std::int32_t>(entries.size());
+        std::copy(entries.begin(), entries.end(), database.slots.begin());
+        EXPECT_TRUE(SaveStyles(folder.path(), bjcp, database));
+    }
+    StyleStore open(ListSide side) {
+        StyleStore store(settings, side, folder.path(), database);
+        store.open(prompts);
+        return store;
+    }
+    void expect_question(const std::string& text, Answer answer) {
+        prompts.expect("yes/no", "You have made changes to the Style " + text, answer, Icon::warning);
+    }
+    void expect_switch(const std::string& book, Answer answer) {
+        expect_question("Guidlines Database!\nThese guidlines adhere to " + book +
+                            " guidlines and changing them may affect validity.\nAre you sure you want to "
+                            "save the changes?",
+                        answer);
+    }
+};
+
+std::string column(const StyleStore& store, std::size_t which) {
+    std::string list;
+    for (std::size_t row = 0; row < store.shown_count(); ++row) list += store.cell(row, which) + "|";
+    return list;
+}
+
+void rename_first(StyleStore& store) {
+    store.selected = 0;
+    const auto entry = store.edit_entry();
+    PlainField field("Renamed");
+    entry->form.type(dynamic_cast<EntryRow&>(entry->form.row("name")), field);
+    entry->form.accept();
+}
+
+TEST(StyleList, NumbersAndSorts) {
+    Styles styles;
+    auto store = styles.open(ListSide::maintenance);
+    EXPECT_EQ(column(store, 0), "02-?|02-A|10-B|") << "sorted as it reads";
+    EXPECT_EQ(column(store, 3), "N/A|Lager|Ale|");
+    store.click(2);
+    EXPECT_EQ(column(store, 2), "Dry Stout|Helles|Other|");
+    styles.prompts.expect("yes/no", "Do you really want to delete the\n\nStout\nDry Stout\n\nentry?",
+                          Answer::no, Icon::question);
+    store.delete_entry(styles.prompts);
+}
+
+TEST(StyleList, SwitchesTheSetInForce) {
+    Styles styles;
+    auto store = styles.open(ListSide::maintenance);
+    rename_first(store);
+    styles.expect_switch("AHA", Answer::no);
+    store.choose_filter(1, styles.prompts);
+    EXPECT_EQ(styles.settings.style_book, StyleBook::bjcp);
+    EXPECT_EQ(store.heads()[0].caption + column(store, 3), "BJCP\n#Sake|Cider|");
+    EXPECT_EQ(store.edit_entry()->caption, 1U);
+    rename_first(store);
+    styles.expect_switch("BJCP", Answer::yes);
+    store.choose_filter(0, styles.prompts);
+    EXPECT_EQ(column(store, 2), "Other|Helles|Dry Stout|") << "No dropped the change";
+    auto pick = styles.open(ListSide::pick);
+    pick.choose_filter(1, styles.prompts);
+    EXPECT_EQ(pick.caption() + column(pick, 2), "Style Pick - BJCP StylesRenamed|Common|");
+    EXPECT_EQ(styles.settings.style_book, StyleBook::aha) << "until the style is taken";
+}
+
+TEST(StyleList, WarnsBeforeItSaves) {
+    Styles styles;
+    auto store = styles.open(ListSide::maintenance);
+    styles.prompts.expect_tell("No changes have been made in the Styles Database!", Icon::information);
+    store.save(styles.prompts);
+    rename_first(store);
+    styles.expect_question(
+        "Guidelines Database!\nThese guidelines adhere to the pre-2000 AHA guidelines and changing "
+        "them may affect validity.\nAre you sure you want to save the changes?",
+        Answer::no);
+    store.save(styles.prompts);
+    styles.expect_question(
+        "Guidlines Database!\nExiting now will not save the changes made.\nThese guidlines adhere "
+        "to AHA guidlines and changing them may affect validity.\nDo you want to save the changes?",
+        Answer::yes);
+    EXPECT_TRUE(store.close(styles.prompts)) << "No left the change as it was";
+    EXPECT_EQ(column(styles.open(ListSide::pick), 2), "Renamed|Helles|Dry Stout|");
+}
+
+TEST(StyleEntry, DragsByArrowsAloneAndKeepsItsColours) {
+    Settings settings;
+    settings.color_units = ColorUnits::ebc_traditional;
+    auto record = style(1, 'A', "Rice", "Junmai", BeerType::sake);
+    record.min_og = 1.05F;
+    record.max_og = 1.052F;
+    record.min_colour = 0.1F; // shown as 0, which would not come back
+    const auto before = record;
+    Form form;
+    style_entry_form(form, record, settings);
+    form.accept();
+    EXPECT_EQ(record, before);
+    auto& low = dynamic_cast<EntryRow&>(form.row("min_og"));
+    PlainField field("1.050");
+    form.spin(low, field, Spin::up);
+    EXPECT_EQ(record.max_og, record.min_og);
+    field.content = "1.090";
+    form.type(low, field);
+    EXPECT_NEAR(record.max_og, 1.055, 1e-5) << "typing drags nothing";
+}
+
+} // namespace
+} // namespace wortlex

@@ -1,0 +1,85 @@
+#include "databases/store.h"
+#include "databases/water.h"
+#include "databases/water_hardness.h"
+#include "support/desk.h"
+#include "support/field.h"
+#include "support/temporary_folder.h"
+
+#include <gtest/gtest.h>
+
+namespace wortlex {
+namespace {
+
+void type(Form& form, const char* key, const char* text) {
+    PlainField field(text);
+    form.type(dynamic_cast<EntryRow&>(form.row(key)), field);
+}
+
+TEST(WaterList, WorksOnTheResidentArray) {
+    const TemporaryFolder folder;
+    ScriptedPrompts prompts;
+    Database<WaterRecord> resident{.count = 2};
+    resident.slots[0] = {.name = Text<27>("pilsen"), .known_for = {}};
+    resident.slots[1] = {
+        .name = Text<27>("Pilsen"), .magnesium = 2.25F, .bicarbonate = 1234.5F, .known_for = {}};
+    ASSERT_TRUE(SaveWater(folder.path(), resident));
+    Store<WaterRecord> store(water_catalogue(Settings(), folder.path(), {}), ListSide::maintenance,
+                             folder.path(), resident);
+    store.open(prompts);
+    EXPECT_EQ(store.cell(1, 2) + " " + store.cell(1, 3) + " " + store.cell(1, 6), "0002.2 0000.0 1234.5");
+    store.selected = 1;
+    EXPECT_EQ(store.selected_entry(), 1U) << "capitals tell two entries apart";
+    const auto entry = store.new_entry(prompts);
+    EXPECT_FALSE(dynamic_cast<ButtonRow&>(entry->form.row("from_alkalinity")).press) << "no converter";
+    type(entry->form, "name", "Burton");
+    entry->form.accept();
+    prompts.expect("yes/no", "The water database has been modified!\nDo you want to save the changes?",
+                   Answer::no, Icon::warning);
+    EXPECT_TRUE(store.close(prompts));
+    EXPECT_EQ(resident.count, 2) << "No reads the file again";
+}
+
+TEST(WaterEntry, TakesWhatItsConvertersBringAndClampsItOnAccept) {
+    WaterRecord record{.name = Text<27>("Twenty-five characters ab"), .sodium = -1, .known_for = {}};
+    const auto convert = [](WaterRecord& entered) {
+        Form form;
+        alkalinity_form(form, entered);
+        type(form, "caco3", "6000");
+        type(form, "ph", "6");
+        form.accept();
+    };
+    Form form;
+    water_entry_form(form, record, {nullptr, nullptr, convert});
+    dynamic_cast<ButtonRow&>(form.row("from_alkalinity")).press();
+    EXPECT_NEAR(record.bicarbonate, 6099.4, 0.1) << "6100 but for a trace of carbonate; CaCO3 ends at 5000";
+    form.accept();
+    EXPECT_EQ(std::tuple(record.bicarbonate, record.ph, record.sodium, record.name.view().size()),
+              std::tuple(2000.0F, 6.0F, 0.0F, 24U));
+    type(form, "bicarbonate", "0");
+    dynamic_cast<ButtonRow&>(form.row("calculate_ph")).press();
+    EXPECT_EQ(record.ph, 7.0F);
+}
+
+TEST(WaterHardness, GivesIonsAndPh) {
+    WaterRecord record;
+    Form calcium, magnesium;
+    calcium_hardness_form(calcium, record);
+    magnesium_hardness_form(magnesium, record);
+    for (auto* const form : {&calcium, &magnesium}) {
+        type(*form, "caco3", "125");
+        form->accept();
+    }
+    EXPECT_EQ(std::pair(record.calcium, record.magnesium), std::pair(50.0F, 30.25F));
+    for (const float ph : {4.0F, 6.48F, 8.3F, 12.0F}) {
+        const auto shares = carbonates_of(100, ph);
+        EXPECT_NEAR(shares.bicarbonate / 61 + 2 * shares.carbonate / 60, 2.0, 1e-9) << "charge at pH " << ph;
+    }
+    const auto half = carbonates_of(100, 6.48F);
+    EXPECT_NEAR(half.carbonic_acid / 44, half.bicarbonate / 61, 1e-5) << "at the first constant";
+    for (const float none : {0.0F, -5.0F, std::nanf("")}) EXPECT_EQ(ph_of_bicarbonate(none), 7.0F);
+    for (const auto& [ppm, ph] : {std::pair{0.610171F, 7.67854}, {61.0171F, 8.30809}, {2000.0F, 8.34859}})
+        EXPECT_NEAR(ph_of_bicarbonate(ppm), ph, 1e-4) << "where the charges cancel, " << ppm;
+}
+
+} // namespace
+} // namespace wortlex
