@@ -11,7 +11,22 @@ minutes=${1:-5}
 cmake --preset fuzz > /dev/null
 cmake --build --preset fuzz
 [ -d build/fuzz/brewery ] || build/fuzz/tools/make-brewery data build/fuzz/brewery
-[ $# -gt 0 ] || set -- recipe session settings schedule color_table database
+[ $# -gt 0 ] || set -- recipe session settings schedule color_table database import sort_file
+
+# The first entries of a database behind the bytes of HEAD.
+seed_entries() {
+    printf "$2"
+    tail -c +5 "build/fuzz/brewery/$1" | head -c 20000
+}
+
+# A transfer file for each database, headed by its number and three answers.
+seed_import() {
+    number=0
+    for database in STYLES.DAT MALT.DAT HOPS.DAT YEAST.DAT WATER.DAT EXTRA.DAT; do
+        seed_entries "$database" "\\$number\\0\\2\\1" > "$1/$database"
+        number=$((number + 1))
+    done
+}
 
 run() {
     target=$1
@@ -23,6 +38,8 @@ run() {
     settings) cp build/fuzz/brewery/WlxMSys.DAT "$corpus" ;;
     color_table) cp build/fuzz/brewery/kv_lovrgb.ldt "$corpus" ;;
     database) cp build/fuzz/brewery/WATER.DAT "$corpus" ;;
+    import) seed_import "$corpus" ;;
+    sort_file) seed_entries HOPS.DAT '\0\1\0\1\0\0\1' > "$corpus/hops" ;;
     esac
     if build/fuzz/fuzz/"$target"_fuzz "$corpus" -max_total_time=$((minutes * 60)) -max_len=1500000 -rss_limit_mb=4096 \
         -artifact_prefix="build/fuzz/findings/$target-" > "build/fuzz/logs/$target" 2>&1; then
@@ -32,6 +49,6 @@ run() {
         return 1
     fi
 }
-export -f run
+export -f run seed_import seed_entries
 export minutes
 printf '%s\n' "$@" | xargs -P 2 -I TARGET bash -c 'run TARGET'

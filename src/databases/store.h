@@ -58,6 +58,9 @@ public:
     void save(Prompts& prompts) override;
     bool close(Prompts& prompts) override;
 
+    /// The same from the bytes of a transfer file; `name` is what messages call it.
+    void import_bytes(ByteView file, const std::string& name, Prompts& prompts);
+
     /// The entry that the selected row means: the first one that reads the same. Nothing without a selection.
     std::optional<std::size_t> selected_entry() const;
     const Record& entry(std::size_t index) const { return database_.slots[index]; }
@@ -309,10 +312,15 @@ template <class Record>
 void Store<Record>::import_file(const std::string& path, Prompts& prompts) {
     const auto file = read_file(path);
     if (!file) return prompts.tell({.text = file_not_found, .icon = Icon::error});
-    auto records = transferred<Record>(*file);
+    import_bytes(*file, path, prompts);
+}
+
+template <class Record>
+void Store<Record>::import_bytes(ByteView file, const std::string& name, Prompts& prompts) {
+    auto records = transferred<Record>(file);
     const auto unreadable =
         std::erase_if(records, [](const Record& record) { return !looks_like_a_record(record); });
-    if (records.empty()) return prompts.tell({.text = nothing_to_import(path), .icon = Icon::error});
+    if (records.empty()) return prompts.tell({.text = nothing_to_import(name), .icon = Icon::error});
     sort_canonically<Record>(entries(), catalogue_);
     Merge merge;
     for (auto& record : records) {
