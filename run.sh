@@ -10,7 +10,7 @@ recipe=${1:-"Recipes/Ploughman's Best Bitter.rec"}
 [ ! -e "$recipe" ] || recipe=$(realpath "$recipe") # else it is one of ./brewery
 cd "$(dirname "$0")"
 . tools/install.sh
-install_missing g++ cmake ninja-build qt6-base-dev qt6-svg-dev
+install_missing g++ cmake ninja-build qt6-base-dev qt6-svg-dev libjpeg-dev
 [ -z "${WAYLAND_DISPLAY:-}" ] || install_missing qt6-wayland
 
 cmake --preset release > /dev/null

@@ -4,7 +4,7 @@
 set -eu
 cd "$(dirname "$0")"
 . tools/install.sh
-install_missing git g++ cmake ninja-build qt6-base-dev qt6-svg-dev libgtest-dev libgmock-dev locales clang-format \
+install_missing git g++ cmake ninja-build qt6-base-dev qt6-svg-dev libjpeg-dev libgtest-dev libgmock-dev locales clang-format \
     clang-tidy
 
 cmake --preset test > /dev/null

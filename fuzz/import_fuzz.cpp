@@ -30,15 +30,11 @@ private:
     std::size_t asked_ = 0;
 };
 
-// Every entry came through the check of records, and stands where the order of the files has it.
 template <class Record>
-void check_entries(Database<Record> database, const Catalogue<Record>& catalogue) {
-    promise(database.count <= import_limit);
-    for (const auto& entry : database.entries()) promise(looks_like_a_record(entry));
-    const auto before = database.slots;
+Database<Record> in_order(Database<Record> database, const Catalogue<Record>& catalogue) {
     sort_canonically<Record>(std::span(database.slots).first(static_cast<std::size_t>(database.count)),
                              catalogue);
-    promise(database.slots == before);
+    return database;
 }
 
 template <class Record>
@@ -55,10 +51,10 @@ void use(Store<Record>& list, QuietPrompts& prompts) {
 template <class Record>
 void check(Catalogue<Record> catalogue, ByteView input) {
     FuzzedPrompts prompts(input.subspan(1, head_size - 1));
-    Bytes saved;
+    Database<Record> saved;
     catalogue.load = [](Database<Record>&, Prompts&) { return DatabaseState::loaded; };
     catalogue.save = [&](const Database<Record>& database) {
-        saved = database_bytes(database, layout_of(Record{}));
+        saved = database;
         return true;
     };
     Database<Record> database;
@@ -69,10 +65,12 @@ void check(Catalogue<Record> catalogue, ByteView input) {
     list.save(prompts);
 
     Database<Record> again;
-    promise(read_database(saved, layout_of(Record{}), again) == DatabaseState::loaded);
-    promise(holds_the_same(again, database));
-    promise(database_bytes(again, layout_of(Record{})) == saved);
-    check_entries(again, catalogue);
+    const auto file = database_bytes(saved, layout_of(Record{}));
+    promise(read_database(file, layout_of(Record{}), again) == DatabaseState::loaded);
+    promise(again == saved && in_order(again, catalogue) == saved);
+    promise(holds_the_same(in_order(database, catalogue), saved));
+    promise(again.count <= import_limit);
+    for (const auto& entry : again.entries()) promise(looks_like_a_record(entry));
 }
 
 } // namespace

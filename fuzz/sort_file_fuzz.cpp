@@ -20,6 +20,11 @@ std::vector<Bytes> stored(const std::vector<Record>& records) {
     return all;
 }
 
+std::vector<Bytes> in_any_order(std::vector<Bytes> records) {
+    std::sort(records.begin(), records.end());
+    return records;
+}
+
 template <class Record>
 void check(const Catalogue<Record>& catalogue, ByteView file) {
     const auto columns = catalogue.columns.size();
@@ -31,9 +36,9 @@ void check(const Catalogue<Record>& catalogue, ByteView file) {
     const auto before = stored(records);
     sort_by<Record>(records, catalogue, sort.column, sort.descending);
     const auto sorted = stored(records);
-    promise(std::is_permutation(sorted.begin(), sorted.end(), before.begin(), before.end()));
     sort_by<Record>(records, catalogue, sort.column, sort.descending);
     promise(stored(records) == sorted);
+    promise(in_any_order(sorted) == in_any_order(before));
 }
 
 } // namespace

@@ -3,6 +3,6 @@
 set -eu
 cd "$(dirname "$0")/.."
 . tools/install.sh
-install_missing cmake ninja-build g++ graphviz qt6-base-dev qt6-svg-dev
+install_missing cmake ninja-build g++ graphviz qt6-base-dev qt6-svg-dev libjpeg-dev
 cmake --preset release --graphviz=build/rooms.dot > /dev/null
 sed '/subgraph clusterLegend/,/^}/d' build/rooms.dot | tred | dot -Tsvg -o docs/rooms.svg

@@ -4,14 +4,14 @@
 set -eu
 cd "$(dirname "$0")/.."
 . tools/install.sh
-install_missing clang cmake ninja-build qt6-base-dev qt6-svg-dev
+install_missing clang cmake ninja-build qt6-base-dev qt6-svg-dev libjpeg-dev
 
 minutes=${1:-5}
 [ $# -eq 0 ] || shift
 cmake --preset fuzz > /dev/null
 cmake --build --preset fuzz
 [ -d build/fuzz/brewery ] || build/fuzz/tools/make-brewery data build/fuzz/brewery
-[ $# -gt 0 ] || set -- recipe session settings schedule color_table database import sort_file
+[ $# -gt 0 ] || set -- recipe session settings schedule color_table database import sort_file jpeg
 
 # The first entries of a database behind the bytes of HEAD.
 seed_entries() {
@@ -39,6 +39,7 @@ run() {
     color_table) cp build/fuzz/brewery/kv_lovrgb.ldt "$corpus" ;;
     database) cp build/fuzz/brewery/WATER.DAT "$corpus" ;;
     import) seed_import "$corpus" ;;
+    jpeg) printf '\1\20\20' > "$corpus/picture" ;;
     sort_file) seed_entries HOPS.DAT '\0\1\0\1\0\0\1' > "$corpus/hops" ;;
     esac
     if build/fuzz/fuzz/"$target"_fuzz "$corpus" -max_total_time=$((minutes * 60)) -max_len=1500000 -rss_limit_mb=4096 \

@@ -21,14 +21,6 @@ float srm_of(float mcu, ColorFormula formula) {
     return 0;
 }
 
-std::int32_t alpha_of(const ColorRow& row, const Settings& settings) {
-    std::int64_t alpha = 255;
-    if (settings.alpha_mode == AlphaMode::from_table)
-        alpha = std::int64_t{row.alpha} + settings.global_alpha_adjust;
-    if (settings.alpha_mode == AlphaMode::global_value) alpha = settings.global_alpha;
-    return static_cast<std::int32_t>(std::clamp<std::int64_t>(alpha, 0, 255));
-}
-
 std::uint32_t painted(std::int32_t channel, std::int32_t calibration, std::int32_t alpha) {
     // Wide enough for any table; the blend takes what a 32-bit channel can be.
     const auto calibrated = std::clamp<std::int64_t>(std::int64_t{channel} + calibration, -65536, 65536);
@@ -66,9 +58,18 @@ std::int32_t blend_over_white(std::int32_t channel, std::int32_t alpha) {
     return truncate(blended * 255.0);
 }
 
+std::int32_t swatch_alpha(const ColorTable& table, float srm, const Settings& settings) {
+    const auto& row = table.rows[color_row_index(srm)];
+    std::int64_t alpha = 255;
+    if (settings.alpha_mode == AlphaMode::from_table)
+        alpha = std::int64_t{row.alpha} + settings.global_alpha_adjust;
+    if (settings.alpha_mode == AlphaMode::global_value) alpha = settings.global_alpha;
+    return static_cast<std::int32_t>(std::clamp<std::int64_t>(alpha, 0, 255));
+}
+
 std::uint32_t swatch_colour(const ColorTable& table, float srm, const Settings& settings) {
     const auto& row = table.rows[color_row_index(srm)];
-    const auto alpha = alpha_of(row, settings);
+    const auto alpha = swatch_alpha(table, srm, settings);
     return painted(row.red, settings.calibration_red, alpha) |
            painted(row.green, settings.calibration_green, alpha) << 8 |
            painted(row.blue, settings.calibration_blue, alpha) << 16;

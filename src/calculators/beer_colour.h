@@ -55,6 +55,9 @@ std::size_t color_row_index(float srm);
 /// Blends a channel over white paper; channel and alpha from 0 to 255.
 std::int32_t blend_over_white(std::int32_t channel, std::int32_t alpha);
 
+/// How opaque a colour is painted, 0 to 255: as the settings say, or as its row does.
+std::int32_t swatch_alpha(const ColorTable& table, float srm, const Settings& settings);
+
 /// The colour of a swatch as 0x00BBGGRR: the row of `srm`, calibrated and blended as the settings say.
 std::uint32_t swatch_colour(const ColorTable& table, float srm, const Settings& settings);
 

@@ -4,12 +4,18 @@
 #include <QVBoxLayout>
 
 namespace wortlex {
+namespace {
+
+constexpr int title_buttons = 80; // pixels that a title bar keeps for itself, roughly
+
+} // namespace
 
 FormDialog::FormDialog(Form& form, const DialogUse& use, const Places& places, QWidget* owner)
     : QDialog(owner), form_(form), widgets_(form, places.settings, *this),
       place_(dress_window(*this, window_info(use.template_name), use.caption, use.opener, owner, places)) {
     setWindowModality(Qt::WindowModal);
     auto* const layout = new QVBoxLayout(this);
+    layout->addStrut(fontMetrics().horizontalAdvance(windowTitle()) + title_buttons);
     layout->addLayout(lay_out(form, widgets_));
     auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Ok, this);
     if (use.has_cancel) buttons->addButton(QDialogButtonBox::Cancel);

@@ -19,6 +19,8 @@ struct DialogUse {
 class FormDialog : public QDialog {
 public:
     FormDialog(Form& form, const DialogUse& use, const Places& places, QWidget* owner);
+    /// Hidden before its widgets go: losing the focus they would still ask the form.
+    ~FormDialog() override { hide(); }
     FormWidgets& widgets() { return widgets_; }
 
     void accept() override;

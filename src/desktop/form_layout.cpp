@@ -15,6 +15,7 @@ public:
     RowsLayout(const FormWidgets& widgets, QGridLayout& grid) : widgets_(widgets), grid_(grid) {}
 
     void add(const Rows& rows) {
+        stacks_buttons_ = rows.has_stacked_buttons();
         for (const auto& row : rows.rows()) row->accept(*this);
         grid_.setColumnStretch(1, 1);
     }
@@ -28,8 +29,9 @@ private:
     void visit(CanvasRow& row) override { add_field(row); }
     void visit(ListRow& row) override { add_field(row); }
 
-    // Buttons that follow each other stand side by side.
+    // Buttons that follow each other stand side by side, unless their group wants them below each other.
     void visit(ButtonRow& row) override {
+        if (stacks_buttons_) return add_field(row);
         if (buttons_ == nullptr) {
             buttons_ = new QHBoxLayout;
             buttons_->addStretch();
@@ -56,6 +58,7 @@ private:
         for (const auto& cell : line.cells.rows()) {
             auto& field = widgets_.field(*cell);
             if (column == 1) label->setBuddy(&field);
+            if (auto* const words = qobject_cast<QLabel*>(&field)) words->setAlignment(Qt::AlignCenter);
             if (field.accessibleName().isEmpty())
                 field.setAccessibleName(label->text().remove(QLatin1Char('&')));
             table.addWidget(&field, place, column++);
@@ -68,12 +71,19 @@ private:
         const int place = grid_.rowCount();
         const bool is_tall = qobject_cast<QPlainTextEdit*>(&widgets_.field(row)) != nullptr;
         if (label != nullptr) grid_.addWidget(label, place, 0, is_tall ? Qt::AlignTop : Qt::Alignment());
-        grid_.addWidget(&widgets_.field(row), place, label == nullptr ? 0 : 1, 1, label == nullptr ? 2 : 1);
+        const int column = label == nullptr ? 0 : 1;
+        auto* const unit = widgets_.unit(row);
+        if (unit == nullptr) return grid_.addWidget(&widgets_.field(row), place, column, 1, 2 - column);
+        auto* const field_and_unit = new QHBoxLayout;
+        field_and_unit->addWidget(&widgets_.field(row));
+        field_and_unit->addWidget(unit, 1);
+        grid_.addLayout(field_and_unit, place, column, 1, 2 - column);
     }
 
     const FormWidgets& widgets_;
     QGridLayout& grid_;
     QHBoxLayout* buttons_ = nullptr;
+    bool stacks_buttons_ = false;
 };
 
 QLayout* rows_layout(const Rows& rows, const FormWidgets& widgets) {

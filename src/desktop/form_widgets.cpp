@@ -9,6 +9,7 @@
 #include <QButtonGroup>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QPointer>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QStyle>
@@ -22,6 +23,18 @@ QString spoken(QString label) {
     label.remove(QLatin1Char('&'));
     if (label.endsWith(QLatin1Char(':'))) label.chop(1);
     return label;
+}
+
+// A button's caption does not wrap by itself, so a sentence is broken at its blanks.
+QString broken(QString caption) {
+    constexpr qsizetype longest_line = 64;
+    for (qsizetype start = 0; caption.size() - start > longest_line;) {
+        const auto blank = caption.lastIndexOf(QLatin1Char(' '), start + longest_line);
+        if (blank <= start) break;
+        caption[blank] = QLatin1Char('\n');
+        start = blank + 1;
+    }
+    return caption;
 }
 
 void aim_at_width(QLineEdit& line, const EntryRow& row, int beside) {
@@ -59,22 +72,34 @@ QLabel* FormWidgets::label(std::string_view key) const {
     return label(form_.row(key));
 }
 
+QLabel* FormWidgets::unit(const Row& row) const {
+    return shown_.at(&row).unit;
+}
+
 void FormWidgets::make(Row& row) {
     row.accept(*this);
     const auto found = shown_.find(&row);
-    if (found == shown_.end()) return;
-    found->second.field->setObjectName(string_of(row.key));
-    if (row.area) apply_colours(*found->second.field, *row.area, colours_);
+    if (found != shown_.end()) found->second.field->setObjectName(string_of(row.key));
 }
 
 FormWidgets::Shown& FormWidgets::keep(Row& row, QWidget& field, std::function<void()> refresh) {
-    return shown_[&row] = {&field, nullptr, std::move(refresh)};
+    return shown_[&row] = {&field, nullptr, std::move(refresh), nullptr};
 }
 
 void FormWidgets::add_label(Shown& shown, const Row& row) {
     if (row.label_text().empty()) return;
     shown.label = new QLabel(&parent_);
     shown.label->setBuddy(shown.field);
+}
+
+void FormWidgets::add_unit(Shown& shown, const EntryRow& row) {
+    if (row.unit_text().empty()) return;
+    shown.unit = new QLabel(&parent_);
+    shown.refresh = [show = std::move(shown.refresh), unit = shown.unit, &row] {
+        show();
+        unit->setText(string_of(row.unit_text()));
+        unit->setVisible(row.is_visible());
+    };
 }
 
 void FormWidgets::show_state(const Row& row, const Shown& shown) const {
@@ -88,7 +113,16 @@ void FormWidgets::show_state(const Row& row, const Shown& shown) const {
     if (shown.label != nullptr) shown.label->setVisible(visible);
 }
 
+// The user may be changing the very colours that the fields bear.
+void FormWidgets::recolour() {
+    if (borne_ == std::pair(colours_.foreground, colours_.background)) return;
+    borne_ = {colours_.foreground, colours_.background};
+    for (const auto& [row, shown] : shown_)
+        if (row->area) apply_colours(*shown.field, *row->area, colours_);
+}
+
 void FormWidgets::refresh(const Row* except) {
+    recolour();
     for (const auto& [row, shown] : shown_) {
         if (row != except && shown.refresh) shown.refresh();
         show_state(*row, shown);
@@ -143,7 +177,9 @@ void FormWidgets::make_line(EntryRow& row) {
     };
     QObject::connect(line, &QLineEdit::textEdited, &alive_, [this, &row, field] { form_.type(row, *field); });
     QObject::connect(line, &QLineEdit::editingFinished, &alive_, show);
-    add_label(keep(row, *widget, std::move(show)), row);
+    auto& shown = keep(row, *widget, std::move(show));
+    add_label(shown, row);
+    add_unit(shown, row);
 }
 
 void FormWidgets::visit(ChoiceRow& row) {
@@ -178,14 +214,16 @@ void FormWidgets::make_buttons(ChoiceRow& row) {
         layout->addWidget(button);
     }
     if (row.shape == ChoiceRow::Look::across) layout->addStretch();
-    auto show = [&row, buttons] {
+    frame->setFocusPolicy(Qt::StrongFocus); // the label's mnemonic goes to the chosen button
+    auto show = [&row, buttons, frame] {
         const auto chosen = row.chosen();
         buttons->setExclusive(chosen.has_value()); // none is marked where the value is none of them
         for (auto* const button : buttons->buttons()) {
             const auto option = static_cast<std::size_t>(buttons->id(button));
-            button->setText(string_of(row.words[option]()));
+            button->setText(broken(string_of(row.words[option]())));
             button->setEnabled(!row.option_when || row.option_when(option));
             button->setChecked(chosen == option);
+            if (chosen == option) frame->setFocusProxy(button);
         }
         buttons->setExclusive(true);
     };
@@ -231,7 +269,11 @@ void FormWidgets::visit(ButtonRow& row) {
     auto* const button = new QPushButton(&parent_);
     keep(row, *button, [&row, button] { button->setText(string_of(row.label_text())); });
     if (!row.press) row.enabled(false);
-    QObject::connect(button, &QPushButton::clicked, &alive_, [&row] { row.press(); });
+    QObject::connect(button, &QPushButton::clicked, &alive_, [this, &row] {
+        const QPointer<QObject> still(&alive_); // what a button does may close the window
+        row.press();
+        if (!still.isNull()) refresh();
+    });
 }
 
 // Its cells are rows of their own; only the layout knows of lines and columns.

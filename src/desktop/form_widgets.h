@@ -21,8 +21,11 @@ public:
     /// What stands before a field; none where the row has no label, or bears it itself.
     QLabel* label(std::string_view key) const;
     QLabel* label(const Row& row) const;
+    /// What stands behind a field; none where the row has no unit.
+    QLabel* unit(const Row& row) const;
 
-    /// Shows every row as it is now, but the one being typed in.
+    /// Shows every row as it is now, but the one being typed in. Follows every edit and every button, and
+    /// takes up colours that have changed.
     void refresh(const Row* except = nullptr);
 
 private:
@@ -30,6 +33,7 @@ private:
         QWidget* field = nullptr;
         QLabel* label = nullptr;
         std::function<void()> refresh;
+        QLabel* unit = nullptr;
     };
 
     void visit(EntryRow& row) override;
@@ -42,9 +46,13 @@ private:
     void visit(ButtonRow& row) override;
     void visit(GridRow& row) override;
 
+    using AreaColours = decltype(SystemSettings::foreground);
+
     void make(Row& row);
+    void recolour();
     Shown& keep(Row& row, QWidget& field, std::function<void()> refresh);
     void add_label(Shown& shown, const Row& row);
+    void add_unit(Shown& shown, const EntryRow& row);
     void show_state(const Row& row, const Shown& shown) const;
     void make_page(EntryRow& row);
     void make_line(EntryRow& row);
@@ -55,6 +63,8 @@ private:
     const SystemSettings& colours_;
     QWidget& parent_;
     std::unordered_map<const Row*, Shown> shown_;
+    std::optional<std::pair<AreaColours, AreaColours>>
+        borne_;     ///< text and ground; none yet before the first refresh
     QObject alive_; ///< its end cuts every connection, before the fields that it served go
 };
 

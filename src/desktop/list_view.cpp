@@ -1,9 +1,12 @@
 #include "desktop/list_view.h"
 
+#include "desktop/text.h"
+
 #include <QHeaderView>
 #include <QProxyStyle>
 
 #include <algorithm>
+#include <utility>
 
 namespace wortlex {
 
@@ -84,7 +87,11 @@ ListView::ListView(const ListRow& row, QWidget* parent)
     size_columns();
 }
 
+// Columns keep the width that the user gave them until their captions change.
 void ListView::size_columns() {
+    QStringList captions;
+    for (const auto& column : row_.columns) captions << string_of(column.caption());
+    if (std::exchange(captions_, captions) == captions) return;
     const int digit = fontMetrics().horizontalAdvance(QLatin1Char('0'));
     for (int column = 0; column < model_->columnCount(); ++column) {
         const auto& told = row_.columns[static_cast<std::size_t>(column)];

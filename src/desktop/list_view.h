@@ -41,6 +41,7 @@ private:
 
     const ListRow& row_;
     ListModel* model_;
+    QStringList captions_; ///< that the columns were sized for
     bool is_refreshing_ = false;
 };
 

@@ -61,6 +61,14 @@ Rectangle rectangle_of(const QWidget& window) {
     return {corner.x(), corner.y(), corner.x() + window.width(), corner.y() + window.height()};
 }
 
+void centre_over_owner(QWidget& window) {
+    const auto* const owner = window.parentWidget();
+    if (owner == nullptr) return;
+    const auto place = within_screens(
+        centred_over(rectangle_of(*owner->window()), window.width(), window.height()), screen_rectangles());
+    window.move(place.left, place.top);
+}
+
 WindowPlace::WindowPlace(QWidget& window, QWidget* origin, int slot, const Places& places)
     : QObject(&window), window_(window), origin_(origin), slot_(slot), places_(places) {
     window.installEventFilter(this);

@@ -29,6 +29,9 @@ struct Places {
 std::vector<Rectangle> screen_rectangles();
 Rectangle rectangle_of(const QWidget& window);
 
+/// Moves a window that is open to where it would come up without a remembered place.
+void centre_over_owner(QWidget& window);
+
 /// Puts a window to its place in `slot`, or centres it over `origin`, and remembers its place when it goes.
 class WindowPlace : public QObject {
 public:

@@ -121,7 +121,8 @@ void figure_rows(Rows& rows, const RecipeSubject& subject) {
                 [&figures, &settings, &colours = subject.colours] {
                     return swatch_colour(colours, figures.colour.srm, settings);
                 })
-        .label("CLR");
+        .label("CLR")
+        .pressed(subject.show_colour);
 }
 
 void malt_rows(Rows& rows, const RecipeSubject& subject) {

@@ -23,6 +23,9 @@ public:
     ListWindow(IngredientList& list, const ListPorts& ports, Opener opener, std::function<bool()> picked,
                QWidget* owner);
 
+    /// Hidden before its form goes, which the list still reads.
+    ~ListWindow() override { hide(); }
+
     void setVisible(bool visible) override;
     void accept() override { leave(QDialog::Accepted); }
     void reject() override { leave(QDialog::Rejected); }

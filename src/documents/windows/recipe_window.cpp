@@ -34,7 +34,8 @@ void add_field(QGridLayout& grid, const FormWidgets& widgets, std::string_view k
 RecipeWindow::RecipeWindow(Program& program, const RecipeWindowPorts& ports, QWidget* origin)
     : ToolWindow(window_info("RECIPEDIALOG"), 0, Opener::main, origin,
                  {program.tool_positions, program.settings}),
-      program_(program), ports_(ports), subject_{open_recipe(program), view_, program.color_table},
+      program_(program),
+      ports_(ports), subject_{open_recipe(program), view_, program.color_table, [this] { show_colour(); }},
       form_(made_form(subject_)), widgets_(form_, program.settings, *this) {
     auto* const layout = new QVBoxLayout(this);
     add_menu();
@@ -164,6 +165,7 @@ void RecipeWindow::reopen() {
              .selected_hop = 0};
     saved_ = std::move(opened.saved);
     widgets_.refresh();
+    if (swatch_) swatch_->set_colour(program_.figures.colour.srm);
     show_file_name();
 }
 
@@ -177,6 +179,16 @@ void RecipeWindow::open_another() {
     if (!choose_and_open(program_, DocumentKind::recipe, ports_.files, ports_.prompts)) return;
     reopen();
     tell_method();
+}
+
+void RecipeWindow::show_colour() {
+    if (!swatch_)
+        swatch_ = new ColorSwatchWindow(program_, program_.figures.colour.srm, Opener::recipe, this);
+    bring_forward(*swatch_);
+}
+
+RecipeWindow::~RecipeWindow() {
+    if (swatch_) swatch_->close();
 }
 
 void RecipeWindow::show_file_name() {

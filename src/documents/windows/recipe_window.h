@@ -2,10 +2,13 @@
 #pragma once
 
 #include "base/ports/prompts.h"
+#include "calculators/windows/color_swatch_window.h"
 #include "desktop/form_widgets.h"
 #include "desktop/tool_window.h"
 #include "documents/recipe_form.h"
 #include "frame/program.h"
+
+#include <QPointer>
 
 namespace wortlex {
 
@@ -24,6 +27,7 @@ public:
     void reopen();
     /// What is left to tell once the window stands: a recipe of the other efficiency method.
     void tell_method();
+    ~RecipeWindow() override;
 
 private:
     void add_menu();
@@ -36,6 +40,7 @@ private:
     QLayout* page_part();
     void open_another();
     void show_file_name();
+    void show_colour();
 
     Program& program_;
     RecipeWindowPorts ports_;
@@ -44,6 +49,7 @@ private:
     RecipeSubject subject_;
     Form form_;
     FormWidgets widgets_;
+    QPointer<ColorSwatchWindow> swatch_; ///< open once at most
 };
 
 } // namespace wortlex

@@ -40,6 +40,7 @@ void SettingsSession::cancel() {
     desk_.files = saved_files_;
     desk_.working = saved_working_;
     desk_.folders = saved_folders_;
+    ApplySettings(image(), desk_.working, false);
 }
 
 bool SettingsSession::write_default() {
@@ -92,6 +93,7 @@ void system_settings_form(Form& form, SettingsSession& session, const SettingsBu
     files.button("save_as_default", "&Save As Default", buttons.save_as_default);
     form.next_column();
     auto& sections = form.group("Sections");
+    sections.stack_buttons();
     sections.button("measures", "&Measurements, Sizes, Precision", buttons.measures);
     sections.button("mash", "Mash System, E&vaporation", buttons.mash);
     sections.button("efficiency", "Brewhouse &Efficiency", buttons.efficiency);

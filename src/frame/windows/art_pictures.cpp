@@ -55,6 +55,16 @@ QPixmap load_picture(const std::string& path, std::string_view name, double devi
 
 } // namespace
 
+QPixmap about_picture(const std::string& data_folder, double device_scale) {
+    constexpr std::string_view name = "kettle";
+    ArtPictures only;
+    auto picture = load_picture(about_bitmap(data_folder), name, device_scale, only);
+    if (!picture.isNull()) return picture;
+    picture = QPixmap::fromImage(draw_artwork(sources, name, device_scale));
+    picture.setDevicePixelRatio(device_scale);
+    return picture;
+}
+
 ArtPictures load_art(const std::string& data_folder, const ArtScheme& scheme, double device_scale) {
     ArtPictures pictures;
     pictures.background =

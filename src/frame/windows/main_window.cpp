@@ -1,6 +1,7 @@
 #include "frame/windows/main_window.h"
 
 #include "calculators/hop_degradation.h"
+#include "calculators/windows/color_utility_window.h"
 #include "calculators/windows/hop_degradation_window.h"
 #include "calculators/windows/ibu_calculator_window.h"
 #include "databases/windows/ingredient_windows.h"
@@ -8,7 +9,9 @@
 #include "desktop/text.h"
 #include "documents/windows/recipe_window.h"
 #include "frame/exit.h"
+#include "frame/windows/about_window.h"
 #include "frame/windows/open_window.h"
+#include "frame/windows/settings_windows.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -73,6 +76,7 @@ void MainWindow::carry_out_commands() {
             show_recipe();
     });
     carry_out_databases();
+    carry_out_settings();
     commands_.carry_out(command::exit, [this] { close(); });
 }
 
@@ -100,6 +104,17 @@ void MainWindow::carry_out_databases() {
         };
         pick_hops_for(calculate, ports, this);
     });
+}
+
+void MainWindow::carry_out_settings() {
+    const auto edit_colours = [this](QWidget* over) {
+        run_color_utility(program_, program_.system.settings, {files_, prompts_, pictures_, clock_}, over);
+    };
+    commands_.carry_out(command::system_settings, [this, edit_colours] {
+        if (may_edit_settings(program_.tools, prompts_))
+            edit_system_settings({program_, files_, prompts_, edit_colours}, this);
+    });
+    commands_.carry_out(command::about, [this] { show_about(program_, this); });
 }
 
 bool MainWindow::wants(DocumentKind kind) {

@@ -1,9 +1,11 @@
 // The main window: its menu, its picture, and where commands become windows.
 #pragma once
 
+#include "desktop/desk.h"
 #include "desktop/tool_window.h"
 #include "frame/program.h"
 #include "frame/windows/picture_board.h"
+#include "jpeg/jpeg_pictures.h"
 
 #include <QMainWindow>
 
@@ -26,6 +28,7 @@ protected:
 private:
     void carry_out_commands();
     void carry_out_databases();
+    void carry_out_settings();
     void add_menu();
     void fill_recent(QMenu& menu);
     void put();
@@ -37,6 +40,8 @@ private:
     Program& program_;
     Prompts& prompts_;
     Files& files_;
+    JpegPictures pictures_;
+    SystemClock clock_;
     CommandTable commands_;
     PictureBoard* board_;
 };

@@ -23,6 +23,9 @@ struct ArtPictures {
 /// that the brewer put there himself is shown as it is.
 ArtPictures load_art(const std::string& data_folder, const ArtScheme& scheme, double device_scale);
 
+/// The picture of the about box, in the same way; a file that cannot be read is drawn from its source.
+QPixmap about_picture(const std::string& data_folder, double device_scale);
+
 /// A button that is a picture. It has a name for assistive tools; keyboards reach its command in the menu.
 class PictureButton : public QAbstractButton {
 public:

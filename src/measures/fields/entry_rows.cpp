@@ -146,9 +146,12 @@ bool NumberRow::spun(TextField& field, Spin direction) {
         has_changed = spin_plato(field, value, range, field_length, direction, scale_width, *settings_);
     else
         has_changed = spin_float(field, value, range, field_length, direction, pattern_());
-    store(value, before);
+    const float held = outside_ == Outside::hold ? std::clamp(value, range.low, range.high) : value;
+    store(held, before);
+    if (held != value) show(field);
+    value = held;
     if (value != before && when_spun_) when_spun_(before, value);
-    return has_changed;
+    return has_changed || value != before;
 }
 
 IntegerRow::IntegerRow(std::string row_key, Binding<std::int32_t> value)
@@ -223,7 +226,12 @@ bool IntegerRow::spun(TextField& field, Spin direction) {
     if (units_) return store(value, spin_temperature(*units_, field, value, field_length, direction));
     const SpinRange range{static_cast<float>(spun_low_()), static_cast<float>(spun_high_()),
                           static_cast<float>(step_)};
-    return store(value, spin_int(field, value, range, field_length, direction, pattern_));
+    const bool has_changed = spin_int(field, value, range, field_length, direction, pattern_);
+    if (outside_ != Outside::hold) return store(value, has_changed);
+    const auto held = std::clamp(value, spun_low_(), spun_high_());
+    const bool is_stored = store(held, held != value_.get());
+    if (held != value) show(field);
+    return is_stored;
 }
 
 TextRow::TextRow(std::string row_key, std::function<std::string_view()> read,

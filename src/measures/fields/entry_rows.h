@@ -21,29 +21,35 @@ public:
     virtual bool is_number() const { return true; }
     virtual bool is_multi_line() const { return false; }
 
-    std::string text_when_disabled; ///< empty: the value stays
-    int columns = 9;                ///< the width to aim at, in digits
+    std::string text_when_disabled;   ///< empty: the value stays
+    int columns = 9;                  ///< the width to aim at, in digits
+    Live<std::string> unit_text = ""; ///< stands behind the field
 };
 
 template <class Self>
 class EntryOptions : public RowOptions<Self, EntryRow> {
 public:
     using RowOptions<Self, EntryRow>::RowOptions;
-    Self& when_disabled(std::string text) {
-        this->text_when_disabled = std::move(text);
+    Self& when_disabled(std::string_view text) {
+        this->text_when_disabled = text;
         return static_cast<Self&>(*this);
     }
     Self& width(int digits) {
         this->columns = digits;
         return static_cast<Self&>(*this);
     }
+    Self& unit(const Live<std::string>& text) {
+        this->unit_text = text;
+        return static_cast<Self&>(*this);
+    }
 };
 
 /// What happens to a number typed outside its range.
 enum class Outside {
-    ignore, ///< the value stays, and the text too
-    clamp,  ///< the value is brought into range at once, the text when the field is left
-    rewrite ///< both at once
+    ignore,  ///< the value stays, and the text too
+    clamp,   ///< the value is brought into range at once, the text when the field is left
+    rewrite, ///< both at once
+    hold     ///< as `clamp`, and a step of the arrows ends at the limit too
 };
 
 /// A number, edited in the unit in which it is shown. Ranges and steps are in that unit.

@@ -133,7 +133,9 @@ bool Form::spin(EntryRow& row, TextField& field, Spin direction) {
 }
 
 bool Form::choose(ChoiceRow& row, std::size_t option) {
-    return finish(row, row.choose(option), nullptr);
+    const bool has_changed = finish(row, row.choose(option), nullptr);
+    if (row.pick) row.pick();
+    return has_changed;
 }
 
 bool Form::check(CheckRow& row, bool checked) {

@@ -56,6 +56,9 @@ public:
     }
 
     std::span<const std::unique_ptr<Row>> rows() const { return rows_; }
+    /// Buttons that follow each other stand below each other instead of side by side.
+    void stack_buttons() { has_stacked_buttons_ = true; }
+    bool has_stacked_buttons() const { return has_stacked_buttons_; }
     /// Every row in order, those of grids included.
     void walk(const std::function<void(Row&)>& action) const;
 
@@ -69,6 +72,7 @@ private:
     }
 
     std::vector<std::unique_ptr<Row>> rows_;
+    bool has_stacked_buttons_ = false;
 };
 
 class GridRow : public RowOptions<GridRow, Row> {

@@ -60,24 +60,24 @@ template <class Self, class Base>
 class RowOptions : public Base {
 public:
     using Base::Base;
-    Self& label(Live<std::string> text) {
-        this->label_text = std::move(text);
+    Self& label(const Live<std::string>& text) {
+        this->label_text = text;
         return self();
     }
-    Self& hint(Live<std::string> text) {
-        this->hint_text = std::move(text);
+    Self& hint(const Live<std::string>& text) {
+        this->hint_text = text;
         return self();
     }
-    Self& enabled(Live<bool> when) {
-        this->is_enabled = std::move(when);
+    Self& enabled(const Live<bool>& when) {
+        this->is_enabled = when;
         return self();
     }
-    Self& visible(Live<bool> when) {
-        this->is_visible = std::move(when);
+    Self& visible(const Live<bool>& when) {
+        this->is_visible = when;
         return self();
     }
-    Self& changed(std::function<void()> then) {
-        this->after_edit = std::move(then);
+    Self& changed(const std::function<void()>& then) {
+        this->after_edit = then;
         return self();
     }
     Self& colours(ColorArea pair) {

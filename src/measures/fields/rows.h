@@ -30,6 +30,12 @@ public:
         return *this;
     }
 
+    /// Called at every choice of the user, also of the option that is chosen already.
+    ChoiceRow& picked(std::function<void()> then) {
+        pick = std::move(then);
+        return *this;
+    }
+
     /// Nothing if the value is none of the codes.
     std::optional<std::size_t> chosen() const;
     /// Whether the value changed.
@@ -38,6 +44,7 @@ public:
     std::vector<Live<std::string>> words;
     Look shape = Look::across;
     std::function<bool(std::size_t)> option_when; ///< empty: all of them
+    std::function<void()> pick;
 
 private:
     std::int32_t code_of(std::size_t option) const;

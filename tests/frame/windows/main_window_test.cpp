@@ -4,6 +4,7 @@
 #include "frame/start.h"
 #include "frame/windows/main_window.h"
 #include "support/desk.h"
+#include "support/drop.h"
 #include "support/qt_keys.h"
 #include "support/sample_documents.h"
 #include "support/temporary_folder.h"
@@ -115,6 +116,21 @@ TEST(MainWindow, OpensARecipeOnceAndShowsItsFigures) {
     EXPECT_FALSE(any_open(brewery.program.tools));
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     EXPECT_FALSE(activate_if_open(brewery.program.tools, command::open_recipe));
+}
+
+TEST(MainWindow, OpensADroppedRecipe) {
+    Brewery brewery;
+    const auto path = brewery.save_sample("Porter");
+    save_atomically(brewery.folder / "notes.txt", Bytes(10));
+    MainWindow window(brewery.program, brewery.prompts, brewery.files);
+    window.show();
+    EXPECT_FALSE(drop_file(window, brewery.folder / "notes.txt"));
+    EXPECT_EQ(open_recipe_window(), nullptr);
+    EXPECT_TRUE(drop_file(window, path));
+    auto* const recipe = open_recipe_window();
+    ASSERT_NE(recipe, nullptr);
+    EXPECT_EQ(text_in(*recipe, "title"), "Porter");
+    EXPECT_TRUE(window.close());
 }
 
 TEST(MainWindow, TellsOfDamagedAndCutFilesAndKeepsTheOpenOne) {

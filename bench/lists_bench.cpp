@@ -1,0 +1,162 @@
+// A hop list with as many entries as a database may have: its file, its sorts, its filters, and what a click
+// on a column's head takes until the list is painted anew.
+#include "base/ports/quiet_prompts.h"
+#include "databases/hops.h"
+#include "databases/store.h"
+#include "databases/windows/list_window.h"
+#include "desktop/desk.h"
+
+#include <QApplication>
+#include <QHeaderView>
+#include <QMouseEvent>
+#include <QTreeView>
+
+#include <benchmark/benchmark.h>
+#include <filesystem>
+#include <random>
+
+namespace wortlex {
+namespace {
+
+// What a list stands on, in a folder of its own.
+struct Desk {
+    std::string folder = (std::filesystem::temp_directory_path() / "wortlex-measured-lists/").string();
+    SystemSettings image = WriteDefaultSettings();
+    Settings settings = settings_from(image);
+    ToolPositions positions;
+    QuietPrompts prompts;
+    FileDialogs files;
+    Database<HopRecord> database;
+
+    Desk() { std::filesystem::create_directories(folder); }
+    Desk(const Desk&) = delete;
+    Desk& operator=(const Desk&) = delete;
+    ~Desk() { std::filesystem::remove_all(folder); }
+
+    ListPorts ports() { return {{positions, settings}, files, prompts}; }
+    Catalogue<HopRecord> catalogue() const { return hop_catalogue(settings, folder); }
+};
+
+// Names repeat, as they do where a hop is kept in each of its forms.
+HopRecord hop(int i) {
+    constexpr std::array origins = {"United States", "United Kingdom", "Germany", "Czech Republic"};
+    HopRecord record;
+    record.name.assign(formatted("%d. hop", i / 3));
+    record.origin.assign(origins.at(static_cast<std::size_t>(i) % origins.size()));
+    record.alpha = narrow(2 + i % 160 / 10.0);
+    record.usage = static_cast<HopUsage>(1 + i % 3);
+    record.stock = narrow(i % 5 * 1.5);
+    set_form(record, static_cast<HopForm>(i % 3));
+    return record;
+}
+
+Database<HopRecord> shuffled() {
+    Database<HopRecord> database;
+    database.count = import_limit;
+    for (int i = 0; i < import_limit; ++i) database.slots[static_cast<std::size_t>(i)] = hop(i);
+    std::shuffle(database.slots.begin(), database.slots.begin() + import_limit, std::minstd_rand());
+    return database;
+}
+
+void load(benchmark::State& state, Desk& desk) {
+    for (auto _ : state) benchmark::DoNotOptimize(LoadHops(desk.folder, desk.database, desk.prompts));
+}
+
+// From the file to rows in order.
+void open(benchmark::State& state, Desk& desk) {
+    for (auto _ : state) {
+        Store<HopRecord> list(desk.catalogue(), ListSide::maintenance, desk.folder, desk.database);
+        list.open(desk.prompts);
+        benchmark::DoNotOptimize(list.shown_count());
+    }
+}
+
+void sort(benchmark::State& state, const Desk& desk, std::size_t column) {
+    const auto catalogue = desk.catalogue();
+    const auto unsorted = shuffled();
+    const std::vector<std::uint8_t> upwards(catalogue.columns.size(), 0);
+    for (auto _ : state) {
+        state.PauseTiming();
+        auto database = unsorted;
+        state.ResumeTiming();
+        sort_by<HopRecord>(std::span(database.slots).first(import_limit), catalogue, column, upwards);
+        benchmark::DoNotOptimize(database.slots.data());
+    }
+}
+
+void fill(benchmark::State& state, Desk& desk) {
+    Store<HopRecord> list(desk.catalogue(), ListSide::maintenance, desk.folder, desk.database);
+    list.open(desk.prompts);
+    for (auto _ : state) list.choose_filter(0, desk.prompts);
+    if (list.shown_count() != import_limit) state.SkipWithError("rows are missing");
+}
+
+// Notes that a widget has been painted.
+class PaintWatch : public QObject {
+public:
+    explicit PaintWatch(QWidget& watched) { watched.installEventFilter(this); }
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        is_painted = is_painted || event->type() == QEvent::Paint;
+        return QObject::eventFilter(watched, event);
+    }
+
+    bool is_painted = false;
+};
+
+void send(QWidget& to, QEvent::Type type, QPoint at, Qt::MouseButtons held) {
+    QMouseEvent event(type, at, to.mapToGlobal(at), Qt::LeftButton, held, Qt::NoModifier);
+    QApplication::sendEvent(&to, &event);
+}
+
+void click(QHeaderView& head, int column) {
+    const QPoint at(head.sectionViewportPosition(column) + head.sectionSize(column) / 2, head.height() / 2);
+    send(*head.viewport(), QEvent::MouseButtonPress, at, Qt::LeftButton);
+    send(*head.viewport(), QEvent::MouseButtonRelease, at, Qt::NoButton);
+}
+
+// Every second click turns the order around.
+void click_to_paint(benchmark::State& state, Desk& desk, int column) {
+    Store<HopRecord> list(desk.catalogue(), ListSide::maintenance, desk.folder, desk.database);
+    list.open(desk.prompts);
+    ListWindow window(list, desk.ports(), Opener::main, nullptr, nullptr);
+    window.show();
+    QApplication::processEvents();
+    auto& view = *window.findChild<QTreeView*>(QStringLiteral("list"));
+    PaintWatch watch(*view.viewport());
+    for (auto _ : state) {
+        watch.is_painted = false;
+        click(*view.header(), column);
+        while (!watch.is_painted) QApplication::processEvents();
+    }
+    window.hide();
+}
+
+void register_all(Desk& desk) {
+    const auto measured = [](const std::string& name, auto&& function) {
+        benchmark::RegisterBenchmark(name.c_str(), function)->Unit(benchmark::kMicrosecond);
+    };
+    measured("load", [&](benchmark::State& state) { load(state, desk); });
+    measured("open", [&](benchmark::State& state) { open(state, desk); });
+    measured("fill", [&](benchmark::State& state) { fill(state, desk); });
+    constexpr std::array columns = {"name", "origin", "alpha", "usage", "stock", "form"};
+    for (std::size_t i = 0; i < columns.size(); ++i) {
+        const std::string name = columns.at(i);
+        measured("sort/" + name, [&desk, i](benchmark::State& state) { sort(state, desk, i); });
+        measured("click_to_paint/" + name,
+                 [&desk, i](benchmark::State& state) { click_to_paint(state, desk, static_cast<int>(i)); });
+    }
+}
+
+} // namespace
+} // namespace wortlex
+
+int main(int count, char** arguments) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QApplication application(count, arguments);
+    benchmark::Initialize(&count, arguments);
+    wortlex::Desk desk;
+    if (!wortlex::SaveHops(desk.folder, wortlex::shuffled())) return 1;
+    wortlex::register_all(desk);
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}
