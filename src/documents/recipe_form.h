@@ -12,7 +12,8 @@ struct RecipeSubject {
     OpenDocument open;
     RecipeView& view;
     const ColorTable& colours;
-    std::function<void()> show_colour; ///< opens the colour in a window of its own; empty: nothing does
+    std::function<void()> show_colour =
+        nullptr; ///< opens the colour in a window of its own; empty: nothing does
 };
 
 /// Fills `form` with the rows of the recipe window. What cannot be edited yet is shown, and its button is

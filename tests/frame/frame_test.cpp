@@ -1,4 +1,5 @@
 #include "base/files.h"
+#include "base/ports/notice_board.h"
 #include "documents/method_check.h"
 #include "frame/exit.h"
 #include "frame/main_screen.h"

@@ -1,7 +1,7 @@
 // Stand-ins for the user and for what is on the desk.
 #pragma once
 
-#include "base/ports/notice_board.h"
+#include "base/ports/desk.h"
 #include "base/ports/prompts.h"
 
 #include <gtest/gtest.h>
@@ -103,16 +103,6 @@ struct RecordingClipboard : Clipboard {
 struct RecordingCommands : Commands {
     std::vector<int> started;
     void start(int command) override { started.push_back(command); }
-};
-
-/// Keeps every change and passes it on to the listeners.
-struct RecordingNotices : NoticeBoard {
-    std::vector<Change> told;
-
-    void tell(Change change) override {
-        told.push_back(change);
-        NoticeBoard::tell(change);
-    }
 };
 
 } // namespace wortlex

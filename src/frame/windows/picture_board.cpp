@@ -2,7 +2,6 @@
 
 #include "desktop/text.h"
 
-#include <QMouseEvent>
 #include <QPainter>
 #include <QTimer>
 
@@ -27,10 +26,6 @@ PictureButton::PictureButton(const MainScreenButton& told, QWidget* parent) : QA
 void PictureButton::set_picture(const QPixmap& picture) {
     picture_ = picture;
     update();
-}
-
-void PictureButton::mousePressEvent(QMouseEvent* event) {
-    if (event->button() == Qt::LeftButton) click();
 }
 
 void PictureButton::paintEvent(QPaintEvent*) {
@@ -102,6 +97,12 @@ void PictureBoard::sharpen_later() {
     if (devicePixelRatioF() <= loaded_scale_) return;
     loaded_scale_ = devicePixelRatioF();
     QTimer::singleShot(0, this, [this] { load(devicePixelRatioF()); });
+}
+
+void PictureBoard::mousePressEvent(QMouseEvent* event) {
+    if (event->button() != Qt::LeftButton) return;
+    const auto* const told = button_at({event->pos().x(), event->pos().y()}, width(), height());
+    if (told != nullptr) commands_.start(told->command);
 }
 
 // White over a dark shadow reads on copper and on steel.

@@ -5,6 +5,7 @@
 #include "frame/main_screen.h"
 
 #include <QAbstractButton>
+#include <QMouseEvent>
 #include <QPixmap>
 
 #include <set>
@@ -33,8 +34,8 @@ public:
     void set_picture(const QPixmap& picture);
 
 protected:
-    /// Acts as the button goes down, and has no other states.
-    void mousePressEvent(QMouseEvent* event) override;
+    /// The board acts as the button goes down; there are no other states.
+    void mousePressEvent(QMouseEvent* event) override { event->ignore(); }
     void mouseReleaseEvent(QMouseEvent*) override {}
     void paintEvent(QPaintEvent* event) override;
 
@@ -54,6 +55,7 @@ protected:
     void showEvent(QShowEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
 
 private:
     void load(double device_scale);

@@ -1,3 +1,4 @@
+#include "base/number.h"
 #include "frame/settings_forms/settings_session.h"
 #include "support/desk.h"
 #include "support/field.h"
