@@ -62,12 +62,9 @@ void malt_rows(Rows& rows, MaltRecord& malt) {
 }
 
 void analysis_rows(Rows& rows, MaltRecord& malt, const Settings& settings) {
-    const auto number = [&rows](const char* key, float& value, Live<std::string> label, float highest) {
-        rows.number(key, value)
-            .label(std::move(label))
-            .range(0.0F, highest)
-            .outside(Outside::clamp)
-            .step(0.25F);
+    const auto number = [&rows](const char* key, float& value, const Live<std::string>& label,
+                                float highest) {
+        rows.number(key, value).label(label).range(0.0F, highest).outside(Outside::clamp).step(0.25F);
     };
     rows.number("colour", malt.colour)
         .label(colour_label(settings))

@@ -7,7 +7,7 @@
 
 namespace wortlex {
 
-SwatchButton::SwatchButton(std::function<std::uint32_t()> colour, std::function<void()> press,
+SwatchButton::SwatchButton(std::function<std::uint32_t()> colour, const std::function<void()>& press,
                            QWidget* parent)
     : QAbstractButton(parent), colour_(std::move(colour)) {
     setFocusPolicy(press ? Qt::StrongFocus : Qt::NoFocus);

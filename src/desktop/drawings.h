@@ -12,7 +12,7 @@ namespace wortlex {
 class SwatchButton : public QAbstractButton {
 public:
     /// Without an action it is only a patch and takes no focus.
-    SwatchButton(std::function<std::uint32_t()> colour, std::function<void()> press, QWidget* parent);
+    SwatchButton(std::function<std::uint32_t()> colour, const std::function<void()>& press, QWidget* parent);
     QSize sizeHint() const override;
 
 protected:

@@ -15,8 +15,8 @@ public:
 
     // A click sets the caret after the focus has come, so the selection waits until it is over.
     bool eventFilter(QObject* watched, QEvent* event) override {
-        if (event->type() == QEvent::FocusIn &&
-            static_cast<QFocusEvent*>(event)->reason() == Qt::MouseFocusReason)
+        const auto* const focus = dynamic_cast<QFocusEvent*>(event);
+        if (focus != nullptr && focus->gotFocus() && focus->reason() == Qt::MouseFocusReason)
             QTimer::singleShot(0, &edit_, &QLineEdit::selectAll);
         return QObject::eventFilter(watched, event);
     }
@@ -24,6 +24,13 @@ public:
 private:
     QLineEdit& edit_;
 };
+
+QSize few_lines(const QPlainTextEdit& page) {
+    constexpr int lines = 3, digits = 26;
+    const auto metrics = page.fontMetrics();
+    const int frame = 2 * page.frameWidth() + 2 * static_cast<int>(page.document()->documentMargin());
+    return {digits * metrics.horizontalAdvance(QLatin1Char('0')), lines * metrics.lineSpacing() + frame};
+}
 
 } // namespace
 
@@ -47,14 +54,11 @@ void PageField::set_caret(int position) {
 
 Page::Page(QWidget* parent) : QPlainTextEdit(parent) {
     setTabChangesFocus(true);
-    setMinimumSize(sizeHint());
+    setMinimumSize(few_lines(*this));
 }
 
 QSize Page::sizeHint() const {
-    constexpr int lines = 3, digits = 26;
-    const int frame = 2 * frameWidth() + 2 * static_cast<int>(document()->documentMargin());
-    return {digits * fontMetrics().horizontalAdvance(QLatin1Char('0')),
-            lines * fontMetrics().lineSpacing() + frame};
+    return few_lines(*this);
 }
 
 ArrowField::ArrowField(QWidget* parent) : QAbstractSpinBox(parent) {

@@ -96,9 +96,13 @@ QLayout* rows_layout(const Rows& rows, const FormWidgets& widgets) {
 
 QLayout* lay_out(const Form& form, const FormWidgets& widgets) {
     auto* const columns = new QHBoxLayout;
-    QVBoxLayout* column = nullptr;
+    std::vector<QVBoxLayout*> all;
     for (const auto& group : form.groups()) {
-        if (column == nullptr || group->begins_column) columns->addLayout(column = new QVBoxLayout, 1);
+        if (all.empty() || group->begins_column) {
+            all.push_back(new QVBoxLayout);
+            columns->addLayout(all.back(), 1);
+        }
+        auto* const column = all.back();
         auto* const rows = rows_layout(group->content, widgets);
         if (group->heading().empty()) {
             column->addLayout(rows);
@@ -108,8 +112,7 @@ QLayout* lay_out(const Form& form, const FormWidgets& widgets) {
         box->setLayout(rows);
         column->addWidget(box);
     }
-    for (int place = 0; place < columns->count(); ++place)
-        static_cast<QVBoxLayout*>(columns->itemAt(place)->layout())->addStretch();
+    for (auto* const column : all) column->addStretch();
     return columns;
 }
 

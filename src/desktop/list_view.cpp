@@ -58,9 +58,9 @@ void ListModel::reload() {
         shown_count_ = row_.count();
         endResetModel();
     } else if (shown_count_ > 0) {
-        Q_EMIT dataChanged(index(0, 0), index(static_cast<int>(shown_count_) - 1, columnCount() - 1));
+        dataChanged(index(0, 0), index(static_cast<int>(shown_count_) - 1, columnCount() - 1));
     }
-    Q_EMIT headerDataChanged(Qt::Horizontal, 0, columnCount() - 1);
+    headerDataChanged(Qt::Horizontal, 0, columnCount() - 1);
 }
 
 ListView::ListView(const ListRow& row, QWidget* parent)

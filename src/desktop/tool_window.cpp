@@ -6,6 +6,7 @@
 #include <QCloseEvent>
 #include <QDialog>
 
+#include <algorithm>
 #include <utility>
 
 namespace wortlex {
@@ -19,12 +20,13 @@ WindowPlace& dress_window(QWidget& window, const WindowInfo& info, std::size_t u
 }
 
 bool show_modal_child(const QWidget& window) {
-    for (auto* const child : window.findChildren<QDialog*>()) {
-        if (!child->isVisible() || !child->isModal()) continue;
-        if (!show_modal_child(*child)) bring_forward(*child);
-        return true;
-    }
-    return false;
+    const auto children = window.findChildren<QDialog*>();
+    const auto open = std::find_if(children.begin(), children.end(), [](const QDialog* child) {
+        return child->isVisible() && child->isModal();
+    });
+    if (open == children.end()) return false;
+    if (!show_modal_child(**open)) bring_forward(**open);
+    return true;
 }
 
 void bring_forward(QWidget& window) {

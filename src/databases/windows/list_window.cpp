@@ -14,11 +14,11 @@ namespace wortlex {
 
 ListWindow::ListWindow(IngredientList& list, const ListPorts& ports, Opener opener,
                        std::function<bool()> picked, QWidget* owner)
-    : QDialog(owner), list_(list), ports_(ports), opener_(opener), picked_(std::move(picked)) {
+    : QDialog(owner), list_(list), ports_(ports), opener_(opener), picked_(std::move(picked)),
+      place_(dress_window(*this, window_info(list.dialog_template()), 0, opener, owner, ports.places)) {
     setWindowModality(Qt::WindowModal);
     setSizeGripEnabled(true);
     setAcceptDrops(!picked_);
-    place_ = &dress_window(*this, window_info(list.dialog_template()), 0, opener, owner, ports.places);
     fill_form();
     widgets_ = std::make_unique<FormWidgets>(form_, ports.places.settings, *this);
     lay_out_rows();
@@ -27,7 +27,7 @@ ListWindow::ListWindow(IngredientList& list, const ListPorts& ports, Opener open
 }
 
 void ListWindow::setVisible(bool visible) {
-    if (visible) place_->put();
+    if (visible) place_.put();
     QDialog::setVisible(visible);
 }
 

@@ -54,7 +54,7 @@ private:
     std::function<bool()> picked_;
     Form form_;
     std::unique_ptr<FormWidgets> widgets_;
-    WindowPlace* place_ = nullptr;
+    WindowPlace& place_;
 };
 
 } // namespace wortlex

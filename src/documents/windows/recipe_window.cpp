@@ -165,7 +165,7 @@ void RecipeWindow::reopen() {
              .selected_hop = 0};
     saved_ = std::move(opened.saved);
     widgets_.refresh();
-    if (swatch_) swatch_->set_colour(program_.figures.colour.srm);
+    if (!swatch_.isNull()) swatch_->set_colour(program_.figures.colour.srm);
     show_file_name();
 }
 
@@ -182,13 +182,13 @@ void RecipeWindow::open_another() {
 }
 
 void RecipeWindow::show_colour() {
-    if (!swatch_)
+    if (swatch_.isNull())
         swatch_ = new ColorSwatchWindow(program_, program_.figures.colour.srm, Opener::recipe, this);
     bring_forward(*swatch_);
 }
 
 RecipeWindow::~RecipeWindow() {
-    if (swatch_) swatch_->close();
+    if (!swatch_.isNull()) swatch_->close();
 }
 
 void RecipeWindow::show_file_name() {

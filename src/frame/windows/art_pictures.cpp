@@ -4,6 +4,7 @@
 
 #include <cmath>
 #include <cstdlib>
+#include <cstring>
 
 namespace wortlex {
 namespace {
@@ -44,8 +45,9 @@ QPixmap load_picture(const std::string& path, std::string_view name, double devi
         pictures.faults.insert(fault);
         return {};
     }
-    const auto image =
-        QImage::fromData(reinterpret_cast<const uchar*>(file->data()), static_cast<int>(file->size()), "BMP");
+    QByteArray bytes(static_cast<qsizetype>(file->size()), Qt::Uninitialized);
+    std::memcpy(bytes.data(), file->data(), file->size());
+    const auto image = QImage::fromData(bytes, "BMP");
     if (image.isNull()) {
         pictures.undrawable.insert(undrawable_bitmap);
         return {};

@@ -117,6 +117,7 @@ private:
 
     void screen(Form& form) {
         std::vector<std::string> names;
+        names.reserve(art_schemes.size());
         for (const auto& scheme : art_schemes) names.emplace_back(scheme.label);
         screen_settings_form(form, image(), program_.settings,
                              {ports_.prompts, program_.art_scheme, std::move(names), {}, {}});

@@ -17,8 +17,12 @@ template <class T>
 class Live {
 public:
     template <class Value>
-    requires(std::convertible_to<Value, T> && !std::is_invocable_v<Value>) Live(Value&& value)
-        : ask_([fixed = T(std::forward<Value>(value))] { return fixed; }) {}
+    requires(std::convertible_to<const Value&, T> && !std::is_invocable_v<const Value&>)
+        Live(const Value& value)
+        : ask_([fixed = static_cast<T>(value)] { return fixed; }) {}
+
+    Live(const char* text) requires std::same_as<T, std::string> : ask_([fixed = T(text)] { return fixed; }) {
+    }
 
     template <class Ask>
     requires std::is_invocable_r_v<T, const Ask&> Live(Ask ask) : ask_(std::move(ask)) {}

@@ -66,8 +66,8 @@ CheckRow& Rows::check(std::string key, Binding<bool> value) {
     return add<CheckRow>(std::move(key), std::move(value));
 }
 
-NoteRow& Rows::note(std::string key, Live<std::string> text) {
-    return add<NoteRow>(std::move(key)).label(std::move(text));
+NoteRow& Rows::note(std::string key, const Live<std::string>& text) {
+    return add<NoteRow>(std::move(key)).label(text);
 }
 
 SwatchRow& Rows::swatch(std::string key, std::function<std::uint32_t()> colour) {
@@ -83,8 +83,8 @@ ListRow& Rows::list(std::string key, std::vector<ListColumn> columns, std::funct
     return add<ListRow>(std::move(key), std::move(columns), std::move(count), std::move(cell));
 }
 
-ButtonRow& Rows::button(std::string key, Live<std::string> caption, std::function<void()> press) {
-    return add<ButtonRow>(std::move(key), std::move(press)).label(std::move(caption));
+ButtonRow& Rows::button(std::string key, const Live<std::string>& caption, std::function<void()> press) {
+    return add<ButtonRow>(std::move(key), std::move(press)).label(caption);
 }
 
 GridRow& Rows::grid(std::string key, std::vector<Live<std::string>> captions) {

@@ -33,12 +33,12 @@ public:
     ShownRow& shown_plato(std::string key, std::function<float()> value, const Settings& settings);
     ChoiceRow& choice(std::string key, Binding<std::int32_t> code, std::vector<Live<std::string>> words);
     CheckRow& check(std::string key, Binding<bool> value);
-    NoteRow& note(std::string key, Live<std::string> text);
+    NoteRow& note(std::string key, const Live<std::string>& text);
     SwatchRow& swatch(std::string key, std::function<std::uint32_t()> colour);
     CanvasRow& canvas(std::string key, Extent least, std::function<void(Surface&)> draw);
     ListRow& list(std::string key, std::vector<ListColumn> columns, std::function<std::size_t()> count,
                   std::function<std::string(std::size_t row, std::size_t column)> cell);
-    ButtonRow& button(std::string key, Live<std::string> caption, std::function<void()> press);
+    ButtonRow& button(std::string key, const Live<std::string>& caption, std::function<void()> press);
     /// Lines of fields below the captions of their columns.
     GridRow& grid(std::string key, std::vector<Live<std::string>> captions);
 
