@@ -16,19 +16,20 @@ class StyleRows {
 public:
     StyleRows(Rows& rows, const BrewDocument& document) : rows_(rows), document_(document) {}
 
-    void words(std::string key, std::string label, std::function<std::string(const StyleRecord&)> text) {
+    void words(std::string key, const std::string& label,
+               std::function<std::string(const StyleRecord&)> text) {
         rows_.shown(std::move(key), blank_without_style(std::move(text)))
-            .label(std::move(label))
+            .label(label)
             .colours(ColorArea::style_guidelines);
     }
 
-    void number(std::string key, std::string label, std::string pattern,
+    void number(std::string key, const std::string& label, std::string pattern,
                 std::function<float(const StyleRecord&)> value) {
         auto text = [pattern = std::move(pattern), value = std::move(value)](const StyleRecord& style) {
             return formatted(pattern, value(style));
         };
         rows_.shown(std::move(key), blank_without_style(std::move(text)))
-            .label(std::move(label))
+            .label(label)
             .figure()
             .width(6)
             .colours(ColorArea::style_guidelines);
