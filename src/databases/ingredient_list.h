@@ -25,13 +25,6 @@ struct EntryForm {
     std::size_t caption = 0;
 };
 
-struct ListHead {
-    std::string caption;
-    int width = 10;
-    bool is_number = false;
-    bool stretches = false;
-};
-
 class IngredientList {
 public:
     virtual ~IngredientList() = default;
@@ -39,7 +32,8 @@ public:
     /// Reads the file and the order of the last time, and selects the first row.
     virtual void open(Prompts& prompts) = 0;
 
-    virtual std::vector<ListHead> heads() const = 0;
+    /// Their captions may change with the filter.
+    virtual std::vector<ListColumn> heads() const = 0;
     virtual std::vector<std::string> filter_labels() const = 0; ///< empty: nothing to choose
     virtual bool has_stock() const = 0;
     virtual bool can_clone() const = 0;

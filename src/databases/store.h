@@ -32,7 +32,7 @@ public:
 
     void open(Prompts& prompts) override;
 
-    std::vector<ListHead> heads() const override;
+    std::vector<ListColumn> heads() const override;
     std::vector<std::string> filter_labels() const override;
     bool has_stock() const override { return catalogue_.stock.amount != nullptr; }
     bool can_clone() const override { return !catalogue_.words.clone_warning.empty(); }
@@ -125,10 +125,14 @@ void Store<Record>::reload(Prompts& prompts) {
 }
 
 template <class Record>
-std::vector<ListHead> Store<Record>::heads() const {
-    std::vector<ListHead> heads;
+std::vector<ListColumn> Store<Record>::heads() const {
+    std::vector<ListColumn> heads;
     for (const auto& column : catalogue_.columns)
-        heads.push_back({column.caption, column.width, column.is_number, column.stretches});
+        heads.push_back(
+            {.caption = [this, place = heads.size()] { return catalogue_.columns[place].caption; },
+             .is_number = column.is_number,
+             .width = column.width,
+             .stretches = column.stretches});
     return heads;
 }
 
@@ -216,6 +220,9 @@ std::unique_ptr<EntryForm> Store<Record>::form_on(std::shared_ptr<Record> copy,
     entry->dialog_template = dialog_template;
     entry->caption = catalogue_.entry_caption;
     catalogue_.entry_form(entry->form, *copy);
+    auto& buttons = entry->form.group();
+    buttons.button("print", "Print", nullptr);
+    buttons.button("help", "Help", nullptr);
     entry->form.on_accept([copy, store = std::move(store)] { store(*copy); });
     return entry;
 }

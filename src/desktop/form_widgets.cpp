@@ -126,7 +126,6 @@ void FormWidgets::refresh(const Row* except) {
     for (const auto& [row, shown] : shown_) {
         if (row != except && shown.refresh) shown.refresh();
         show_state(*row, shown);
-        // A list brings its own rows up to date even while it is the one being used.
     }
 }
 

@@ -85,7 +85,7 @@ TEST(StyleList, SwitchesTheSetInForce) {
     styles.expect_switch("AHA", Answer::no);
     store.choose_filter(1, styles.prompts);
     EXPECT_EQ(styles.settings.style_book, StyleBook::bjcp);
-    EXPECT_EQ(store.heads()[0].caption + column(store, 3), "BJCP\n#Sake|Cider|");
+    EXPECT_EQ(store.heads()[0].caption() + column(store, 3), "BJCP\n#Sake|Cider|");
     EXPECT_EQ(store.edit_entry()->caption, 1U);
     rename_first(store);
     styles.expect_switch("BJCP", Answer::yes);

@@ -64,14 +64,8 @@ void ListWindow::choice_rows(Rows& rows) {
 }
 
 void ListWindow::list_row(Rows& rows) {
-    std::vector<ListColumn> columns;
-    for (const auto& head : list_.heads())
-        columns.push_back({.caption = [this, place = columns.size()] { return list_.heads()[place].caption; },
-                           .is_number = head.is_number,
-                           .width = head.width,
-                           .stretches = head.stretches});
     rows.list(
-            "list", std::move(columns), [this] { return list_.shown_count(); },
+            "list", list_.heads(), [this] { return list_.shown_count(); },
             [this](std::size_t row, std::size_t column) { return list_.cell(row, column); })
         .colours(ColorArea::pick_lists)
         .selection(list_.selected)

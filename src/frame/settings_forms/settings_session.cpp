@@ -91,6 +91,7 @@ void system_settings_form(Form& form, SettingsSession& session, const SettingsBu
     files.button("load", "&Load From File", buttons.load);
     files.button("save", "Save &To File", buttons.save);
     files.button("save_as_default", "&Save As Default", buttons.save_as_default);
+    form.group().button("help", "Help", buttons.help);
     form.next_column();
     auto& sections = form.group("Sections");
     sections.stack_buttons();
