@@ -8,7 +8,7 @@ function(subsystem name folder)
     target_include_directories(${name} PUBLIC ${CMAKE_CURRENT_SOURCE_DIR})
     target_link_libraries(${name} PUBLIC wortlex_options ${ROOM_DEPENDS})
     if(ROOM_QT)
-        target_link_libraries(${name} PUBLIC Qt6::Widgets Qt6::Svg)
+        target_link_libraries(${name} PUBLIC Qt6::Widgets Qt6::Svg Qt6::PrintSupport)
         # Records have members named slots; the toolkit must not make macros of such words.
         target_compile_definitions(${name} PUBLIC QT_NO_KEYWORDS)
     endif()

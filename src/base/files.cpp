@@ -95,6 +95,14 @@ bool take_mode_and_owner(int descriptor, const OldFile& old) {
     return ::fchmod(descriptor, old.status.st_mode & 07777) == 0;
 }
 
+constexpr std::string_view write_error =
+    "Wortlex has experienced an error in writing this file.\n\nPossible reasons include:\n\n"
+    "a) The file has somehow been tagged as read-only by the system.\n\n"
+    "b) The file has become corrupted by other means.\n\n"
+    "If the file has been transferred over a network and saved by a \n"
+    "different program, it is very likely it has been tagged as read-only.\n\n"
+    "It is suggested you try and save the file under a different name.";
+
 void flush_folder(const std::string& folder) {
     const OpenFile directory(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
     if (directory.is_open()) ::fsync(directory.get());
@@ -139,6 +147,21 @@ bool save_atomically(const std::string& path, ByteView content) {
     }
     flush_folder(folder);
     return true;
+}
+
+bool save_or_tell(const std::string& path, ByteView content, Prompts& prompts) {
+    if (save_atomically(path, content)) return true;
+    prompts.tell({.text = write_error, .icon = Icon::warning});
+    return false;
+}
+
+std::optional<FileStamp> stamp_of(const std::string& path) {
+    std::error_code error;
+    const auto modified = std::filesystem::last_write_time(path, error);
+    if (error) return std::nullopt;
+    const auto size = std::filesystem::file_size(path, error);
+    if (error) return std::nullopt;
+    return FileStamp{modified.time_since_epoch().count(), size};
 }
 
 std::string find_data_file(const std::string& folder, std::string_view name) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "base/bytes.h"
+#include "base/ports/prompts.h"
 
 #include <optional>
 #include <string>
@@ -23,6 +24,20 @@ std::optional<Bytes> read_file(const std::string& path, std::size_t limit = larg
 /// to the disk and take its place. A symbolic link keeps pointing, mode and owner are kept. A file
 /// that could not itself be opened for writing is refused. Returns whether the new content stands.
 bool save_atomically(const std::string& path, ByteView content);
+
+/// Saves so, or tells the user that the file could not be written and what may be the reason.
+bool save_or_tell(const std::string& path, ByteView content, Prompts& prompts);
+
+/// Enough of a file to notice that somebody else has written it.
+struct FileStamp {
+    std::int64_t modified = 0; ///< in the ticks of the file system's clock
+    std::uintmax_t size = 0;
+
+    bool operator==(const FileStamp&) const = default;
+};
+
+/// Nothing for a file that is not there.
+std::optional<FileStamp> stamp_of(const std::string& path);
 
 /// `folder` + `name`, or where that does not exist the file of the same name but for capitals.
 std::string find_data_file(const std::string& folder, std::string_view name);

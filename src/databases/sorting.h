@@ -2,10 +2,7 @@
 #pragma once
 
 #include "databases/catalogue.h"
-
-#include <algorithm>
-#include <cmath>
-#include <numeric>
+#include "databases/sort_keys.h"
 
 namespace wortlex {
 
@@ -25,36 +22,11 @@ bool SaveSort(const std::string& path, const SortState& sort);
 SortState read_sort(ByteView file, std::size_t columns);
 Bytes sort_bytes(const SortState& sort);
 
-/// `text` for comparisons without regard to case: A to Z fold, other letters stand as their Windows-1252
-/// bytes do.
-std::string folded(std::string_view text);
-
 namespace sorting {
 
-// The keys of one column, worked out once.
-struct Keys {
-    std::vector<std::string> texts;
-    std::vector<float> numbers;
-    bool descending = false;
-
-    // Below 0: `a` comes before `b`. What is no number comes last in either direction.
-    int compare(std::size_t a, std::size_t b) const {
-        int order = 0;
-        if (!texts.empty()) {
-            order = texts[a].compare(texts[b]);
-        } else {
-            const float x = numbers[a], y = numbers[b];
-            if (std::isnan(x) || std::isnan(y))
-                return static_cast<int>(std::isnan(x)) - static_cast<int>(std::isnan(y));
-            order = static_cast<int>(x > y) - static_cast<int>(x < y);
-        }
-        return descending ? -order : order;
-    }
-};
-
 template <class Record>
-Keys keys_of(const CatalogueColumn<Record>& column, std::span<const Record> entries, bool descending) {
-    Keys keys{.texts = {}, .numbers = {}, .descending = descending};
+SortKeys keys_of(const CatalogueColumn<Record>& column, std::span<const Record> entries, bool descending) {
+    SortKeys keys{.texts = {}, .numbers = {}, .descending = descending};
     if (const auto* const text = std::get_if<0>(&column.key))
         for (const auto& entry : entries) keys.texts.push_back(folded((*text)(entry)));
     else
@@ -69,19 +41,12 @@ Keys keys_of(const CatalogueColumn<Record>& column, std::span<const Record> entr
 template <class Record>
 void sort_by(std::span<Record> entries, const Catalogue<Record>& catalogue, std::size_t column,
              const std::vector<std::uint8_t>& descending) {
-    std::vector<sorting::Keys> chain;
+    std::vector<SortKeys> chain;
     for (const auto key : catalogue.chains[column])
         chain.push_back(sorting::keys_of<Record>(catalogue.columns[key], entries, descending[key] != 0));
-    std::vector<std::size_t> order(entries.size());
-    std::iota(order.begin(), order.end(), 0);
-    std::stable_sort(order.begin(), order.end(), [&](std::size_t a, std::size_t b) {
-        for (const auto& keys : chain)
-            if (const int by_key = keys.compare(a, b); by_key != 0) return by_key < 0;
-        return false;
-    });
     std::vector<Record> sorted;
     sorted.reserve(entries.size());
-    for (const auto place : order) sorted.push_back(entries[place]);
+    for (const auto place : sorted_order(chain, entries.size())) sorted.push_back(entries[place]);
     std::copy(sorted.begin(), sorted.end(), entries.begin());
 }
 

@@ -9,6 +9,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QGuiApplication>
 
 namespace wortlex {
@@ -42,8 +43,19 @@ std::optional<std::string> FileDialogs::choose_to_open(const FileChoice& choice)
     return run(choice, QFileDialog::AcceptOpen);
 }
 
+// The toolkit takes "Porter 1.2" for a name with an ending, so the ending is our business. The dialog asks
+// before it lets a file be replaced, therefore it is shown again where the whole name is that of another one.
 std::optional<std::string> FileDialogs::choose_to_save(const FileChoice& choice) {
-    return run(choice, QFileDialog::AcceptSave);
+    auto chosen = run(choice, QFileDialog::AcceptSave);
+    if (!chosen || choice.extension.empty()) return chosen;
+    const QFileInfo file(QFile::decodeName(QByteArray::fromStdString(*chosen)));
+    if (file.suffix().compare(string_of(choice.extension), Qt::CaseInsensitive) == 0) return chosen;
+    const auto whole = chosen->append(".").append(choice.extension);
+    if (!QFileInfo::exists(QFile::decodeName(QByteArray::fromStdString(whole)))) return whole;
+    auto again = choice;
+    again.folder = file.path().toStdString();
+    again.suggested_name = file.fileName().toStdString() + "." + std::string(choice.extension);
+    return choose_to_save(again);
 }
 
 std::int64_t SystemClock::now() const {

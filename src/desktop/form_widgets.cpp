@@ -175,7 +175,10 @@ void FormWidgets::make_line(EntryRow& row) {
         row.show(*field);
     };
     QObject::connect(line, &QLineEdit::textEdited, &alive_, [this, &row, field] { form_.type(row, *field); });
-    QObject::connect(line, &QLineEdit::editingFinished, &alive_, show);
+    QObject::connect(line, &QLineEdit::editingFinished, &alive_, [this, show] {
+        show();
+        form_.leave();
+    });
     auto& shown = keep(row, *widget, std::move(show));
     add_label(shown, row);
     add_unit(shown, row);
@@ -261,6 +264,7 @@ void FormWidgets::visit(CanvasRow& row) {
 void FormWidgets::visit(ListRow& row) {
     auto* const list = new ListView(row, &parent_);
     list->selected = [this, &row](std::int32_t index) { form_.select(row, index); };
+    list->acted = [this] { refresh(); };
     keep(row, *list, [list] { list->refresh(); });
 }
 

@@ -3,6 +3,7 @@
 #include "desktop/text.h"
 
 #include <QHeaderView>
+#include <QPointer>
 #include <QProxyStyle>
 
 #include <algorithm>
@@ -79,12 +80,17 @@ ListView::ListView(const ListRow& row, QWidget* parent)
     header()->setStretchLastSection(false);
     header()->setHighlightSections(false);
     connect(header(), &QHeaderView::sectionClicked, this, [this](int column) {
-        if (row_.click_header) row_.click_header(static_cast<std::size_t>(column));
+        if (row_.click_header) act([this, column] { row_.click_header(static_cast<std::size_t>(column)); });
     });
-    connect(this, &QTreeView::activated, this, [this] {
-        if (row_.activate) row_.activate();
-    });
+    connect(this, &QTreeView::activated, this, [this] { act(row_.activate); });
     size_columns();
+}
+
+void ListView::act(const std::function<void()>& action) {
+    if (!action) return;
+    const QPointer<ListView> still(this); // what is done may close the window
+    action();
+    if (!still.isNull() && acted) acted();
 }
 
 // Columns keep the width that the user gave them until their captions change.

@@ -34,8 +34,10 @@ public:
     QSize sizeHint() const override;
 
     std::function<void(std::int32_t row)> selected;
+    std::function<void()> acted; ///< after a click on a head or a double click on a row
 
 private:
+    void act(const std::function<void()>& action);
     void size_columns();
     void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
 

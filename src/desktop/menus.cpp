@@ -7,7 +7,7 @@ namespace wortlex {
 QAction& add_action(QMenu& menu, std::string_view caption, int command, const MenuAction& does) {
     auto* const action = menu.addAction(string_of(caption));
     action->setObjectName(QString::number(command));
-    action->setShortcut(does.key);
+    action->setShortcuts(does.key);
     action->setEnabled(static_cast<bool>(does.action));
     if (does.action) QObject::connect(action, &QAction::triggered, action, does.action);
     return *action;

@@ -10,10 +10,10 @@
 
 namespace wortlex {
 
-/// What an entry does, and its key. Without an action the entry is disabled.
+/// What an entry does, and the platform's keys for it. Without an action the entry is disabled.
 struct MenuAction {
     std::function<void()> action;
-    QKeySequence key;
+    QKeySequence::StandardKey key = QKeySequence::UnknownKey;
 };
 
 /// `Entries` are rows with `caption`, `command` and `entries`; `action_of` is asked for each command.

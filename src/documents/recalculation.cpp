@@ -129,6 +129,15 @@ void malts_changed(const OpenDocument& open) {
     colour_and_mash(open);
 }
 
+void hop_added(const OpenDocument& open, std::size_t index) {
+    auto& line = open.document.hops[index];
+    update_hop_line(open, line);
+    auto& total_ibu = open.document.total_ibu;
+    auto& total_ounces = open.figures.total_hop_ounces;
+    total_ibu = narrow(double{total_ibu} + line.ibu);
+    total_ounces = narrow(double{total_ounces} + line.amount);
+}
+
 void hop_removed(const OpenDocument& open) {
     hops_update(open.document, open.figures, open.settings);
 }

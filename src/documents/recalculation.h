@@ -53,6 +53,8 @@ void batch_size_changed(const OpenDocument& open, float old_size, const RecipeLo
 void efficiency_changed(const OpenDocument& open, RecipeLocks& locks);
 /// A line was added, removed or its amount changed.
 void malts_changed(const OpenDocument& open);
+/// The totals are kept up by difference, not summed anew.
+void hop_added(const OpenDocument& open, std::size_t index);
 void hop_removed(const OpenDocument& open);
 void recipe_kind_changed(const OpenDocument& open);
 

@@ -2,22 +2,30 @@
 #pragma once
 
 #include "calculators/beer_colour.h"
-#include "documents/recipe_view.h"
+#include "documents/recipe_lines.h"
 #include "measures/fields/form.h"
 
 namespace wortlex {
 
-/// What the form shows. It must outlive the form.
-struct RecipeSubject {
-    OpenDocument open;
-    RecipeView& view;
-    const ColorTable& colours;
-    std::function<void()> show_colour =
-        nullptr; ///< opens the colour in a window of its own; empty: nothing does
+/// What the buttons do that open another window. An empty one belongs to a window that is not there: its
+/// button is disabled.
+struct RecipeActions {
+    std::function<void()> pick_style, pre_boil;
+    std::function<void()> new_malt, edit_malt, malt_contribution;
+    std::function<void()> new_hop, edit_hop, lose_alpha;
+    std::function<void()> yeast_and_water, extras_and_notes, mash_schedule;
+    std::function<void()> save, print, help;
+    std::function<void()> show_colour;
 };
 
-/// Fills `form` with the rows of the recipe window. What cannot be edited yet is shown, and its button is
-/// disabled.
+/// What the form shows and works on. It must outlive the form.
+struct RecipeSubject {
+    RecipeEditor& editor;
+    const ColorTable& colours;
+    RecipeActions actions = {};
+};
+
+/// Fills `form` with the rows of the recipe window.
 void recipe_form(Form& form, const RecipeSubject& subject);
 
 } // namespace wortlex

@@ -3,6 +3,7 @@
 #include "base/number.h"
 #include "base/windows1252.h"
 #include "calculators/hop_bitterness.h"
+#include "databases/extras.h"
 #include "measures/potential.h"
 #include "measures/units.h"
 
@@ -34,30 +35,28 @@ std::string value_pattern(bool is_sg, const Settings& settings) {
     return "%7." + std::to_string(decimals) + "f";
 }
 
-std::string potential_cell(const MaltRecord& malt, const Settings& settings) {
+float potential_value(const MaltRecord& malt, const Settings& settings) {
     const PotentialTraits traits{malt.moisture, malt.coarse_yield, is_mashed(malt)};
-    return formatted(value_pattern(settings.potential_display == PotentialDisplay::sg, settings),
-                     potential_to_shown(malt.potential, traits, settings));
+    return potential_to_shown(malt.potential, traits, settings);
 }
 
-std::string contribution_cell(const OpenDocument& open, std::size_t line) {
+float contribution_value(const OpenDocument& open, std::size_t line) {
     const auto& figures = open.figures;
     const auto gives = line < figures.lines.size() ? figures.lines[line] : LineFigures{};
     const ExtractTotals totals{open.document.og_points, figures.total_extract_pounds};
-    return formatted(
-        value_pattern(open.settings.extract_display == ExtractDisplay::sg, open.settings),
-        extract_to_shown(narrow(gives.line_sg), narrow(gives.line_extract), totals, open.settings));
+    return extract_to_shown(narrow(gives.line_sg), narrow(gives.line_extract), totals, open.settings);
+}
+
+std::string value_cell(const OpenDocument& open, const RecipeView& view, std::size_t line) {
+    const auto& settings = open.settings;
+    const bool is_sg = view.show_potential ? settings.potential_display == PotentialDisplay::sg
+                                           : settings.extract_display == ExtractDisplay::sg;
+    return formatted(value_pattern(is_sg, settings), malt_value(open, view, line));
 }
 
 std::string share_cell(const OpenDocument& open, const MaltUse& malt) {
     const float total = open.figures.total_grain;
     return formatted("%5.1f", total > 0 ? double{malt.amount} / total * 100 : 0.0);
-}
-
-std::string bitterness_cell(const HopUse& hop, const RecipeView& view, const Settings& settings) {
-    if (view.show_ibu) return formatted("%4.1f", hop.ibu);
-    if (settings.bittering_unit == BitteringUnit::hbu) return formatted("%4.1f", hbu(hop.amount, hop.alpha));
-    return formatted("%4.1f", mbu(narrow(hop.amount * grams_per_ounce), hop.alpha));
 }
 
 std::string boil_cell(const HopUse& hop, const BrewDocument& document) {
@@ -73,7 +72,38 @@ std::string boil_cell(const HopUse& hop, const BrewDocument& document) {
     }
 }
 
+std::string amount_cell(const ExtraUse& extra) {
+    constexpr std::array units = {" Oz", " gm", " Lbs", " Tsp", " Tbsp", " Cup(s)", " Unit(s)"};
+    const auto unit = static_cast<std::size_t>(extra.record.amount_unit);
+    return formatted("%4.2f", extra.amount) + (unit < units.size() ? units[unit] : "");
+}
+
 } // namespace
+
+float malt_value(const OpenDocument& open, const RecipeView& view, std::size_t line) {
+    return view.show_potential ? potential_value(open.document.malts[line].record, open.settings)
+                               : contribution_value(open, line);
+}
+
+float hop_bitterness(const HopUse& hop, const RecipeView& view, const Settings& settings) {
+    if (view.show_ibu) return hop.ibu;
+    if (settings.bittering_unit == BitteringUnit::hbu) return hbu(hop.amount, hop.alpha);
+    return mbu(narrow(hop.amount * grams_per_ounce), hop.alpha);
+}
+
+std::string extra_cell(const ExtraUse& extra, std::size_t column) {
+    const auto& record = extra.record;
+    switch (column) {
+    case 0:
+        return utf8_from_windows1252(record.name.view());
+    case 1:
+        return std::string(type_word(record.extra_type));
+    case 2:
+        return formatted(record.time_unit == TimeUnit::days ? "%3d Day(s)" : "%3d Min", record.time);
+    default:
+        return amount_cell(extra);
+    }
+}
 
 std::string malt_cell(const OpenDocument& open, const RecipeView& view, std::size_t line,
                       std::size_t column) {
@@ -84,8 +114,7 @@ std::string malt_cell(const OpenDocument& open, const RecipeView& view, std::siz
     case 1:
         return cut(malt.record.origin.view(), origin_width);
     case 2:
-        return view.show_potential ? potential_cell(malt.record, open.settings)
-                                   : contribution_cell(open, line);
+        return value_cell(open, view, line);
     case 3:
         return formatted("%6.0f", to_shown_colour(malt.record.colour, open.settings));
     case 4:
@@ -105,7 +134,7 @@ std::string hop_cell(const OpenDocument& open, const RecipeView& view, std::size
     case 2:
         return formatted("%7.2f", hop.alpha);
     case 3:
-        return bitterness_cell(hop, view, open.settings);
+        return formatted("%4.1f", hop_bitterness(hop, view, open.settings));
     case 4:
         return formatted("%7.2f", hop_to_shown(hop.amount, open.settings));
     default:

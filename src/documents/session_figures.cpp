@@ -9,12 +9,6 @@
 namespace wortlex {
 namespace {
 
-// The wort at the end of the boil.
-PreBoil end_of_boil(const BrewDocument& document, const Settings& settings) {
-    if (settings.wort_equals_batch != 0) return {document.batch_size, document.og_points};
-    return {document.wort_size, compute_wort_points(document, settings)};
-}
-
 float concentrated(const PreBoil& end, float volume) {
     return narrow(double{end.points} * end.volume / volume);
 }
@@ -61,6 +55,11 @@ EfficiencyFigures recorded_efficiency(const BrewDocument& document, const Sessio
     auto figures = session_efficiency(document, session, session.tail.recorded_og, volume, settings);
     if (document.recipe_kind == RecipeKind::extract) figures.efficiency = figures.actual_mash_points = 0;
     return figures;
+}
+
+PreBoil end_of_boil(const BrewDocument& document, const Settings& settings) {
+    if (settings.wort_equals_batch != 0) return {document.batch_size, document.og_points};
+    return {document.wort_size, compute_wort_points(document, settings)};
 }
 
 PreBoil raw_pre_boil(const BrewDocument& document, float rate, const Settings& settings) {

@@ -27,10 +27,14 @@ float recording_losses(const SessionDocument& session, const Settings& settings)
 EfficiencyFigures recorded_efficiency(const BrewDocument& document, const SessionDocument& session,
                                       const Settings& settings);
 
+/// A wort in the kettle.
 struct PreBoil {
     float volume = 0; ///< gallons
     float points = 0;
 };
+
+/// The wort at the end of the boil.
+PreBoil end_of_boil(const BrewDocument& document, const Settings& settings);
 
 /// The kettle before the boil. `rate` is percent or gallons per hour, by the settings.
 PreBoil raw_pre_boil(const BrewDocument& document, float rate, const Settings& settings);

@@ -110,7 +110,10 @@ bool open_document(Program& program, const std::string& path, DocumentKind kind,
     tell_fault(result, path, prompts);
     if (!is_sound(result)) return false;
     program.water_to_grain = 0;
-    document_file(program, kind) = {path, true, result == LoadResult::incomplete};
+    document_file(program, kind) = {.path = path,
+                                    .loaded_from_file = true,
+                                    .incomplete = result == LoadResult::incomplete,
+                                    .stamp = stamp_of(path)};
     remember_document(program, path);
     return true;
 }

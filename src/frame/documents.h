@@ -2,6 +2,7 @@
 #pragma once
 
 #include "base/ports/desk.h"
+#include "documents/recipe_saving.h"
 #include "documents/records/document_files.h"
 #include "frame/settings/system_files.h"
 #include "frame/tools.h"
@@ -9,13 +10,6 @@
 namespace wortlex {
 
 struct Program;
-
-/// Where a document comes from and where a save goes.
-struct DocumentFile {
-    std::string path; ///< empty for a new one
-    bool loaded_from_file = false;
-    bool incomplete = false; ///< the file had ended early: a save asks for a name first
-};
 
 DocumentFile& document_file(Program& program, DocumentKind kind);
 

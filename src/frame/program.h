@@ -13,6 +13,8 @@
 #include "frame/settings/settings.h"
 #include "frame/settings/system_files.h"
 #include "frame/tools.h"
+#include "mash/strike_calculator.h"
+#include "reports/page/html_theme.h"
 
 namespace wortlex {
 
@@ -40,6 +42,7 @@ struct Program {
     PrintSelection recipe_print;
     PrintSelection session_print;
     ReminderFlags reminders;
+    HtmlTheme html_theme;   ///< of exported pages
     WaterNeeds water_usage; ///< the brewer's usual figures
 
     BrewDocument document; ///< the one live recipe, also under a session
@@ -55,6 +58,7 @@ struct Program {
     ColorTable color_table;
     CalculatorDefaults calculator_defaults;
     HopMemory hop_memory;
+    std::optional<StrikeCalculator> strike_calculator; ///< none before its window first opens
     PickChoices picks;
 
     ToolTable tools;

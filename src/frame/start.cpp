@@ -5,9 +5,10 @@
 namespace wortlex {
 namespace {
 
-// Before the settings: where files are, and where windows were.
+// Before the settings: where files are, how HTML pages look, and where windows were.
 void read_places(Program& program, const std::string& data_folder) {
     program.folders = LoadFolders(data_folder);
+    program.html_theme = LoadDefaultTheme(data_folder);
     program.main_position = LoadMainPosition(data_folder);
     program.tool_positions = LoadToolPositions(data_folder);
 }
@@ -29,8 +30,8 @@ void read_color_table(Program& program, Prompts& prompts) {
 } // namespace
 
 bool start(Program& program, const std::string& data_folder, Prompts& prompts) {
-    // The theme of HTML pages comes behind the folders, the states of dilution and boil off behind that, once
-    // there is something to read them into.
+    // The states of dilution and boil off come behind the theme of HTML pages, once there is something to
+    // read them into.
     read_places(program, data_folder);
     if (!start_core(program, data_folder, prompts)) return false;
     read_print_options(program);

@@ -21,11 +21,14 @@ float TotalMashVolume(float grain, float water, float grain_water_volume) {
     return std::max(gallons, 0.0F);
 }
 
+std::int32_t strike_without_tun(double wanted, double grain_temperature, float ratio) {
+    return truncate(grain_heat / ratio * (wanted - grain_temperature) + wanted);
+}
+
 std::int32_t StrikeTemperature(std::int32_t wanted, std::int32_t grain_temperature, float ratio,
                                float thermal_mass) {
     if (!(ratio > 0)) return wanted;
-    const auto strike = truncate(grain_heat / ratio * (static_cast<double>(wanted) - grain_temperature) +
-                                 static_cast<double>(wanted));
+    const auto strike = strike_without_tun(wanted, grain_temperature, ratio);
     if (thermal_mass == 0) return strike;
     return truncate(strike + 2 * (thermal_mass / 10.0 * strike));
 }

@@ -17,6 +17,9 @@ float TotalMashVolume(float grain, float water, float grain_water_volume);
 std::int32_t StrikeTemperature(std::int32_t wanted, std::int32_t grain_temperature, float ratio,
                                float thermal_mass);
 
+/// The same of any temperatures, before the thermal mass, for a ratio above 0.
+std::int32_t strike_without_tun(double wanted, double grain_temperature, float ratio);
+
 /// Quarts at `infusion` degrees that raise `water` quarts on `grain` pounds from `from` to `to`. Water that
 /// is as warm as the rest, or cannot raise it, gives 0.
 float InfusionAmount(std::int32_t to, std::int32_t from, std::int32_t infusion, float water, float grain);

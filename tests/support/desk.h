@@ -73,6 +73,8 @@ public:
     Path choose_to_open(const FileChoice& choice) override { return next("open ", choice); }
     Path choose_to_save(const FileChoice& choice) override { return next("save ", choice); }
 
+    void add(std::optional<std::string> path) { paths_.push_back(std::move(path)); }
+
     std::vector<std::string> offers; ///< "open" or "save", filter, folder, name, extension
 
 private:

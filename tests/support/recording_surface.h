@@ -70,6 +70,7 @@ struct RecordingPrinter : Printer {
     std::string document;
     std::deque<RecordingSurface> pages;
     bool refuses = false;
+    std::size_t room = 1000; ///< pages until it breaks off
     bool ended = false;
 
     bool begin(std::string_view document_name) override {
@@ -78,7 +79,11 @@ struct RecordingPrinter : Printer {
         return !refuses;
     }
     Surface& page() override { return pages.back(); }
-    void next_page() override { pages.emplace_back(); }
+    bool next_page() override {
+        if (pages.size() == room) return false;
+        pages.emplace_back();
+        return true;
+    }
     void end() override { ended = true; }
 };
 

@@ -78,7 +78,8 @@ public:
     virtual bool begin(std::string_view document_name) = 0;
     /// The page begun by the last `begin` or `next_page`.
     virtual Surface& page() = 0;
-    virtual void next_page() = 0;
+    /// False when the device breaks off.
+    virtual bool next_page() = 0;
     virtual void end() = 0;
 };
 

@@ -78,14 +78,6 @@ std::uint8_t packed_flags(const BrewDocument& document) {
                                      (document.mash_flags & 0x0F));
 }
 
-constexpr std::string_view write_error =
-    "Wortlex has experienced an error in writing this file.\n\nPossible reasons include:\n\n"
-    "a) The file has somehow been tagged as read-only by the system.\n\n"
-    "b) The file has become corrupted by other means.\n\n"
-    "If the file has been transferred over a network and saved by a \n"
-    "different program, it is very likely it has been tagged as read-only.\n\n"
-    "It is suggested you try and save the file under a different name.";
-
 } // namespace
 
 bool read_opening(ByteReader& reader, BrewDocument& document) {
@@ -141,10 +133,7 @@ void bring_up_to_date(BrewDocument& document) {
 }
 
 bool save_document(const std::string& path, const Bytes& file, BrewDocument& document, Prompts& prompts) {
-    if (!save_atomically(path, file)) {
-        prompts.tell({.text = write_error, .icon = Icon::warning});
-        return false;
-    }
+    if (!save_or_tell(path, file, prompts)) return false;
     document.mash_flags = packed_flags(document);
     return true;
 }

@@ -3,30 +3,36 @@
 #include "desktop/menus.h"
 #include "desktop/text.h"
 #include "documents/method_check.h"
+#include "documents/windows/recipe_actions.h"
 #include "frame/documents.h"
+#include "frame/recovery.h"
 
+#include <QAbstractSpinBox>
 #include <QFileInfo>
-#include <QGridLayout>
-#include <QGroupBox>
-#include <QMenuBar>
+#include <QKeyEvent>
+#include <QLineEdit>
 #include <QPushButton>
-#include <QTimer>
 
 namespace wortlex {
 namespace {
 
-// A form filled before its widgets are made.
-Form made_form(const RecipeSubject& subject) {
-    Form form;
-    recipe_form(form, subject);
-    return form;
-}
+constexpr std::chrono::seconds between_keeps{30};
 
-void add_field(QGridLayout& grid, const FormWidgets& widgets, std::string_view key, int row, int column,
-               int columns = 1) {
-    if (auto* const label = widgets.label(key))
-        grid.addWidget(label, row, column, Qt::AlignRight | Qt::AlignVCenter);
-    grid.addWidget(&widgets.field(key), row, column + 1, 1, columns);
+QKeySequence::StandardKey key_of(int command) {
+    switch (command) {
+    case command::new_document:
+        return QKeySequence::New;
+    case command::open_recipe:
+        return QKeySequence::Open;
+    case command::save:
+        return QKeySequence::Save;
+    case command::save_as:
+        return QKeySequence::SaveAs;
+    case command::print:
+        return QKeySequence::Print;
+    default:
+        return QKeySequence::Close;
+    }
 }
 
 } // namespace
@@ -35,138 +41,91 @@ RecipeWindow::RecipeWindow(Program& program, const RecipeWindowPorts& ports, QWi
     : ToolWindow(window_info("RECIPEDIALOG"), 0, Opener::main, origin,
                  {program.tool_positions, program.settings}),
       program_(program),
-      ports_(ports), subject_{open_recipe(program), view_, program.color_table, [this] { show_colour(); }},
-      form_(made_form(subject_)), widgets_(form_, program.settings, *this) {
+      ports_(ports), editor_{open_recipe(program), {}, {}}, subject_{editor_, program.color_table, actions()},
+      panel_(subject_, program.settings, this) {
+    editor_.changed = [this] { show_changes(); };
     auto* const layout = new QVBoxLayout(this);
     add_menu();
-    auto* const top = new QHBoxLayout;
-    auto* const left = new QVBoxLayout;
-    left->addLayout(recipe_part());
-    left->addLayout(size_part());
-    left->addStretch();
-    top->addLayout(left, 3);
-    top->addWidget(style_part(), 2);
-    layout->addLayout(top);
-    layout->addWidget(figure_part());
-    layout->addLayout(
-        list_part("malts", "show_potential", "total_grain",
-                  {"malt_new", "malt_del", "malt_edit", "malt_more", "malt_less", "malt_detail"}),
-        1);
-    layout->addLayout(list_part("hops", "show_ibu", "total_hops",
-                                {"hop_new", "hop_del", "hop_edit", "hop_more", "hop_less", "hop_loss",
-                                 "boil_more", "boil_less"}),
-                      1);
+    layout->addWidget(&panel_, 1);
     layout->addLayout(page_part());
+    for (auto* const field : panel_.findChildren<QWidget*>())
+        if (qobject_cast<QLineEdit*>(field) != nullptr || qobject_cast<QAbstractSpinBox*>(field) != nullptr)
+            field->installEventFilter(this);
+    connect(&keeper_, &QTimer::timeout, this, [this] { keep_work(); });
+    keeper_.start(between_keeps);
     reopen();
+}
+
+RecipeActions RecipeWindow::actions() {
+    auto actions = line_actions(editor_, {program_, ports_.files, ports_.prompts}, Opener::recipe, this);
+    actions.yeast_and_water = [this] { show_yeast_and_water(); };
+    actions.extras_and_notes = [this] { show_extras(); };
+    actions.mash_schedule = [this] { show_mash(); };
+    actions.save = [this] { save_recipe(SaveAs::no); };
+    actions.show_colour = [this] { show_colour(); };
+    return actions;
 }
 
 void RecipeWindow::add_menu() {
     auto* const menu = new QMenuBar(this);
     layout()->setMenuBar(menu);
-    fill_menu(*menu, document_menu(), [this](int command) -> MenuAction {
-        if (command == command::open_recipe) return {[this] { open_another(); }, QKeySequence::Open};
-        if (command == command::close) return {[this] { close(); }, QKeySequence::Close};
-        return {};
+    const std::map<int, std::function<void()>> does = {
+        {command::new_document, [this] { start_new(); }},
+        {command::open_recipe, [this] { open_another(); }},
+        {command::save, [this] { save_recipe(SaveAs::no); }},
+        {command::save_as, [this] { save_recipe(SaveAs::yes); }},
+        {command::close, [this] { close(); }}};
+    fill_menu(*menu, document_menu(), [&does](int command) -> MenuAction {
+        const auto found = does.find(command);
+        return found == does.end() ? MenuAction{} : MenuAction{found->second, key_of(command)};
     });
+    add_edit_menu(*menu);
 }
 
-QLayout* RecipeWindow::recipe_part() {
-    auto* const grid = new QGridLayout;
-    add_field(*grid, widgets_, "title", 0, 0);
-    grid->addWidget(&widgets_.field("recipe_kind"), 1, 1);
-    grid->setColumnStretch(1, 1);
-    return grid;
-}
-
-QLayout* RecipeWindow::size_part() {
-    auto* const grid = new QGridLayout;
-    add_field(*grid, widgets_, "batch_size", 0, 0);
-    add_field(*grid, widgets_, "boil_minutes", 0, 2);
-    grid->addWidget(&widgets_.field("pre_boil"), 0, 4);
-    add_field(*grid, widgets_, "wort_size", 1, 0);
-    add_field(*grid, widgets_, "efficiency", 1, 2);
-    grid->addWidget(&widgets_.field("efficiency_lock"), 1, 4);
-    grid->addWidget(&widgets_.field("lock_to_batch"), 2, 0, 1, 5);
-    grid->setColumnStretch(5, 1);
-    return grid;
-}
-
-QWidget* RecipeWindow::style_part() {
-    auto* const box = new QGroupBox(tr("Style"), this);
-    auto* const grid = new QGridLayout(box);
-    int row = 0;
-    for (const auto* const key : {"style_class", "style_name", "style_type", "style_book"})
-        add_field(*grid, widgets_, key, row++, 0);
-    row = 0;
-    for (const auto& [low, high] :
-         {std::pair{"min_sg", "max_sg"}, {"min_ibu", "max_ibu"}, {"min_colour", "max_colour"}}) {
-        add_field(*grid, widgets_, low, row, 2);
-        add_field(*grid, widgets_, high, row++, 4);
-    }
-    grid->addWidget(&widgets_.field("pick_style"), row, 2, 1, 4, Qt::AlignRight);
-    grid->setColumnStretch(1, 1);
-    return box;
-}
-
-QWidget* RecipeWindow::figure_part() {
-    auto* const strip = new QWidget(this);
-    auto* const line = new QHBoxLayout(strip);
-    line->setContentsMargins(0, 0, 0, 0);
-    for (const auto* const key : {"sg", "plato", "total_ibu", "colour", "swatch"}) {
-        line->addWidget(widgets_.label(key));
-        line->addWidget(&widgets_.field(key));
-        line->addSpacing(fontMetrics().height());
-    }
-    line->addStretch();
-    return strip;
-}
-
-QLayout* RecipeWindow::list_part(std::string_view list, std::string_view choice, std::string_view total,
-                                 std::initializer_list<std::string_view> buttons) {
-    auto* const line = new QHBoxLayout;
-    auto* const left = new QVBoxLayout;
-    left->addWidget(&widgets_.field(list), 1);
-    auto* const below = new QHBoxLayout;
-    below->addWidget(&widgets_.field(choice));
-    below->addStretch();
-    below->addWidget(widgets_.label(total));
-    below->addWidget(&widgets_.field(total));
-    left->addLayout(below);
-    line->addLayout(left, 1);
-    auto* const column = new QGridLayout;
-    int place = 0;
-    for (const auto key : buttons) {
-        column->addWidget(&widgets_.field(key), place / 2, place % 2);
-        ++place;
-    }
-    column->setRowStretch(place, 1);
-    line->addLayout(column);
-    return line;
+void RecipeWindow::add_edit_menu(QMenuBar& bar) {
+    auto* const menu = bar.addMenu(tr("E&dit"));
+    undo_ = menu->addAction(tr("&Undo"), this, [this] { travel(undo); });
+    undo_->setObjectName(QStringLiteral("undo"));
+    undo_->setShortcuts(QKeySequence::Undo);
+    redo_ = menu->addAction(tr("&Redo"), this, [this] { travel(redo); });
+    redo_->setObjectName(QStringLiteral("redo"));
+    redo_->setShortcuts(QKeySequence::Redo);
 }
 
 QLayout* RecipeWindow::page_part() {
     auto* const line = new QHBoxLayout;
+    const auto& widgets = panel_.widgets();
     for (const auto* const key : {"yeast_and_water", "extras_and_notes", "mash_schedule"})
-        line->addWidget(&widgets_.field(key));
+        line->addWidget(&widgets.field(key));
     line->addStretch();
-    for (const auto* const key : {"save", "print", "help"}) line->addWidget(&widgets_.field(key));
-    auto* const ok = new QPushButton(tr("OK"), this);
+    for (const auto* const key : {"save", "print", "help"}) line->addWidget(&widgets.field(key));
+    auto* const ok = new QPushButton(tr("&OK"), this);
     ok->setObjectName(QStringLiteral("ok"));
     connect(ok, &QPushButton::clicked, this, &QWidget::close);
     line->addWidget(ok);
     return line;
 }
 
+bool RecipeWindow::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::ShortcutOverride) {
+        const auto* const key = dynamic_cast<QKeyEvent*>(event);
+        if (key != nullptr && (key->matches(QKeySequence::Undo) || key->matches(QKeySequence::Redo))) {
+            event->ignore();
+            return true;
+        }
+    }
+    return ToolWindow::eventFilter(watched, event);
+}
+
 void RecipeWindow::reopen() {
-    auto opened = open_recipe_window(subject_.open, program_.recipe_file.loaded_from_file);
-    view_ = {.locks = opened.locks,
-             .show_potential = opened.show_potential,
-             .selected_malt = 0,
-             .selected_hop = 0};
+    auto opened = open_recipe_window(editor_.open, program_.recipe_file.loaded_from_file);
+    start_editing(editor_, {.locks = opened.locks,
+                            .show_potential = opened.show_potential,
+                            .selected_malt = 0,
+                            .selected_hop = 0,
+                            .selected_extra = 0});
     saved_ = std::move(opened.saved);
-    widgets_.refresh();
-    if (!swatch_.isNull()) swatch_->set_colour(program_.figures.colour.srm);
-    show_file_name();
+    show_everything();
 }
 
 void RecipeWindow::tell_method() {
@@ -175,10 +134,97 @@ void RecipeWindow::tell_method() {
         ports_.prompts.tell({.text = *warning, .icon = Icon::warning});
 }
 
+RecipeSaving RecipeWindow::saving() {
+    return {editor_,      program_.recipe_file, saved_,
+            ports_.files, ports_.prompts,       folder_path(program_.folders, FolderKind::recipes)};
+}
+
+void RecipeWindow::start_new() {
+    auto current = saving();
+    if (!may_leave(current)) return;
+    close_pages();
+    new_recipe(program_);
+    reopen();
+}
+
 void RecipeWindow::open_another() {
-    if (!choose_and_open(program_, DocumentKind::recipe, ports_.files, ports_.prompts)) return;
+    auto current = saving();
+    if (!may_leave(current)) return;
+    if (!choose_and_open(program_, DocumentKind::recipe, ports_.files, ports_.prompts))
+        return show_everything();
+    close_pages();
     reopen();
     tell_method();
+}
+
+bool RecipeWindow::save_recipe(SaveAs save_as) {
+    auto current = saving();
+    const auto before = program_.recipe_file.path;
+    const bool saved = save(current, save_as);
+    const auto& path = program_.recipe_file.path;
+    if (saved && path != before) {
+        follow_user(program_.folders, FolderKind::recipes, path);
+        remember_document(program_, path);
+    }
+    keep_work();
+    show_everything();
+    return saved;
+}
+
+bool RecipeWindow::may_close() {
+    auto current = saving();
+    const bool may = may_leave(current);
+    show_everything();
+    if (!may) return false;
+    close_pages();
+    keeper_.stop();
+    DropWork(program_.data_folder);
+    return true;
+}
+
+void RecipeWindow::travel(bool (*step)(RecipeEditor&)) {
+    step(editor_);
+    show_everything();
+}
+
+void RecipeWindow::show_changes() {
+    show_file_name();
+    if (!swatch_.isNull()) swatch_->set_colour(program_.figures.colour.srm);
+    for (const auto& page : {yeast_and_water_, extras_})
+        if (!page.isNull()) page->refresh();
+    tell_grain();
+    for (const auto& [action, word, step] : {std::tuple(undo_, tr("&Undo"), editor_.history.to_undo()),
+                                             std::tuple(redo_, tr("&Redo"), editor_.history.to_redo())}) {
+        action->setEnabled(!step.empty());
+        action->setText(step.empty() ? word : word + QLatin1Char(' ') + string_of(step));
+    }
+}
+
+void RecipeWindow::tell_grain() {
+    const float grain = program_.figures.mash_grain;
+    if (!mash_.isNull() && grain != told_grain_) mash_->grain_changed();
+    told_grain_ = grain;
+}
+
+void RecipeWindow::show_everything() {
+    show_changes();
+    panel_.refresh();
+}
+
+void RecipeWindow::show_file_name() {
+    const auto caption = string_of(window_info("RECIPEDIALOG").captions[0]);
+    const auto& path = program_.recipe_file.path;
+    const auto file = QFileInfo(QFile::decodeName(QByteArray::fromStdString(path))).fileName();
+    const bool modified = is_modified(program_.document, saved_, program_.recipe_file);
+    const auto before = file + (modified ? QStringLiteral("*") : QString());
+    setWindowTitle(before.isEmpty() ? caption : before + QStringLiteral(" - ") + caption);
+}
+
+void RecipeWindow::keep_work() {
+    if (is_modified(program_.document, saved_, program_.recipe_file))
+        KeepWork(program_);
+    else
+        DropWork(program_.data_folder);
 }
 
 void RecipeWindow::show_colour() {
@@ -187,16 +233,65 @@ void RecipeWindow::show_colour() {
     bring_forward(*swatch_);
 }
 
-RecipeWindow::~RecipeWindow() {
+void RecipeWindow::show_page(QPointer<RecipePage>& page, RecipePageUse use) {
+    if (page.isNull()) {
+        page = new RecipePage(editor_, std::move(use), {program_.tool_positions, program_.settings}, this);
+        page->changed = [this] { show_everything(); };
+    }
+    bring_forward(*page);
+}
+
+void RecipeWindow::show_yeast_and_water() {
+    const DatabasePorts databases{program_, ports_.files, ports_.prompts};
+    show_page(yeast_and_water_,
+              {.template_name = "RECIPE4DIALOG",
+               .step = "Yeast And Water",
+               .fill = [this, databases](Form& form, QWidget* page) {
+                   yeast_water_form(form, editor_,
+                                    yeast_water_actions(editor_, databases, Opener::recipe, page));
+               }});
+}
+
+void RecipeWindow::show_extras() {
+    const DatabasePorts databases{program_, ports_.files, ports_.prompts};
+    show_page(extras_, {.template_name = "RECIPEEXTRADIALOG",
+                        .step = "Extras & Notes",
+                        .fill =
+                            [this, databases](Form& form, QWidget* page) {
+                                extras_form(form, editor_,
+                                            extras_actions(editor_, databases, Opener::recipe, page));
+                            },
+                        .arrange = arrange_extras});
+}
+
+void RecipeWindow::show_mash() {
+    if (mash_.isNull()) {
+        told_grain_ = program_.figures.mash_grain;
+        const auto work = open_simple_mash(program_.document.simple_mash, program_.water_to_grain,
+                                           told_grain_, program_.settings);
+        mash_ = new SimpleMashWindow(program_, work,
+                                     {.mash_grain = [this] { return program_.figures.mash_grain; },
+                                      .accepted =
+                                          [this](const SimpleMash& mash, float ratio) {
+                                              set_simple_mash(editor_, mash);
+                                              program_.water_to_grain = ratio;
+                                              panel_.refresh();
+                                          },
+                                      .revert_to_complex = nullptr},
+                                     this);
+    }
+    bring_forward(*mash_);
+}
+
+void RecipeWindow::close_pages() {
+    for (const auto& page : {yeast_and_water_, extras_})
+        if (!page.isNull()) page->dismiss();
+    if (!mash_.isNull()) mash_->close();
     if (!swatch_.isNull()) swatch_->close();
 }
 
-void RecipeWindow::show_file_name() {
-    const auto& info = window_info("RECIPEDIALOG");
-    const auto caption = string_of(info.captions[0]);
-    const auto& path = program_.recipe_file.path;
-    const auto file = QFileInfo(QString::fromStdString(path)).fileName();
-    setWindowTitle(file.isEmpty() ? caption : file + QStringLiteral(" - ") + caption);
+RecipeWindow::~RecipeWindow() {
+    close_pages();
 }
 
 } // namespace wortlex

@@ -1,14 +1,18 @@
 // The window in which a recipe is formulated.
 #pragma once
 
-#include "base/ports/prompts.h"
 #include "calculators/windows/color_swatch_window.h"
-#include "desktop/form_widgets.h"
 #include "desktop/tool_window.h"
-#include "documents/recipe_form.h"
+#include "documents/recipe_saving.h"
+#include "documents/windows/recipe_page.h"
+#include "documents/windows/recipe_panel.h"
+#include "documents/windows/simple_mash_window.h"
 #include "frame/program.h"
 
+#include <QBoxLayout>
+#include <QMenuBar>
 #include <QPointer>
+#include <QTimer>
 
 namespace wortlex {
 
@@ -29,27 +33,52 @@ public:
     void tell_method();
     ~RecipeWindow() override;
 
+protected:
+    bool may_close() override;
+    /// Undo is the recipe's, also while the cursor stands in a field.
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 private:
+    RecipeActions actions();
     void add_menu();
-    QLayout* recipe_part();
-    QLayout* size_part();
-    QWidget* style_part();
-    QWidget* figure_part();
-    QLayout* list_part(std::string_view list, std::string_view choice, std::string_view total,
-                       std::initializer_list<std::string_view> buttons);
+    void add_edit_menu(QMenuBar& bar);
     QLayout* page_part();
+
+    void start_new();
     void open_another();
+    bool save_recipe(SaveAs save_as);
+    RecipeSaving saving();
+
+    void travel(bool (*step)(RecipeEditor&));
+    /// Everything that shows the recipe but the fields, which follow by themselves.
+    void show_changes();
     void show_file_name();
+    void tell_grain();
+    void show_everything();
+    void keep_work();
+
     void show_colour();
+    void show_page(QPointer<RecipePage>& page, RecipePageUse use);
+    void show_yeast_and_water();
+    void show_extras();
+    void show_mash();
+    void close_pages();
 
     Program& program_;
     RecipeWindowPorts ports_;
-    RecipeView view_;
+    RecipeEditor editor_;
     DocumentSnapshot saved_;
     RecipeSubject subject_;
-    Form form_;
-    FormWidgets widgets_;
-    QPointer<ColorSwatchWindow> swatch_; ///< open once at most
+    RecipePanel panel_;
+    QAction* undo_ = nullptr;
+    QAction* redo_ = nullptr;
+    QTimer keeper_; ///< of unsaved work
+    // Each is open once at most.
+    QPointer<ColorSwatchWindow> swatch_;
+    QPointer<RecipePage> yeast_and_water_;
+    QPointer<RecipePage> extras_;
+    QPointer<SimpleMashWindow> mash_;
+    float told_grain_ = 0; ///< the mashed pounds that the mash window knows
 };
 
 } // namespace wortlex

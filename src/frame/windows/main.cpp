@@ -47,6 +47,7 @@ int run(int count, char** arguments) {
     once_shown.setSingleShot(true);
     QObject::connect(&once_shown, &QTimer::timeout, set_icon);
     once_shown.start(0);
+    window.offer_unsaved_work();
     if (const auto named = QApplication::arguments(); named.size() > 1)
         window.open_file(QFile::encodeName(named.at(1)).toStdString());
     return QApplication::exec();

@@ -9,9 +9,11 @@
 #include "desktop/text.h"
 #include "documents/windows/recipe_window.h"
 #include "frame/exit.h"
+#include "frame/recovery.h"
 #include "frame/windows/about_window.h"
 #include "frame/windows/open_window.h"
 #include "frame/windows/settings_windows.h"
+#include "mash/windows/strike_calculator_window.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -23,8 +25,9 @@ namespace wortlex {
 namespace {
 
 constexpr int recipe_closed = 6000;
+constexpr int strike_calculator_closed = 6006;
 
-QKeySequence key_of(int command) {
+QKeySequence::StandardKey key_of(int command) {
     switch (command) {
     case command::new_recipe:
         return QKeySequence::New;
@@ -33,7 +36,7 @@ QKeySequence key_of(int command) {
     case command::exit:
         return QKeySequence::Quit;
     default:
-        return {};
+        return QKeySequence::UnknownKey;
     }
 }
 
@@ -76,6 +79,7 @@ void MainWindow::carry_out_commands() {
             show_recipe();
     });
     carry_out_databases();
+    commands_.carry_out(command::strike_temperature, [this] { show_strike_calculator(); });
     carry_out_settings();
     commands_.carry_out(command::exit, [this] { close(); });
 }
@@ -160,6 +164,10 @@ void MainWindow::put() {
     move(place.left, place.top);
 }
 
+void MainWindow::offer_unsaved_work() {
+    if (offer_work(program_, prompts_)) show_recipe();
+}
+
 void MainWindow::open_file(const std::string& path) {
     const auto kind = document_kind(path);
     if (kind && !commands_.is_built(command_of(*kind))) return;
@@ -170,6 +178,12 @@ void MainWindow::show_recipe() {
     auto* const window = new RecipeWindow(program_, {files_, prompts_}, this); // deletes itself when closed
     show_tool(*window, command::new_recipe, recipe_closed);
     window->tell_method();
+}
+
+void MainWindow::show_strike_calculator() {
+    if (activate_if_open(program_.tools, command::strike_temperature)) return;
+    auto* const window = new StrikeCalculatorWindow(program_, this); // deletes itself when closed
+    show_tool(*window, command::strike_temperature, strike_calculator_closed);
 }
 
 void MainWindow::show_tool(ToolWindow& window, int command, int closing_notification) {

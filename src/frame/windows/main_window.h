@@ -17,6 +17,8 @@ public:
     MainWindow(Program& program, Prompts& prompts, Files& files);
 
     CommandTable& commands() { return commands_; }
+    /// Opens the unsaved work of a run that broke off, if there is any and it is wanted.
+    void offer_unsaved_work();
     /// Opens a document file as if it were dropped on the window.
     void open_file(const std::string& path);
 
@@ -34,6 +36,7 @@ private:
     void put();
     bool wants(DocumentKind kind);
     void show_recipe();
+    void show_strike_calculator();
     /// Shows a new tool window and keeps the books of it until it closes.
     void show_tool(ToolWindow& window, int command, int closing_notification);
 

@@ -152,6 +152,10 @@ void Form::select(ListRow& row, std::int32_t index) const {
     if (show_again) show_again(&row);
 }
 
+void Form::leave() const {
+    for (const auto& hook : leave_hooks_) hook();
+}
+
 void Form::accept() const {
     for (const auto& hook : accept_hooks_) hook();
 }

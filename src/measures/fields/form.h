@@ -113,6 +113,8 @@ public:
 
     /// Called after each edit of the user, before the rows are shown again.
     void after_edit(std::function<void(Row&)> hook) { edit_hooks_.push_back(std::move(hook)); }
+    /// Called as the user leaves a field: what he typed there is then one edit, and done.
+    void on_leave(std::function<void()> hook) { leave_hooks_.push_back(std::move(hook)); }
     void on_accept(std::function<void()> hook) { accept_hooks_.push_back(std::move(hook)); }
     void on_cancel(std::function<void()> hook) { cancel_hooks_.push_back(std::move(hook)); }
 
@@ -133,6 +135,7 @@ public:
     bool choose(ChoiceRow& row, std::size_t option);
     bool check(CheckRow& row, bool checked);
     void select(ListRow& row, std::int32_t index) const;
+    void leave() const;
 
     void accept() const;
     void cancel() const;
@@ -152,6 +155,7 @@ private:
     std::vector<std::unique_ptr<Group>> groups_;
     bool column_is_due_ = false;
     std::vector<std::function<void(Row&)>> edit_hooks_;
+    std::vector<std::function<void()>> leave_hooks_;
     std::vector<std::function<void()>> accept_hooks_;
     std::vector<std::function<void()>> cancel_hooks_;
 };

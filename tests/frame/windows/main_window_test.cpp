@@ -7,6 +7,7 @@
 #include "support/drop.h"
 #include "support/qt_keys.h"
 #include "support/sample_documents.h"
+#include "support/started_brewery.h"
 #include "support/temporary_folder.h"
 
 #include <QApplication>
@@ -19,58 +20,6 @@
 
 namespace wortlex {
 namespace {
-
-// A started program in a brewery folder of its own.
-struct Brewery {
-    TemporaryFolder folder;
-    ScriptedPrompts prompts;
-    ScriptedFiles files;
-    Program program;
-
-    Brewery() {
-        SaveSystemFiles(folder.path(), {WriteDefaultSettings(), {}, true});
-        SaveWater(folder.path(), {});
-        auto colours = built_in_color_table();
-        SaveColorTable(folder.path() + std::string(color_table_file), colours, 1);
-        draw_art();
-        EXPECT_TRUE(start(program, folder.path(), prompts));
-    }
-
-    void draw_art() const {
-        const QImage picture(65, 65, QImage::Format_RGB888);
-        std::filesystem::create_directory(folder.path() + "art");
-        for (const auto& button : main_screen_buttons)
-            picture.save(QString::fromStdString(button_bitmap(folder.path(), art_schemes[0], button)));
-        picture.save(QString::fromStdString(background_bitmap(folder.path(), art_schemes[0])));
-    }
-
-    std::string save_sample(const char* name) {
-        auto document = new_document(program.settings, ScheduleKind::simple);
-        document.title.assign(name);
-        document.malts.resize(2);
-        document.malts[0].record.name.assign("Maris Otter");
-        document.malts[0].record.malt_type = MaltType::grain;
-        document.malts[0].record.potential = 1.037F;
-        document.malts[0].amount = 10;
-        document.efficiency = 0.76F;
-        auto path = folder.path() + name + ".rec";
-        QuietPrompts quiet;
-        EXPECT_TRUE(save_recipe(path, document, quiet));
-        return path;
-    }
-};
-
-RecipeWindow* open_recipe_window() {
-    for (auto* const window : QApplication::topLevelWidgets())
-        if (auto* const recipe = dynamic_cast<RecipeWindow*>(window);
-            recipe != nullptr && recipe->isVisible())
-            return recipe;
-    return nullptr;
-}
-
-QString text_in(const RecipeWindow& window, const char* key) {
-    return window.findChild<QLineEdit*>(QString::fromLatin1(key))->text();
-}
 
 TEST(MainWindow, DisablesWhatIsNotBuilt) {
     Brewery brewery;
@@ -107,7 +56,7 @@ TEST(MainWindow, OpensARecipeOnceAndShowsItsFigures) {
     EXPECT_EQ(malts->model()->rowCount(), 2);
     EXPECT_EQ(malts->model()->index(0, 0).data(), "Maris Otter");
     QTest::keyClick(recipe, Qt::Key_Escape);
-    QTest::keyClick(malts, Qt::Key_Return);
+    QTest::keyClick(recipe->findChild<QLineEdit*>("title"), Qt::Key_Return);
     EXPECT_TRUE(recipe->isVisible()) << "neither Esc nor Enter closes a document";
     window.commands().start(command::new_recipe); // a second request only brings it forward
     EXPECT_EQ(brewery.program.document.title.view(), "Mild");

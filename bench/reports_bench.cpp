@@ -1,0 +1,85 @@
+// The report of a recipe with every section in its three forms, by the number of lines; print is recorded on
+// paper of 300 dots an inch, with its texts measured as in the preview.
+#include "desktop/print_device.h"
+#include "documents/opening.h"
+#include "reports/document_report.h"
+#include "reports/report_writers.h"
+#include "sample_document.h"
+
+#include <QApplication>
+
+#include <benchmark/benchmark.h>
+
+namespace wortlex {
+namespace {
+
+struct Measured {
+    Settings settings;
+    BrewDocument document;
+    RecipeFigures figures;
+    RecipeView view;
+    PrintSelection wanted;
+    ColorTable colours = built_in_color_table();
+
+    explicit Measured(std::size_t lines) {
+        auto image = WriteDefaultSettings();
+        settings = settings_from(image);
+        document = sample_document(lines, settings);
+        document.notes.assign(std::string(4000, 'n'));
+        document.awards.assign(std::string(4000, 'a'));
+        view = default_report_view(settings);
+        wanted.sections.fill(1);
+        recalculate_opened(open());
+    }
+
+    OpenDocument open() { return {document, figures, settings}; }
+
+    DocumentReport report() {
+        const auto opened = open();
+        return document_report({opened, view, colours, 10}, wanted);
+    }
+};
+
+void text(benchmark::State& state) {
+    Measured measured(static_cast<std::size_t>(state.range(0)));
+    for (auto _ : state) {
+        TextSink sink;
+        write_text(measured.report(), sink);
+        benchmark::DoNotOptimize(sink.text().data());
+    }
+}
+
+void html(benchmark::State& state) {
+    Measured measured(static_cast<std::size_t>(state.range(0)));
+    HtmlTheme theme;
+    take_built_in(theme, BuiltInTheme::mint);
+    for (auto _ : state) benchmark::DoNotOptimize(write_html(measured.report(), theme).page().data());
+}
+
+void print(benchmark::State& state) {
+    Measured measured(static_cast<std::size_t>(state.range(0)));
+    MeasuringSurface measure;
+    const auto paper = paper_of(PaperChoice{});
+    for (auto _ : state) {
+        const auto report = measured.report();
+        const auto job = record_report({"", 0.75F, [&](PageContext& page) { write_print(report, page); }},
+                                       paper, measure.surface());
+        benchmark::DoNotOptimize(job->pages.data());
+    }
+}
+
+#define EACH_SIZE Arg(25)->Arg(100)->Unit(benchmark::kMicrosecond)
+BENCHMARK(text)->EACH_SIZE;
+BENCHMARK(html)->EACH_SIZE;
+BENCHMARK(print)->EACH_SIZE;
+
+} // namespace
+} // namespace wortlex
+
+int main(int count, char** arguments) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QApplication application(count, arguments);
+    benchmark::Initialize(&count, arguments);
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}

@@ -1,0 +1,66 @@
+// Paper and what prints on it.
+#pragma once
+
+#include "base/bytes.h"
+#include "desktop/painter_surface.h"
+#include "reports/page/page_job.h"
+
+#include <QImage>
+#include <QPageLayout>
+#include <QPagedPaintDevice>
+
+namespace wortlex {
+
+inline constexpr int print_resolution = 300; // dots an inch
+
+enum class PaperKind : std::int32_t { a4, letter };
+enum class PaperTurn : std::int32_t { portrait, landscape };
+
+/// What the user chooses of the paper.
+struct PaperChoice {
+    PaperKind kind = PaperKind::a4;
+    PaperTurn turn = PaperTurn::portrait;
+
+    bool operator==(const PaperChoice&) const = default;
+};
+
+/// Letter where inches are usual, else A4.
+PaperChoice usual_paper();
+/// With margins of a fifth of an inch, which every printer manages.
+QPageLayout layout_of(const PaperChoice& choice);
+Paper paper_of(const PaperChoice& choice);
+
+/// Tells how wide texts will be on paper.
+class MeasuringSurface {
+public:
+    MeasuringSurface();
+    Surface& surface() { return surface_; }
+
+private:
+    QImage image_;
+    QPainter painter_;
+    PainterSurface surface_;
+};
+
+/// A printer or a PDF file being written. Pages made for `paper` are drawn smaller where the device keeps
+/// wider margins or has been given a smaller sheet.
+class PagedPrinter : public Printer {
+public:
+    PagedPrinter(QPagedPaintDevice& device, const Paper& paper);
+
+    bool begin(std::string_view document_name) override;
+    Surface& page() override { return surface_; }
+    bool next_page() override { return device_.newPage(); }
+    void end() override { painter_.end(); }
+
+private:
+    QPagedPaintDevice& device_;
+    Extent area_;
+    QPainter painter_;
+    PainterSurface surface_;
+};
+
+/// The job as the bytes of a PDF file; empty if it could not be made.
+Bytes pdf_of(const PageJob& job, const PaperChoice& choice, Prompts& prompts);
+
+} // namespace wortlex

@@ -1,0 +1,92 @@
+#include "desktop/print_preview_form.h"
+
+#include <algorithm>
+
+namespace wortlex {
+namespace {
+
+void turning_rows(Rows& rows, PreviewPages& pages) {
+    const auto is_behind_first = [&pages] { return pages.current() > 0; };
+    const auto is_before_last = [&pages] { return pages.current() + 1 < pages.count(); };
+    rows.button("first", "&First", [&pages] { pages.go_to(0); }).enabled(is_behind_first).hint("Home");
+    rows.button("previous", "&Previous", [&pages] { pages.turn(-1); })
+        .enabled(is_behind_first)
+        .hint("Page Up");
+    rows.note("place", [&pages] { return pages.place(); });
+    rows.button("next", "&Next", [&pages] { pages.turn(1); }).enabled(is_before_last).hint("Page Down");
+    rows.button("last", "&Last", [&pages] { pages.go_to(static_cast<std::ptrdiff_t>(pages.count())); })
+        .enabled(is_before_last)
+        .hint("End");
+}
+
+// One half of the choice of paper.
+template <class Half>
+Binding<std::int32_t> half_of_paper(PreviewPages& pages, Half PaperChoice::*half) {
+    return {[&pages, half] { return static_cast<std::int32_t>(pages.paper().*half); },
+            [&pages, half](std::int32_t code) {
+                auto paper = pages.paper();
+                paper.*half = static_cast<Half>(code);
+                pages.choose(paper);
+            }};
+}
+
+void drop_down(Rows& rows, const char* key, const char* label, Binding<std::int32_t> code,
+               std::vector<Live<std::string>> words) {
+    rows.choice(key, std::move(code), std::move(words)).look(ChoiceRow::Look::drop_down).label(label);
+}
+
+} // namespace
+
+PreviewPages::PreviewPages(const PrintRequest& request, PaperChoice& paper)
+    : request_(request), paper_(paper) {
+    record();
+}
+
+void PreviewPages::record() {
+    job_ = record_report(request_, paper_of(paper_), measure_.surface()).value_or(PageJob{});
+    turn(0);
+}
+
+void PreviewPages::tell() const {
+    if (changed) changed();
+}
+
+void PreviewPages::go_to(std::ptrdiff_t page) {
+    const auto last = std::max<std::ptrdiff_t>(static_cast<std::ptrdiff_t>(count()) - 1, 0);
+    current_ = static_cast<std::size_t>(std::clamp<std::ptrdiff_t>(page, 0, last));
+    tell();
+}
+
+void PreviewPages::choose(PaperChoice paper) {
+    paper_ = paper;
+    record();
+}
+
+void PreviewPages::choose(PreviewZoom zoom) {
+    zoom_ = zoom;
+    tell();
+}
+
+std::string PreviewPages::place() const {
+    return "Page " + std::to_string(current_ + 1) + " of " + std::to_string(count());
+}
+
+void preview_form(Form& form, PreviewPages& pages, const PreviewButtons& buttons) {
+    auto& rows = form.group();
+    turning_rows(rows, pages);
+    drop_down(rows, "zoom", "&Zoom:",
+              {[&pages] { return static_cast<std::int32_t>(pages.zoom()); },
+               [&pages](std::int32_t code) { pages.choose(static_cast<PreviewZoom>(code)); }},
+              {"Fit Page", "Fit Width", "100 %", "150 %", "200 %"});
+    drop_down(rows, "paper", "Pape&r:", half_of_paper(pages, &PaperChoice::kind), {"A4", "Letter"});
+    drop_down(rows, "turn", "&Orientation:", half_of_paper(pages, &PaperChoice::turn),
+              {"Portrait", "Landscape"});
+    rows.button("print", "Prin&t...", buttons.print)
+        .enabled(buttons.has_printer)
+        .hint(buttons.has_printer ? "Ctrl+P"
+                                  : "No printer is installed. Save the pages as a PDF file instead.");
+    rows.button("save", "&Save as PDF...", buttons.save).hint("Ctrl+S");
+    rows.button("close", "&Close", buttons.close).hint("Esc");
+}
+
+} // namespace wortlex

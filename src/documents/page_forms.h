@@ -1,0 +1,23 @@
+// The forms of the two sub-pages of a recipe: yeast and water, extras and notes. They work on the live
+// document; Cancel puts back what they may have changed.
+#pragma once
+
+#include "documents/recipe_lines.h"
+#include "measures/fields/form.h"
+
+namespace wortlex {
+
+/// What the buttons do that open another window; an empty one is disabled.
+struct YeastWaterActions {
+    std::function<void()> pick_yeast, pick_water, print, help;
+};
+
+void yeast_water_form(Form& form, RecipeEditor& editor, const YeastWaterActions& actions);
+
+struct ExtrasActions {
+    std::function<void()> new_extra, edit_extra, print, help;
+};
+
+void extras_form(Form& form, RecipeEditor& editor, const ExtrasActions& actions);
+
+} // namespace wortlex

@@ -1,0 +1,41 @@
+// The window of the simple mash schedule of a recipe.
+#pragma once
+
+#include "desktop/form_widgets.h"
+#include "desktop/tool_window.h"
+#include "documents/simple_mash_form.h"
+#include "frame/program.h"
+
+#include <functional>
+
+namespace wortlex {
+
+/// What the document window gives, and what it is told.
+struct SimpleMashCalls {
+    std::function<float()> mash_grain; ///< pounds, up to date
+    /// OK: the schedule to take over, and the ratio to keep with it.
+    std::function<void(const SimpleMash& mash, float ratio)> accepted;
+    /// After that, where the complex schedule is to come into force; empty: it cannot.
+    std::function<void()> revert_to_complex;
+};
+
+/// A page of a document window: modeless, on a working copy. Closing it in any other way than with OK leaves
+/// the document as it was.
+class SimpleMashWindow : public ToolWindow {
+public:
+    SimpleMashWindow(Program& program, const SimpleMashWork& work, SimpleMashCalls calls, QWidget* origin);
+
+    /// The grain bill has changed: takes the new weight, and the water by the ratio.
+    void grain_changed();
+
+private:
+    void accept();
+    std::function<void()> revert_action();
+
+    SimpleMashCalls calls_;
+    SimpleMashWork work_;
+    Form form_;
+    FormWidgets widgets_;
+};
+
+} // namespace wortlex

@@ -1,0 +1,75 @@
+#include "measures/units.h"
+#include "reports/sections.h"
+#include "reports/unit_words.h"
+
+#include <algorithm>
+#include <array>
+
+namespace wortlex {
+namespace {
+
+constexpr std::size_t name_width = 29;
+constexpr std::size_t origin_width = 14;
+
+std::string_view potential_scale(PotentialDisplay display) {
+    constexpr std::array<std::string_view, 4> scales = {
+        "SG per pound per gallon", "Points per pound per gallon", "IOB - HWE", "Plato per pound per gallon"};
+    return scales[std::min(static_cast<std::size_t>(display), scales.size() - 1)];
+}
+
+std::string_view extract_scale(const Settings& settings) {
+    constexpr std::array<std::string_view, 5> scales = {"SG", "Points", "Pounds", "Plato",
+                                                        "% of Total Extract"};
+    if (settings.extract_display == ExtractDisplay::weight && !is_american(settings.weight_units))
+        return "kg";
+    return scales[std::min(static_cast<std::size_t>(settings.extract_display), scales.size() - 1)];
+}
+
+// "Exract" has always been spelt so.
+ReportRow note(const ReportSource& source) {
+    const auto& settings = source.open.settings;
+    if (!source.view.show_potential) return {"\nExract represented as %s.\n\n", {extract_scale(settings)}};
+    if (settings.potential_display == PotentialDisplay::percent_yield)
+        return {"\nPotential represented as %s.\n\n",
+                {"% Yield - " + std::string(yield_word(settings.yield_type))}};
+    return {"\nPotential represented as %s.\n\n", {potential_scale(settings.potential_display)}};
+}
+
+// SG has its own precision; every other scale shares that of Plato.
+std::string value_column(const ReportSource& source) {
+    const auto& settings = source.open.settings;
+    const bool is_sg = source.view.show_potential ? settings.potential_display == PotentialDisplay::sg
+                                                  : settings.extract_display == ExtractDisplay::sg;
+    return is_sg ? sg_column(5, 3, settings) : plato_column(5, 3, settings);
+}
+
+ReportRow row(const ReportSource& source, std::size_t line, const std::string& format) {
+    const auto& malt = source.open.document.malts[line];
+    const float total = source.open.figures.total_grain;
+    return {format,
+            {total > 0 ? double{malt.amount} / total * 100 : 0.0,
+             grain_to_shown(malt.amount, source.open.settings),
+             {line_text(malt.record.name), name_width},
+             {line_text(malt.record.origin), origin_width},
+             malt_value(source.open, source.view, line),
+             to_shown_colour(malt.record.colour, source.open.settings)}};
+}
+
+} // namespace
+
+ReportSection grain_section(const ReportSource& source) {
+    ReportTable list;
+    list.columns = {{"%", 3, 0, 45, HtmlAlign::right},
+                    {"Amount", 9, 40, 85, HtmlAlign::right},
+                    {"Name", 20, 120, 210},
+                    {"Origin", 50, 300, 90},
+                    {source.view.show_potential ? "Potential" : "Extract", 64, 390, 70, HtmlAlign::right},
+                    {std::string(colour_word(source.open.settings)), 74, 460, 50, HtmlAlign::right}};
+    const auto format = " %4.1f %8.2f " + std::string(grain_column_word(source.open.settings)) + " %s %s " +
+                        value_column(source) + "%4.0f\n";
+    for (std::size_t i = 0; i < source.open.document.malts.size(); ++i)
+        list.rows.push_back(row(source, i, format));
+    return {"Grain/Extract/Sugar", {list, ReportLines{{}, {note(source)}}}};
+}
+
+} // namespace wortlex

@@ -1,0 +1,10 @@
+#include "reports/sections.h"
+#include "reports/unit_words.h"
+
+namespace wortlex {
+
+ReportSection heading_section(const ReportSource& source) {
+    return {"", {ReportLines{{90}, {{"Recipe:       %s\n\n", {line_text(source.open.document.title)}}}}}};
+}
+
+} // namespace wortlex

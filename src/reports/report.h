@@ -1,0 +1,80 @@
+// A report on a document: what it says, apart from the form it takes. It is built once, as sections of rows;
+// a row holds its values once and the words of the text form, from which the other forms follow by rule.
+#pragma once
+
+#include "reports/page/html_writer.h"
+
+#include <optional>
+#include <string>
+#include <variant>
+#include <vector>
+
+namespace wortlex {
+
+/// What stands at one place of a row: a figure, or UTF-8 text with the width of its column in the text form
+/// (0: as long as it is).
+struct ReportValue {
+    ReportValue(double number) : content(number) {}
+    ReportValue(std::int32_t number) : content(static_cast<double>(number)) {}
+    ReportValue(std::string text, std::size_t column_width = 0)
+        : content(std::move(text)), width(column_width) {}
+    ReportValue(std::string_view text) : content(std::string(text)) {}
+    ReportValue(const char* text) : content(std::string(text)) {}
+
+    std::variant<double, std::string> content;
+    std::size_t width = 0;
+};
+
+/// One line. In `format` every place is "%f" or "%d" with width and decimals, "%s" or "%c"; `\n` ends the
+/// line and, in front or behind it, leaves one blank.
+struct ReportRow {
+    std::string format;
+    std::vector<ReportValue> values;
+    std::string print_format{};            ///< the words of print where it has its own, tabs between columns
+    std::optional<std::uint32_t> colour{}; ///< 0x00BBGGRR, of a box beside it in print and HTML
+};
+
+/// Labels and figures. A colon or two blanks end a column, as tab stop and as cell.
+struct ReportLines {
+    std::vector<int> tabs; ///< of print, behind the first column
+    std::vector<ReportRow> rows;
+};
+
+struct ReportColumn {
+    std::string title;     ///< `\n` between its two lines
+    std::size_t place = 0; ///< of its title in the text form, in characters
+    int tab = 0;           ///< of print; 0 for the first column
+    int width = 0;         ///< of its cells, in pixels
+    HtmlAlign align = HtmlAlign::left;
+    int title_tab = 0; ///< of print, where the title stands elsewhere than the column
+};
+
+/// A list under column titles. Each place of a row begins a column.
+struct ReportTable {
+    std::vector<ReportColumn> columns;
+    std::vector<ReportRow> rows;
+};
+
+/// A text as the user typed it, UTF-8.
+struct ReportText {
+    std::string text;
+};
+
+using ReportBlock = std::variant<ReportLines, ReportTable, ReportText>;
+
+struct ReportSection {
+    std::string heading; ///< none where empty
+    std::vector<ReportBlock> blocks;
+    std::optional<std::string> print_heading{}; ///< where print has its own
+    int print_order = 0;                        ///< those of a larger number come later in print
+};
+
+struct DocumentReport {
+    std::string text_title;
+    std::string page_title;  ///< at the head of every printed page
+    std::string print_title; ///< on the first one
+    std::string html_title;
+    std::vector<ReportSection> sections;
+};
+
+} // namespace wortlex

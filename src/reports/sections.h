@@ -1,0 +1,24 @@
+// The sections of a report, one function each.
+#pragma once
+
+#include "reports/report.h"
+#include "reports/report_source.h"
+
+namespace wortlex {
+
+ReportSection heading_section(const ReportSource& source);
+ReportSection style_section(const ReportSource& source);
+ReportSection specifics_section(const ReportSource& source);
+ReportSection pre_boil_section(const ReportSource& source);
+ReportSection formulas_section(const ReportSource& source);
+ReportSection grain_section(const ReportSource& source);
+ReportSection hop_section(const ReportSource& source);
+ReportSection extras_section(const ReportSource& source);
+ReportSection yeast_section(const ReportSource& source);
+ReportSection water_section(const ReportSource& source);
+/// Simple or complex, whichever is in force.
+ReportSection mash_section(const ReportSource& source);
+ReportSection notes_section(const ReportSource& source);
+ReportSection awards_section(const ReportSource& source);
+
+} // namespace wortlex

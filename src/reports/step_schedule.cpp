@@ -1,0 +1,124 @@
+#include "measures/units.h"
+#include "reports/mash_rows.h"
+#include "reports/page/text_sink.h"
+#include "reports/unit_words.h"
+
+#include <algorithm>
+
+namespace wortlex {
+namespace {
+
+constexpr std::size_t name_width = 21;
+constexpr std::size_t label_column = 24;
+constexpr double shown_thickness = 0.4784; // a thickness in litres per kilogram is quarts per pound over this
+
+void add_waters(std::vector<ReportRow>& rows, float quarts, const std::string& note,
+                const Settings& settings) {
+    for (const auto& [shown, unit] : shown_waters(quarts, settings)) {
+        const auto label = "Total Water " + std::string(unit) + ":";
+        rows.push_back(
+            {padded(label, label_column) + "%8.2f - " + note + "\n", {shown}, label + "\t%0.2f\t- " + note});
+    }
+}
+
+ReportLines opening(const ReportSource& source) {
+    const auto& settings = source.open.settings;
+    const auto& mash = source.open.document.mash;
+    const auto grain_label = "Total Grain " + std::string(grain_word(settings)) + ":";
+    ReportLines lines{{170, 255}, {{"Mash Name: %s\n\n", {line_text(mash.mash_name)}}}};
+    lines.rows.push_back({padded(grain_label, label_column) + "%8.2f\n",
+                          {grain_to_shown(source.open.figures.mash_grain, settings)}});
+    add_waters(lines.rows, source.open.document.simple_mash.dough_in_water, "Before Additional Infusions",
+               settings);
+    lines.rows.push_back({"\nGrain Temp:             %8.2f " + temperature_word(settings) + "\n",
+                          {shown_degrees(mash.grain_temperature, settings)}});
+    lines.rows.push_back(
+        {"Tun Thermal Mass:       %8.2f\n\n\n", {mash.tun_thermal_mass}, "Tun Thermal Mass :\t%0.2f"});
+    return lines;
+}
+
+std::vector<ReportColumn> step_columns() {
+    constexpr auto right = HtmlAlign::right;
+    return {{"\nStep Name", 0, 0, 140},
+            {"Step\nTime", 21, 175, 45, right},
+            {"Rest\nTime", 28, 225, 45, right},
+            {"Start\nTemp", 35, 275, 45, right},
+            {"Stop\nTemp", 43, 325, 45, right},
+            {"Heat\nType", 49, 375, 55},
+            {"Infuse\nTemp", 58, 435, 50, right},
+            {"Infuse\nAmount", 67, 485, 55, right, 490},
+            {"Infuse\nRatio", 75, 560, 70, right, 550}};
+}
+
+void add_heat(ReportRow& row, const MashStep& step, const Settings& settings) {
+    const float amount = quarts_to_shown(step.amount, settings);
+    const int degrees = shown_degrees(step.infuse_temperature, settings);
+    const auto add = [&row](std::string_view format, std::vector<ReportValue> values) {
+        row.format += format;
+        row.values.insert(row.values.end(), values.begin(), values.end());
+    };
+    if (step.heat_type == StepHeat::direct) {
+        add("%s%s     %s   %s\n", {"Direct   ", "---", "-------", "----"});
+    } else if (step.heat_type == StepHeat::decoction) {
+        const double thickness =
+            is_american(settings.volume_units) ? step.ratio : step.ratio / shown_thickness;
+        add("%s%3d     %7.2f   %4.2f (Decoc Thickness)\n",
+            {"Decoc    ", degrees, std::max(amount, 0.0F), thickness});
+    } else {
+        add("%s%3d     %7.2f   %4.2f\n", {"Infuse   ", degrees, amount, step.ratio});
+    }
+}
+
+ReportRow step_row(const MashStep& step, const Settings& settings) {
+    ReportRow row{"%s%3d    %3d    %3d     %3d   ",
+                  {{line_text(step.name), name_width},
+                   step.step_minutes,
+                   step.rest_minutes,
+                   shown_degrees(step.start_temperature, settings),
+                   shown_degrees(step.stop_temperature, settings)}};
+    add_heat(row, step, settings);
+    return row;
+}
+
+// In hectolitres print has always left a blank out.
+ReportRow volume_row(const ReportSource& source) {
+    const auto& settings = source.open.settings;
+    const auto label = "Total Mash Volume " + std::string(volume_word(settings)) + ":";
+    const bool is_hectolitres = volume_word(settings) == "hL";
+    return {padded(label, label_column) + "%8.2f - After Additional Infusions\n\n\n",
+            {to_shown_volume(source.open.figures.mash.gallons, settings)},
+            label + "\t%0.2f\t-" + (is_hectolitres ? "" : " ") + "After Additional Infusions"};
+}
+
+void add_notes(std::vector<ReportRow>& rows, const Settings& settings) {
+    const bool is_fahrenheit = settings.temperature_units == TemperatureUnits::fahrenheit;
+    const auto amounts =
+        is_american(settings.volume_units) ? (is_pro(settings) ? "Gallons" : "Quarts") : "Liters";
+    const auto ratios = is_american(settings.volume_units) ? "Quarts/Lbs" : "Liters/Kilograms";
+    rows.push_back(
+        {"All temperature measurements are degrees %s.\n", {is_fahrenheit ? "Fahrenheit" : "Celsius"}});
+    rows.push_back({"All infusion amounts are in %s.\n", {amounts}});
+    rows.push_back({"All infusion ratios are %s.\n", {ratios}});
+    for (const auto* note :
+         {"Step Time for Decoction Steps represent how far back in time the Decoction was pulled.\n",
+          "Infusion amounts for Decoction Steps represent the amount pulled for the Decoction.\n",
+          "Infusion ratios for Decoction Steps represent the Decoction Thickness.\n\n"})
+        rows.push_back({note, {}});
+}
+
+} // namespace
+
+std::vector<ReportBlock> complex_schedule(const ReportSource& source) {
+    const auto& settings = source.open.settings;
+    ReportTable steps{step_columns(), {}};
+    for (const auto& step : source.open.document.mash.used_steps())
+        steps.rows.push_back(step_row(step, settings));
+    ReportLines totals{{190, 255}, {}};
+    add_waters(totals.rows, source.open.figures.mash.quarts, "After Additional Infusions", settings);
+    totals.rows.front().format.insert(0, "\n\n");
+    totals.rows.push_back(volume_row(source));
+    add_notes(totals.rows, settings);
+    return {opening(source), steps, totals};
+}
+
+} // namespace wortlex

@@ -1,0 +1,227 @@
+#include "reported_recipe.h"
+
+#include "base/files.h"
+#include "base/ports/quiet_prompts.h"
+#include "reports/file_names.h"
+#include "reports/row_words.h"
+#include "support/temporary_folder.h"
+
+#include <gmock/gmock.h>
+
+#include <fstream>
+#include <regex>
+
+namespace wortlex {
+namespace {
+
+using testing::HasSubstr;
+using testing::Not;
+
+std::string joined(const std::vector<ReportCell>& cells) {
+    std::string all;
+    for (const auto& cell : cells)
+        all += (cell.is_label ? "<" : "[") + cell.text + (cell.is_figure ? "#]" : "]");
+    return all;
+}
+
+TEST(RowWords, other_forms_follow_from_the_text_form) {
+    const std::tuple<const char*, ReportRow, std::string, std::string> rows[] = {
+        {"columns end at colons and wide gaps",
+         {"Size (Gal):     %8.2f    Wort (Gal): %6.2f\n", {5.0, 12.5}},
+         "Size (Gal):         5.00    Wort (Gal):  12.50\n",
+         "<Size (Gal):][5.00#]<Wort (Gal):][12.50#]"},
+        {"a single blank keeps unit and figure together",
+         {"Left:  %8.0f %s - so far\n\n", {75.0, "%"}},
+         "Left:        75 % - so far\n\n",
+         "<Left:][75 % - so far#]"},
+        {"typed text is one column, whatever is in it",
+         {"Known for: %s\n", {"ale:  %d 100% and  stout"}},
+         "Known for: ale:  %d 100% and  stout\n",
+         "<Known for:][ale:  %d 100% and  stout]"},
+        {"numbers with leading zeros are names, empty texts keep their place",
+         {"%02d-%c  %s\n", {7, "C", ""}},
+         "07-C  \n",
+         "[07-C][]"},
+        {"a row that lacks a value", {"%d  %s", {1}}, "1  ", "[1#][]"},
+    };
+    for (const auto& [why, row, text, cells] : rows) {
+        EXPECT_EQ(text_words(row), text) << why;
+        EXPECT_EQ(joined(line_cells(row)), cells) << why;
+    }
+    const ReportRow listed{" %4.1f %8.2f lbs. %s %3d min.\n", {5.0, 1.5, {"M\u00FCnch", 6}, 60}};
+    EXPECT_EQ(text_words(listed), "  5.0     1.50 lbs. M\u00FCnch   60 min.\n");
+    EXPECT_EQ(joined(table_cells(listed)), "[5.0#][1.50 lbs.#][M\u00FCnch][60 min.#]");
+}
+
+SystemSettings metric_brewery() {
+    auto image = WriteDefaultSettings();
+    image.system_mode = SystemMode::pro_brewer;
+    image.volume_units = image.weight_units = image.hop_weight_units = Units::metric;
+    image.temperature_units = TemperatureUnits::celsius;
+    image.color_units = ColorUnits::ebc_traditional;
+    image.potential_display = PotentialDisplay::plato;
+    image.plato_precision = 2;
+    image.evaporation_by_volume = 1;
+    image.display_home_bittering = 1;
+    image.HopFormula = HopFormulaCode::Generic;
+    return image;
+}
+
+SystemSettings precise_extract() {
+    auto image = WriteDefaultSettings();
+    image.sg_precision = 2;
+    image.plato_precision = 1;
+    image.view_actual_extract = 1;
+    image.gravity_base = GravityBase::mass;
+    image.HopFormula = HopFormulaCode::Tinseth;
+    image.use_additional_utilization = 1;
+    image.display_home_bittering = 1;
+    image.bittering_unit = BitteringUnit::hbu;
+    return image;
+}
+
+// Golden files have plain line ends; a report must have the other ones throughout.
+std::string plain_lines(const std::string& text) {
+    std::string plain;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        if (text[i] != '\r') plain += text[i];
+        EXPECT_EQ(text[i] == '\r', i + 1 < text.size() && text[i + 1] == '\n') << "at " << i;
+    }
+    return plain;
+}
+
+// The texts of a page's cells, a row a line.
+std::string html_cells(const std::string& page) {
+    const std::pair<const char*, const char*> steps[] = {
+        {"\\s*\n\\s*", ""}, {"</TD>", "|"}, {"<BR>", "\n"}, {"</TR>|</TITLE>|<HR[^>]*>", "\n"},
+        {"<[^>]*>", ""},    {"\n\n+", "\n"}};
+    auto text = page;
+    for (const auto& [what, with] : steps) text = std::regex_replace(text, std::regex(what), with);
+    return text;
+}
+
+std::string golden(const std::string& name, const std::string& made) {
+    std::ifstream file(std::string(GOLDEN_FOLDER) + name, std::ios::binary);
+    std::string kept{std::istreambuf_iterator<char>(file), {}};
+    if (kept != made) std::ofstream(testing::TempDir() + name, std::ios::binary) << made;
+    return kept;
+}
+
+void expect_golden(const std::string& name, const std::string& made) {
+    EXPECT_EQ(made, golden(name, made)) << "made: " << testing::TempDir() << name;
+}
+
+TEST(Catalogue, reads_as_it_always_has) {
+    ReportedRecipe home(WriteDefaultSettings());
+    expect_golden("home.txt", plain_lines(home.text()));
+    expect_golden("home_html.txt", html_cells(home.html()));
+
+    ReportedRecipe brewery(metric_brewery());
+    brewery.document.mash_flags = 1;
+    expect_golden("metric_brewery.txt", plain_lines(brewery.text()));
+    EXPECT_THAT(brewery.html(), HasSubstr("Infuse<BR>Temp"));
+
+    ReportedRecipe extract(precise_extract());
+    extract.document.recipe_kind = RecipeKind::extract;
+    extract.document.hops[3].boil_time = 500;
+    expect_golden("precise_extract.txt", plain_lines(extract.text()));
+}
+
+TEST(Catalogue, closing_notes_name_the_scale_of_the_grain_list) {
+    const auto note = [](auto change) {
+        auto image = WriteDefaultSettings();
+        change(image);
+        return ReportedRecipe(image).text();
+    };
+    using Shown = PotentialDisplay;
+    const std::pair<Shown, const char*> potentials[] = {
+        {Shown::sg, "Potential represented as SG per pound per gallon.\r\n\r\n"},
+        {Shown::points, "Potential represented as Points per pound per gallon.\r\n\r\n"},
+        {Shown::hwe, "Potential represented as IOB - HWE.\r\n\r\n"},
+        {Shown::percent_yield, "Potential represented as % Yield - Fine Grind As Is.\r\n\r\n"}};
+    for (const auto& [display, words] : potentials)
+        EXPECT_THAT(note([&](auto& image) {
+                        image.potential_display = display;
+                        image.yield_type = YieldType::fine_as_is;
+                    }),
+                    HasSubstr(words));
+    const char* contributions[] = {"SG", "Points", "kg", "Plato", "% of Total Extract"};
+    for (std::uint32_t i = 0; i < 5; ++i)
+        EXPECT_THAT(note([&](auto& image) {
+                        image.efficiency_method_setting = EfficiencyMethod::method_2;
+                        image.extract_display = static_cast<ExtractDisplay>(i);
+                        image.weight_units = Units::metric;
+                    }),
+                    HasSubstr("Exract represented as " + std::string(contributions[i]) + ".\r\n\r\n"));
+}
+
+TEST(Catalogue, an_empty_recipe_keeps_headings_titles_and_zeros) {
+    ReportedRecipe recipe(WriteDefaultSettings());
+    recipe.document = new_document(recipe.settings, ScheduleKind::simple);
+    const auto text = plain_lines(recipe.text());
+    EXPECT_THAT(text,
+                HasSubstr("AHA Style and Style Guidelines\n------------------------------\n\n00  , \n\n"));
+    EXPECT_THAT(text, HasSubstr("Hops\n----\n\n   Amount     Name  "));
+    EXPECT_THAT(text, HasSubstr("Boil Time\n\nExtras\n------\n\n  Amount      Name  "));
+    EXPECT_THAT(text, HasSubstr("Yeast\n-----\n\n  \n\nWater Profile\n"));
+    EXPECT_THAT(text, HasSubstr("Awards\n------\n\n"));
+    EXPECT_THAT(text, Not(HasSubstr("Mash Schedule")));
+    EXPECT_THAT(recipe.html(), HasSubstr("<TITLE>A Wortlex Recipe</TITLE>"));
+}
+
+TEST(Catalogue, switches_leave_what_every_report_has) {
+    ReportedRecipe recipe(WriteDefaultSettings());
+    recipe.wanted.sections.fill(0);
+    std::vector<std::string> headings;
+    for (const auto& section : recipe.report().sections) headings.push_back(section.heading);
+    EXPECT_THAT(headings, testing::ElementsAre("", "Recipe Specifics", "Grain/Extract/Sugar", "Hops",
+                                               "Extras", "Yeast"));
+    recipe.wanted.sections[static_cast<std::size_t>(PrintSection::mash_schedule)] = 1;
+    recipe.document.mash_flags = 1;
+    recipe.document.mash.step_count = 0;
+    EXPECT_THAT(plain_lines(recipe.text()),
+                HasSubstr("Type     Temp     Amount  Ratio\n\n\nTotal Water Qts:           12.00 - After"));
+}
+
+TEST(Catalogue, print_has_words_of_its_own) {
+    ReportedRecipe home(WriteDefaultSettings());
+    EXPECT_THAT(home.print(), HasSubstr("Total Mash Volume Gal:\t3.76 - After Additioanl Infusions"));
+    auto image = WriteDefaultSettings();
+    image.volume_units = Units::metric;
+    EXPECT_THAT(ReportedRecipe(image).print(), HasSubstr(" - After Additional Infusions"));
+
+    ReportedRecipe brewery(metric_brewery());
+    brewery.document.mash_flags = 1;
+    const auto pages = brewery.print();
+    EXPECT_THAT(pages, HasSubstr("Batch Size (hL):\t0.19\tWort Size (hL):\t0.19"));
+    EXPECT_THAT(pages, HasSubstr("Tun Thermal Mass :\t0.00"));
+    EXPECT_THAT(pages, HasSubstr("Total Mash Volume hL:\t0.14\t-After Additional Infusions"));
+    EXPECT_THAT(pages, HasSubstr("Maltose\t5\t20\t63\t62\tDecoc\t100\t"));
+}
+
+TEST(Catalogue, clipboard_and_file_get_the_same_bytes_of_utf8) {
+    struct Kept : Clipboard {
+        std::string text;
+        void put_text(std::string_view utf8) override { text = utf8; }
+    } clipboard;
+    ReportedRecipe recipe(WriteDefaultSettings());
+    TextSink sink;
+    write_text(recipe.report(), sink);
+    copy_text(clipboard, sink);
+    TemporaryFolder folder;
+    QuietPrompts prompts;
+    ASSERT_TRUE(save_text(folder / "report.txt", sink, prompts));
+    std::ifstream file(folder / "report.txt", std::ios::binary);
+    EXPECT_EQ(std::string(std::istreambuf_iterator<char>(file), {}), clipboard.text);
+    EXPECT_THAT(clipboard.text, HasSubstr("Recipe:       K\u00F6lsch <b>& 100%%</b>\r\n\r\n"));
+}
+
+TEST(FileNames, are_safe_in_addresses_only_for_html) {
+    EXPECT_EQ(recipe_file_name("Who? Me *2", ReportOutput::report), "Who? Me *2");
+    EXPECT_EQ(html_file_name(recipe_file_name("Who? Me *2", ReportOutput::report)), "Who__Me__2");
+    EXPECT_EQ(recipe_file_name("Kölsch", ReportOutput::competition_form), "Comp_Kölsch");
+    EXPECT_EQ(recipe_file_name("Kölsch", ReportOutput::competition_labels), "CompL_Kölsch");
+}
+
+} // namespace
+} // namespace wortlex
