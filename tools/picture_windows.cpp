@@ -3,6 +3,7 @@
 #include "base/number.h"
 #include "base/ports/quiet_prompts.h"
 #include "desktop/desk.h"
+#include "desktop/print_preview.h"
 #include "desktop/text.h"
 #include "frame/start.h"
 #include "frame/windows/main_window.h"
@@ -90,7 +91,9 @@ QWidget* document_window(const MainWindow& main) {
 
 bool picture(Program& program, Prompts& prompts, const QDir& target, const std::string& recipe) {
     FileDialogs files;
-    MainWindow main(program, prompts, files);
+    SystemClipboard clipboard;
+    PreviewDesk pages(files, prompts, {program.tool_positions, program.settings});
+    MainWindow main({program, prompts, files, pages, clipboard});
     main.show();
     settle();
     const bool saved = save_picture(main, target, QStringLiteral("main-window.png"));

@@ -59,9 +59,6 @@ void extras_form(Form& form, RecipeEditor& editor, const ExtrasActions& actions)
     auto& texts = form.group();
     texts.text("notes", document.notes).label("N&otes:").limit(longest_notes).lines();
     texts.text("awards", document.awards).label("A&wards:").limit(longest_notes).lines();
-    auto& buttons = form.group();
-    buttons.button("print", "&Print", actions.print);
-    buttons.button("help", "&Help", actions.help);
     form.restore_on_cancel(document.extras);
     form.restore_on_cancel(document.notes);
     form.restore_on_cancel(document.awards);

@@ -9,13 +9,13 @@ namespace wortlex {
 
 /// What the buttons do that open another window; an empty one is disabled.
 struct YeastWaterActions {
-    std::function<void()> pick_yeast, pick_water, print, help;
+    std::function<void()> pick_yeast, pick_water;
 };
 
 void yeast_water_form(Form& form, RecipeEditor& editor, const YeastWaterActions& actions);
 
 struct ExtrasActions {
-    std::function<void()> new_extra, edit_extra, print, help;
+    std::function<void()> new_extra, edit_extra;
 };
 
 void extras_form(Form& form, RecipeEditor& editor, const ExtrasActions& actions);

@@ -22,11 +22,20 @@ std::string flocculation_word(const YeastRecord& yeast) {
 }
 
 // What the document says of a yeast, blank as long as there is none.
+ShownRow& yeast_row(Rows& rows, std::string key, const YeastRecord& yeast,
+                    std::function<std::string(const YeastRecord&)> text) {
+    return rows.shown(std::move(key),
+                      [&yeast, text = std::move(text)] { return yeast.name.empty() ? "" : text(yeast); });
+}
+
 void yeast_text(Rows& rows, std::string key, const std::string& label, const YeastRecord& yeast,
                 std::function<std::string(const YeastRecord&)> text) {
-    rows.shown(std::move(key),
-               [&yeast, text = std::move(text)] { return yeast.name.empty() ? "" : text(yeast); })
-        .label(label);
+    yeast_row(rows, std::move(key), yeast, std::move(text)).label(label);
+}
+
+void yeast_figure(Rows& rows, std::string key, const YeastRecord& yeast,
+                  std::function<std::string(const YeastRecord&)> text) {
+    yeast_row(rows, std::move(key), yeast, std::move(text)).figure();
 }
 
 void yeast_rows(Rows& rows, const YeastRecord& yeast, std::function<void()> pick) {
@@ -40,14 +49,17 @@ void yeast_rows(Rows& rows, const YeastRecord& yeast, std::function<void()> pick
     yeast_text(rows, "yeast_medium", "Medium", yeast,
                [](const auto& y) { return std::string(medium_word(y.yeast_medium)); });
     yeast_text(rows, "flocculation", "Flocculation", yeast, flocculation_word);
-    yeast_text(rows, "low_attenuation", "Apparent Attenuation: Low", yeast,
-               [](const auto& y) { return formatted("%d", y.low_attenuation); });
-    yeast_text(rows, "high_attenuation", "High", yeast,
-               [](const auto& y) { return formatted("%d", y.high_attenuation); });
-    yeast_text(rows, "fahrenheit", "Optimum Fermentation Temp: (F)", yeast,
-               [](const auto& y) { return formatted("%0.0f", y.optimum_temperature); });
-    yeast_text(rows, "celsius", "(C)", yeast, [](const auto& y) {
-        return formatted("%0.0f", narrow((double{y.optimum_temperature} - 32) / 1.8));
+    auto& attenuation = rows.grid("attenuation", {"Low", "High"}).line("Apparent Attenuation:");
+    yeast_figure(attenuation, "low_attenuation", yeast,
+                 [](const auto& y) { return formatted("%d", y.low_attenuation); });
+    yeast_figure(attenuation, "high_attenuation", yeast,
+                 [](const auto& y) { return formatted("%d", y.high_attenuation); });
+    auto& temperature =
+        rows.grid("temperature", {"Degrees F", "Degrees C"}).line("Optimum Fermentation Temp:");
+    yeast_figure(temperature, "fahrenheit", yeast,
+                 [](const auto& y) { return formatted("%0.1f", y.optimum_temperature); });
+    yeast_figure(temperature, "celsius", yeast, [](const auto& y) {
+        return formatted("%0.1f", narrow((double{y.optimum_temperature} - 32) / 1.8));
     });
     rows.button("pick_yeast", "Pick &Yeast", std::move(pick));
 }
@@ -90,9 +102,6 @@ void yeast_water_form(Form& form, RecipeEditor& editor, const YeastWaterActions&
     yeast_rows(form.group("Yeast"), document.yeast.record, actions.pick_yeast);
     form.next_column();
     water_rows(form.group("Water"), document.water, actions.pick_water);
-    auto& buttons = form.group();
-    buttons.button("print", "&Print", actions.print);
-    buttons.button("help", "&Help", actions.help);
     form.restore_on_cancel(document.yeast);
     form.restore_on_cancel(document.water);
 }

@@ -39,7 +39,7 @@ ReportSection extras_section(const ReportSource& source) {
                     {"Type", 45, 290, 80},
                     {"Time", 55, 350, 150}};
     for (const auto& line : source.open.document.extras) list.rows.push_back(row(line));
-    return {"Extras", {list}};
+    return section_of("Extras", std::move(list));
 }
 
 ReportSection yeast_section(const ReportSource& source) {

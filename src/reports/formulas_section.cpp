@@ -76,7 +76,7 @@ ReportSection formulas_section(const ReportSource& source) {
     rows.push_back({"Kettle Size Hop Utilization Scale Factor: %0.2f\n", {settings.kettle_factor}});
     add_utilizations(rows, settings);
     rows.back().format += "\n";
-    return {"Formulas Used", {ReportLines{{290}, rows}}};
+    return section_of("Formulas Used", ReportLines{{290}, rows});
 }
 
 } // namespace wortlex

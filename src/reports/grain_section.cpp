@@ -69,7 +69,7 @@ ReportSection grain_section(const ReportSource& source) {
                         value_column(source) + "%4.0f\n";
     for (std::size_t i = 0; i < source.open.document.malts.size(); ++i)
         list.rows.push_back(row(source, i, format));
-    return {"Grain/Extract/Sugar", {list, ReportLines{{}, {note(source)}}}};
+    return section_of("Grain/Extract/Sugar", std::move(list), ReportLines{{}, {note(source)}});
 }
 
 } // namespace wortlex

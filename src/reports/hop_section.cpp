@@ -48,7 +48,7 @@ ReportSection hop_section(const ReportSource& source) {
                      HtmlAlign::right},
                     {"Boil Time", 68, 430, 90}};
     for (const auto& line : source.open.document.hops) list.rows.push_back(row(line, source));
-    return {"Hops", {list}};
+    return section_of("Hops", std::move(list));
 }
 
 } // namespace wortlex

@@ -7,6 +7,8 @@
 #include "measures/fields/form.h"
 #include "reports/page/html_theme.h"
 
+#include <utility>
+
 namespace wortlex {
 
 /// Where themes are kept, and who is asked. All must outlive the editor.
@@ -20,7 +22,7 @@ struct HtmlThemeDesk {
 /// Works on a copy of the live theme; only the files are written at once.
 class HtmlThemeEditor {
 public:
-    HtmlThemeEditor(const HtmlTheme& live, const HtmlThemeDesk& desk) : work(live), desk_(desk) {}
+    HtmlThemeEditor(const HtmlTheme& live, HtmlThemeDesk desk) : work(live), desk_(std::move(desk)) {}
 
     void choose_colour(std::uint32_t& colour);
     /// The theme that new breweries and the next start of the program begin with.

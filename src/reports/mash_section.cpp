@@ -66,7 +66,7 @@ ReportRow volume_row(const ReportSource& source) {
     const auto& settings = source.open.settings;
     const std::string unit(volume_word(settings));
     const std::string additional = is_american(settings.volume_units) ? "Additioanl" : "Additional";
-    return {"\n" + padded("Total Mash Volume " + unit + ":", 23) + "%8.2f  - After Additional Infusions\n\n",
+    return {padded("\nTotal Mash Volume " + unit + ":", 24) + "%8.2f  - After Additional Infusions\n\n",
             {to_shown_volume(source.open.figures.mash.gallons, settings)},
             "Total Mash Volume " + unit + ":\t%0.2f - After " + additional + " Infusions"};
 }
@@ -92,8 +92,10 @@ std::vector<ReportBlock> simple_schedule(const ReportSource& source) {
 }
 
 ReportSection mash_section(const ReportSource& source) {
-    return {"Mash Schedule",
-            has_complex_schedule(source.open.document) ? complex_schedule(source) : simple_schedule(source)};
+    ReportSection section{"Mash Schedule", {}};
+    section.blocks =
+        has_complex_schedule(source.open.document) ? complex_schedule(source) : simple_schedule(source);
+    return section;
 }
 
 } // namespace wortlex

@@ -4,11 +4,11 @@
 namespace wortlex {
 
 ReportSection notes_section(const ReportSource& source) {
-    return {"Notes", {ReportText{utf8_from_windows1252(source.open.document.notes.view())}}};
+    return section_of("Notes", ReportText{utf8_from_windows1252(source.open.document.notes.view())});
 }
 
 ReportSection awards_section(const ReportSource& source) {
-    return {"Awards", {ReportText{utf8_from_windows1252(source.open.document.awards.view())}}};
+    return section_of("Awards", ReportText{utf8_from_windows1252(source.open.document.awards.view())});
 }
 
 } // namespace wortlex

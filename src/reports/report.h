@@ -69,6 +69,14 @@ struct ReportSection {
     int print_order = 0;                        ///< those of a larger number come later in print
 };
 
+/// A section of such blocks, which are moved.
+template <class... Blocks>
+ReportSection section_of(std::string heading, Blocks... blocks) {
+    ReportSection section{std::move(heading), {}};
+    (section.blocks.emplace_back(std::move(blocks)), ...);
+    return section;
+}
+
 struct DocumentReport {
     std::string text_title;
     std::string page_title;  ///< at the head of every printed page

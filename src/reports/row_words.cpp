@@ -40,7 +40,7 @@ bool has_zeros(std::string_view place) {
 // "%8.2f" as "%.2f".
 std::string without_width(std::string_view place) {
     if (has_zeros(place)) return std::string(place);
-    return "%" + std::string(place.substr(place.find_first_not_of("0123456789", 1)));
+    return std::string("%").append(place.substr(place.find_first_not_of("0123456789", 1)));
 }
 
 enum class Width { as_told, as_needed };

@@ -58,33 +58,35 @@ ReportRow evaporation_row(const ReportSource& source) {
 ReportSection specifics_section(const ReportSource& source) {
     const auto& document = source.open.document;
     const auto& settings = source.open.settings;
-    return {"Recipe Specifics",
-            {ReportLines{{160, 250, 380},
-                         {size_row(source),
-                          weight_row("Total Grain", source.open.figures.total_grain, settings),
-                          weight_row("Total Extract", source.open.figures.total_extract_pounds, settings),
-                          gravity_row(source),
-                          colour_row(source),
-                          {"Anticipated IBU:      %8.1f\n", {document.total_ibu}},
-                          {"Brewhouse Efficiency: %8.0f %s\n", {document.efficiency * 100.0, "%"}},
-                          {"Wort Boil Time:       %8d    Minutes\n\n", {document.boil_minutes}}}}}};
+    return section_of(
+        "Recipe Specifics",
+        ReportLines{{160, 250, 380},
+                    {size_row(source),
+                     weight_row("Total Grain", source.open.figures.total_grain, settings),
+                     weight_row("Total Extract", source.open.figures.total_extract_pounds, settings),
+                     gravity_row(source),
+                     colour_row(source),
+                     {"Anticipated IBU:      %8.1f\n", {document.total_ibu}},
+                     {"Brewhouse Efficiency: %8.0f %s\n", {document.efficiency * 100.0, "%"}},
+                     {"Wort Boil Time:       %8d    Minutes\n\n", {document.boil_minutes}}}});
 }
 
 ReportSection pre_boil_section(const ReportSource& source) {
     const auto& settings = source.open.settings;
     const auto before = raw_pre_boil(source.open.document, source.evaporation_rate, settings);
     const float sg = narrow(before.points / 1000.0 + 1);
-    return {"Pre-Boil Amounts",
-            {ReportLines{
-                {160, 230, 280, 340},
-                {evaporation_row(source),
-                 {"Raw Pre-Boil Amounts - only targeted volume/gravity and evaporation\n", {}},
-                 {"rate taken into account:\n\n", {}},
-                 {"Pre-Boil Wort Size:               %6.2f    " + std::string(volume_word(settings)) + "\n",
-                  {to_shown_volume(before.volume, settings)}},
-                 {"Pre-Boil Gravity:                  " + sg_column(6, 3, settings) + "SG          " +
-                      plato_place(6, settings) + "    Plato\n\n",
-                  {trunc_to_precision(sg, 5), trunc_to_precision(sg_to_plato(sg), 3)}}}}}};
+    return section_of(
+        "Pre-Boil Amounts",
+        ReportLines{
+            {160, 230, 280, 340},
+            {evaporation_row(source),
+             {"Raw Pre-Boil Amounts - only targeted volume/gravity and evaporation\n", {}},
+             {"rate taken into account:\n\n", {}},
+             {"Pre-Boil Wort Size:               %6.2f    " + std::string(volume_word(settings)) + "\n",
+              {to_shown_volume(before.volume, settings)}},
+             {"Pre-Boil Gravity:                  " + sg_column(6, 3, settings) + "SG          " +
+                  plato_place(6, settings) + "    Plato\n\n",
+              {trunc_to_precision(sg, 5), trunc_to_precision(sg_to_plato(sg), 3)}}}});
 }
 
 } // namespace wortlex

@@ -118,7 +118,11 @@ std::vector<ReportBlock> complex_schedule(const ReportSource& source) {
     totals.rows.front().format.insert(0, "\n\n");
     totals.rows.push_back(volume_row(source));
     add_notes(totals.rows, settings);
-    return {opening(source), steps, totals};
+    std::vector<ReportBlock> blocks;
+    blocks.emplace_back(opening(source));
+    blocks.emplace_back(std::move(steps));
+    blocks.emplace_back(std::move(totals));
+    return blocks;
 }
 
 } // namespace wortlex

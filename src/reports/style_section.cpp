@@ -28,12 +28,12 @@ ReportRow colour_row(const StyleRecord& style, const Settings& settings) {
 
 ReportSection style_section(const ReportSource& source) {
     const auto& style = source.open.document.style;
-    return {style.book == 0 ? "AHA Style and Style Guidelines" : "BJCP Style and Style Guidelines",
-            {ReportLines{{90, 170, 260, 340},
-                         {name_row(style),
-                          gravity_row(style, source.open.settings),
-                          {"Min IBU: %5.0f   Max IBU: %5.0f\n", {style.min_ibu, style.max_ibu}},
-                          colour_row(style, source.open.settings)}}}};
+    return section_of(style.book == 0 ? "AHA Style and Style Guidelines" : "BJCP Style and Style Guidelines",
+                      ReportLines{{90, 170, 260, 340},
+                                  {name_row(style),
+                                   gravity_row(style, source.open.settings),
+                                   {"Min IBU: %5.0f   Max IBU: %5.0f\n", {style.min_ibu, style.max_ibu}},
+                                   colour_row(style, source.open.settings)}});
 }
 
 } // namespace wortlex

@@ -6,6 +6,7 @@ namespace {
 
 // The sink takes "%%" for a percent sign, and here every one is meant.
 void put(TextSink& sink, std::string_view words) {
+    if (words.find('%') == std::string_view::npos) return sink.put(words);
     std::string piece;
     for (const char c : words) piece.append(c == '%' ? 2 : 1, c);
     sink.put(piece);

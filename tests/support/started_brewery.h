@@ -6,6 +6,7 @@
 #include "frame/start.h"
 #include "frame/windows/main_window.h"
 #include "support/desk.h"
+#include "support/recording_desk.h"
 #include "support/temporary_folder.h"
 
 #include <QApplication>
@@ -20,7 +21,11 @@ struct Brewery {
     TemporaryFolder folder;
     ScriptedPrompts prompts;
     ScriptedFiles files;
+    RecordingPageDesk pages;
+    RecordingClipboard clipboard;
     Program program;
+
+    WindowPorts ports() { return {program, prompts, files, pages, clipboard}; }
 
     Brewery() {
         SaveSystemFiles(folder.path(), {WriteDefaultSettings(), {}, true});

@@ -14,18 +14,18 @@
 namespace wortlex {
 namespace {
 
-Places places(const DatabasePorts& ports) {
+Places places(const WindowPorts& ports) {
     return {ports.program.tool_positions, ports.program.settings};
 }
 
 // Runs the window that keeps a database.
-void keep(IngredientList& list, const DatabasePorts& ports, QWidget* owner) {
+void keep(IngredientList& list, const WindowPorts& ports, QWidget* owner) {
     list.open(ports.prompts);
     ListWindow(list, {places(ports), ports.files, ports.prompts}, Opener::main, nullptr, owner).exec();
 }
 
 template <class Record>
-void keep(Catalogue<Record> catalogue, Database<Record>& database, const DatabasePorts& ports,
+void keep(Catalogue<Record> catalogue, Database<Record>& database, const WindowPorts& ports,
           QWidget* owner) {
     Store<Record> list(std::move(catalogue), ListSide::maintenance, ports.program.data_folder, database);
     keep(list, ports, owner);
@@ -34,7 +34,7 @@ void keep(Catalogue<Record> catalogue, Database<Record>& database, const Databas
 // Runs a pick list from the choice of the last pick. A pick keeps the new choice, leaving the list the old
 // one. `picked` is told the window, and answers whether it is done.
 void run_pick(IngredientList& list, ListChoice& choice, const std::function<bool(QWidget*)>& picked,
-              const DatabasePorts& ports, Opener opener, QWidget* owner) {
+              const WindowPorts& ports, Opener opener, QWidget* owner) {
     list.filter = static_cast<std::int32_t>(choice.filter);
     list.only_in_stock = choice.only_in_stock;
     list.open(ports.prompts);
@@ -47,7 +47,7 @@ void run_pick(IngredientList& list, ListChoice& choice, const std::function<bool
 }
 
 template <class Record>
-std::optional<Record> pick(Store<Record>& list, ListChoice& choice, const DatabasePorts& ports, Opener opener,
+std::optional<Record> pick(Store<Record>& list, ListChoice& choice, const WindowPorts& ports, Opener opener,
                            QWidget* owner) {
     std::optional<Record> chosen;
     const auto take = [&](QWidget*) {
@@ -59,7 +59,7 @@ std::optional<Record> pick(Store<Record>& list, ListChoice& choice, const Databa
 }
 
 template <class Record>
-std::optional<Record> pick(Catalogue<Record> catalogue, ListChoice& choice, const DatabasePorts& ports,
+std::optional<Record> pick(Catalogue<Record> catalogue, ListChoice& choice, const WindowPorts& ports,
                            Opener opener, QWidget* owner) {
     Database<Record> database; // a pick never sees unsaved edits
     Store<Record> list(std::move(catalogue), ListSide::pick, ports.program.data_folder, database);
@@ -67,7 +67,7 @@ std::optional<Record> pick(Catalogue<Record> catalogue, ListChoice& choice, cons
 }
 
 template <class MakeForm>
-auto converter(const DatabasePorts& ports, std::string_view dialog_template, MakeForm make_form) {
+auto converter(const WindowPorts& ports, std::string_view dialog_template, MakeForm make_form) {
     return [ports, dialog_template, make_form](WaterRecord& water) {
         Form form;
         make_form(form, water);
@@ -76,7 +76,7 @@ auto converter(const DatabasePorts& ports, std::string_view dialog_template, Mak
     };
 }
 
-WaterConverters converters(const DatabasePorts& ports) {
+WaterConverters converters(const WindowPorts& ports) {
     return {.calcium = converter(ports, "WATER_CAHARD", calcium_hardness_form),
             .magnesium = converter(ports, "WATER_MGHARD", magnesium_hardness_form),
             .alkalinity = converter(ports, "WATER_CACO3", alkalinity_form)};
@@ -84,38 +84,38 @@ WaterConverters converters(const DatabasePorts& ports) {
 
 } // namespace
 
-void keep_styles(const DatabasePorts& ports, QWidget* owner) {
+void keep_styles(const WindowPorts& ports, QWidget* owner) {
     Database<StyleRecord> database;
     StyleStore list(ports.program.settings, ListSide::maintenance, ports.program.data_folder, database);
     keep(list, ports, owner);
 }
 
-void keep_malts(const DatabasePorts& ports, QWidget* owner) {
+void keep_malts(const WindowPorts& ports, QWidget* owner) {
     Database<MaltRecord> database;
     keep(malt_catalogue(ports.program.settings, ports.program.data_folder), database, ports, owner);
 }
 
-void keep_hops(const DatabasePorts& ports, QWidget* owner) {
+void keep_hops(const WindowPorts& ports, QWidget* owner) {
     Database<HopRecord> database;
     keep(hop_catalogue(ports.program.settings, ports.program.data_folder), database, ports, owner);
 }
 
-void keep_yeasts(const DatabasePorts& ports, QWidget* owner) {
+void keep_yeasts(const WindowPorts& ports, QWidget* owner) {
     Database<YeastRecord> database;
     keep(yeast_catalogue(ports.program.settings, ports.program.data_folder), database, ports, owner);
 }
 
-void keep_waters(const DatabasePorts& ports, QWidget* owner) {
+void keep_waters(const WindowPorts& ports, QWidget* owner) {
     keep(water_catalogue(ports.program.settings, ports.program.data_folder, converters(ports)),
          ports.program.water_database, ports, owner);
 }
 
-void keep_extras(const DatabasePorts& ports, QWidget* owner) {
+void keep_extras(const WindowPorts& ports, QWidget* owner) {
     Database<ExtraRecord> database;
     keep(extra_catalogue(ports.program.settings, ports.program.data_folder), database, ports, owner);
 }
 
-std::optional<StyleRecord> pick_style(const DatabasePorts& ports, Opener opener, QWidget* owner) {
+std::optional<StyleRecord> pick_style(const WindowPorts& ports, Opener opener, QWidget* owner) {
     auto& program = ports.program;
     Database<StyleRecord> database;
     StyleStore list(program.settings, ListSide::pick, program.data_folder, database);
@@ -127,37 +127,37 @@ std::optional<StyleRecord> pick_style(const DatabasePorts& ports, Opener opener,
     return style;
 }
 
-std::optional<MaltRecord> pick_malt(const DatabasePorts& ports, Opener opener, QWidget* owner) {
+std::optional<MaltRecord> pick_malt(const WindowPorts& ports, Opener opener, QWidget* owner) {
     const auto& program = ports.program;
     return pick(malt_catalogue(program.settings, program.data_folder), ports.program.picks.malts, ports,
                 opener, owner);
 }
 
-std::optional<HopRecord> pick_hop(const DatabasePorts& ports, Opener opener, QWidget* owner) {
+std::optional<HopRecord> pick_hop(const WindowPorts& ports, Opener opener, QWidget* owner) {
     const auto& program = ports.program;
     return pick(hop_catalogue(program.settings, program.data_folder), ports.program.picks.hops, ports, opener,
                 owner);
 }
 
-std::optional<YeastRecord> pick_yeast(const DatabasePorts& ports, Opener opener, QWidget* owner) {
+std::optional<YeastRecord> pick_yeast(const WindowPorts& ports, Opener opener, QWidget* owner) {
     const auto& program = ports.program;
     return pick(yeast_catalogue(program.settings, program.data_folder), ports.program.picks.yeasts, ports,
                 opener, owner);
 }
 
-std::optional<WaterRecord> pick_water(const DatabasePorts& ports, Opener opener, QWidget* owner) {
+std::optional<WaterRecord> pick_water(const WindowPorts& ports, Opener opener, QWidget* owner) {
     const auto& program = ports.program;
     return pick(water_catalogue(program.settings, program.data_folder, {}), ports.program.picks.waters, ports,
                 opener, owner);
 }
 
-std::optional<ExtraRecord> pick_extra(const DatabasePorts& ports, Opener opener, QWidget* owner) {
+std::optional<ExtraRecord> pick_extra(const WindowPorts& ports, Opener opener, QWidget* owner) {
     const auto& program = ports.program;
     return pick(extra_catalogue(program.settings, program.data_folder), ports.program.picks.extras, ports,
                 opener, owner);
 }
 
-void pick_hops_for(const std::function<void(QWidget*, const HopRecord&)>& use, const DatabasePorts& ports,
+void pick_hops_for(const std::function<void(QWidget*, const HopRecord&)>& use, const WindowPorts& ports,
                    QWidget* owner) {
     const auto& program = ports.program;
     Database<HopRecord> database;

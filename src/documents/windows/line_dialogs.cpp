@@ -11,7 +11,7 @@
 namespace wortlex {
 namespace {
 
-Places places(const LinePorts& ports) {
+Places places(const WindowPorts& ports) {
     return {ports.program.tool_positions, ports.program.settings};
 }
 
@@ -22,7 +22,7 @@ std::string_view first_hop_field(const Settings& settings) {
 
 } // namespace
 
-std::optional<MaltUse> edit_malt_line(const LinePorts& ports, const MaltUse& line, Opener opener,
+std::optional<MaltUse> edit_malt_line(const WindowPorts& ports, const MaltUse& line, Opener opener,
                                       QWidget* owner) {
     auto copy = line;
     Form form;
@@ -32,7 +32,7 @@ std::optional<MaltUse> edit_malt_line(const LinePorts& ports, const MaltUse& lin
     return copy;
 }
 
-std::optional<HopUse> edit_hop_line(const LinePorts& ports, const HopUse& line, Opener opener,
+std::optional<HopUse> edit_hop_line(const WindowPorts& ports, const HopUse& line, Opener opener,
                                     QWidget* owner) {
     const auto& settings = ports.program.settings;
     auto copy = line;
@@ -48,7 +48,7 @@ std::optional<HopUse> edit_hop_line(const LinePorts& ports, const HopUse& line, 
     return copy;
 }
 
-std::optional<ExtraUse> edit_extra_line(const LinePorts& ports, const ExtraUse& line, Opener opener,
+std::optional<ExtraUse> edit_extra_line(const WindowPorts& ports, const ExtraUse& line, Opener opener,
                                         QWidget* owner) {
     auto copy = line;
     Form form;
@@ -58,7 +58,7 @@ std::optional<ExtraUse> edit_extra_line(const LinePorts& ports, const ExtraUse& 
     return copy;
 }
 
-std::optional<HopUse> lose_hop_alpha(const LinePorts& ports, const HopUse& line, Opener opener,
+std::optional<HopUse> lose_hop_alpha(const WindowPorts& ports, const HopUse& line, Opener opener,
                                      QWidget* owner) {
     auto copy = line;
     const auto adjusted = degrade_hop(ports.program, owner, copy, opener);
@@ -67,14 +67,14 @@ std::optional<HopUse> lose_hop_alpha(const LinePorts& ports, const HopUse& line,
     return copy;
 }
 
-void show_malt_contribution(const LinePorts& ports, std::size_t line, Opener opener, QWidget* owner) {
+void show_malt_contribution(const WindowPorts& ports, std::size_t line, Opener opener, QWidget* owner) {
     Form form;
     malt_contribution_form(form, open_recipe(ports.program), line);
     run_dialog(form, {.template_name = "GRAINLISTDETAIL", .opener = opener, .has_cancel = false},
                places(ports), owner);
 }
 
-void show_pre_boil(const LinePorts& ports, QWidget* owner) {
+void show_pre_boil(const WindowPorts& ports, QWidget* owner) {
     const auto& program = ports.program;
     Form form;
     pre_boil_form(form, program.document, evaporation_rate(program), program.settings);

@@ -7,11 +7,9 @@ namespace {
 
 struct Side {
     RecipeEditor& editor;
-    DatabasePorts ports;
+    WindowPorts ports;
     Opener opener;
     QWidget* owner;
-
-    LinePorts lines() const { return {ports.program, ports.prompts}; }
 };
 
 void add_malt_actions(RecipeActions& actions, const Side& side) {
@@ -22,38 +20,38 @@ void add_malt_actions(RecipeActions& actions, const Side& side) {
         const auto line = selected_malt(side.editor);
         if (!line) return;
         const auto& malt = side.editor.open.document.malts[*line];
-        if (const auto changed = edit_malt_line(side.lines(), malt, side.opener, side.owner))
+        if (const auto changed = edit_malt_line(side.ports, malt, side.opener, side.owner))
             replace_malt(side.editor, *changed);
     };
     actions.malt_contribution = [side] {
         if (const auto line = selected_malt(side.editor))
-            show_malt_contribution(side.lines(), *line, side.opener, side.owner);
+            show_malt_contribution(side.ports, *line, side.opener, side.owner);
     };
 }
 
 // One of the dialogs that hand a hop line back changed.
-using HopDialog = std::optional<HopUse> (*)(const LinePorts&, const HopUse&, Opener, QWidget*);
+using HopDialog = std::optional<HopUse> (*)(const WindowPorts&, const HopUse&, Opener, QWidget*);
 
 std::function<void()> change_by(HopDialog dialog, const Side& side) {
     return [side, dialog] {
         const auto line = selected_hop(side.editor);
         if (!line) return;
         const auto& hop = side.editor.open.document.hops[*line];
-        if (const auto changed = dialog(side.lines(), hop, side.opener, side.owner))
+        if (const auto changed = dialog(side.ports, hop, side.opener, side.owner))
             replace_hop(side.editor, *changed);
     };
 }
 
 } // namespace
 
-RecipeActions line_actions(RecipeEditor& editor, const DatabasePorts& ports, Opener opener, QWidget* owner) {
+RecipeActions line_actions(RecipeEditor& editor, const WindowPorts& ports, Opener opener, QWidget* owner) {
     const Side side{editor, ports, opener, owner};
     RecipeActions actions;
     actions.pick_style = [side] {
         if (const auto style = pick_style(side.ports, side.opener, side.owner))
             set_style(side.editor, *style);
     };
-    actions.pre_boil = [side] { show_pre_boil(side.lines(), side.owner); };
+    actions.pre_boil = [side] { show_pre_boil(side.ports, side.owner); };
     add_malt_actions(actions, side);
     actions.new_hop = [side] {
         if (const auto hop = pick_hop(side.ports, side.opener, side.owner)) add_hop(side.editor, *hop);
@@ -63,7 +61,7 @@ RecipeActions line_actions(RecipeEditor& editor, const DatabasePorts& ports, Ope
     return actions;
 }
 
-YeastWaterActions yeast_water_actions(RecipeEditor& editor, const DatabasePorts& ports, Opener opener,
+YeastWaterActions yeast_water_actions(RecipeEditor& editor, const WindowPorts& ports, Opener opener,
                                       QWidget* owner) {
     const Side side{editor, ports, opener, owner};
     YeastWaterActions actions;
@@ -78,7 +76,7 @@ YeastWaterActions yeast_water_actions(RecipeEditor& editor, const DatabasePorts&
     return actions;
 }
 
-ExtrasActions extras_actions(RecipeEditor& editor, const DatabasePorts& ports, Opener opener,
+ExtrasActions extras_actions(RecipeEditor& editor, const WindowPorts& ports, Opener opener,
                              QWidget* owner) {
     const Side side{editor, ports, opener, owner};
     ExtrasActions actions;
@@ -90,7 +88,7 @@ ExtrasActions extras_actions(RecipeEditor& editor, const DatabasePorts& ports, O
         const auto line = selected_extra(side.editor);
         if (!line) return;
         const auto& extra = side.editor.open.document.extras[*line];
-        if (const auto changed = edit_extra_line(side.lines(), extra, side.opener, side.owner))
+        if (const auto changed = edit_extra_line(side.ports, extra, side.opener, side.owner))
             replace_extra(side.editor, *changed);
     };
     return actions;

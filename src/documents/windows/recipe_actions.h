@@ -10,10 +10,10 @@ namespace wortlex {
 
 /// Over the owner's recipe, from the side of `opener`: style, malts, hops and the pre-boil calculator. The
 /// rest of the actions is the window's own.
-RecipeActions line_actions(RecipeEditor& editor, const DatabasePorts& ports, Opener opener, QWidget* owner);
+RecipeActions line_actions(RecipeEditor& editor, const WindowPorts& ports, Opener opener, QWidget* owner);
 
-YeastWaterActions yeast_water_actions(RecipeEditor& editor, const DatabasePorts& ports, Opener opener,
+YeastWaterActions yeast_water_actions(RecipeEditor& editor, const WindowPorts& ports, Opener opener,
                                       QWidget* owner);
-ExtrasActions extras_actions(RecipeEditor& editor, const DatabasePorts& ports, Opener opener, QWidget* owner);
+ExtrasActions extras_actions(RecipeEditor& editor, const WindowPorts& ports, Opener opener, QWidget* owner);
 
 } // namespace wortlex

@@ -1,5 +1,7 @@
 #include "documents/windows/recipe_page.h"
 
+#include "desktop/list_keys.h"
+
 #include <QDialogButtonBox>
 #include <QGridLayout>
 #include <QGroupBox>
@@ -24,7 +26,6 @@ void RecipePage::lay_out_rows() {
     auto* const layout = new QVBoxLayout(this);
     layout->addLayout(use_.arrange ? use_.arrange(widgets_) : lay_out(form_, widgets_), 1);
     auto* const bottom = new QHBoxLayout;
-    for (const auto* const key : {"print", "help"}) bottom->addWidget(&widgets_.field(key));
     bottom->addStretch();
     auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
     bottom->addWidget(buttons);
@@ -100,6 +101,11 @@ QLayout* arrange_extras(const FormWidgets& widgets) {
         texts->addWidget(&widgets.field(key), 1, column++);
     }
     page->addLayout(texts, 1);
+    auto& list = widgets.field("extras");
+    press_by_key(list, Qt::Key_Insert, widgets.field("extra_new"));
+    press_by_key(list, QKeySequence::Delete, widgets.field("extra_del"));
+    press_by_key(list, Qt::Key_Plus, widgets.field("amount_more"));
+    press_by_key(list, Qt::Key_Minus, widgets.field("amount_less"));
     return page;
 }
 

@@ -1,9 +1,9 @@
 #include "documents/windows/recipe_panel.h"
 
+#include "desktop/list_keys.h"
+
 #include <QGridLayout>
 #include <QGroupBox>
-#include <QPushButton>
-#include <QShortcut>
 
 namespace wortlex {
 namespace {
@@ -45,13 +45,16 @@ RecipePanel::RecipePanel(const RecipeSubject& subject, const SystemSettings& col
                                 {"hop_new", "hop_del", "hop_edit", "hop_loss", "hop_more", "hop_less",
                                  "boil_more", "boil_less"}),
                       1);
-    for (const auto& [list, of] : {std::pair("malts", "malt_"), std::pair("hops", "hop_")}) {
-        const std::string prefix = of;
-        press_by_key(list, Qt::Key_Insert, prefix + "new");
-        press_by_key(list, QKeySequence::Delete, prefix + "del");
-        press_by_key(list, Qt::Key_Plus, prefix + "more");
-        press_by_key(list, Qt::Key_Minus, prefix + "less");
-    }
+    add_list_keys("malts", "malt_");
+    add_list_keys("hops", "hop_");
+}
+
+void RecipePanel::add_list_keys(std::string_view list, const std::string& buttons) {
+    for (const auto& [key, button] : {std::pair(QKeySequence(Qt::Key_Insert), "new"),
+                                      std::pair(QKeySequence(QKeySequence::Delete), "del"),
+                                      std::pair(QKeySequence(Qt::Key_Plus), "more"),
+                                      std::pair(QKeySequence(Qt::Key_Minus), "less")})
+        press_by_key(widgets_.field(list), key, widgets_.field(buttons + button));
 }
 
 QLayout* RecipePanel::name_part() {
@@ -130,13 +133,6 @@ QLayout* RecipePanel::list_part(std::string_view list, std::string_view choice, 
     column->setRowStretch(place, 1);
     line->addLayout(column);
     return line;
-}
-
-void RecipePanel::press_by_key(std::string_view list, const QKeySequence& key, std::string_view button) {
-    auto* const pressed = dynamic_cast<QPushButton*>(&widgets_.field(button));
-    auto* const shortcut = new QShortcut(key, &widgets_.field(list));
-    shortcut->setContext(Qt::WidgetShortcut);
-    connect(shortcut, &QShortcut::activated, pressed, &QPushButton::click);
 }
 
 } // namespace wortlex

@@ -22,8 +22,8 @@ private:
     QWidget* figure_part();
     QLayout* list_part(std::string_view list, std::string_view choice, std::string_view total,
                        std::initializer_list<std::string_view> buttons);
-    /// A key in a list presses one of its buttons.
-    void press_by_key(std::string_view list, const QKeySequence& key, std::string_view button);
+
+    void add_list_keys(std::string_view list, const std::string& buttons);
 
     Form form_;
     FormWidgets widgets_;

@@ -37,12 +37,11 @@ QKeySequence::StandardKey key_of(int command) {
 
 } // namespace
 
-RecipeWindow::RecipeWindow(Program& program, const RecipeWindowPorts& ports, QWidget* origin)
+RecipeWindow::RecipeWindow(const WindowPorts& ports, QWidget* origin)
     : ToolWindow(window_info("RECIPEDIALOG"), 0, Opener::main, origin,
-                 {program.tool_positions, program.settings}),
-      program_(program),
-      ports_(ports), editor_{open_recipe(program), {}, {}}, subject_{editor_, program.color_table, actions()},
-      panel_(subject_, program.settings, this) {
+                 {ports.program.tool_positions, ports.program.settings}),
+      ports_(ports), program_(ports.program), editor_{open_recipe(program_), {}, {}},
+      subject_{editor_, program_.color_table, actions()}, panel_(subject_, program_.settings, this) {
     editor_.changed = [this] { show_changes(); };
     auto* const layout = new QVBoxLayout(this);
     add_menu();
@@ -57,7 +56,7 @@ RecipeWindow::RecipeWindow(Program& program, const RecipeWindowPorts& ports, QWi
 }
 
 RecipeActions RecipeWindow::actions() {
-    auto actions = line_actions(editor_, {program_, ports_.files, ports_.prompts}, Opener::recipe, this);
+    auto actions = line_actions(editor_, ports_, Opener::recipe, this);
     actions.yeast_and_water = [this] { show_yeast_and_water(); };
     actions.extras_and_notes = [this] { show_extras(); };
     actions.mash_schedule = [this] { show_mash(); };
@@ -242,24 +241,22 @@ void RecipeWindow::show_page(QPointer<RecipePage>& page, RecipePageUse use) {
 }
 
 void RecipeWindow::show_yeast_and_water() {
-    const DatabasePorts databases{program_, ports_.files, ports_.prompts};
     show_page(yeast_and_water_,
               {.template_name = "RECIPE4DIALOG",
                .step = "Yeast And Water",
-               .fill = [this, databases](Form& form, QWidget* page) {
+               .fill = [this](Form& form, QWidget* page) {
                    yeast_water_form(form, editor_,
-                                    yeast_water_actions(editor_, databases, Opener::recipe, page));
+                                    yeast_water_actions(editor_, ports_, Opener::recipe, page));
                }});
 }
 
 void RecipeWindow::show_extras() {
-    const DatabasePorts databases{program_, ports_.files, ports_.prompts};
     show_page(extras_, {.template_name = "RECIPEEXTRADIALOG",
                         .step = "Extras & Notes",
                         .fill =
-                            [this, databases](Form& form, QWidget* page) {
+                            [this](Form& form, QWidget* page) {
                                 extras_form(form, editor_,
-                                            extras_actions(editor_, databases, Opener::recipe, page));
+                                            extras_actions(editor_, ports_, Opener::recipe, page));
                             },
                         .arrange = arrange_extras});
 }

@@ -8,6 +8,7 @@
 #include "documents/windows/recipe_panel.h"
 #include "documents/windows/simple_mash_window.h"
 #include "frame/program.h"
+#include "frame/window_ports.h"
 
 #include <QBoxLayout>
 #include <QMenuBar>
@@ -16,16 +17,10 @@
 
 namespace wortlex {
 
-/// What the window asks of the rest of the program.
-struct RecipeWindowPorts {
-    Files& files;
-    Prompts& prompts;
-};
-
 class RecipeWindow : public ToolWindow {
 public:
-    /// On the live document, which `program.recipe_file` tells the origin of.
-    RecipeWindow(Program& program, const RecipeWindowPorts& ports, QWidget* origin);
+    /// On the live document, which the program's `recipe_file` tells the origin of.
+    RecipeWindow(const WindowPorts& ports, QWidget* origin);
 
     /// Shows the live document anew, as after another one was opened.
     void reopen();
@@ -64,8 +59,8 @@ private:
     void show_mash();
     void close_pages();
 
+    WindowPorts ports_;
     Program& program_;
-    RecipeWindowPorts ports_;
     RecipeEditor editor_;
     DocumentSnapshot saved_;
     RecipeSubject subject_;

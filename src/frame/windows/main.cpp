@@ -1,6 +1,7 @@
 // wortlex: run in a brewery folder, it opens the main window on it, and a document given by name.
 #include "desktop/desk.h"
 #include "desktop/message_boxes.h"
+#include "desktop/print_preview.h"
 #include "frame/start.h"
 #include "frame/windows/main_window.h"
 
@@ -40,7 +41,9 @@ int run(int count, char** arguments) {
     Program program;
     if (!start(program, folder, prompts)) return 0;
     FileDialogs files;
-    MainWindow window(program, prompts, files);
+    SystemClipboard clipboard;
+    PreviewDesk pages(files, prompts, {program.tool_positions, program.settings});
+    MainWindow window({program, prompts, files, pages, clipboard});
     window.show();
     // Drawing the icon in all its sizes takes a tenth of the start: the window need not wait for it.
     QTimer once_shown;

@@ -53,10 +53,10 @@ int command_of(DocumentKind kind) {
 
 } // namespace
 
-MainWindow::MainWindow(Program& program, Prompts& prompts, Files& files)
-    : program_(program), prompts_(prompts), files_(files),
+MainWindow::MainWindow(const WindowPorts& ports)
+    : ports_(ports), program_(ports.program), prompts_(ports.prompts), files_(ports.files),
       board_(
-          new PictureBoard(program.data_folder, art_scheme(program.art_scheme), commands_, prompts, this)) {
+          new PictureBoard(program_.data_folder, art_scheme(program_.art_scheme), commands_, prompts_, this)) {
     const auto& info = window_info("GENERIC");
     setObjectName(string_of(info.template_name));
     setWindowTitle(string_of(info.captions[0]));
@@ -85,9 +85,8 @@ void MainWindow::carry_out_commands() {
 }
 
 void MainWindow::carry_out_databases() {
-    const DatabasePorts ports{program_, files_, prompts_};
-    const auto carry_out = [this, ports](int command, void (*keep)(const DatabasePorts&, QWidget*)) {
-        commands_.carry_out(command, [this, ports, keep] { keep(ports, this); });
+    const auto carry_out = [this](int command, void (*keep)(const WindowPorts&, QWidget*)) {
+        commands_.carry_out(command, [this, keep] { keep(ports_, this); });
     };
     carry_out(command::style_database, keep_styles);
     carry_out(command::malt_database, keep_malts);
@@ -95,18 +94,18 @@ void MainWindow::carry_out_databases() {
     carry_out(command::yeast_database, keep_yeasts);
     carry_out(command::water_database, keep_waters);
     carry_out(command::extra_database, keep_extras);
-    commands_.carry_out(command::hop_time_degradation, [this, ports] {
+    commands_.carry_out(command::hop_time_degradation, [this] {
         const auto degrade = [this](QWidget* list, const HopRecord& hop) {
             auto work = picked_hop(hop, program_.hop_memory, program_.settings);
             degrade_hop(program_, list, work);
         };
-        pick_hops_for(degrade, ports, this);
+        pick_hops_for(degrade, ports_, this);
     });
-    commands_.carry_out(command::hop_ibu, [this, ports] {
+    commands_.carry_out(command::hop_ibu, [this] {
         const auto calculate = [this](QWidget* list, const HopRecord& hop) {
             run_ibu_calculator(program_, list, picked_hop(hop, program_.hop_memory, program_.settings));
         };
-        pick_hops_for(calculate, ports, this);
+        pick_hops_for(calculate, ports_, this);
     });
 }
 
@@ -175,7 +174,7 @@ void MainWindow::open_file(const std::string& path) {
 }
 
 void MainWindow::show_recipe() {
-    auto* const window = new RecipeWindow(program_, {files_, prompts_}, this); // deletes itself when closed
+    auto* const window = new RecipeWindow(ports_, this); // deletes itself when closed
     show_tool(*window, command::new_recipe, recipe_closed);
     window->tell_method();
 }

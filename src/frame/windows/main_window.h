@@ -4,6 +4,7 @@
 #include "desktop/desk.h"
 #include "desktop/tool_window.h"
 #include "frame/program.h"
+#include "frame/window_ports.h"
 #include "frame/windows/picture_board.h"
 #include "jpeg/jpeg_pictures.h"
 
@@ -13,8 +14,8 @@ namespace wortlex {
 
 class MainWindow : public QMainWindow {
 public:
-    /// `program` has started.
-    MainWindow(Program& program, Prompts& prompts, Files& files);
+    /// The program has started.
+    explicit MainWindow(const WindowPorts& ports);
 
     CommandTable& commands() { return commands_; }
     /// Opens the unsaved work of a run that broke off, if there is any and it is wanted.
@@ -40,6 +41,7 @@ private:
     /// Shows a new tool window and keeps the books of it until it closes.
     void show_tool(ToolWindow& window, int command, int closing_notification);
 
+    WindowPorts ports_;
     Program& program_;
     Prompts& prompts_;
     Files& files_;

@@ -13,8 +13,8 @@ constexpr std::uint32_t rgb(std::uint32_t colour) {
 }
 
 struct BuiltIn {
-    const char* name;
-    std::uint32_t body, heading, column_heading, descriptor, field;
+    const char* name = "";
+    std::uint32_t body = 0, heading = 0, column_heading = 0, descriptor = 0, field = 0;
     std::uint32_t heading_text = 0, column_heading_text = 0, descriptor_text = 0, field_text = 0;
 };
 

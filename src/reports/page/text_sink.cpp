@@ -57,7 +57,8 @@ std::string padded(std::string_view text, std::size_t width) {
 }
 
 std::string dashes_below(std::string_view text) {
-    return std::string(character_count(text), '-');
+    std::string row(character_count(text), '-');
+    return row;
 }
 
 bool save_text(const std::string& path, const TextSink& sink, Prompts& prompts) {

@@ -45,7 +45,7 @@ struct Kitchen : Brewery {
         extra.name.assign("Irish Moss");
         SaveExtras(folder.path(), database_of(extra));
         SaveWater(folder.path(), database_of(water()));
-        main = std::make_unique<MainWindow>(program, prompts, files);
+        main = std::make_unique<MainWindow>(ports());
         main->show();
         EXPECT_TRUE(QTest::qWaitForWindowActive(main.get()));
     }

@@ -23,7 +23,7 @@ namespace {
 
 TEST(MainWindow, DisablesWhatIsNotBuilt) {
     Brewery brewery;
-    MainWindow window(brewery.program, brewery.prompts, brewery.files);
+    MainWindow window(brewery.ports());
     window.show();
     int enabled = 0;
     for (const auto& button : main_screen_buttons) {
@@ -43,7 +43,7 @@ TEST(MainWindow, DisablesWhatIsNotBuilt) {
 TEST(MainWindow, OpensARecipeOnceAndShowsItsFigures) {
     Brewery brewery;
     const auto path = brewery.save_sample("Mild");
-    MainWindow window(brewery.program, brewery.prompts, brewery.files);
+    MainWindow window(brewery.ports());
     window.show();
     window.open_file(path);
     auto* const recipe = open_recipe_window();
@@ -71,7 +71,7 @@ TEST(MainWindow, OpensADroppedRecipe) {
     Brewery brewery;
     const auto path = brewery.save_sample("Porter");
     save_atomically(brewery.folder / "notes.txt", Bytes(10));
-    MainWindow window(brewery.program, brewery.prompts, brewery.files);
+    MainWindow window(brewery.ports());
     window.show();
     EXPECT_FALSE(drop_file(window, brewery.folder / "notes.txt"));
     EXPECT_EQ(open_recipe_window(), nullptr);
@@ -90,7 +90,7 @@ TEST(MainWindow, TellsOfDamagedAndCutFilesAndKeepsTheOpenOne) {
     save_atomically(brewery.folder.path() + "cut.rec", bytes);
     bytes.assign(300, std::byte{0xFF});
     save_atomically(brewery.folder.path() + "noise.rec", bytes);
-    MainWindow window(brewery.program, brewery.prompts, brewery.files);
+    MainWindow window(brewery.ports());
     brewery.prompts.expect_tell("File Not Found!", Icon::error);
     window.open_file(brewery.folder.path() + "gone.rec");
     brewery.prompts.expect_tell("noise.rec " + std::string(load_fault(LoadResult::damaged)) + ".",
@@ -111,7 +111,7 @@ TEST(PictureBoard, TellsOfMissingPicturesOnceAShowing) {
     Brewery brewery;
     std::filesystem::remove(brewery.folder.path() + "art/cb01.bmp");
     std::filesystem::remove(brewery.folder.path() + "art/cb02.bmp");
-    MainWindow window(brewery.program, brewery.prompts, brewery.files);
+    MainWindow window(brewery.ports());
     for (int showing = 0; showing < 2; ++showing) {
         brewery.prompts.expect("tell", "Error Reading FIle", {}, Icon::error, "File Error");
         window.show();
@@ -126,7 +126,7 @@ TEST(PictureBoard, TellsOfMissingPicturesOnceAShowing) {
 
 TEST(PictureBoard, ActsAsAButtonGoesDown) {
     Brewery brewery;
-    MainWindow window(brewery.program, brewery.prompts, brewery.files);
+    MainWindow window(brewery.ports());
     window.show();
     auto* const board = window.centralWidget();
     const auto origin = main_screen_origin(board->width(), board->height());

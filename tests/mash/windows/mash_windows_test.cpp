@@ -3,6 +3,7 @@
 #include "frame/windows/main_window.h"
 #include "support/desk.h"
 #include "support/qt_keys.h"
+#include "support/recording_desk.h"
 
 #include <gtest/gtest.h>
 
@@ -59,7 +60,9 @@ TEST(StrikeCalculatorWindow, OpensOnceAndKeepsItsValuesForTheRun) {
     Program program;
     QuietPrompts prompts;
     ScriptedFiles files;
-    MainWindow main(program, prompts, files);
+    RecordingPageDesk pages;
+    RecordingClipboard clipboard;
+    MainWindow main({program, prompts, files, pages, clipboard});
     const auto open = [&main] {
         main.commands().start(command::strike_temperature);
         const auto windows = QApplication::topLevelWidgets();
