@@ -1,4 +1,4 @@
-room_tests(frame_tests DEPENDS frame frame_settings_forms SOURCES frame/frame_test.cpp
+room_tests(frame_tests DEPENDS frame frame_settings_forms SOURCES frame/frame_test.cpp frame/recovery_test.cpp
             frame/settings_forms/brewing_settings_test.cpp frame/settings_forms/settings_session_test.cpp
             frame/settings_forms/small_settings_test.cpp)
 

@@ -43,6 +43,9 @@ void set_ibu(HopCalculator& calculator, float ibu, const Settings& settings);
 void set_first_wort(HopCalculator& calculator, bool on, const Settings& settings);
 void set_mash_hop(HopCalculator& calculator, bool on, const Settings& settings);
 
+/// The label of a volume with its unit: "Batch Size (Gal)".
+std::string volume_label(std::string_view of, const Settings& settings);
+
 struct IbuCalculatorActions {
     std::function<void()> figure_time_loss; ///< empty, as the others: disabled
     std::function<void()> choose_formula;

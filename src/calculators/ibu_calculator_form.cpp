@@ -21,13 +21,6 @@ Binding<Value> edited_by(void (*set)(HopCalculator&, Value, const Settings&), st
     return {std::move(get), [set, &calculator, &settings](Value value) { set(calculator, value, settings); }};
 }
 
-std::string volume_label(const char* of, const Settings& settings) {
-    const bool american = settings.volume_units == Units::american;
-    const auto* const unit =
-        is_pro(settings) ? (american ? " (bbl)" : " (hL)") : (american ? " (Gal)" : " (L)");
-    return std::string(of) + unit;
-}
-
 struct WeightLook {
     const char* label;
     const char* pro_label;
@@ -161,6 +154,13 @@ void use_rows(Rows& rows, HopCalculator& calculator, const Settings& settings) {
 }
 
 } // namespace
+
+std::string volume_label(std::string_view of, const Settings& settings) {
+    const bool american = settings.volume_units == Units::american;
+    const auto* const unit =
+        is_pro(settings) ? (american ? " (bbl)" : " (hL)") : (american ? " (Gal)" : " (L)");
+    return std::string(of) + unit;
+}
 
 void ibu_calculator_form(Form& form, HopCalculator& calculator, const Settings& settings,
                          std::string hop_name, IbuCalculatorActions actions) {

@@ -4,6 +4,7 @@
 
 #include "base/number.h"
 #include "base/windows1252.h"
+#include "databases/printouts.h"
 #include "databases/records/database_file.h"
 #include "measures/fields/form.h"
 
@@ -123,6 +124,18 @@ struct CatalogueStock {
     std::function<std::string(const Record&)> title = nullptr;
 };
 
+/// What a database has to print.
+template <class Record>
+struct CataloguePages {
+    std::vector<std::string> list_titles; ///< by filter
+    std::vector<int> stops;               ///< as in `PrintedList`
+    std::vector<std::string> heads;
+    /// The cells of a row; empty: those of the list.
+    std::function<std::vector<std::string>(const Record&)> row;
+    std::string entry_title;
+    std::function<EntryLines(const Record&)> entry;
+};
+
 template <class Record>
 struct Catalogue {
     CatalogueWords words;
@@ -137,6 +150,7 @@ struct Catalogue {
     std::function<Record(std::size_t filter)> new_record;
     std::function<void(Form&, Record&)> entry_form;
     std::size_t entry_caption = 0; ///< of those that the entry dialog has
+    CataloguePages<Record> pages;
 
     /// Whether an imported record is one that is there already.
     std::function<bool(const Record&, const Record&)> is_same;

@@ -131,6 +131,7 @@ Catalogue<ExtraRecord> extra_catalogue(const Settings& /*settings*/, const std::
         return extra;
     };
     extras.entry_form = extra_entry_form;
+    extras.pages = extra_pages();
     extras.is_same = [](const ExtraRecord& a, const ExtraRecord& b) {
         return a.name == b.name && a.extra_type == b.extra_type;
     };

@@ -10,6 +10,8 @@ Catalogue<ExtraRecord> extra_catalogue(const Settings& settings, const std::stri
 /// The entry dialog of an extra.
 void extra_entry_form(Form& form, ExtraRecord& extra);
 
+CataloguePages<ExtraRecord> extra_pages();
+
 /// As lists show it and sort by it.
 std::string_view type_word(ExtraType type);
 

@@ -190,6 +190,7 @@ Catalogue<HopRecord> hop_catalogue(const Settings& settings, const std::string& 
                   .unit = [&settings](const HopRecord&) { return stock_unit(settings); }};
     hops.new_record = new_hop;
     hops.entry_form = hop_entry_form;
+    hops.pages = hop_pages(settings);
     hops.is_same = [](const HopRecord& a, const HopRecord& b) {
         return a.name == b.name && a.origin == b.origin;
     };

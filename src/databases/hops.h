@@ -10,6 +10,8 @@ Catalogue<HopRecord> hop_catalogue(const Settings& settings, const std::string& 
 /// The entry dialog of a hop.
 void hop_entry_form(Form& form, HopRecord& hop);
 
+CataloguePages<HopRecord> hop_pages(const Settings& settings);
+
 /// The storage class that a loss (percent in 6 months) stands for, as it is typed; and as the arrows carry it
 /// from one value to another, where only a crossing counts: nothing then.
 StorageClass storage_class_of(float factor);

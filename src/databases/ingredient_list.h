@@ -4,6 +4,7 @@
 #include "base/ports/desk.h"
 #include "base/ports/prompts.h"
 #include "measures/fields/form.h"
+#include "reports/page/page.h"
 
 namespace wortlex {
 
@@ -64,6 +65,10 @@ public:
     /// The same from a file that is known.
     virtual void import_file(const std::string& path, Prompts& prompts) = 0;
     virtual void save(Prompts& prompts) = 0;
+    /// The rows as they are shown.
+    virtual PrintRequest printout() const = 0;
+    /// Called with what is to be printed, a list or an entry; empty: their buttons are disabled.
+    std::function<void(const PrintRequest&)> print;
     /// Asks about changes and keeps the order for the next time. False: the list stays open.
     virtual bool close(Prompts& prompts) = 0;
 };

@@ -145,6 +145,7 @@ void malt_entry_form(Form& form, MaltRecord& malt, const Settings& settings) {
     auto& notes = form.group("Notes");
     notes.text("use_for", malt.use_for).label("Use For").limit(152).lines();
     notes.text("comments", malt.comments).label("Comments").limit(152).lines();
+    form.after_edit([yields, &malt](Row&) { store_yields(*yields, malt); }); // Print shows the record
     form.on_accept([yields, &malt] { store_yields(*yields, malt); });
 }
 

@@ -38,13 +38,6 @@ std::string potential_unit(const Settings& settings) {
     }
 }
 
-std::string potential_cell(const MaltRecord& malt, const Settings& settings) {
-    const PotentialTraits traits{malt.moisture, malt.coarse_yield, is_mashed(malt)};
-    const bool is_sg = settings.potential_display == PotentialDisplay::sg;
-    return formatted(is_sg ? sg_pattern(7, settings) : plato_pattern(7, settings),
-                     potential_to_shown(malt.potential, traits, settings));
-}
-
 // A number sorted as it is stored, and shown as the settings ask.
 CatalogueColumn<MaltRecord> figure(std::string caption, int width, float MaltRecord::*field,
                                    CatalogueBuilder<MaltRecord>::ToText cell) {
@@ -106,6 +99,13 @@ MaltRecord new_malt(std::size_t /*filter*/) {
 
 } // namespace
 
+std::string potential_cell(const MaltRecord& malt, const Settings& settings) {
+    const PotentialTraits traits{malt.moisture, malt.coarse_yield, is_mashed(malt)};
+    const bool is_sg = settings.potential_display == PotentialDisplay::sg;
+    return formatted(is_sg ? sg_pattern(7, settings) : plato_pattern(7, settings),
+                     potential_to_shown(malt.potential, traits, settings));
+}
+
 Catalogue<MaltRecord> malt_catalogue(const Settings& settings, const std::string& data_folder) {
     Catalogue<MaltRecord> malts;
     malts.words = words;
@@ -123,6 +123,7 @@ Catalogue<MaltRecord> malt_catalogue(const Settings& settings, const std::string
                    .unit = [&settings](const MaltRecord&) { return is_metric(settings) ? "kg" : "Lbs"; }};
     malts.new_record = new_malt;
     malts.entry_form = [&settings](Form& form, MaltRecord& malt) { malt_entry_form(form, malt, settings); };
+    malts.pages = malt_pages(settings);
     malts.is_same = [](const MaltRecord& a, const MaltRecord& b) {
         return a.name == b.name && a.origin == b.origin;
     };

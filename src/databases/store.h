@@ -57,6 +57,7 @@ public:
     void import_file(const std::string& path, Prompts& prompts) override;
     void save(Prompts& prompts) override;
     bool close(Prompts& prompts) override;
+    PrintRequest printout() const override;
 
     /// The same from the bytes of a transfer file; `name` is what messages call it.
     void import_bytes(ByteView file, const std::string& name, Prompts& prompts);
@@ -89,6 +90,8 @@ private:
     bool has_room(Prompts& prompts) const;
     std::unique_ptr<EntryForm> form_on(std::shared_ptr<Record> copy, std::string_view dialog_template,
                                        std::function<void(const Record&)> store) const;
+    std::vector<std::string> printed_row(const Record& record) const;
+    std::function<void()> print_action(const std::shared_ptr<Record>& copy) const;
     std::string sort_path() const {
         return data_folder_ + std::string(catalogue_.words.sort_files[static_cast<std::size_t>(side_)]);
     }
@@ -221,10 +224,38 @@ std::unique_ptr<EntryForm> Store<Record>::form_on(std::shared_ptr<Record> copy,
     entry->caption = catalogue_.entry_caption;
     catalogue_.entry_form(entry->form, *copy);
     auto& buttons = entry->form.group();
-    buttons.button("print", "Print", nullptr);
+    buttons.button("print", "Print", print_action(copy));
     buttons.button("help", "Help", nullptr);
     entry->form.on_accept([copy, store = std::move(store)] { store(*copy); });
     return entry;
+}
+
+template <class Record>
+std::function<void()> Store<Record>::print_action(const std::shared_ptr<Record>& copy) const {
+    if (!print) return nullptr;
+    return [this, copy] {
+        const auto& title = catalogue_.pages.entry_title;
+        print({title, 1, [title, entry = catalogue_.pages.entry(*copy)](PageContext& page) {
+                   print_entry(page, title, entry);
+               }});
+    };
+}
+
+template <class Record>
+std::vector<std::string> Store<Record>::printed_row(const Record& record) const {
+    if (catalogue_.pages.row) return catalogue_.pages.row(record);
+    std::vector<std::string> cells;
+    for (const auto& column : catalogue_.columns) cells.push_back(column.cell(record));
+    return cells;
+}
+
+template <class Record>
+PrintRequest Store<Record>::printout() const {
+    const auto& pages = catalogue_.pages;
+    PrintedList list{pages.list_titles.at(static_cast<std::size_t>(filter)), pages.stops, pages.heads, {}};
+    for (const auto place : shown_) list.rows.push_back(printed_row(database_.slots[place]));
+    auto title = list.title;
+    return {std::move(title), 1, [list = std::move(list)](PageContext& page) { print_list(page, list); }};
 }
 
 template <class Record>

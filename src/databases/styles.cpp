@@ -103,6 +103,7 @@ Catalogue<StyleRecord> style_catalogue(const Settings& settings, const std::stri
         style_entry_form(form, style, settings);
     };
     styles.entry_caption = bjcp ? 1 : 0;
+    styles.pages = style_pages(settings, book);
     styles.is_same = is_same_style;
     styles.keep = [](StyleRecord&, const StyleRecord&) {};
     styles.exists_text = [](const StyleRecord& style) {

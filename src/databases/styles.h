@@ -11,6 +11,8 @@ Catalogue<StyleRecord> style_catalogue(const Settings& settings, const std::stri
 /// The entry dialog of a style.
 void style_entry_form(Form& form, StyleRecord& style, const Settings& settings);
 
+CataloguePages<StyleRecord> style_pages(const Settings& settings, StyleBook book);
+
 /// "01-A", or "01-?" without a letter, UTF-8; and the type as lists show it.
 std::string style_number(const StyleRecord& style);
 std::string style_type_word(const StyleRecord& style);

@@ -119,6 +119,7 @@ Catalogue<WaterRecord> water_catalogue(const Settings& /*settings*/, const std::
     waters.entry_form = [converters](Form& form, WaterRecord& water) {
         water_entry_form(form, water, converters);
     };
+    waters.pages = water_pages();
     waters.is_same = [](const WaterRecord& a, const WaterRecord& b) { return a.name == b.name; };
     waters.keep = [](WaterRecord&, const WaterRecord&) {};
     waters.exists_text = [](const WaterRecord& water) {

@@ -19,4 +19,6 @@ Catalogue<WaterRecord> water_catalogue(const Settings& settings, const std::stri
 /// The entry dialog of a water.
 void water_entry_form(Form& form, WaterRecord& water, const WaterConverters& converters);
 
+CataloguePages<WaterRecord> water_pages();
+
 } // namespace wortlex

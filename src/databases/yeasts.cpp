@@ -163,6 +163,7 @@ Catalogue<YeastRecord> yeast_catalogue(const Settings& /*settings*/, const std::
     yeasts.new_limit = import_limit;
     yeasts.new_record = [](std::size_t) { return YeastRecord(); };
     yeasts.entry_form = yeast_entry_form;
+    yeasts.pages = yeast_pages();
     yeasts.is_same = [](const YeastRecord& a, const YeastRecord& b) {
         return a.name == b.name && a.lab == b.lab && a.catalog_number == b.catalog_number;
     };

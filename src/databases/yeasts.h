@@ -14,4 +14,6 @@ void yeast_entry_form(Form& form, YeastRecord& yeast);
 std::string_view kind_word(YeastKind kind);
 std::string_view medium_word(YeastMedium medium);
 
+CataloguePages<YeastRecord> yeast_pages();
+
 } // namespace wortlex

@@ -28,6 +28,7 @@ constexpr std::array windows = {
                {"Recipe Formulation - Extra Ingredients and Notes"},
                from_documents(13, no_place),
                0},
+    WindowInfo{"RECIPEPREPRINTDIALOG", {"Recipe Print and Export Options"}, no_places, 0},
     WindowInfo{"RECIPEDIALOG", {"Wortlex Recipe Formulation"}, no_places, 0},
     WindowInfo{"MALTSHORTEDITDIALOG", {"Edit Grain/Extract Amounts"}, from_documents(76, 77), 0},
     WindowInfo{"HOPSHORTEDITDIALOG", {"Hop Amounts"}, from_documents(78, 79), 0},

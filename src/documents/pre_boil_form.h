@@ -3,6 +3,7 @@
 
 #include "documents/session_figures.h"
 #include "measures/fields/form.h"
+#include "reports/page/page.h"
 
 namespace wortlex {
 
@@ -21,5 +22,8 @@ void kettle_rows(Rows& rows, const std::string& key, const std::string& label, c
 
 /// To be added last.
 void pre_boil_buttons(Form& form, PreBoilActions actions);
+
+/// The page of the calculator, while document and settings stand as they are.
+PrintRequest pre_boil_printout(const BrewDocument& document, float rate, const Settings& settings);
 
 } // namespace wortlex

@@ -7,6 +7,7 @@ namespace wortlex {
 namespace {
 
 constexpr int colour_box = 250; // behind the figure that it belongs to
+constexpr int title_tab = 190;  // the middle of the page for a recipe's title at the usual scale
 
 std::string joined(const std::vector<ReportCell>& cells) {
     std::string out;
@@ -114,7 +115,7 @@ void write_print(const DocumentReport& report, PageContext& page) {
     page.ClearHeaders();
     page.SetHeader(0, report.page_title);
     page.SelectFont(PageFont::title);
-    page.TabbedLine({190}, "\t" + report.print_title);
+    page.TabbedLine({title_tab}, "\t" + report.print_title);
     page.Rule();
     std::vector<const ReportSection*> sections;
     for (const auto& section : report.sections) sections.push_back(&section);

@@ -43,8 +43,6 @@ ReportRow colour_row(const ReportSource& source) {
             painted_swatch({source.color_table, settings, srm})};
 }
 
-constexpr std::size_t boil_column = 34;
-
 ReportRow evaporation_row(const ReportSource& source) {
     const auto& settings = source.open.settings;
     if (settings.evaporation_by_volume == 0)

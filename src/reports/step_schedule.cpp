@@ -12,12 +12,11 @@ constexpr std::size_t name_width = 21;
 constexpr std::size_t label_column = 24;
 constexpr double shown_thickness = 0.4784; // a thickness in litres per kilogram is quarts per pound over this
 
-void add_waters(std::vector<ReportRow>& rows, float quarts, const std::string& note,
-                const Settings& settings) {
+void add_waters(std::vector<ReportRow>& rows, float quarts, std::string_view note, const Settings& settings) {
     for (const auto& [shown, unit] : shown_waters(quarts, settings)) {
         const auto label = "Total Water " + std::string(unit) + ":";
         rows.push_back(
-            {padded(label, label_column) + "%8.2f - " + note + "\n", {shown}, label + "\t%0.2f\t- " + note});
+            {padded(label, label_column) + "%8.2f - %s\n", {shown, note}, label + "\t%0.2f\t- %s"});
     }
 }
 
@@ -92,9 +91,9 @@ ReportRow volume_row(const ReportSource& source) {
 
 void add_notes(std::vector<ReportRow>& rows, const Settings& settings) {
     const bool is_fahrenheit = settings.temperature_units == TemperatureUnits::fahrenheit;
-    const auto amounts =
+    const auto* const amounts =
         is_american(settings.volume_units) ? (is_pro(settings) ? "Gallons" : "Quarts") : "Liters";
-    const auto ratios = is_american(settings.volume_units) ? "Quarts/Lbs" : "Liters/Kilograms";
+    const auto* const ratios = is_american(settings.volume_units) ? "Quarts/Lbs" : "Liters/Kilograms";
     rows.push_back(
         {"All temperature measurements are degrees %s.\n", {is_fahrenheit ? "Fahrenheit" : "Celsius"}});
     rows.push_back({"All infusion amounts are in %s.\n", {amounts}});

@@ -19,7 +19,9 @@ int more_decimals(std::uint32_t precision) {
 }
 
 std::string blanks(int count) {
-    return std::string(static_cast<std::size_t>(std::max(count, 0)), ' ');
+    std::string all;
+    all.resize(static_cast<std::size_t>(std::max(count, 0)), ' ');
+    return all;
 }
 
 } // namespace

@@ -140,7 +140,7 @@ TEST(Catalogue, closing_notes_name_the_scale_of_the_grain_list) {
         {Shown::hwe, "Potential represented as IOB - HWE.\r\n\r\n"},
         {Shown::percent_yield, "Potential represented as % Yield - Fine Grind As Is.\r\n\r\n"}};
     for (const auto& [display, words] : potentials)
-        EXPECT_THAT(note([&](auto& image) {
+        EXPECT_THAT(note([display = display](auto& image) {
                         image.potential_display = display;
                         image.yield_type = YieldType::fine_as_is;
                     }),

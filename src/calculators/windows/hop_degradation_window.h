@@ -3,6 +3,7 @@
 
 #include "desktop/window_table.h"
 #include "frame/program.h"
+#include "frame/window_ports.h"
 
 #include <QWidget>
 
@@ -12,7 +13,7 @@ namespace wortlex {
 
 /// Shows the calculator for `work`, which keeps start alpha, age, temperature and kind of storage as they
 /// were left, with OK or not; so does the program, save the alpha. The adjusted alpha after OK, percent.
-std::optional<float> degrade_hop(Program& program, QWidget* owner, HopUse& work,
+std::optional<float> degrade_hop(const WindowPorts& ports, QWidget* owner, HopUse& work,
                                  Opener opener = Opener::main);
 
 } // namespace wortlex

@@ -18,15 +18,18 @@ Places places(const WindowPorts& ports) {
     return {ports.program.tool_positions, ports.program.settings};
 }
 
+ListPorts list_ports(const WindowPorts& ports) {
+    return {places(ports), ports.files, ports.prompts, &ports.pages};
+}
+
 // Runs the window that keeps a database.
 void keep(IngredientList& list, const WindowPorts& ports, QWidget* owner) {
     list.open(ports.prompts);
-    ListWindow(list, {places(ports), ports.files, ports.prompts}, Opener::main, nullptr, owner).exec();
+    ListWindow(list, list_ports(ports), Opener::main, nullptr, owner).exec();
 }
 
 template <class Record>
-void keep(Catalogue<Record> catalogue, Database<Record>& database, const WindowPorts& ports,
-          QWidget* owner) {
+void keep(Catalogue<Record> catalogue, Database<Record>& database, const WindowPorts& ports, QWidget* owner) {
     Store<Record> list(std::move(catalogue), ListSide::maintenance, ports.program.data_folder, database);
     keep(list, ports, owner);
 }
@@ -40,7 +43,7 @@ void run_pick(IngredientList& list, ListChoice& choice, const std::function<bool
     list.open(ports.prompts);
     ListWindow* shown = nullptr;
     ListWindow window(
-        list, {places(ports), ports.files, ports.prompts}, opener, [&] { return picked(shown); }, owner);
+        list, list_ports(ports), opener, [&] { return picked(shown); }, owner);
     shown = &window;
     if (window.exec() == QDialog::Accepted)
         choice = {static_cast<std::size_t>(list.filter), list.only_in_stock};

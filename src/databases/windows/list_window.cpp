@@ -11,6 +11,17 @@
 #include <QVBoxLayout>
 
 namespace wortlex {
+namespace {
+
+std::function<void(const PrintRequest&)> printer(const ListPorts& ports) {
+    if (ports.pages == nullptr) return nullptr;
+    return [&pages = *ports.pages, &settings = ports.places.settings](PrintRequest request) {
+        request.printer_scale = settings.printer_scale;
+        pages.show(request);
+    };
+}
+
+} // namespace
 
 ListWindow::ListWindow(IngredientList& list, const ListPorts& ports, Opener opener,
                        std::function<bool()> picked, QWidget* owner)
@@ -39,7 +50,7 @@ void ListWindow::fill_form() {
         rows.button("pick", "&Pick", [this] { pick(); });
     else
         edit_buttons(rows);
-    rows.button("print", picked_ ? "P&rint" : "&Print", nullptr);
+    print_button(rows);
     rows.button("help", picked_ ? "&Help" : "Help", nullptr);
     if (picked_)
         rows.button("cancel", "Cancel", [this] { reject(); });
@@ -84,6 +95,13 @@ void ListWindow::edit_buttons(Rows& rows) {
     if (list_.has_stock())
         rows.button("inventory", "In&ventory", [this] { run(list_.inventory(ports_.prompts)); });
     rows.button("save", "&Save", [this] { change([this] { list_.save(ports_.prompts); }); });
+}
+
+void ListWindow::print_button(Rows& rows) {
+    list_.print = printer(ports_);
+    std::function<void()> print;
+    if (list_.print) print = [this] { list_.print(list_.printout()); };
+    rows.button("print", picked_ ? "P&rint" : "&Print", std::move(print));
 }
 
 void ListWindow::lay_out_rows() {

@@ -4,6 +4,7 @@
 #include "databases/ingredient_list.h"
 #include "desktop/form_widgets.h"
 #include "desktop/placement.h"
+#include "reports/page/page.h"
 
 #include <QDialog>
 #include <QMimeData>
@@ -14,6 +15,7 @@ struct ListPorts {
     Places places;
     Files& files;
     Prompts& prompts;
+    PageDesk* pages = nullptr; ///< null: nothing can be printed
 };
 
 class ListWindow : public QDialog {
@@ -40,6 +42,7 @@ private:
     void choice_rows(Rows& rows);
     void list_row(Rows& rows);
     void edit_buttons(Rows& rows);
+    void print_button(Rows& rows);
     void lay_out_rows();
     /// Runs what may change the list and shows it anew.
     void change(const std::function<void()>& action);

@@ -61,7 +61,7 @@ std::optional<ExtraUse> edit_extra_line(const WindowPorts& ports, const ExtraUse
 std::optional<HopUse> lose_hop_alpha(const WindowPorts& ports, const HopUse& line, Opener opener,
                                      QWidget* owner) {
     auto copy = line;
-    const auto adjusted = degrade_hop(ports.program, owner, copy, opener);
+    const auto adjusted = degrade_hop(ports, owner, copy, opener);
     if (!adjusted) return std::nullopt;
     copy.alpha = *adjusted;
     return copy;
@@ -76,9 +76,12 @@ void show_malt_contribution(const WindowPorts& ports, std::size_t line, Opener o
 
 void show_pre_boil(const WindowPorts& ports, QWidget* owner) {
     const auto& program = ports.program;
+    const auto print = [&ports, &program] {
+        ports.pages.show(pre_boil_printout(program.document, evaporation_rate(program), program.settings));
+    };
     Form form;
     pre_boil_form(form, program.document, evaporation_rate(program), program.settings);
-    pre_boil_buttons(form, {});
+    pre_boil_buttons(form, {.print = print, .help = nullptr});
     run_dialog(form, {.template_name = "PREBOILDIALOG", .opener = Opener::recipe, .has_cancel = false},
                places(ports), owner);
 }

@@ -76,8 +76,7 @@ YeastWaterActions yeast_water_actions(RecipeEditor& editor, const WindowPorts& p
     return actions;
 }
 
-ExtrasActions extras_actions(RecipeEditor& editor, const WindowPorts& ports, Opener opener,
-                             QWidget* owner) {
+ExtrasActions extras_actions(RecipeEditor& editor, const WindowPorts& ports, Opener opener, QWidget* owner) {
     const Side side{editor, ports, opener, owner};
     ExtrasActions actions;
     actions.new_extra = [side] {

@@ -50,10 +50,10 @@ RecipePanel::RecipePanel(const RecipeSubject& subject, const SystemSettings& col
 }
 
 void RecipePanel::add_list_keys(std::string_view list, const std::string& buttons) {
-    for (const auto& [key, button] : {std::pair(QKeySequence(Qt::Key_Insert), "new"),
-                                      std::pair(QKeySequence(QKeySequence::Delete), "del"),
-                                      std::pair(QKeySequence(Qt::Key_Plus), "more"),
-                                      std::pair(QKeySequence(Qt::Key_Minus), "less")})
+    for (const auto& [key, button] :
+         {std::pair(QKeySequence(Qt::Key_Insert), "new"),
+          std::pair(QKeySequence(QKeySequence::Delete), "del"), std::pair(QKeySequence(Qt::Key_Plus), "more"),
+          std::pair(QKeySequence(Qt::Key_Minus), "less")})
         press_by_key(widgets_.field(list), key, widgets_.field(buttons + button));
 }
 

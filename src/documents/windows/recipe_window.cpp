@@ -5,7 +5,9 @@
 #include "documents/method_check.h"
 #include "documents/windows/recipe_actions.h"
 #include "frame/documents.h"
+#include "frame/export_report.h"
 #include "frame/recovery.h"
+#include "reports/windows/print_options_window.h"
 
 #include <QAbstractSpinBox>
 #include <QFileInfo>
@@ -40,8 +42,10 @@ QKeySequence::StandardKey key_of(int command) {
 RecipeWindow::RecipeWindow(const WindowPorts& ports, QWidget* origin)
     : ToolWindow(window_info("RECIPEDIALOG"), 0, Opener::main, origin,
                  {ports.program.tool_positions, ports.program.settings}),
-      ports_(ports), program_(ports.program), editor_{open_recipe(program_), {}, {}},
-      subject_{editor_, program_.color_table, actions()}, panel_(subject_, program_.settings, this) {
+      ports_(ports),
+      program_(ports.program), editor_{open_recipe(program_), {}, {}}, subject_{editor_, program_.color_table,
+                                                                                actions()},
+      panel_(subject_, program_.settings, this) {
     editor_.changed = [this] { show_changes(); };
     auto* const layout = new QVBoxLayout(this);
     add_menu();
@@ -61,6 +65,7 @@ RecipeActions RecipeWindow::actions() {
     actions.extras_and_notes = [this] { show_extras(); };
     actions.mash_schedule = [this] { show_mash(); };
     actions.save = [this] { save_recipe(SaveAs::no); };
+    actions.print = [this] { print(); };
     actions.show_colour = [this] { show_colour(); };
     return actions;
 }
@@ -73,6 +78,7 @@ void RecipeWindow::add_menu() {
         {command::open_recipe, [this] { open_another(); }},
         {command::save, [this] { save_recipe(SaveAs::no); }},
         {command::save_as, [this] { save_recipe(SaveAs::yes); }},
+        {command::print, [this] { print(); }},
         {command::close, [this] { close(); }}};
     fill_menu(*menu, document_menu(), [&does](int command) -> MenuAction {
         const auto found = does.find(command);
@@ -168,6 +174,10 @@ bool RecipeWindow::save_recipe(SaveAs save_as) {
     keep_work();
     show_everything();
     return saved;
+}
+
+void RecipeWindow::print() {
+    if (choose_print_options(ports_, this)) export_recipe(ports_, editor_.view);
 }
 
 bool RecipeWindow::may_close() {

@@ -43,6 +43,7 @@ private:
     void open_another();
     bool save_recipe(SaveAs save_as);
     RecipeSaving saving();
+    void print();
 
     void travel(bool (*step)(RecipeEditor&));
     /// Everything that shows the recipe but the fields, which follow by themselves.

@@ -1,5 +1,7 @@
 #include "documents/windows/simple_mash_window.h"
 
+#include "documents/windows/simple_mash_printout.h"
+
 #include <QDialogButtonBox>
 #include <QShortcut>
 #include <QVBoxLayout>
@@ -23,8 +25,9 @@ SimpleMashWindow::SimpleMashWindow(Program& program, const SimpleMashWork& work,
     : ToolWindow(window_info("MASHENTRYDIALOG"), 0, Opener::recipe, origin,
                  {program.tool_positions, program.settings}),
       calls_(std::move(calls)), work_(work),
-      form_(made_form(work_, program.settings,
-                      {.revert = revert_action(), .graph = nullptr, .print = nullptr, .help = nullptr})),
+      form_(made_form(
+          work_, program.settings,
+          {.revert = revert_action(), .graph = nullptr, .print = print_action(program), .help = nullptr})),
       widgets_(form_, program.settings, *this) {
     auto* const layout = new QVBoxLayout(this);
     layout->addLayout(lay_out(form_, widgets_));
@@ -48,6 +51,11 @@ std::function<void()> SimpleMashWindow::revert_action() {
         accept();
         revert();
     };
+}
+
+std::function<void()> SimpleMashWindow::print_action(const Program& program) {
+    if (calls_.pages == nullptr) return nullptr;
+    return [this, &program] { calls_.pages->show(simple_mash_printout(program, work_)); };
 }
 
 void SimpleMashWindow::accept() {

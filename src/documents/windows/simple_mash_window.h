@@ -5,6 +5,7 @@
 #include "desktop/tool_window.h"
 #include "documents/simple_mash_form.h"
 #include "frame/program.h"
+#include "reports/page/page.h"
 
 #include <functional>
 
@@ -17,6 +18,7 @@ struct SimpleMashCalls {
     std::function<void(const SimpleMash& mash, float ratio)> accepted;
     /// After that, where the complex schedule is to come into force; empty: it cannot.
     std::function<void()> revert_to_complex;
+    PageDesk* pages = nullptr; ///< null: it cannot be printed
 };
 
 /// A page of a document window: modeless, on a working copy. Closing it in any other way than with OK leaves
@@ -31,6 +33,7 @@ public:
 private:
     void accept();
     std::function<void()> revert_action();
+    std::function<void()> print_action(const Program& program);
 
     SimpleMashCalls calls_;
     SimpleMashWork work_;

@@ -1,23 +1,12 @@
 #include "frame/settings_forms/printer_settings.h"
 
-#include <algorithm>
+#include "measures/fields/print_scale.h"
 
 namespace wortlex {
 namespace {
 
-constexpr std::array scales = {1.0F, 0.75F, 0.5F, 0.25F}; // what 125, 100, 75 and 50 % are stored as
-
 constexpr std::string_view positions_not_written =
     "The window positions could not be written. Is the disk full, or the folder read-only?";
-
-// The place of a scale among the choices; past them where it is none.
-Binding<std::int32_t> scale_choice(float& scale) {
-    return {[&scale] {
-                return static_cast<std::int32_t>(std::find(scales.begin(), scales.end(), scale) -
-                                                 scales.begin());
-            },
-            [&scale](std::int32_t choice) { scale = scales.at(static_cast<std::size_t>(choice)); }};
-}
 
 void name_rows(Rows& rows, SystemSettings& image) {
     rows.choice("date_format", image.date_format,
@@ -47,8 +36,7 @@ bool reset_window_positions(ToolPositions& positions, const std::string& data_fo
 }
 
 void printer_settings_form(Form& form, SystemSettings& image, const PrinterSettingsButtons& buttons) {
-    form.group("Default Printer Scaling Ratio:")
-        .choice("scale", scale_choice(image.printer_scale), {"&125 %", "1&00 %", "&75 %", "&50 %"});
+    print_scale_row(form.group("Default Printer Scaling Ratio:"), "scale", image.printer_scale);
     name_rows(form.group("Dates and Names"), image);
     memory_rows(form.group("Windows and Messages"), image, buttons);
     auto& other = form.group("Other");

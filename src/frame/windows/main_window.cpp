@@ -55,8 +55,8 @@ int command_of(DocumentKind kind) {
 
 MainWindow::MainWindow(const WindowPorts& ports)
     : ports_(ports), program_(ports.program), prompts_(ports.prompts), files_(ports.files),
-      board_(
-          new PictureBoard(program_.data_folder, art_scheme(program_.art_scheme), commands_, prompts_, this)) {
+      board_(new PictureBoard(program_.data_folder, art_scheme(program_.art_scheme), commands_, prompts_,
+                              this)) {
     const auto& info = window_info("GENERIC");
     setObjectName(string_of(info.template_name));
     setWindowTitle(string_of(info.captions[0]));
@@ -97,13 +97,13 @@ void MainWindow::carry_out_databases() {
     commands_.carry_out(command::hop_time_degradation, [this] {
         const auto degrade = [this](QWidget* list, const HopRecord& hop) {
             auto work = picked_hop(hop, program_.hop_memory, program_.settings);
-            degrade_hop(program_, list, work);
+            degrade_hop(ports_, list, work);
         };
         pick_hops_for(degrade, ports_, this);
     });
     commands_.carry_out(command::hop_ibu, [this] {
         const auto calculate = [this](QWidget* list, const HopRecord& hop) {
-            run_ibu_calculator(program_, list, picked_hop(hop, program_.hop_memory, program_.settings));
+            run_ibu_calculator(ports_, list, picked_hop(hop, program_.hop_memory, program_.settings));
         };
         pick_hops_for(calculate, ports_, this);
     });
@@ -181,7 +181,7 @@ void MainWindow::show_recipe() {
 
 void MainWindow::show_strike_calculator() {
     if (activate_if_open(program_.tools, command::strike_temperature)) return;
-    auto* const window = new StrikeCalculatorWindow(program_, this); // deletes itself when closed
+    auto* const window = new StrikeCalculatorWindow(ports_, this); // deletes itself when closed
     show_tool(*window, command::strike_temperature, strike_calculator_closed);
 }
 

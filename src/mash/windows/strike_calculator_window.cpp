@@ -1,5 +1,8 @@
 #include "mash/windows/strike_calculator_window.h"
 
+#include "frame/program.h"
+#include "mash/strike_calculator_printout.h"
+
 #include <QGridLayout>
 #include <QPushButton>
 #include <QShortcut>
@@ -8,21 +11,25 @@ namespace wortlex {
 namespace {
 
 // A form filled before its widgets are made, on the values of the last opening.
-Form made_form(Program& program) {
+Form made_form(const WindowPorts& ports) {
+    auto& program = ports.program;
     auto& calculator = program.strike_calculator;
     if (!calculator) calculator = new_strike_calculator(program.settings);
     open_strike_calculator(*calculator, program.settings);
+    const auto print = [&program, &pages = ports.pages] {
+        pages.show(strike_calculator_printout(*program.strike_calculator, program.settings));
+    };
     Form form;
-    strike_calculator_form(form, *calculator, program.settings);
+    strike_calculator_form(form, *calculator, program.settings, {.print = print, .help = nullptr});
     return form;
 }
 
 } // namespace
 
-StrikeCalculatorWindow::StrikeCalculatorWindow(Program& program, QWidget* origin)
+StrikeCalculatorWindow::StrikeCalculatorWindow(const WindowPorts& ports, QWidget* origin)
     : ToolWindow(window_info("WATERCALCDIALOG2"), 0, Opener::main, origin,
-                 {program.tool_positions, program.settings}),
-      form_(made_form(program)), widgets_(form_, program.settings, *this) {
+                 {ports.program.tool_positions, ports.program.settings}),
+      form_(made_form(ports)), widgets_(form_, ports.program.settings, *this) {
     lay_out_rows();
     connect(new QShortcut(QKeySequence::Cancel, this), &QShortcut::activated, this, &QWidget::close);
     widgets_.field("pounds").setFocus();

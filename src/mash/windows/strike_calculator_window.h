@@ -3,7 +3,7 @@
 
 #include "desktop/form_widgets.h"
 #include "desktop/tool_window.h"
-#include "frame/program.h"
+#include "frame/window_ports.h"
 #include "mash/strike_calculator_form.h"
 
 namespace wortlex {
@@ -11,7 +11,7 @@ namespace wortlex {
 /// Its values last for the run.
 class StrikeCalculatorWindow : public ToolWindow {
 public:
-    StrikeCalculatorWindow(Program& program, QWidget* origin);
+    StrikeCalculatorWindow(const WindowPorts& ports, QWidget* origin);
 
 private:
     void lay_out_rows();
