@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # Prints how fast the program is: its start beside that of an empty window, one recalculation, a load and a save, a hop
-# list of 999 entries, and wortlex-report over 10,000 recipes, each from 25 to 400 lines of malts and hops.
+# list of 999 entries, the recipe window and its report, and wortlex-report over 10,000 recipes, each from 25 to 400
+# lines of malts and hops.
 set -eu
 cd "$(dirname "$0")"
 . tools/install.sh
@@ -12,11 +13,16 @@ cmake --build --preset bench
     env QT_QPA_PLATFORM=xcb ../bench/start_bench 15 ../src/wortlex ../bench/empty_window)
 build/bench/bench/documents_bench --benchmark_counters_tabular=true
 build/bench/bench/lists_bench
+build/bench/bench/recipe_window_bench
+build/bench/bench/reports_bench
 
 folder=$(mktemp -d)
 trap 'rm -rf "$folder"' EXIT
 build/bench/tools/make-brewery data "$folder"
 cd "$folder"
+speed_of() {
+    echo "$@" | awk '{ printf "%d files in %.2f s, %.0f files a second\n", $1, $3 - $2, $1 / ($3 - $2) }'
+}
 for lines in 25 100 400; do
     count=$((lines == 400 ? 2000 : 10000))
     mkdir "many_$lines"
@@ -27,6 +33,11 @@ for lines in 25 100 400; do
     find "many_$lines" -name '*.rec' -print0 | xargs -0 -n "$count" "$OLDPWD/build/bench/src/wortlex-report" --json > figures.json
     ended=$(date +%s.%N)
     [ "$(wc -l < figures.json)" -eq "$count" ]
-    echo "wortlex-report --json, $lines malts and hops: $(echo "$count $started $ended" | awk '{ printf "%d files in %.2f s, %.0f files a second\n", $1, $3 - $2, $1 / ($3 - $2) }')"
+    echo "wortlex-report --json, $lines malts and hops: $(speed_of "$count" "$started" "$ended")"
+    started=$(date +%s.%N)
+    find "many_$lines" -name '*.rec' -print0 | xargs -0 -n "$count" "$OLDPWD/build/bench/src/wortlex-report" --text > reports.txt
+    ended=$(date +%s.%N)
+    [ "$(grep -c 'A Wortlex Recipe Report' reports.txt)" -eq "$count" ]
+    echo "wortlex-report --text, $lines malts and hops: $(speed_of "$count" "$started" "$ended")"
     rm -rf "many_$lines"
 done

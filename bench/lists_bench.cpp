@@ -5,6 +5,7 @@
 #include "databases/store.h"
 #include "databases/windows/list_window.h"
 #include "desktop/desk.h"
+#include "paint_watch.h"
 
 #include <QApplication>
 #include <QHeaderView>
@@ -91,18 +92,6 @@ void fill(benchmark::State& state, Desk& desk) {
     if (list.shown_count() != import_limit) state.SkipWithError("rows are missing");
 }
 
-// Notes that a widget has been painted.
-class PaintWatch : public QObject {
-public:
-    explicit PaintWatch(QWidget& watched) { watched.installEventFilter(this); }
-    bool eventFilter(QObject* watched, QEvent* event) override {
-        is_painted = is_painted || event->type() == QEvent::Paint;
-        return QObject::eventFilter(watched, event);
-    }
-
-    bool is_painted = false;
-};
-
 void send(QWidget& to, QEvent::Type type, QPoint at, Qt::MouseButtons held) {
     QMouseEvent event(type, at, to.mapToGlobal(at), Qt::LeftButton, held, Qt::NoModifier);
     QApplication::sendEvent(&to, &event);
@@ -124,9 +113,9 @@ void click_to_paint(benchmark::State& state, Desk& desk, int column) {
     auto& view = *window.findChild<QTreeView*>(QStringLiteral("list"));
     PaintWatch watch(*view.viewport());
     for (auto _ : state) {
-        watch.is_painted = false;
+        watch.start();
         click(*view.header(), column);
-        while (!watch.is_painted) QApplication::processEvents();
+        watch.wait();
     }
     window.hide();
 }

@@ -11,15 +11,18 @@ namespace {
 constexpr std::array entry_stops = {175, 245};
 constexpr std::size_t most_beside_label = 60; // characters that fit even in the largest print
 
-constexpr double letter_height = 12.2; // units, of the body font
-constexpr int column_gap = 6;
+constexpr double letter_height = 11.93; // units, of the body font
+constexpr int column_gap = 2;
 
-// Shares of the height in the proportional letters of the pages, on the wide side.
+// Shares of the height, in the letters of the pages.
 double width_of(char character) {
-    constexpr std::string_view narrow_ones = " !'(),-./:;I[]fijlrt|", wide_ones = "%@GMOQWmw";
-    if (narrow_ones.find(character) != std::string_view::npos) return 0.3;
-    if (wide_ones.find(character) != std::string_view::npos) return 0.82;
-    return character >= 'A' && character <= 'Z' ? 0.69 : 0.56;
+    const auto is_one_of = [character](std::string_view letters) {
+        return letters.find(character) != std::string_view::npos;
+    };
+    if (is_one_of(" !',./:;I[]fijlt|")) return 0.26;
+    if (is_one_of("()-r")) return 0.33;
+    if (is_one_of("%@GMOQWm")) return 0.84;
+    return character >= 'A' && character <= 'Z' ? 0.68 : 0.55;
 }
 
 std::string cut_to_column(std::string_view text, int units) {
@@ -37,8 +40,10 @@ bool is_control(char c) {
     return static_cast<unsigned char>(c) < ' ' || c == '\x7F';
 }
 
+// For one line: without line ends, tabs and blanks at its end.
 std::string plain(std::string text) {
     std::replace_if(text.begin(), text.end(), is_control, ' ');
+    text.erase(text.find_last_not_of(' ') + 1);
     return text;
 }
 
@@ -64,18 +69,18 @@ void print_heads(PageContext& page, const PrintedList& list) {
 std::string_view first_line(std::string_view text) {
     const auto room = first_characters(text, most_beside_label);
     if (room.size() == text.size()) return text;
-    const auto blank = text.substr(0, room.size() + 1).rfind(' ');
-    return text.substr(0, blank == std::string_view::npos || blank == 0 ? room.size() : blank);
+    const auto blank = text.substr(0, room.size() + 1).find_last_of(' ');
+    const auto last = text.substr(0, blank).find_last_not_of(' ');
+    return blank == std::string_view::npos || last == std::string_view::npos ? room
+                                                                             : text.substr(0, last + 1);
 }
 
 std::vector<std::string_view> wrapped(std::string_view text) {
     std::vector<std::string_view> lines = {first_line(text)};
-    text.remove_prefix(lines.front().size());
-    while (!text.empty()) {
-        text.remove_prefix(std::min(text.find_first_not_of(' '), text.size()));
-        if (text.empty()) break;
-        lines.push_back(first_line(text));
+    while (lines.back().size() < text.size()) {
         text.remove_prefix(lines.back().size());
+        text.remove_prefix(std::min(text.find_first_not_of(' '), text.size()));
+        lines.push_back(first_line(text));
     }
     return lines;
 }

@@ -7,7 +7,9 @@
 namespace wortlex {
 namespace {
 
-constexpr std::uint32_t scale_colour = 0x00DCDCDC;
+// A ground of its own, so that the mark shows in a dark window too.
+constexpr std::uint32_t ground_colour = 0x00F4F4F4;
+constexpr std::uint32_t scale_colour = 0x00D0D0D0;
 constexpr std::uint32_t range_colour = 0x0092C48F;
 constexpr std::uint32_t inside_colour = 0x00303030;
 constexpr std::uint32_t outside_colour = 0x002020C8;
@@ -43,6 +45,7 @@ bool is_in_style(const StyleBand& band) {
 void draw_style_band(Surface& surface, const StyleBand& band) {
     const auto [width, height] = surface.size();
     const int track = std::max(height / 4, 1);
+    fill(surface, {0, 0, width, height}, ground_colour);
     fill(surface, {0, track, width, height - track}, scale_colour);
     const auto place = place_on_band(band);
     if (!place) return;

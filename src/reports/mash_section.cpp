@@ -84,7 +84,6 @@ std::vector<ReportBlock> simple_schedule(const ReportSource& source) {
     const auto& mash = source.open.document.simple_mash;
     if (mash.mash_kind == MashKind::none) return {};
     ReportLines lines{{170, 210, 250}, {type_row(mash.mash_kind)}};
-    lines.rows.back().format += "\n";
     add_amounts(lines.rows, source);
     add_rests(lines.rows, mash, source.open.settings);
     lines.rows.push_back(volume_row(source));

@@ -7,7 +7,6 @@ namespace wortlex {
 namespace {
 
 constexpr int colour_box = 250; // behind the figure that it belongs to
-constexpr int title_tab = 190;  // the middle of the page for a recipe's title at the usual scale
 
 std::string joined(const std::vector<ReportCell>& cells) {
     std::string out;
@@ -26,8 +25,7 @@ void write_row(PageContext& page, std::span<const int> tabs, const ReportRow& ro
 void write(const ReportLines& lines, PageContext& page) {
     for (const auto& row : lines.rows)
         write_row(page, lines.tabs, row,
-                  row.print_format.empty() ? joined(line_cells(row))
-                                           : plain_words(row.print_format, row.values));
+                  row.print_format.empty() ? joined(line_cells(row)) : print_words(row));
 }
 
 // One of the two lines of titles.
@@ -59,7 +57,8 @@ void write(const ReportTable& table, PageContext& page) {
     std::vector<int> tabs;
     for (const auto& column : table.columns)
         if (column.tab > 0) tabs.push_back(column.tab);
-    for (const auto& row : table.rows) write_row(page, tabs, row, joined(table_cells(row)));
+    for (const auto& row : table.rows)
+        write_row(page, tabs, row, row.print_format.empty() ? joined(table_cells(row)) : print_words(row));
 }
 
 void write(const ReportText& text, PageContext& page) {
@@ -115,7 +114,7 @@ void write_print(const DocumentReport& report, PageContext& page) {
     page.ClearHeaders();
     page.SetHeader(0, report.page_title);
     page.SelectFont(PageFont::title);
-    page.TabbedLine({title_tab}, "\t" + report.print_title);
+    page.CentredLine(report.print_title);
     page.Rule();
     std::vector<const ReportSection*> sections;
     for (const auto& section : report.sections) sections.push_back(&section);

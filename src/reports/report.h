@@ -30,7 +30,8 @@ struct ReportValue {
 struct ReportRow {
     std::string format;
     std::vector<ReportValue> values;
-    std::string print_format{};            ///< the words of print where it has its own, tabs between columns
+    /// The words of print where it has its own: tabs between columns, figures as wide as told.
+    std::string print_format{};
     std::optional<std::uint32_t> colour{}; ///< 0x00BBGGRR, of a box beside it in print and HTML
 };
 

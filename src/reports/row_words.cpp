@@ -43,11 +43,12 @@ std::string without_width(std::string_view place) {
     return std::string("%").append(place.substr(place.find_first_not_of("0123456789", 1)));
 }
 
-enum class Width { as_told, as_needed };
+// What takes the width that it is told to, and what only that which it needs.
+enum class Width { as_told, of_figures, as_needed };
 
 std::string value_words(std::string_view place, const ReportValue& value, Width width) {
     if (const auto* number = std::get_if<double>(&value.content))
-        return formatted(width == Width::as_told ? std::string(place) : without_width(place), *number);
+        return formatted(width == Width::as_needed ? without_width(place) : std::string(place), *number);
     const auto& text = std::get<std::string>(value.content);
     return width == Width::as_told && value.width > 0 ? padded(text, value.width) : text;
 }
@@ -138,8 +139,8 @@ std::string text_words(const ReportRow& row) {
     return words(row.format, row.values, Width::as_told);
 }
 
-std::string plain_words(std::string_view format, const std::vector<ReportValue>& values) {
-    return words(without_line_ends(format), values, Width::as_needed);
+std::string print_words(const ReportRow& row) {
+    return words(row.print_format, row.values, Width::of_figures);
 }
 
 std::vector<ReportCell> line_cells(const ReportRow& row) {

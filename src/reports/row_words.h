@@ -20,8 +20,8 @@ std::vector<ReportCell> line_cells(const ReportRow& row);
 /// The columns of a row of a table.
 std::vector<ReportCell> table_cells(const ReportRow& row);
 
-/// `format` with its values, in figures as wide as they need.
-std::string plain_words(std::string_view format, const std::vector<ReportValue>& values);
+/// The row in the words that it has for print alone; texts are as long as they are.
+std::string print_words(const ReportRow& row);
 
 /// How many lines are left blank in front of a row and behind it.
 struct BlankLines {

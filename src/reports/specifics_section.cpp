@@ -46,8 +46,8 @@ ReportRow colour_row(const ReportSource& source) {
 ReportRow evaporation_row(const ReportSource& source) {
     const auto& settings = source.open.settings;
     if (settings.evaporation_by_volume == 0)
-        return {"Evaporation Rate:     %6.2f    Percent Per Hour\n\n", {source.evaporation_rate}};
-    return {"Evaporation Rate:     %6.2f    " + std::string(volume_word(settings)) + " Per Hour\n\n",
+        return {"Evaporation Rate:     %6.2f    Percent Per Hour\n", {source.evaporation_rate}};
+    return {"Evaporation Rate:     %6.2f    " + std::string(volume_word(settings)) + " Per Hour\n",
             {to_shown_volume(source.evaporation_rate, settings)}};
 }
 

@@ -9,6 +9,7 @@ namespace wortlex {
 namespace {
 
 constexpr std::size_t name_width = 21;
+constexpr std::size_t heat_width = 9;
 constexpr std::size_t label_column = 24;
 constexpr double shown_thickness = 0.4784; // a thickness in litres per kilogram is quarts per pound over this
 
@@ -16,7 +17,7 @@ void add_waters(std::vector<ReportRow>& rows, float quarts, std::string_view not
     for (const auto& [shown, unit] : shown_waters(quarts, settings)) {
         const auto label = "Total Water " + std::string(unit) + ":";
         rows.push_back(
-            {padded(label, label_column) + "%8.2f - %s\n", {shown, note}, label + "\t%0.2f\t- %s"});
+            {padded(label, label_column) + "%8.2f - %s\n", {shown, note}, label + "\t%6.2f\t- %s"});
     }
 }
 
@@ -32,7 +33,7 @@ ReportLines opening(const ReportSource& source) {
     lines.rows.push_back({"\nGrain Temp:             %8.2f " + temperature_word(settings) + "\n",
                           {shown_degrees(mash.grain_temperature, settings)}});
     lines.rows.push_back(
-        {"Tun Thermal Mass:       %8.2f\n\n\n", {mash.tun_thermal_mass}, "Tun Thermal Mass :\t%0.2f"});
+        {"Tun Thermal Mass:       %8.2f\n\n\n", {mash.tun_thermal_mass}, "Tun Thermal Mass :\t%6.2f"});
     return lines;
 }
 
@@ -52,19 +53,22 @@ std::vector<ReportColumn> step_columns() {
 void add_heat(ReportRow& row, const MashStep& step, const Settings& settings) {
     const float amount = quarts_to_shown(step.amount, settings);
     const int degrees = shown_degrees(step.infuse_temperature, settings);
-    const auto add = [&row](std::string_view format, std::vector<ReportValue> values) {
+    const auto add = [&row](std::string_view format, std::string_view print,
+                            std::vector<ReportValue> values) {
         row.format += format;
+        row.print_format += print;
         row.values.insert(row.values.end(), values.begin(), values.end());
     };
     if (step.heat_type == StepHeat::direct) {
-        add("%s%s     %s   %s\n", {"Direct   ", "---", "-------", "----"});
+        add("%s%s     %s   %s\n", "%s\t---\t-----\t----", {{"Direct", heat_width}, "---", "-------", "----"});
     } else if (step.heat_type == StepHeat::decoction) {
         const double thickness =
             is_american(settings.volume_units) ? step.ratio : step.ratio / shown_thickness;
-        add("%s%3d     %7.2f   %4.2f (Decoc Thickness)\n",
-            {"Decoc    ", degrees, std::max(amount, 0.0F), thickness});
+        add("%s%3d     %7.2f   %4.2f (Decoc Thickness)\n", "%s\t%3d\t%5.2f\t%4.2f (Decoc Thickness)",
+            {{"Decoc", heat_width}, degrees, std::max(amount, 0.0F), thickness});
     } else {
-        add("%s%3d     %7.2f   %4.2f\n", {"Infuse   ", degrees, amount, step.ratio});
+        add("%s%3d     %7.2f   %4.2f\n", "%s\t%3d\t%5.2f\t%4.2f",
+            {{"Infuse", heat_width}, degrees, amount, step.ratio});
     }
 }
 
@@ -74,7 +78,8 @@ ReportRow step_row(const MashStep& step, const Settings& settings) {
                    step.step_minutes,
                    step.rest_minutes,
                    shown_degrees(step.start_temperature, settings),
-                   shown_degrees(step.stop_temperature, settings)}};
+                   shown_degrees(step.stop_temperature, settings)},
+                  "%s\t%3d\t%3d\t%3d\t%3d\t"};
     add_heat(row, step, settings);
     return row;
 }
@@ -86,7 +91,7 @@ ReportRow volume_row(const ReportSource& source) {
     const bool is_hectolitres = volume_word(settings) == "hL";
     return {padded(label, label_column) + "%8.2f - After Additional Infusions\n\n\n",
             {to_shown_volume(source.open.figures.mash.gallons, settings)},
-            label + "\t%0.2f\t-" + (is_hectolitres ? "" : " ") + "After Additional Infusions"};
+            label + "\t%6.2f\t-" + (is_hectolitres ? "" : " ") + "After Additional Infusions"};
 }
 
 void add_notes(std::vector<ReportRow>& rows, const Settings& settings) {

@@ -194,9 +194,10 @@ TEST(Catalogue, print_has_words_of_its_own) {
     brewery.document.mash_flags = 1;
     const auto pages = brewery.print();
     EXPECT_THAT(pages, HasSubstr("Batch Size (hL):\t0.19\tWort Size (hL):\t0.19"));
-    EXPECT_THAT(pages, HasSubstr("Tun Thermal Mass :\t0.00"));
-    EXPECT_THAT(pages, HasSubstr("Total Mash Volume hL:\t0.14\t-After Additional Infusions"));
-    EXPECT_THAT(pages, HasSubstr("Maltose\t5\t20\t63\t62\tDecoc\t100\t"));
+    EXPECT_THAT(pages, HasSubstr("Tun Thermal Mass :\t  0.00"));
+    EXPECT_THAT(pages, HasSubstr("Total Mash Volume hL:\t  0.14\t-After Additional Infusions"));
+    EXPECT_THAT(pages, HasSubstr("Maltose\t  5\t 20\t 63\t 62\tDecoc\t100\t"));
+    EXPECT_THAT(pages, HasSubstr("\tDirect\t---\t-----\t----\n"));
 }
 
 TEST(Catalogue, clipboard_and_file_get_the_same_bytes_of_utf8) {

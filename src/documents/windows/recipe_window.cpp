@@ -123,7 +123,8 @@ bool RecipeWindow::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void RecipeWindow::reopen() {
-    auto opened = open_recipe_window(editor_.open, program_.recipe_file.loaded_from_file);
+    const auto& file = program_.recipe_file;
+    auto opened = open_recipe_window(editor_.open, file.loaded_from_file || file.recovered);
     start_editing(editor_, {.locks = opened.locks,
                             .show_potential = opened.show_potential,
                             .selected_malt = 0,

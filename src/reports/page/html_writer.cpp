@@ -32,14 +32,14 @@ std::string attribute(std::string_view name, int value) {
     return attribute(name, std::to_string(value));
 }
 
-std::string alignment(HtmlAlign align) {
+std::string_view alignment(HtmlAlign align) {
     switch (align) {
     case HtmlAlign::left:
-        return attribute("ALIGN", "LEFT");
+        return " ALIGN=\"LEFT\"";
     case HtmlAlign::centre:
-        return attribute("ALIGN", "CENTER");
+        return " ALIGN=\"CENTER\"";
     case HtmlAlign::right:
-        return attribute("ALIGN", "RIGHT");
+        return " ALIGN=\"RIGHT\"";
     default:
         return {};
     }
@@ -49,34 +49,48 @@ std::string font(int size, std::string_view colour) {
     return "<FONT" + attribute("SIZE", size) + attribute("FACE", faces) + attribute("COLOR", colour) + '>';
 }
 
+std::string ground(std::uint32_t colour) {
+    return attribute("BGCOLOR", colour_text(colour)) + '>';
+}
+
 struct Escape {
     std::string_view character, markup;
 };
 
+constexpr Escape break_escape = {"\r", "<BR>"};
 constexpr std::array<Escape, 5> escapes = {
     {{"&", "&amp;"}, {"<", "&lt;"}, {">", "&gt;"}, {"\"", "&quot;"}, {html_blank, "&nbsp;"}}};
 
-std::string escaped(std::string_view text) {
-    std::string markup;
-    for (std::size_t i = 0; i < text.size();) {
-        const auto* const escape = std::find_if(escapes.begin(), escapes.end(), [&](const Escape& candidate) {
-            return text.substr(i).starts_with(candidate.character);
-        });
-        const bool is_special = escape != escapes.end();
-        markup.append(is_special ? escape->markup : text.substr(i, 1));
-        i += is_special ? escape->character.size() : 1;
-    }
-    return markup;
+enum class Breaks { kept, as_markup };
+
+// Of what such text begins with: nothing where it stands for itself.
+const Escape* escape_of(std::string_view text, Breaks breaks) {
+    if (breaks == Breaks::as_markup && text.starts_with(break_escape.character)) return &break_escape;
+    const auto* const found = std::find_if(escapes.begin(), escapes.end(), [&](const Escape& candidate) {
+        return text.starts_with(candidate.character);
+    });
+    return found == escapes.end() ? nullptr : found;
 }
 
-std::string with_breaks(std::string_view text) {
+bool may_be_escaped(char byte) {
+    return byte == '&' || byte == '<' || byte == '>' || byte == '"' || byte == '\r' ||
+           byte == html_blank.front();
+}
+
+// Most of a text needs no escape and is copied in long runs.
+std::string escaped(std::string_view text, Breaks breaks = Breaks::kept) {
     std::string markup;
-    for (const char byte : escaped(text)) {
-        if (byte == '\r') {
-            markup += "<BR>";
-        } else {
-            markup += byte;
+    markup.reserve(text.size());
+    while (!text.empty()) {
+        const auto* const escape = escape_of(text, breaks);
+        if (escape != nullptr) {
+            markup += escape->markup;
+            text.remove_prefix(escape->character.size());
+            continue;
         }
+        const auto run = std::find_if(text.begin() + 1, text.end(), may_be_escaped) - text.begin();
+        markup += text.substr(0, static_cast<std::size_t>(run));
+        text.remove_prefix(static_cast<std::size_t>(run));
     }
     return markup;
 }
@@ -88,25 +102,30 @@ bool stands_in_address(char byte) {
 
 } // namespace
 
-HtmlWriter::HtmlWriter(const HtmlTheme& theme)
-    : colours_{{{colour_text(theme.body_background), colour_text(theme.body_text)},
-                {colour_text(theme.heading_background), colour_text(theme.heading_text)},
-                {colour_text(theme.column_heading_background), colour_text(theme.column_heading_text)},
-                {colour_text(theme.descriptor_background), colour_text(theme.descriptor_text)},
-                {colour_text(theme.field_background), colour_text(theme.field_text)}}},
-      border_colour_(colour_text(theme.border)), theme_(theme) {}
+HtmlWriter::AreaMarkup::AreaMarkup(std::uint32_t background, std::uint32_t text, int font_size)
+    : ground(wortlex::ground(background)), font(wortlex::font(font_size, colour_text(text))),
+      heading_font(wortlex::font(font_size + 1, colour_text(text)) + "<B>") {}
 
-const HtmlWriter::Colours& HtmlWriter::colours(HtmlArea area) const {
-    return colours_.at(static_cast<std::size_t>(area));
+HtmlWriter::HtmlWriter(const HtmlTheme& theme)
+    : areas_{{{theme.body_background, theme.body_text, theme.font_size},
+              {theme.heading_background, theme.heading_text, theme.font_size},
+              {theme.column_heading_background, theme.column_heading_text, theme.font_size},
+              {theme.descriptor_background, theme.descriptor_text, theme.font_size},
+              {theme.field_background, theme.field_text, theme.font_size}}},
+      theme_(theme) {}
+
+const HtmlWriter::AreaMarkup& HtmlWriter::markup_of(HtmlArea area) const {
+    return areas_.at(static_cast<std::size_t>(area));
 }
 
-void HtmlWriter::line(std::string_view markup) {
+template <class... Parts>
+void HtmlWriter::line(const Parts&... parts) {
     for (int step = 0; step < depth_; ++step) page_ += indent;
-    page_.append(markup) += '\n';
+    (page_.append(parts), ...);
+    page_ += '\n';
 }
 
 void HtmlWriter::page_start(std::string_view title) {
-    const auto& body = colours(HtmlArea::body);
     line("<!DOCTYPE HTML PUBLIC 'Generated by Wortlex'>");
     line("<HTML>");
     line("<HEAD>");
@@ -115,10 +134,11 @@ void HtmlWriter::page_start(std::string_view title) {
     line("<TITLE>" + escaped(title) + "</TITLE>");
     line("<META" + attribute("HTTP-EQUIV", "Keywords") + attribute("CONTENT", keywords) + '>');
     line("</HEAD>");
-    line("<BODY" + attribute("BGCOLOR", body.background) + attribute("TEXT", body.text) + '>');
+    line("<BODY", attribute("BGCOLOR", colour_text(theme_.body_background)),
+         attribute("TEXT", colour_text(theme_.body_text)), ">");
     line("<TABLE" + attribute("BORDER", 0) + attribute("CELLSPACING", 0) + attribute("CELLPADDING", 0) +
          attribute("WIDTH", 550) + "><TR><TD>");
-    line(font(theme_.font_size, body.text));
+    line(markup_of(HtmlArea::body).font);
 }
 
 void HtmlWriter::page_end() {
@@ -131,11 +151,12 @@ void HtmlWriter::page_end() {
 }
 
 void HtmlWriter::table_start() {
+    const auto border = colour_text(theme_.border);
     page_ += '\n';
-    line("<TABLE" + attribute("BORDER", theme_.borders == 0 ? 0 : 1) +
-         attribute("CELLSPACING", theme_.cell_spacing) + attribute("CELLPADDING", theme_.cell_padding) +
-         attribute("BORDERCOLOR", border_colour_) + attribute("BORDERCOLORLIGHT", border_colour_) +
-         attribute("BORDERCOLORDARK", border_colour_) + '>');
+    line("<TABLE", attribute("BORDER", theme_.borders == 0 ? 0 : 1),
+         attribute("CELLSPACING", theme_.cell_spacing), attribute("CELLPADDING", theme_.cell_padding),
+         attribute("BORDERCOLOR", border), attribute("BORDERCOLORLIGHT", border),
+         attribute("BORDERCOLORDARK", border), ">");
     ++depth_;
     row_start();
 }
@@ -160,15 +181,15 @@ void HtmlWriter::row_end() {
     line("</TR>");
 }
 
-void HtmlWriter::open_cell(std::string_view width, HtmlAlign align, std::string_view background) {
-    line(std::string("<TD").append(width) + attribute("VALIGN", "TOP") + alignment(align) +
-         attribute("BGCOLOR", background) + '>');
+void HtmlWriter::open_cell(std::string_view width, HtmlAlign align, std::string_view ground,
+                           std::string_view font) {
+    line("<TD", width, " VALIGN=\"TOP\"", alignment(align), ground);
     ++depth_;
+    line(font);
 }
 
 void HtmlWriter::cell_start(int width, HtmlAlign align, HtmlArea area) {
-    open_cell(attribute("WIDTH", width), align, colours(area).background);
-    line(font(theme_.font_size, colours(area).text));
+    open_cell(attribute("WIDTH", width), align, markup_of(area).ground, markup_of(area).font);
 }
 
 void HtmlWriter::right_cell_start(int width, HtmlAlign align, HtmlArea area) {
@@ -182,35 +203,34 @@ void HtmlWriter::left_cell_start(int width, HtmlAlign align, HtmlArea area) {
 }
 
 void HtmlWriter::heading_cell_start(HtmlAlign align, HtmlArea area) {
-    open_cell({}, align, colours(area).background);
-    line(font(theme_.font_size + 1, colours(area).text) + "<B>");
+    open_cell({}, align, markup_of(area).ground, markup_of(area).heading_font);
 }
 
 void HtmlWriter::colour_cell_start(int width, HtmlAlign align, std::uint32_t colour) {
-    open_cell(attribute("WIDTH", width), align, colour_text(colour));
-    line(font(theme_.font_size, colours(HtmlArea::body).text));
+    open_cell(attribute("WIDTH", width), align, ground(colour), markup_of(HtmlArea::body).font);
 }
 
-void HtmlWriter::close_cell(std::string_view markup) {
-    line(markup);
+void HtmlWriter::close_cell(std::string_view markup, std::string_view end) {
+    line(markup, end);
     --depth_;
     line("</TD>");
 }
 
 void HtmlWriter::cell_end(std::string_view text) {
-    close_cell(escaped(text) + "</FONT>");
+    close_cell(escaped(text), "</FONT>");
 }
 
 void HtmlWriter::bold_cell_end(std::string_view text) {
-    close_cell(with_breaks(text) + "</B></FONT>");
+    close_cell(escaped(text, Breaks::as_markup), "</B></FONT>");
 }
 
 void HtmlWriter::italic_cell_end(std::string_view text) {
-    close_cell(text.empty() ? "</FONT>" : "<I>" + escaped(text) + "</I></FONT>");
+    if (text.empty()) return close_cell({}, "</FONT>");
+    close_cell("<I>" + escaped(text), "</I></FONT>");
 }
 
 void HtmlWriter::multi_line_cell_end(std::string_view text) {
-    close_cell(with_breaks(text) + "</FONT>");
+    close_cell(escaped(text, Breaks::as_markup), "</FONT>");
 }
 
 void HtmlWriter::rule() {

@@ -65,18 +65,22 @@ public:
     const std::string& page() const { return page_; }
 
 private:
-    struct Colours {
-        std::string background;
-        std::string text;
+    // What the cells of an area share, ready to be written.
+    struct AreaMarkup {
+        AreaMarkup(std::uint32_t background, std::uint32_t text, int font_size);
+
+        std::string ground; // the last attribute of the cell
+        std::string font;
+        std::string heading_font;
     };
 
-    const Colours& colours(HtmlArea area) const;
-    void line(std::string_view markup);
-    void open_cell(std::string_view width, HtmlAlign align, std::string_view background);
-    void close_cell(std::string_view markup);
+    const AreaMarkup& markup_of(HtmlArea area) const;
+    template <class... Parts>
+    void line(const Parts&... parts);
+    void open_cell(std::string_view width, HtmlAlign align, std::string_view ground, std::string_view font);
+    void close_cell(std::string_view markup, std::string_view end);
 
-    std::array<Colours, 5> colours_;
-    std::string border_colour_;
+    std::array<AreaMarkup, 5> areas_;
     HtmlTheme theme_;
     std::string page_;
     int depth_ = 0;

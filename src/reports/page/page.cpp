@@ -180,12 +180,27 @@ void PageContext::advance(int dots) {
     if (y_ + top_margin > lines_on_page_ * line_pitch_) EndPage();
 }
 
-void PageContext::TabbedLine(std::span<const int> stops, std::string_view text) {
+void PageContext::start_line() {
     begin_line(pitch());
     use(font_of(font_));
-    write(text, stops);
+}
+
+void PageContext::end_line() {
     advance(pitch());
     font_ = PageFont::body;
+}
+
+void PageContext::TabbedLine(std::span<const int> stops, std::string_view text) {
+    start_line();
+    write(text, stops);
+    end_line();
+}
+
+void PageContext::CentredLine(std::string_view text) {
+    start_line();
+    const int free = job_.paper.area.width - page().text_extent(text).width;
+    page().text({std::max(free / 2, left_margin_), y_}, text);
+    end_line();
 }
 
 void PageContext::NewLines(int count) {

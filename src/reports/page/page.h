@@ -56,6 +56,8 @@ public:
     void TabbedLine(std::initializer_list<int> stops, std::string_view text) {
         TabbedLine(std::span<const int>(stops.begin(), stops.size()), text);
     }
+    /// In the middle between the margins; a text too long for them begins at the left one.
+    void CentredLine(std::string_view text);
     /// A long text in lines of 101 characters. Carriage returns end lines, line feeds are dropped.
     void Paragraph(std::string_view text);
 
@@ -98,6 +100,8 @@ private:
     bool fits(int dots) const;
     void begin_line(int height);
     void begin_page();
+    void start_line();
+    void end_line();
     void write_title(const std::string& title);
     void write(std::string_view text, std::span<const int> positions);
     void advance(int dots);

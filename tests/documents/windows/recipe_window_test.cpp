@@ -1,3 +1,4 @@
+#include "frame/recovery.h"
 #include "support/qt_keys.h"
 #include "support/started_brewery.h"
 
@@ -194,6 +195,27 @@ TEST(RecipeWindow, UndoIsTheRecipesInEveryField) {
                            "The current recipe has been modified!\nDo you want to save the changes?",
                            Answer::no, Icon::question);
     EXPECT_TRUE(kitchen.recipe->close());
+}
+
+TEST(RecipeWindow, ShowsRecoveredWorkAsItWas) {
+    Kitchen kitchen;
+    kitchen.program.document.efficiency = 0.6F;
+    KeepWork(kitchen.program);
+    kitchen.program.document.efficiency = 0.9F;
+    kitchen.prompts.expect("yes/no",
+                           "Wortlex ended before your work on a new recipe was saved.\nDo you want to open it "
+                           "as it was? If you answer No it is discarded.",
+                           Answer::yes, Icon::question);
+    kitchen.main->offer_unsaved_work();
+    auto* const recipe = open_recipe_window();
+    ASSERT_NE(recipe, nullptr);
+    EXPECT_EQ(line_of(*recipe->findChild<QWidget*>("efficiency"))->text(), "60");
+    EXPECT_EQ(recipe->windowTitle(), "* - Wortlex Recipe Formulation");
+    kitchen.prompts.expect("yes/no/cancel",
+                           "The current recipe has been modified!\nDo you want to save the changes?",
+                           Answer::no, Icon::question);
+    EXPECT_TRUE(recipe->close());
+    EXPECT_EQ(FindWork(kitchen.folder.path()), std::nullopt) << "left knowingly";
 }
 
 } // namespace

@@ -1,0 +1,77 @@
+#include "databases/hops.h"
+#include "databases/store.h"
+#include "databases/windows/list_window.h"
+#include "documents/windows/simple_mash_printout.h"
+#include "documents/windows/simple_mash_window.h"
+#include "support/desk.h"
+#include "support/recording_desk.h"
+#include "support/temporary_folder.h"
+
+#include <gmock/gmock.h>
+
+#include <QPushButton>
+
+namespace wortlex {
+namespace {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsSupersetOf;
+
+QPushButton& print_button(const QWidget& window) {
+    return *window.findChild<QPushButton*>("print");
+}
+
+TEST(ListWindowPrint, ShowsThePagesAtTheScaleOfTheSettings) {
+    const TemporaryFolder folder;
+    Settings settings;
+    settings.printer_scale = 0.5F;
+    ToolPositions positions;
+    ScriptedPrompts prompts;
+    ScriptedFiles files;
+    RecordingPageDesk desk;
+    Database<HopRecord> database;
+    database.slots.resize(database_slots);
+    SaveHops(folder.path(), database);
+    Store<HopRecord> store(hop_catalogue(settings, folder.path()), ListSide::maintenance, folder.path(),
+                           database);
+    store.open(prompts);
+    const ListWindow window(store, {{positions, settings}, files, prompts, &desk}, Opener::main, nullptr,
+                            nullptr);
+    print_button(window).click();
+    ASSERT_EQ(desk.scales, std::vector<float>{0.5F});
+    EXPECT_EQ(desk.jobs.front().document_name, "Wortlex Hop List - All Hops");
+    const ListWindow silent(store, {{positions, settings}, files, prompts}, Opener::main, nullptr, nullptr);
+    EXPECT_FALSE(print_button(silent).isEnabled());
+}
+
+TEST(SimpleMashPrint, TellsTheScheduleUnderWork) {
+    Program program;
+    auto& settings = program.settings;
+    settings.volume_units = settings.weight_units = Units::american;
+    settings.temperature_units = TemperatureUnits::fahrenheit;
+    settings.grain_water_volume = 1.32F;
+    settings.printer_scale = 0.75F;
+    program.document.title.assign("Stout");
+    program.document.simple_mash.dough_in_water = 99;
+    SimpleMashWork work{.mash = {}, .ratio = 1.2F, .grain = 10};
+    work.mash.mash_kind = MashKind::single_step;
+    work.mash.dough_in_water = 12;
+    work.mash.saccharification = {.temperature = 155, .minutes = 60};
+    RecordingPageDesk desk;
+    SimpleMashWindow window(
+        program, work,
+        {.mash_grain = nullptr, .accepted = nullptr, .revert_to_complex = nullptr, .pages = &desk}, nullptr);
+    print_button(window).click();
+    std::vector<std::string> lines;
+    for (const auto& text : texts_on(desk.jobs.front(), 0)) lines.push_back(text.substr(text.find(' ') + 1));
+    EXPECT_THAT(lines, IsSupersetOf({"Wortlex Recipe - Mash Details Printout", "Recipe:\tStout",
+                                     "Mash Type:\tSingle Step", "Grain Lbs:\t10.00",
+                                     "Water Qts:\t12.00 - Before Additional Infusions",
+                                     "Saccharification Rest Temp:\t155\tTime:\t60",
+                                     "Total Mash Volume Gal:\t3.80 - After Additioanl Infusions"}));
+    EXPECT_EQ(program.document.simple_mash.dough_in_water, 99) << "the document has not taken it over";
+}
+
+} // namespace
+} // namespace wortlex
