@@ -1,5 +1,5 @@
-// The recipe window with 25 malts and 25 hops: what it takes to open, and from a keystroke until all figures are
-// painted anew.
+// The recipe window with 25 malts and 25 hops: what it takes to open, and from a keystroke until all figures
+// are painted anew.
 #include "base/ports/quiet_prompts.h"
 #include "desktop/desk.h"
 #include "desktop/print_preview.h"

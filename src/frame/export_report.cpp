@@ -52,8 +52,8 @@ void print(const WindowPorts& ports, const DocumentReport& report, const std::st
 void export_recipe(const WindowPorts& ports, const RecipeView& view) {
     auto& program = ports.program;
     const auto open = open_recipe(program);
-    const auto report = document_report({open, view, program.color_table, evaporation_rate(program)},
-                                        program.recipe_print);
+    const auto report =
+        document_report({open, view, program.color_table, evaporation_rate(program)}, program.recipe_print);
     const auto title = utf8_from_windows1252(program.document.title.view());
     const auto name = recipe_file_name(title, ReportOutput::report);
     switch (report_form(program.recipe_print)) {
@@ -72,9 +72,8 @@ void export_recipe(const WindowPorts& ports, const RecipeView& view) {
 }
 
 void save_as_default(const PrintSelection& selection, const std::string& data_folder, Prompts& prompts) {
-    const Message question{
-        .text = "Really save these settings as the recipe formulation print defaults?",
-        .icon = Icon::question};
+    const Message question{.text = "Really save these settings as the recipe formulation print defaults?",
+                           .icon = Icon::question};
     if (prompts.ask_yes_no(question) != Answer::yes) return;
     if (!SavePrintSelection(data_folder, DocumentKind::recipe, selection))
         prompts.tell({.text = "The print defaults could not be written. Is the disk full, or the folder "

@@ -32,13 +32,12 @@ void graph_rows(Rows& rows, PrintSelection& selection) {
 }
 
 void output_rows(Rows& rows, PrintSelection& selection, const PrintOptionsActions& actions) {
-    rows.choice("form",
-                {[&selection] { return static_cast<std::int32_t>(report_form(selection)); },
-                 [&selection](std::int32_t form) {
-                     set_report_form(selection, static_cast<ReportForm>(form));
-                 }},
-                {"&Print to Printer", "Export to &Text File", "Export to &HTML File (webpage)",
-                 "&Copy to Clipboard"})
+    rows.choice(
+            "form",
+            {[&selection] { return static_cast<std::int32_t>(report_form(selection)); },
+             [&selection](std::int32_t form) { set_report_form(selection, static_cast<ReportForm>(form)); }},
+            {"&Print to Printer", "Export to &Text File", "Export to &HTML File (webpage)",
+             "&Copy to Clipboard"})
         .look(ChoiceRow::Look::down);
     rows.check("competition_form", selection[PrintSection::competition_form])
         .label("As Competition Form")

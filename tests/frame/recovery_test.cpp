@@ -28,16 +28,15 @@ struct Kitchen {
     }
 };
 
-constexpr const char* question_about_file =
-    "Wortlex ended before your work on Alt.rec was saved.\nDo you want to open it as it was? If you answer No "
-    "it is discarded.";
+constexpr const char* question_about_file = "Wortlex ended before your work on Alt.rec was saved.\nDo you "
+                                            "want to open it as it was? If you answer No "
+                                            "it is discarded.";
 
 TEST(Recovery, BringsBackWhatABrokenRunLeft) {
     Kitchen run;
     std::ofstream(run.folder / "Alt.rec") << "old";
-    run.program.recipe_file = {.path = run.folder / "Alt.rec",
-                               .loaded_from_file = true,
-                               .stamp = stamp_of(run.folder / "Alt.rec")};
+    run.program.recipe_file = {
+        .path = run.folder / "Alt.rec", .loaded_from_file = true, .stamp = stamp_of(run.folder / "Alt.rec")};
     ASSERT_TRUE(KeepWork(run.program));
     EXPECT_EQ(run.program.document.mash_flags, 1) << "keeping is not saving";
     const auto kept = run.program.recipe_file.stamp;
@@ -101,7 +100,8 @@ TEST(ExportReport, ReachesPaperFilesAndClipboard) {
     exports.send(ReportForm::clipboard);
     exports.send(ReportForm::print);
     EXPECT_EQ(exports.clipboard.texts, std::vector{exports.content(text)}) << "the same bytes";
-    EXPECT_THAT(exports.content(html), testing::HasSubstr("<TITLE>A Wortlex Recipe - What is it? 1/2</TITLE>"));
+    EXPECT_THAT(exports.content(html),
+                testing::HasSubstr("<TITLE>A Wortlex Recipe - What is it? 1/2</TITLE>"));
     ASSERT_EQ(exports.pages.jobs.size(), 1U);
     EXPECT_EQ(exports.pages.scales, std::vector{exports.program.settings.printer_scale});
     EXPECT_EQ(exports.send(ReportForm::text_file, {std::nullopt}).size(), 1U) << "left: nothing is written";

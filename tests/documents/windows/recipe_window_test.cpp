@@ -202,10 +202,11 @@ TEST(RecipeWindow, ShowsRecoveredWorkAsItWas) {
     kitchen.program.document.efficiency = 0.6F;
     KeepWork(kitchen.program);
     kitchen.program.document.efficiency = 0.9F;
-    kitchen.prompts.expect("yes/no",
-                           "Wortlex ended before your work on a new recipe was saved.\nDo you want to open it "
-                           "as it was? If you answer No it is discarded.",
-                           Answer::yes, Icon::question);
+    kitchen.prompts.expect(
+        "yes/no",
+        "Wortlex ended before your work on a new recipe was saved.\nDo you want to open it "
+        "as it was? If you answer No it is discarded.",
+        Answer::yes, Icon::question);
     kitchen.main->offer_unsaved_work();
     auto* const recipe = open_recipe_window();
     ASSERT_NE(recipe, nullptr);
