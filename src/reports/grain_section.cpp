@@ -61,9 +61,9 @@ ReportSection grain_section(const ReportSource& source) {
     ReportTable list;
     list.columns = {{"%", 3, 0, 45, HtmlAlign::right},
                     {"Amount", 9, 40, 85, HtmlAlign::right},
-                    {"Name", 20, 120, 210},
+                    {"Name", 20, 120, 205},
                     {"Origin", 50, 300, 90},
-                    {source.view.show_potential ? "Potential" : "Extract", 64, 390, 70, HtmlAlign::right},
+                    {source.view.show_potential ? "Potential" : "Extract", 64, 390, 75, HtmlAlign::right},
                     {std::string(colour_word(source.open.settings)), 74, 460, 50, HtmlAlign::right}};
     const auto format = " %4.1f %8.2f " + std::string(grain_column_word(source.open.settings)) + " %s %s " +
                         value_column(source) + "%4.0f\n";

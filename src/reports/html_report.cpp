@@ -7,7 +7,7 @@
 namespace wortlex {
 namespace {
 
-constexpr std::size_t page_width = 550;
+constexpr int page_width = 550; // to which the columns of every list add up
 
 using Cells = std::vector<ReportCell>;
 
@@ -20,6 +20,11 @@ void write_heading(HtmlWriter& page, const std::string& heading) {
 
 std::string_view or_blank(const std::string& text) {
     return text.empty() ? html_blank : std::string_view(text);
+}
+
+// The width of a cell that shall take `share` pixels of the page, so that all tables end at the same place.
+int width_of(int share, const HtmlWriter& page) {
+    return std::max(share - page.cell_frame(), 1);
 }
 
 void write_cell(HtmlWriter& page, const ReportCell& cell, int width) {
@@ -41,14 +46,21 @@ std::size_t columns_of(const ReportRow& row, const Cells& cells) {
     return cells.size() + (row.colour ? 1 : 0);
 }
 
+// The width of one of `columns` cells that share the page.
+int shared_width(std::size_t at, std::size_t columns, const HtmlWriter& page) {
+    const auto left = [columns](std::size_t cell) { return page_width * cell / columns; };
+    return width_of(static_cast<int>(left(at + 1) - left(at)), page);
+}
+
 void write_line(HtmlWriter& page, const ReportRow& row, const Cells& cells, std::size_t columns) {
-    const auto width = static_cast<int>(page_width / columns);
-    for (const auto& cell : cells) write_cell(page, cell, width);
+    std::size_t at = 0;
+    const auto next_width = [&] { return shared_width(at++, columns, page); };
+    for (const auto& cell : cells) write_cell(page, cell, next_width());
     if (row.colour) {
-        page.colour_cell_start(width, HtmlAlign::left, *row.colour);
+        page.colour_cell_start(next_width(), HtmlAlign::left, *row.colour);
         page.cell_end(html_two_blanks);
     }
-    for (auto at = columns_of(row, cells); at < columns; ++at) write_cell(page, {}, width);
+    while (at < columns) write_cell(page, {}, next_width());
 }
 
 // Rows that share a table: as far as the next blank line, and either all sentences or none.
@@ -66,7 +78,7 @@ void write_sentences(HtmlWriter& page, const Run& run) {
     std::string text;
     for (const auto& cells : run.cells) text += (text.empty() ? "" : "\r") + cells.front().text;
     page.table_start();
-    page.left_cell_start(page_width, HtmlAlign::left, HtmlArea::field);
+    page.left_cell_start(width_of(page_width, page), HtmlAlign::left, HtmlArea::field);
     page.multi_line_cell_end(text);
     page.table_end();
 }
@@ -108,33 +120,36 @@ void write_title(HtmlWriter& page, const ReportColumn& column) {
     page.bold_cell_end(title);
 }
 
-void write_list_cell(HtmlWriter& page, const ReportColumn& column, const Cells& cells, std::size_t at) {
-    const auto text = at < cells.size() ? or_blank(cells[at].text) : html_blank;
+void write_list_cell(HtmlWriter& page, const ReportColumn& column, std::string_view text) {
+    const int width = width_of(column.width, page);
     if (column.align == HtmlAlign::right) {
-        page.right_cell_start(column.width, column.align, HtmlArea::field);
+        page.right_cell_start(width, column.align, HtmlArea::field);
     } else {
-        page.left_cell_start(column.width, column.align, HtmlArea::field);
+        page.left_cell_start(width, column.align, HtmlArea::field);
     }
     page.cell_end(text);
 }
 
+void write_list_row(HtmlWriter& page, const ReportTable& table, const Cells& cells) {
+    page.row_start();
+    for (std::size_t i = 0; i < table.columns.size(); ++i)
+        write_list_cell(page, table.columns[i], i < cells.size() ? or_blank(cells[i].text) : html_blank);
+    page.row_end();
+}
+
+// Titles have no width of their own, so that an empty list needs an empty row.
 void write(const ReportTable& table, HtmlWriter& page) {
     page.table_start();
     for (const auto& column : table.columns) write_title(page, column);
     page.row_end();
-    for (const auto& row : table.rows) {
-        const auto cells = table_cells(row);
-        page.row_start();
-        for (std::size_t i = 0; i < table.columns.size(); ++i)
-            write_list_cell(page, table.columns[i], cells, i);
-        page.row_end();
-    }
+    for (const auto& row : table.rows) write_list_row(page, table, table_cells(row));
+    if (table.rows.empty()) write_list_row(page, table, {});
     page.bare_table_end();
 }
 
 void write(const ReportText& text, HtmlWriter& page) {
     page.table_start();
-    page.left_cell_start(page_width, HtmlAlign::left, HtmlArea::field);
+    page.left_cell_start(width_of(page_width, page), HtmlAlign::left, HtmlArea::field);
     page.multi_line_cell_end(or_blank(text.text));
     page.table_end();
 }

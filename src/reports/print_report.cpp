@@ -52,13 +52,28 @@ void write_titles(const ReportTable& table, PageContext& page) {
     page.TabbedLine(tabs, second);
 }
 
+// No column runs into the next one: a long name is cut off.
+std::string fitted(const PageContext& page, std::span<const int> tabs, std::string_view words) {
+    std::string out;
+    int from = 0;
+    for (const int to : tabs) {
+        const auto end = std::min(words.find('\t'), words.size());
+        out += page.fitted(words.substr(0, end), from, to) + '\t';
+        words.remove_prefix(std::min(end + 1, words.size()));
+        from = to;
+    }
+    return out.append(words);
+}
+
 void write(const ReportTable& table, PageContext& page) {
     write_titles(table, page);
     std::vector<int> tabs;
     for (const auto& column : table.columns)
         if (column.tab > 0) tabs.push_back(column.tab);
-    for (const auto& row : table.rows)
-        write_row(page, tabs, row, row.print_format.empty() ? joined(table_cells(row)) : print_words(row));
+    for (const auto& row : table.rows) {
+        const auto words = row.print_format.empty() ? joined(table_cells(row)) : print_words(row);
+        write_row(page, tabs, row, fitted(page, tabs, words));
+    }
 }
 
 void write(const ReportText& text, PageContext& page) {

@@ -25,8 +25,8 @@ struct ReportValue {
     std::size_t width = 0;
 };
 
-/// One line. In `format` every place is "%f" or "%d" with width and decimals, "%s" or "%c"; `\n` ends the
-/// line and, in front or behind it, leaves one blank.
+/// One line. In `format` every place is "%f" or "%d" with width and decimals, "%s" or "%c"; `\t` ends a
+/// column where the text form shows none; `\n` ends the line and, in front or behind it, leaves one blank.
 struct ReportRow {
     std::string format;
     std::vector<ReportValue> values;

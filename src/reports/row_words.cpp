@@ -9,6 +9,7 @@ namespace wortlex {
 namespace {
 
 constexpr std::string_view blanks = " \t\n";
+constexpr char column_end = '\t';
 
 // A pattern cut at its places.
 struct Piece {
@@ -116,8 +117,9 @@ private:
     std::vector<ReportCell> cells_;
 };
 
-// Whether a column ends at a blank of a pattern: there are two, or a colon stands before it.
+// Whether a column ends in a pattern: it says so, or at a blank there are two, or a colon stands before it.
 bool ends_column(std::string_view literal, std::size_t at) {
+    if (literal[at] == column_end) return true;
     if (literal[at] != ' ') return false;
     const bool behind_colon = at > 0 && literal[at - 1] == ':';
     return behind_colon || (at + 1 < literal.size() && literal[at + 1] == ' ');
@@ -136,7 +138,9 @@ void add_literal(CellRow& row, std::string_view literal) {
 } // namespace
 
 std::string text_words(const ReportRow& row) {
-    return words(row.format, row.values, Width::as_told);
+    auto format = row.format;
+    std::erase(format, column_end);
+    return words(format, row.values, Width::as_told);
 }
 
 std::string print_words(const ReportRow& row) {

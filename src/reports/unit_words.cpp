@@ -98,12 +98,12 @@ std::string plato_place(int width, const Settings& settings) {
 
 std::string sg_column(int width, int gap, const Settings& settings) {
     const int more = more_decimals(settings.sg_precision);
-    return sg_place(width + more, settings) + blanks(gap - more);
+    return sg_place(width + more, settings) + '\t' + blanks(gap - more);
 }
 
 std::string plato_column(int width, int gap, const Settings& settings) {
     const int more = more_decimals(settings.plato_precision);
-    return plato_place(width + more, settings) + blanks(gap - more);
+    return plato_place(width + more, settings) + '\t' + blanks(gap - more);
 }
 
 int shown_degrees(std::int32_t fahrenheit, const Settings& settings) {

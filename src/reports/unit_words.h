@@ -35,7 +35,7 @@ std::string unit_label(std::string_view text, std::string_view unit, std::size_t
 std::string sg_place(int width, const Settings& settings);
 std::string plato_place(int width, const Settings& settings);
 /// The same, with blanks behind it: `width` and `gap` are those of the fewest decimals, and each one more
-/// takes a blank of the gap, so that point and next column stay where they are.
+/// takes a blank of the gap, so that point and next column stay where they are. The column ends in any case.
 std::string sg_column(int width, int gap, const Settings& settings);
 std::string plato_column(int width, int gap, const Settings& settings);
 

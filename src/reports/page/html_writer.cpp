@@ -188,6 +188,12 @@ void HtmlWriter::open_cell(std::string_view width, HtmlAlign align, std::string_
     line(font);
 }
 
+// A theme may hold any figures.
+int HtmlWriter::cell_frame() const {
+    const auto sensible = [](int pixels) { return std::clamp(pixels, 0, 100); };
+    return 2 * sensible(theme_.cell_padding) + sensible(theme_.cell_spacing) + (theme_.borders == 0 ? 0 : 2);
+}
+
 void HtmlWriter::cell_start(int width, HtmlAlign align, HtmlArea area) {
     open_cell(attribute("WIDTH", width), align, markup_of(area).ground, markup_of(area).font);
 }

@@ -38,6 +38,9 @@ public:
     void row_start();
     void row_end();
 
+    /// What a cell takes beside its width, in pixels: its padding and its borders.
+    int cell_frame() const;
+
     /// A cell; `width` in pixels.
     void cell_start(int width, HtmlAlign align, HtmlArea area);
     /// Without borders an aligned cell goes to the right, or to the left, whatever is asked for.

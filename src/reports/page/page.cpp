@@ -13,6 +13,7 @@ constexpr int page_units = 640;  // to the width of an upright page
 constexpr int margin_units = 45; // from the left of the area
 constexpr int top_margin = 113;  // dots, whatever the printer
 constexpr int usual_lines = 66;  // on a page, where the printer cannot tell
+constexpr int column_gap = 4;    // units
 constexpr int rule_units = 6;    // thickness of a rule, in tenths
 constexpr int paragraph_columns = 101;
 constexpr int lines_with_paragraph = 4;
@@ -201,6 +202,14 @@ void PageContext::CentredLine(std::string_view text) {
     const int free = job_.paper.area.width - page().text_extent(text).width;
     page().text({std::max(free / 2, left_margin_), y_}, text);
     end_line();
+}
+
+std::string PageContext::fitted(std::string_view text, int from, int to) const {
+    const int room = tab(to) - tab(from) - truncate(column_gap * printer_scale_ * scale_);
+    measure_->set_font(font_of(font_));
+    while (measure_->text_extent(text).width > room && !text.empty())
+        text = first_characters(text, character_count(text) - 1);
+    return std::string(text);
 }
 
 void PageContext::NewLines(int count) {

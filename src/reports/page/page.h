@@ -58,6 +58,8 @@ public:
     }
     /// In the middle between the margins; a text too long for them begins at the left one.
     void CentredLine(std::string_view text);
+    /// As much of a text, in the chosen font, as fits between two tab positions and leaves a gap there.
+    std::string fitted(std::string_view text, int from, int to) const;
     /// A long text in lines of 101 characters. Carriage returns end lines, line feeds are dropped.
     void Paragraph(std::string_view text);
 

@@ -14,15 +14,13 @@
 namespace wortlex {
 namespace {
 
-using testing::ElementsAre;
-using testing::HasSubstr;
 using testing::IsSupersetOf;
 
 QPushButton& print_button(const QWidget& window) {
     return *window.findChild<QPushButton*>("print");
 }
 
-TEST(ListWindowPrint, ShowsThePagesAtTheScaleOfTheSettings) {
+TEST(ListWindowPrint, ShowsListAndEntryAtTheScaleOfTheSettings) {
     const TemporaryFolder folder;
     Settings settings;
     settings.printer_scale = 0.5F;
@@ -30,19 +28,16 @@ TEST(ListWindowPrint, ShowsThePagesAtTheScaleOfTheSettings) {
     ScriptedPrompts prompts;
     ScriptedFiles files;
     RecordingPageDesk desk;
-    Database<HopRecord> database;
-    database.slots.resize(database_slots);
-    SaveHops(folder.path(), database);
-    Store<HopRecord> store(hop_catalogue(settings, folder.path()), ListSide::maintenance, folder.path(),
-                           database);
-    store.open(prompts);
-    const ListWindow window(store, {{positions, settings}, files, prompts, &desk}, Opener::main, nullptr,
+    Database<HopRecord> hops;
+    Store<HopRecord> list(hop_catalogue(settings, folder.path()), ListSide::pick, folder.path(), hops);
+    EXPECT_FALSE(dynamic_cast<ButtonRow&>(list.new_entry(prompts)->form.row("print")).press) << "no desk";
+    const ListWindow window(list, {{positions, settings}, files, prompts, &desk}, Opener::main, nullptr,
                             nullptr);
     print_button(window).click();
-    ASSERT_EQ(desk.scales, std::vector<float>{0.5F});
-    EXPECT_EQ(desk.jobs.front().document_name, "Wortlex Hop List - All Hops");
-    const ListWindow silent(store, {{positions, settings}, files, prompts}, Opener::main, nullptr, nullptr);
-    EXPECT_FALSE(print_button(silent).isEnabled());
+    dynamic_cast<ButtonRow&>(list.new_entry(prompts)->form.row("print")).press();
+    ASSERT_EQ(desk.scales, (std::vector{0.5F, 0.5F}));
+    EXPECT_EQ(desk.jobs[0].document_name, "Wortlex Hop List - All Hops");
+    EXPECT_EQ(desk.jobs[1].document_name, "Wortlex Hop Detail");
 }
 
 TEST(SimpleMashPrint, TellsTheScheduleUnderWork) {
