@@ -36,8 +36,8 @@ ReportSection extras_section(const ReportSource& source) {
     ReportTable list;
     list.columns = {{"Amount", 2, 0, 90, HtmlAlign::right},
                     {"Name", 14, 90, 230},
-                    {"Type", 45, 290, 80},
-                    {"Time", 55, 350, 150}};
+                    {"Type", 45, 325, 80},
+                    {"Time", 55, 385, 150}};
     for (const auto& line : source.open.document.extras) list.rows.push_back(row(line));
     return section_of("Extras", std::move(list));
 }

@@ -62,9 +62,9 @@ ReportSection grain_section(const ReportSource& source) {
     list.columns = {{"%", 3, 0, 45, HtmlAlign::right},
                     {"Amount", 9, 40, 85, HtmlAlign::right},
                     {"Name", 20, 120, 205},
-                    {"Origin", 50, 300, 90},
-                    {source.view.show_potential ? "Potential" : "Extract", 64, 390, 75, HtmlAlign::right},
-                    {std::string(colour_word(source.open.settings)), 74, 460, 50, HtmlAlign::right}};
+                    {"Origin", 50, 335, 90},
+                    {source.view.show_potential ? "Potential" : "Extract", 64, 430, 75, HtmlAlign::right},
+                    {std::string(colour_word(source.open.settings)), 74, 500, 50, HtmlAlign::right}};
     const auto format = " %4.1f %8.2f " + std::string(grain_column_word(source.open.settings)) + " %s %s " +
                         value_column(source) + "%4.0f\n";
     for (std::size_t i = 0; i < source.open.document.malts.size(); ++i)

@@ -40,11 +40,11 @@ ReportSection hop_section(const ReportSource& source) {
     ReportTable list;
     list.columns = {{"Amount", 3, 0, 80, HtmlAlign::right},
                     {"Name", 14, 75, 210},
-                    {"Form", 48, 270, 60},
-                    {"Alpha", 56, 330, 55, HtmlAlign::right},
-                    {std::string(bitterness_word(source.view.show_ibu, source.open.settings)), 63, 380, 55,
+                    {"Form", 48, 310, 60},
+                    {"Alpha", 56, 370, 55, HtmlAlign::right},
+                    {std::string(bitterness_word(source.view.show_ibu, source.open.settings)), 63, 420, 55,
                      HtmlAlign::right},
-                    {"Boil Time", 68, 430, 90}};
+                    {"Boil Time", 68, 470, 90}};
     for (const auto& line : source.open.document.hops) list.rows.push_back(row(line, source));
     return section_of("Hops", std::move(list));
 }

@@ -52,15 +52,15 @@ void write_titles(const ReportTable& table, PageContext& page) {
     page.TabbedLine(tabs, second);
 }
 
-// No column runs into the next one: a long name is cut off.
-std::string fitted(const PageContext& page, std::span<const int> tabs, std::string_view words) {
+// No text runs into the next column: a long name is cut off. Figures are left whole.
+std::string fitted(const PageContext& page, std::span<const ReportColumn> columns, std::string_view words) {
     std::string out;
-    int from = 0;
-    for (const int to : tabs) {
-        const auto end = std::min(words.find('\t'), words.size());
-        out += page.fitted(words.substr(0, end), from, to) + '\t';
-        words.remove_prefix(std::min(end + 1, words.size()));
-        from = to;
+    for (std::size_t i = 0; i + 1 < columns.size(); ++i) {
+        const auto cell = words.substr(0, words.find('\t'));
+        const bool is_text = columns[i].align == HtmlAlign::left;
+        out += is_text ? page.fitted(cell, columns[i].tab, columns[i + 1].tab) : std::string(cell);
+        out += '\t';
+        words.remove_prefix(std::min(cell.size() + 1, words.size()));
     }
     return out.append(words);
 }
@@ -72,7 +72,7 @@ void write(const ReportTable& table, PageContext& page) {
         if (column.tab > 0) tabs.push_back(column.tab);
     for (const auto& row : table.rows) {
         const auto words = row.print_format.empty() ? joined(table_cells(row)) : print_words(row);
-        write_row(page, tabs, row, fitted(page, tabs, words));
+        write_row(page, tabs, row, fitted(page, table.columns, words));
     }
 }
 
@@ -128,8 +128,10 @@ void write(const ReportSection& section, PageContext& page) {
 void write_print(const DocumentReport& report, PageContext& page) {
     page.ClearHeaders();
     page.SetHeader(0, report.page_title);
-    page.SelectFont(PageFont::title);
-    page.CentredLine(report.print_title);
+    if (!report.print_title.empty()) {
+        page.SelectFont(PageFont::title);
+        page.CentredLine(report.print_title);
+    }
     page.Rule();
     std::vector<const ReportSection*> sections;
     for (const auto& section : report.sections) sections.push_back(&section);

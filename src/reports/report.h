@@ -81,7 +81,7 @@ ReportSection section_of(std::string heading, Blocks... blocks) {
 struct DocumentReport {
     std::string text_title;
     std::string page_title;  ///< at the head of every printed page
-    std::string print_title; ///< on the first one
+    std::string print_title; ///< on the first one, where there is one
     std::string html_title;
     std::vector<ReportSection> sections;
 };

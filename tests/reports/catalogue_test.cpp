@@ -167,6 +167,7 @@ TEST(Catalogue, an_empty_recipe_keeps_headings_titles_and_zeros) {
     EXPECT_THAT(text, HasSubstr("Awards\n------\n\n"));
     EXPECT_THAT(text, Not(HasSubstr("Mash Schedule")));
     EXPECT_THAT(recipe.html(), HasSubstr("<TITLE>A Wortlex Recipe</TITLE>"));
+    EXPECT_THAT(recipe.print(), HasSubstr("\tAwards\n"));
 }
 
 TEST(Catalogue, switches_leave_what_every_report_has) {
@@ -181,6 +182,26 @@ TEST(Catalogue, switches_leave_what_every_report_has) {
     recipe.document.mash.step_count = 0;
     EXPECT_THAT(plain_lines(recipe.text()),
                 HasSubstr("Type     Temp     Amount  Ratio\n\n\nTotal Water Qts:           12.00 - After"));
+}
+
+TEST(Catalogue, a_simple_mash_tells_its_kind_and_the_rests_of_that_kind) {
+    const std::pair<MashKind, const char*> kinds[] = {{MashKind::partial_mash, "Partial Mash"},
+                                                      {MashKind::single_step, "Single Step"},
+                                                      {MashKind::multi_step, "Multi Step"},
+                                                      {MashKind::decoction, "Decoction"}};
+    for (const auto& [kind, words] : kinds) {
+        ReportedRecipe recipe(WriteDefaultSettings());
+        auto& mash = recipe.document.simple_mash;
+        mash.mash_kind = kind;
+        mash.dough_in = mash.acid = mash.intermediate = mash.mash_out = {100, 5};
+        const auto text = plain_lines(recipe.text());
+        EXPECT_THAT(text, HasSubstr("Mash Type: " + std::string(words) + "\nGrain Lbs:    9.50\n"));
+        EXPECT_THAT(text, HasSubstr("Dough In Temp:              100  Time:   5\n"));
+        EXPECT_THAT(text, HasSubstr("Mash-out Rest Temp:         100  Time:   5\n"));
+        for (const auto* rest : {"Acid Rest Temp:             100", "Protein Rest Temp:          122",
+                                 "Intermediate Rest Temp:     100"})
+            EXPECT_EQ(text.find(rest) == std::string::npos, kind == MashKind::single_step) << rest;
+    }
 }
 
 TEST(Catalogue, print_has_words_of_its_own) {
@@ -198,6 +219,54 @@ TEST(Catalogue, print_has_words_of_its_own) {
     EXPECT_THAT(pages, HasSubstr("Total Mash Volume hL:\t  0.14\t-After Additional Infusions"));
     EXPECT_THAT(pages, HasSubstr("Maltose\t  5\t 20\t 63\t 62\tDecoc\t100\t"));
     EXPECT_THAT(pages, HasSubstr("\tDirect\t---\t-----\t----\n"));
+}
+
+TEST(Catalogue, columns_stay_apart_in_every_form) {
+    auto precise = WriteDefaultSettings();
+    precise.sg_precision = 2;
+    ReportedRecipe recipe(precise);
+    recipe.document.malts[0].record.name.assign(std::string(54, 'W'));
+    EXPECT_THAT(recipe.print(), HasSubstr("Min OG:\t1.04400\tMax OG:\t1.05000\n"));
+    EXPECT_THAT(html_cells(recipe.html()),
+                testing::ContainsRegex("Gravity:[|]1[.]05[0-9][0-9][0-9][|]SG[|]12[.]7[|]Plato[|]\n"));
+    EXPECT_THAT(recipe.print(), testing::ContainsRegex("8.00 lbs.\tW+\tGermany\t"));
+    EXPECT_THAT(recipe.print(), Not(HasSubstr(std::string(54, 'W'))));
+
+    // Each table is 550 pixels wide; a cell takes 6 beside its own width.
+    const auto page = recipe.html();
+    const std::regex table("<TABLE[^>]*BORDERCOLOR[^]*?</TABLE>"), width("<TD WIDTH=\"(\\d+)\"|</TR>");
+    for (std::sregex_iterator at(page.begin(), page.end(), table), end; at != end; ++at) {
+        const auto text = at->str();
+        int across = 0;
+        for (std::sregex_iterator cell(text.begin(), text.end(), width); cell != end; ++cell) {
+            const bool is_row_end = !(*cell)[1].matched;
+            EXPECT_TRUE(!is_row_end || across == 0 || across == 550) << across << text;
+            across = is_row_end ? 0 : across + std::stoi((*cell)[1]) + 6;
+        }
+    }
+}
+
+TEST(Catalogue, hostile_documents_come_out_in_every_form) {
+    const float huge[] = {std::numeric_limits<float>::quiet_NaN(), std::numeric_limits<float>::infinity(),
+                          -1e38F, 3e38F};
+    for (const float value : huge) {
+        ReportedRecipe recipe(WriteDefaultSettings());
+        auto& document = recipe.document;
+        recipe.settings.sg_precision = recipe.settings.plato_precision = 0xFFFFFFFF;
+        document.batch_size = document.wort_size = document.water.ph = document.simple_mash.dough_in_water =
+            value;
+        document.malts.assign(
+            400, reported_malt("\x01\x1F\x7F\x81\xFF\t\r\n%s%n", "\n", MaltType{200}, value, value, value));
+        document.hops.assign(400, reported_hop("\r", HopForm{9}, value, -32768));
+        document.extras.assign(400, reported_extra("%d", 5, value, std::numeric_limits<int>::min()));
+        for (auto& extra : document.extras) extra.record.time_place = TimePlace{255};
+        document.notes.assign(std::string(5000, '\r') + std::string(3000, '\0'));
+        document.mash_flags = static_cast<std::uint8_t>(std::isnan(value));
+        document.mash.steps[1].infuse_temperature = std::numeric_limits<int>::max();
+        EXPECT_THAT(recipe.text(), HasSubstr("%s%n"));
+        EXPECT_THAT(recipe.print(), HasSubstr("Page 2"));
+        EXPECT_THAT(recipe.html(), testing::EndsWith("</BODY>\n</HTML>\n"));
+    }
 }
 
 TEST(Catalogue, clipboard_and_file_get_the_same_bytes_of_utf8) {

@@ -150,6 +150,21 @@ TEST(HtmlWriter, AlignsAndEndsCells) {
                   font + "&nbsp;&nbsp;</FONT>\n</TD>\n");
 }
 
+TEST(HtmlWriter, KeepsItsMeasuresWhateverAThemeHolds) {
+    HtmlTheme theme;
+    EXPECT_EQ(HtmlWriter(theme).cell_frame(), 6) << "padding and border on both sides";
+    theme.borders = 0;
+    EXPECT_EQ(HtmlWriter(theme).cell_frame(), 4);
+    theme.cell_padding = theme.cell_spacing = theme.font_size = std::numeric_limits<std::int32_t>::max();
+    EXPECT_EQ(HtmlWriter(theme).cell_frame(), 300);
+    EXPECT_THAT(cell(theme,
+                     [](HtmlWriter& html) {
+                         html.heading_cell_start(HtmlAlign::none, HtmlArea::heading);
+                         html.bold_cell_end();
+                     }),
+                HasSubstr("<FONT SIZE=\"7\""));
+}
+
 TEST(HtmlWriter, WritesFreeTextAndLinksSoThatTheyRead) {
     HtmlWriter html(built_in(BuiltInTheme::mint));
     html.cell_start(5, HtmlAlign::none, HtmlArea::field);

@@ -48,6 +48,26 @@ TEST(Page, PutsHeadersTitlesAndTabsWhereTheyBelong) {
     EXPECT_EQ(calls.at(calls.size() - 3), "font Arial 14 0 400 ") << "one line, then the body again";
 }
 
+TEST(Page, CentresBetweenTheMarginsAndCutsToColumns) {
+    const auto centred = [](std::string text, float scale, const Paper& paper) {
+        return texts_on(recorded([&](PageContext& page) { page.CentredLine(text); }, scale, paper), 0);
+    };
+    // 640 dots less ten letters of 8, halved; the scale of the printer does not move the middle.
+    for (const float scale : {1.0F, 0.5F})
+        EXPECT_THAT(centred("ten is ten", scale, plain_paper()), ElementsAre("113 @280 ten is ten"));
+    const Paper lying{.sheet = {1100, 660}, .area = {1000, 640}, .top_offset = 10, .is_landscape = true};
+    EXPECT_THAT(centred("ten is ten", 1, lying), ElementsAre("113 @460 ten is ten"));
+    // 90 letters from the margin on reach 765, so that all shrinks by 640 / 765.
+    EXPECT_THAT(centred(std::string(90, 'x'), 1, plain_paper()).front(), testing::StartsWith("94 @37 x"));
+
+    recorded([](PageContext& page) { // 100 dots less the gap of 4: 12 letters of 8 just fit
+        EXPECT_EQ(page.fitted("twelve chars", 60, 160), "twelve chars");
+        EXPECT_EQ(page.fitted("twelve chars.", 60, 160), "twelve chars");
+        EXPECT_EQ(page.fitted("W\u00FCrze", 0, 20), "W") << "no half a letter";
+        EXPECT_EQ(page.fitted("none", 50, 40), "");
+    });
+}
+
 TEST(Page, ScalesTurnsAndShrinksWhatAsksForIt) {
     // 75 %, 1.5 dots a unit: margin 67, the stop at 75 units; 15 + 1 dots by 0.75 and 4 a line.
     const Paper wide{.sheet = {1000, 1100}, .area = {960, 1000}, .top_offset = 50};

@@ -88,9 +88,10 @@ struct ReportedRecipe {
         take_built_in(theme, BuiltInTheme::mint);
         return write_html(report(), theme).page();
     }
-    // Everything that is drawn, a call a line.
+    // Everything that is drawn, a call a line, in wide letters.
     std::string print() {
         RecordingSurface measure, paper;
+        measure.character.width = 20;
         const auto made = report();
         const auto job = record_report({"", 0.75F, [&](PageContext& page) { write_print(made, page); }},
                                        {{2480, 3508}, {2400, 3400}, 50, false}, measure);

@@ -19,12 +19,20 @@ Places places(const WindowPorts& ports) {
 }
 
 ListPorts list_ports(const WindowPorts& ports) {
-    return {places(ports), ports.files, ports.prompts, &ports.pages};
+    return {places(ports), ports.files, ports.prompts};
+}
+
+void open(IngredientList& list, const WindowPorts& ports) {
+    list.print = [&pages = ports.pages, &settings = ports.program.settings](PrintRequest request) {
+        request.printer_scale = settings.printer_scale;
+        pages.show(request);
+    };
+    list.open(ports.prompts);
 }
 
 // Runs the window that keeps a database.
 void keep(IngredientList& list, const WindowPorts& ports, QWidget* owner) {
-    list.open(ports.prompts);
+    open(list, ports);
     ListWindow(list, list_ports(ports), Opener::main, nullptr, owner).exec();
 }
 
@@ -40,7 +48,7 @@ void run_pick(IngredientList& list, ListChoice& choice, const std::function<bool
               const WindowPorts& ports, Opener opener, QWidget* owner) {
     list.filter = static_cast<std::int32_t>(choice.filter);
     list.only_in_stock = choice.only_in_stock;
-    list.open(ports.prompts);
+    open(list, ports);
     ListWindow* shown = nullptr;
     ListWindow window(
         list, list_ports(ports), opener, [&] { return picked(shown); }, owner);

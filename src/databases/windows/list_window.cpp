@@ -11,17 +11,6 @@
 #include <QVBoxLayout>
 
 namespace wortlex {
-namespace {
-
-std::function<void(const PrintRequest&)> printer(const ListPorts& ports) {
-    if (ports.pages == nullptr) return nullptr;
-    return [&pages = *ports.pages, &settings = ports.places.settings](PrintRequest request) {
-        request.printer_scale = settings.printer_scale;
-        pages.show(request);
-    };
-}
-
-} // namespace
 
 ListWindow::ListWindow(IngredientList& list, const ListPorts& ports, Opener opener,
                        std::function<bool()> picked, QWidget* owner)
@@ -98,7 +87,6 @@ void ListWindow::edit_buttons(Rows& rows) {
 }
 
 void ListWindow::print_button(Rows& rows) {
-    list_.print = printer(ports_);
     std::function<void()> print;
     if (list_.print) print = [this] { list_.print(list_.printout()); };
     rows.button("print", picked_ ? "P&rint" : "&Print", std::move(print));

