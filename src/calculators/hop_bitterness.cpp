@@ -192,6 +192,20 @@ Addition addition_of(const HopCalculator& calculator, bool form_always_counts) {
 
 } // namespace
 
+std::string_view formula_word(HopFormulaCode formula) {
+    switch (formula) {
+    case HopFormulaCode::Rager:
+        return "Rager";
+    case HopFormulaCode::Garetz:
+        return "Garetz";
+    case HopFormulaCode::Tinseth:
+        return "Tinseth";
+    case HopFormulaCode::Generic:
+        return "Daniels";
+    }
+    return "no formula";
+}
+
 float line_ibu(const HopUse& line, const HopKettle& kettle, const Settings& settings) {
     const Addition addition{line.alpha, std::min<int>(line.boil_time, kettle.boil_minutes), form(line.record),
                             hop_timing(line.boil_time, kettle.boil_minutes)};

@@ -9,6 +9,9 @@
 
 namespace wortlex {
 
+/// As reports name a formula: the generic one by its author.
+std::string_view formula_word(HopFormulaCode formula);
+
 /// What a computation went through, for display.
 struct HopFactors {
     float concentration = 1;

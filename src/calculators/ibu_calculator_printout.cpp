@@ -1,6 +1,7 @@
 #include "calculators/ibu_calculator_printout.h"
 
 #include "base/number.h"
+#include "calculators/hop_bitterness.h"
 #include "calculators/ibu_calculator.h"
 #include "measures/fields/numeric_fields.h"
 #include "measures/units.h"
@@ -14,20 +15,6 @@ using Lines = std::vector<std::string>; // tabs between columns, empty ones are 
 
 std::string yes_or_no(bool is_so) {
     return is_so ? "Yes" : "No";
-}
-
-std::string formula_name(HopFormulaCode formula) {
-    switch (formula) {
-    case HopFormulaCode::Rager:
-        return "Rager";
-    case HopFormulaCode::Garetz:
-        return "Garetz";
-    case HopFormulaCode::Tinseth:
-        return "Tinseth";
-    case HopFormulaCode::Generic:
-        return "Daniels"; // its author
-    }
-    return "";
 }
 
 void add_weight(Lines& lines, const HopCalculator& calculator, const Settings& settings) {
@@ -73,7 +60,7 @@ void add_result(Lines& lines, const HopCalculator& calculator, const Settings& s
     lines.push_back(formatted("HBU's:  %0.2f", hbu(calculator.ounces, calculator.adjusted_alpha)));
     lines.push_back(formatted("MBU's:  %0.2f", mbu(calculator.grams, calculator.adjusted_alpha)));
     lines.emplace_back();
-    lines.push_back("Hop IBU Formula Used:\t" + formula_name(settings.HopFormula));
+    lines.push_back("Hop IBU Formula Used:\t" + std::string(formula_word(settings.HopFormula)));
 }
 
 std::string change_line(const std::string& hop, int percent, const Settings& settings) {

@@ -32,7 +32,10 @@ std::optional<std::string> run(const FileChoice& choice, QFileDialog::AcceptMode
     dialog.setAcceptMode(mode);
     dialog.setFileMode(mode == QFileDialog::AcceptOpen ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
     dialog.setDefaultSuffix(string_of(choice.extension));
-    if (!choice.suggested_name.empty()) dialog.selectFile(QString::fromStdString(choice.suggested_name));
+    // In the dialog's field quotes would stand around names, of which it takes the first.
+    if (!choice.suggested_name.empty())
+        dialog.selectFile(
+            QString::fromStdString(choice.suggested_name).replace(QLatin1Char('"'), QLatin1Char('\'')));
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
     return QFile::encodeName(dialog.selectedFiles().front()).toStdString();
 }

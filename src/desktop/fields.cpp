@@ -1,6 +1,7 @@
 #include "desktop/fields.h"
 
 #include <QFocusEvent>
+#include <QKeyEvent>
 #include <QTimer>
 #include <QWheelEvent>
 
@@ -9,12 +10,20 @@
 namespace wortlex {
 namespace {
 
+// A letter with Alt belongs to a button or menu, also to one that is disabled: it is no text.
+bool is_lost_mnemonic(const QKeyEvent& event) {
+    return event.modifiers().testFlag(Qt::AltModifier) && !event.modifiers().testFlag(Qt::ControlModifier) &&
+           !event.text().isEmpty() && event.text().front().isPrint();
+}
+
 class FocusSelector : public QObject {
 public:
     explicit FocusSelector(QLineEdit& edit) : QObject(&edit), edit_(edit) { edit.installEventFilter(this); }
 
     // A click sets the caret after the focus has come, so the selection waits until it is over.
     bool eventFilter(QObject* watched, QEvent* event) override {
+        const auto* const key = dynamic_cast<QKeyEvent*>(event);
+        if (key != nullptr && event->type() == QEvent::KeyPress && is_lost_mnemonic(*key)) return true;
         const auto* const focus = dynamic_cast<QFocusEvent*>(event);
         if (focus != nullptr && focus->gotFocus() && focus->reason() == Qt::MouseFocusReason)
             QTimer::singleShot(0, &edit_, &QLineEdit::selectAll);
@@ -70,6 +79,10 @@ void ArrowField::stepBy(int steps) {
     if (!stepped) return;
     for (int step = 0; step < std::abs(steps); ++step) stepped(steps > 0 ? Spin::up : Spin::down);
     lineEdit()->selectAll();
+}
+
+void ArrowField::keyPressEvent(QKeyEvent* event) {
+    if (!is_lost_mnemonic(*event)) QAbstractSpinBox::keyPressEvent(event);
 }
 
 QAbstractSpinBox::StepEnabled ArrowField::stepEnabled() const {

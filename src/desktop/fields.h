@@ -54,6 +54,7 @@ public:
 
 protected:
     StepEnabled stepEnabled() const override;
+    void keyPressEvent(QKeyEvent* event) override;
     /// Only the focused field turns with the wheel: scrolling past one must not change a recipe.
     void wheelEvent(QWheelEvent* event) override;
 };

@@ -35,6 +35,8 @@ void prepare(QMessageBox& box, const Message& message, QMessageBox::StandardButt
     box.setText(string_of(message.text));
     box.setIcon(icon_of(message.icon));
     box.setStandardButtons(buttons);
+    if (message.icon == Icon::warning)
+        box.setDefaultButton(QMessageBox::No); // what warns is not done by Enter alone
     box.setTextInteractionFlags(Qt::TextSelectableByMouse);
 }
 

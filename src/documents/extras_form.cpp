@@ -33,10 +33,10 @@ void extras_buttons(Rows& rows, RecipeEditor& editor, const ExtrasActions& actio
     rows.button("extra_new", "&New", actions.new_extra);
     about_line("extra_del", "&Del", [&editor] { delete_extra(editor); });
     about_line("extra_edit", "&Edit", actions.edit_extra);
-    about_line("amount_more", "+A&mt", [&editor] { step_extra(editor, Step::more); });
-    about_line("amount_less", "-Am&t", [&editor] { step_extra(editor, Step::less); });
-    about_line("time_more", "+T&ime", [&editor] { step_extra_time(editor, Step::more); });
-    about_line("time_less", "-Time", [&editor] { step_extra_time(editor, Step::less); });
+    about_line("amount_more", "+&Amt", [&editor] { step_extra(editor, Step::more); });
+    about_line("amount_less", "-A&mt", [&editor] { step_extra(editor, Step::less); });
+    about_line("time_more", "+&Time", [&editor] { step_extra_time(editor, Step::more); });
+    about_line("time_less", "-T&ime", [&editor] { step_extra_time(editor, Step::less); });
 }
 
 } // namespace

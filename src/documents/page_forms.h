@@ -14,6 +14,10 @@ struct YeastWaterActions {
 
 void yeast_water_form(Form& form, RecipeEditor& editor, const YeastWaterActions& actions);
 
+/// Take a yeast or water as picked.
+void set_yeast(RecipeEditor& editor, const YeastRecord& yeast);
+void set_water(RecipeEditor& editor, const WaterRecord& water);
+
 struct ExtrasActions {
     std::function<void()> new_extra, edit_extra;
 };

@@ -99,7 +99,6 @@ void wort_size_changed(const OpenDocument& open) {
 
 void batch_size_changed(const OpenDocument& open, float old_size, const RecipeLocks& locks) {
     auto& document = open.document;
-    document.batch_size = std::max(document.batch_size, 1.0F);
     if (open.settings.wort_equals_batch != 0) document.wort_size = document.batch_size;
     gravity_update(document, open.figures, open.settings);
     update_hops_if_any(open);

@@ -48,14 +48,20 @@ void put_back_all(BrewDocument& document, const AmountsAtStart& amounts) {
     put_back(document.extras, amounts.extras);
 }
 
-void tell(const RecipeEditor& editor) {
-    if (editor.changed) editor.changed();
+// A line that was selected may be gone.
+template <class Line>
+void keep_within(std::int32_t& selected, const std::vector<Line>& lines) {
+    const auto last = static_cast<std::int32_t>(std::min<std::size_t>(lines.size(), 1U << 30)) - 1;
+    selected = std::max(std::min(selected, last), 0);
 }
 
 void after_travel(RecipeEditor& editor) {
     editor.at_start.reset();
+    keep_within(editor.view.selected_malt, editor.open.document.malts);
+    keep_within(editor.view.selected_hop, editor.open.document.hops);
+    keep_within(editor.view.selected_extra, editor.open.document.extras);
     if (editor.view.locks.efficiency) editor.view.locks.locked_efficiency = editor.open.document.efficiency;
-    tell(editor);
+    tell_change(editor);
 }
 
 } // namespace
@@ -68,11 +74,15 @@ void start_editing(RecipeEditor& editor, const RecipeView& view) {
 
 void edit(RecipeEditor& editor, std::string_view name, const std::function<void()>& change,
           std::string_view merge_key) {
-    editor.history.note(editor.open, page_changes);
+    if (editor.history.note(editor.open, page_changes)) editor.at_start.reset();
     forget_other_start(editor, merge_key);
     change();
     editor.history.note(editor.open, name, merge_key);
-    tell(editor);
+    tell_change(editor);
+}
+
+void tell_change(const RecipeEditor& editor) {
+    if (editor.changed) editor.changed();
 }
 
 void end_edit(RecipeEditor& editor) {

@@ -23,7 +23,7 @@ struct RecipeEditor {
     RecipeView view;
     RecipeHistory history;
     std::optional<AmountsAtStart> at_start = std::nullopt; ///< of the edit under way
-    std::function<void()> changed = nullptr;               ///< told after each step, also one taken back
+    std::function<void()> changed = nullptr;               ///< told after each change, also one taken back
 };
 
 /// Starts to work on the document as it is: nothing to undo, nothing under way.
@@ -33,6 +33,9 @@ void start_editing(RecipeEditor& editor, const RecipeView& view);
 /// open, becomes one first, so that undoing this step takes back this step alone.
 void edit(RecipeEditor& editor, std::string_view name, const std::function<void()>& change,
           std::string_view merge_key = {});
+
+/// Something shows the recipe elsewhere: a page that stays open calls this after what it changes.
+void tell_change(const RecipeEditor& editor);
 
 /// The field that was typed in is left: the next edit of it is a new step.
 void end_edit(RecipeEditor& editor);

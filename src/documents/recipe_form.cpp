@@ -82,36 +82,37 @@ NumberRow& size_row(Rows& rows, std::string key, Binding<float> gallons, const S
         .outside(Outside::clamp);
 }
 
-void size_rows(Rows& rows, RecipeEditor& editor) {
-    auto& document = editor.open.document;
+void batch_row(Rows& rows, RecipeEditor& editor) {
     const auto& settings = editor.open.settings;
-    size_row(
-        rows, "batch_size",
-        {[&] { return document.batch_size; }, [&editor](float gallons) { set_batch_size(editor, gallons); }},
-        settings)
-        .label([&] { return size_label("&Batch Size", settings); });
-    size_row(
-        rows, "wort_size",
-        {[&] { return document.wort_size; }, [&editor](float gallons) { set_wort_size(editor, gallons); }},
-        settings)
-        .label([&] { return size_label("&Wort Size", settings); })
-        .enabled([&settings] { return settings.wort_equals_batch == 0; });
-    rows.check("lock_to_batch", {[&editor] { return editor.view.locks.to_batch; },
-                                 [&editor](bool locked) { lock_to_batch(editor, locked); }})
-        .label("Lock Ingredients to Batc&h Size");
+    size_row(rows, "batch_size",
+             {[&editor] { return editor.open.document.batch_size; },
+              [&editor](float gallons) { set_batch_size(editor, gallons); }},
+             settings)
+        .label([&settings] { return size_label("&Batch Size", settings); });
 }
 
-void boil_rows(Rows& rows, const RecipeSubject& subject) {
-    auto& editor = subject.editor;
-    auto& document = editor.open.document;
-    const auto mashes = [&document] { return !is_extract(document); };
-    rows.button("pre_boil", "Pre-Boi&l", subject.actions.pre_boil);
-    rows.integer("boil_minutes", {[&document] { return document.boil_minutes; },
+void boil_row(Rows& rows, RecipeEditor& editor) {
+    rows.integer("boil_minutes", {[&editor] { return editor.open.document.boil_minutes; },
                                   [&editor](std::int32_t minutes) { set_boil_minutes(editor, minutes); }})
         .label("Boil &Time")
         .typed(5, 500)
         .spun(1, 500, 5)
         .width(6);
+}
+
+void wort_row(Rows& rows, RecipeEditor& editor) {
+    const auto& settings = editor.open.settings;
+    size_row(rows, "wort_size",
+             {[&editor] { return editor.open.document.wort_size; },
+              [&editor](float gallons) { set_wort_size(editor, gallons); }},
+             settings)
+        .label([&settings] { return size_label("&Wort Size", settings); })
+        .enabled([&settings] { return settings.wort_equals_batch == 0; });
+}
+
+void efficiency_rows(Rows& rows, RecipeEditor& editor) {
+    const auto& document = editor.open.document;
+    const auto mashes = [&document] { return !is_extract(document); };
     rows.number("efficiency", {[&document] { return narrow(document.efficiency * 100.0); },
                                [&editor](float percent) { set_efficiency(editor, percent); }})
         .label("% &Efficiency")
@@ -126,6 +127,19 @@ void boil_rows(Rows& rows, const RecipeSubject& subject) {
                                    [&editor](bool locked) { lock_efficiency(editor, locked); }})
         .label("Loc&k")
         .enabled(mashes);
+}
+
+// In the order in which they stand, and in which the tab key visits them.
+void size_rows(Rows& rows, const RecipeSubject& subject) {
+    auto& editor = subject.editor;
+    batch_row(rows, editor);
+    boil_row(rows, editor);
+    rows.button("pre_boil", "Pre-Boi&l", subject.actions.pre_boil);
+    wort_row(rows, editor);
+    efficiency_rows(rows, editor);
+    rows.check("lock_to_batch", {[&editor] { return editor.view.locks.to_batch; },
+                                 [&editor](bool locked) { lock_to_batch(editor, locked); }})
+        .label("Lock Ingredients to Batc&h Size");
 }
 
 void figure_rows(Rows& rows, const RecipeSubject& subject) {
@@ -186,6 +200,7 @@ void malt_rows(Rows& rows, const RecipeSubject& subject) {
     auto& editor = subject.editor;
     auto& view = editor.view;
     const auto& settings = editor.open.settings;
+    malt_list(rows, subject);
     rows.choice("show_potential",
                 {[&view] { return view.show_potential ? 0 : 1; },
                  [&view](std::int32_t code) { view.show_potential = code == 0; }},
@@ -193,7 +208,6 @@ void malt_rows(Rows& rows, const RecipeSubject& subject) {
         .option_enabled([&settings](std::size_t option) {
             return option != 0 || settings.efficiency_mode != EfficiencyMode::method_2;
         });
-    malt_list(rows, subject);
     rows.shown_number(
             "total_grain", [&] { return grain_to_shown(editor.open.figures.total_grain, settings); }, "%0.2f")
         .label([&] { return grain_unit(settings); });
@@ -255,12 +269,12 @@ void hop_rows(Rows& rows, const RecipeSubject& subject) {
     auto& editor = subject.editor;
     auto& view = editor.view;
     const auto& settings = editor.open.settings;
+    hop_list(rows, subject);
     rows.choice("show_ibu",
                 {[&view] { return view.show_ibu ? 0 : 1; },
                  [&view](std::int32_t code) { view.show_ibu = code == 0; }},
                 {"IBU", [&settings] { return bittering_unit(settings); }})
         .visible([&settings] { return settings.display_home_bittering != 0; });
-    hop_list(rows, subject);
     rows.shown_number(
             "total_hops", [&] { return hop_to_shown(editor.open.figures.total_hop_ounces, settings); },
             "%0.3f")
@@ -268,11 +282,15 @@ void hop_rows(Rows& rows, const RecipeSubject& subject) {
     hop_buttons(rows, subject);
 }
 
-// A schedule of steps has a window of its own, which is not there yet.
+// A schedule of steps has a window of its own, which is not there yet. The mark that a save leaves in the
+// flag byte makes no steps.
+bool has_steps(const BrewDocument& document) {
+    return (document.mash_flags & 0x0F) != 0;
+}
+
 std::string mash_hint(const BrewDocument& document) {
     if (!has_mashable_grain(document)) return "There is no grain to mash.";
-    return has_complex_schedule(document) ? "This recipe has a schedule of steps, which cannot be edited yet."
-                                          : "";
+    return has_steps(document) ? "This recipe has a schedule of steps, which cannot be edited yet." : "";
 }
 
 void page_rows(Rows& rows, const RecipeSubject& subject) {
@@ -281,7 +299,7 @@ void page_rows(Rows& rows, const RecipeSubject& subject) {
     rows.button("yeast_and_water", "Yeast &And Water", actions.yeast_and_water);
     rows.button("extras_and_notes", "Extras && &Notes", actions.extras_and_notes);
     rows.button("mash_schedule", "&Mash Schedule", actions.mash_schedule)
-        .enabled([&document] { return has_mashable_grain(document) && !has_complex_schedule(document); })
+        .enabled([&document] { return has_mashable_grain(document) && !has_steps(document); })
         .hint([&document] { return mash_hint(document); });
     rows.button("save", "&Save", actions.save);
     rows.button("print", "&Print", actions.print);
@@ -293,8 +311,7 @@ void page_rows(Rows& rows, const RecipeSubject& subject) {
 void recipe_form(Form& form, const RecipeSubject& subject) {
     auto& recipe = form.group("Recipe");
     name_rows(recipe, subject.editor);
-    size_rows(recipe, subject.editor);
-    boil_rows(recipe, subject);
+    size_rows(recipe, subject);
     auto& style = form.group("Style Guidelines");
     style.button("pick_style", "Pick St&yle", subject.actions.pick_style);
     style_rows(style, subject.editor.open);

@@ -1,5 +1,7 @@
 #include "documents/recipe_history.h"
 
+#include "documents/records/document_files.h"
+
 #include <utility>
 
 namespace wortlex {
@@ -14,6 +16,11 @@ void keep_saved_marks(BrewDocument& document, const BrewDocument& live) {
     document.file_efficiency_mode = live.file_efficiency_mode;
 }
 
+// What is no number is not even equal to itself, but its bytes are.
+bool same_recipe(const BrewDocument& a, const BrewDocument& b) {
+    return a == b || recipe_bytes(a) == recipe_bytes(b);
+}
+
 } // namespace
 
 void RecipeHistory::start(const OpenDocument& open) {
@@ -25,11 +32,11 @@ void RecipeHistory::start(const OpenDocument& open) {
 
 bool RecipeHistory::is_current(const OpenDocument& open) {
     keep_saved_marks(now_.document, open.document);
-    return now_.document == open.document;
+    return same_recipe(now_.document, open.document);
 }
 
-void RecipeHistory::note(const OpenDocument& open, std::string_view name, std::string_view merge_key) {
-    if (is_current(open)) return;
+bool RecipeHistory::note(const OpenDocument& open, std::string_view name, std::string_view merge_key) {
+    if (is_current(open)) return false;
     const bool merges = !merge_key.empty() && merge_key == merge_key_ && !done_.empty();
     merge_key_ = merge_key;
     undone_.clear();
@@ -37,6 +44,7 @@ void RecipeHistory::note(const OpenDocument& open, std::string_view name, std::s
     now_ = {open.document, open.figures};
     if (merges && now_.document == done_.back().state.document) done_.pop_back(); // typed back
     if (done_.size() > most_steps) done_.pop_front();
+    return true;
 }
 
 std::string_view RecipeHistory::to_undo() const {

@@ -14,9 +14,9 @@ public:
     /// Forgets everything and starts from the recipe as it is.
     void start(const OpenDocument& open);
 
-    /// The recipe has changed: a step of that name, unless nothing is different. Edits of the same
-    /// `merge_key`, if it is not empty, make one step until `end_step`.
-    void note(const OpenDocument& open, std::string_view name, std::string_view merge_key = {});
+    /// The recipe has changed: a step of that name; false, and none, if nothing is different. Edits of the
+    /// same `merge_key`, if it is not empty, make one step until `end_step`.
+    bool note(const OpenDocument& open, std::string_view name, std::string_view merge_key = {});
     void end_step() { merge_key_.clear(); }
 
     /// The names of the steps that `undo` and `redo` would take; empty without one.

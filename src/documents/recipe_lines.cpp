@@ -150,15 +150,21 @@ void step_boil(RecipeEditor& editor, Step step) {
 
 void add_extra(RecipeEditor& editor, const ExtraRecord& extra) {
     insert(editor.open.document.extras, {.record = extra, .amount = 0}, editor.view.selected_extra);
+    tell_change(editor);
 }
 
 void delete_extra(RecipeEditor& editor) {
-    if (const auto line = selected_extra(editor))
-        erase(editor.open.document.extras, *line, editor.view.selected_extra);
+    const auto line = selected_extra(editor);
+    if (!line) return;
+    erase(editor.open.document.extras, *line, editor.view.selected_extra);
+    tell_change(editor);
 }
 
 void replace_extra(RecipeEditor& editor, const ExtraUse& changed) {
-    if (const auto line = selected_extra(editor)) editor.open.document.extras[*line] = changed;
+    const auto line = selected_extra(editor);
+    if (!line) return;
+    editor.open.document.extras[*line] = changed;
+    tell_change(editor);
 }
 
 void step_extra(RecipeEditor& editor, Step step) {
@@ -169,6 +175,7 @@ void step_extra(RecipeEditor& editor, Step step) {
     if (step == Step::less && amount + dust < extra_step) return;
     const double changed = step == Step::more ? amount + extra_step : amount - extra_step;
     amount = changed < dust ? 0 : narrow(changed);
+    tell_change(editor);
 }
 
 void step_extra_time(RecipeEditor& editor, Step step) {
@@ -178,6 +185,7 @@ void step_extra_time(RecipeEditor& editor, Step step) {
     if (step == Step::less && time < 1) return;
     if (step == Step::more && time == std::numeric_limits<std::int32_t>::max()) return;
     time += step == Step::more ? 1 : -1;
+    tell_change(editor);
 }
 
 } // namespace wortlex

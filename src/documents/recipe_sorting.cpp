@@ -114,6 +114,7 @@ void sort_extras(RecipeEditor& editor, std::size_t column) {
     if (extras.size() < 2) return;
     arrange(extras, clicked(extra_keys(editor), extras.size(), column, editor.view.extras_descending,
                             editor.view.selected_extra));
+    tell_change(editor);
 }
 
 } // namespace wortlex

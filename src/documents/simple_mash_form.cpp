@@ -143,6 +143,11 @@ void add_button(Rows& rows, const char* key, const char* caption, std::function<
     rows.button(key, caption, std::move(action)).hint(hint);
 }
 
+// Quarts per pound; 0 without water or grain.
+float ratio_of_water(const SimpleMashWork& work) {
+    return shown_ratio(work.mash.dough_in_water, work.grain, Units::american);
+}
+
 } // namespace
 
 SimpleMashWork open_simple_mash(const SimpleMash& record, float ratio, float grain,
@@ -154,13 +159,13 @@ SimpleMashWork open_simple_mash(const SimpleMash& record, float ratio, float gra
     if (work.ratio > 0)
         quarts = quarts_from_default_ratio(work.ratio, grain, settings.volume_units);
     else
-        work.ratio = kept_ratio(work);
+        work.ratio = ratio_of_water(work);
     return work;
 }
 
 void set_mash_quarts(SimpleMashWork& work, float quarts) {
     work.mash.dough_in_water = std::max(quarts, 0.0F); // a step of the arrows may end below
-    work.ratio = kept_ratio(work);
+    work.ratio = ratio_of_water(work);
 }
 
 void set_mash_ratio(SimpleMashWork& work, float shown, Units units) {
@@ -174,11 +179,7 @@ void set_mash_grain(SimpleMashWork& work, float pounds) {
     if (work.ratio > 0)
         work.mash.dough_in_water = narrow(double{pounds} * work.ratio);
     else
-        work.ratio = kept_ratio(work);
-}
-
-float kept_ratio(const SimpleMashWork& work) {
-    return shown_ratio(work.mash.dough_in_water, work.grain, Units::american);
+        work.ratio = ratio_of_water(work);
 }
 
 void simple_mash_form(Form& form, SimpleMashWork& work, const Settings& settings, MashSide side,

@@ -23,9 +23,6 @@ void set_mash_ratio(SimpleMashWork& work, float shown, Units units);
 /// The grain bill has changed: the water follows by the ratio as it stands.
 void set_mash_grain(SimpleMashWork& work, float pounds);
 
-/// The ratio to keep with the document, quarts per pound; 0 without water or grain.
-float kept_ratio(const SimpleMashWork& work);
-
 /// A session adds the dough-in and the infusions to the form of the recipe, and names its fields otherwise.
 enum class MashSide { recipe, session };
 

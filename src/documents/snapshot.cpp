@@ -1,6 +1,7 @@
 #include "documents/snapshot.h"
 
 #include "documents/gravity.h"
+#include "documents/records/document_files.h"
 
 #include <algorithm>
 #include <tuple>
@@ -50,6 +51,7 @@ void restore_snapshot(const DocumentSnapshot& snapshot, const OpenDocument& open
 
 bool document_changed(const BrewDocument& document, const DocumentSnapshot& snapshot) {
     const auto& saved = snapshot.document;
+    if (recipe_bytes(document) == recipe_bytes(saved)) return false; // also with what is no number in it
     if (figures_of(document) != figures_of(saved)) return true;
     if (snapshot.scope == SnapshotScope::with_schedule && !same_schedule(document, saved)) return true;
     return !(same_lines(document.hops, saved.hops) && same_lines(document.malts, saved.malts) &&

@@ -7,16 +7,18 @@
 namespace wortlex {
 namespace {
 
+constexpr int long_name = 18, short_name = 10; // digits
+
 // What a style says, blank where none was chosen.
 class StyleRows {
 public:
     StyleRows(Rows& rows, const BrewDocument& document) : rows_(rows), document_(document) {}
 
-    void words(std::string key, const std::string& label,
+    void words(std::string key, const std::string& label, int width,
                std::function<std::string(const StyleRecord&)> text) {
         rows_.shown(std::move(key), blank_without_style(std::move(text)))
             .label(label)
-            .width(10)
+            .width(width)
             .colours(ColorArea::style_guidelines);
     }
 
@@ -47,11 +49,14 @@ private:
 
 void style_rows(Rows& rows, const OpenDocument& open) {
     StyleRows style(rows, open.document);
-    style.words("style_class", "Style",
+    style.words("style_class", "Style", long_name,
                 [](const auto& s) { return utf8_from_windows1252(s.category.view()); });
-    style.words("style_name", "Name", [](const auto& s) { return utf8_from_windows1252(s.name.view()); });
-    style.words("style_type", "Type", [](const auto& s) { return std::string(beer_type_word(s.type)); });
-    style.words("style_book", "Guidelines", [](const auto& s) { return std::string(style_book_word(s)); });
+    style.words("style_name", "Name", long_name,
+                [](const auto& s) { return utf8_from_windows1252(s.name.view()); });
+    style.words("style_type", "Type", short_name,
+                [](const auto& s) { return std::string(beer_type_word(s.type)); });
+    style.words("style_book", "Guidelines", short_name,
+                [](const auto& s) { return std::string(style_book_word(s)); });
     style.number("min_sg", "Min SG", "%0.3f", [](const auto& s) { return s.min_og; });
     style.number("max_sg", "Max SG", "%0.3f", [](const auto& s) { return s.max_og; });
     style.number("min_ibu", "Min IBU", "%0.0f", [](const auto& s) { return s.min_ibu; });

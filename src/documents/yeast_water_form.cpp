@@ -87,6 +87,16 @@ void water_rows(Rows& rows, const WaterRecord& water, std::function<void()> pick
 
 } // namespace
 
+void set_yeast(RecipeEditor& editor, const YeastRecord& yeast) {
+    editor.open.document.yeast.record = yeast;
+    tell_change(editor);
+}
+
+void set_water(RecipeEditor& editor, const WaterRecord& water) {
+    editor.open.document.water = water;
+    tell_change(editor);
+}
+
 void yeast_water_form(Form& form, RecipeEditor& editor, const YeastWaterActions& actions) {
     auto& document = editor.open.document;
     auto& recipe = form.group("Recipe");

@@ -10,6 +10,7 @@ namespace wortlex {
 namespace {
 
 constexpr std::string_view file_name = "WlxWork.rcv";
+constexpr std::string_view put_aside = ".later"; // behind the name of work that is to be offered again
 constexpr std::string_view signature = "Wortlex unsaved recipe 1\n";
 
 std::string path_in(const std::string& data_folder) {
@@ -47,7 +48,8 @@ std::string question_about(const RecoveredWork& work, const BrewDocument& recipe
     const auto title = utf8_from_windows1252(recipe.title.view());
     const auto name = !file.empty() ? file : title.empty() ? std::string("a new recipe") : title;
     return "Wortlex ended before your work on " + name +
-           " was saved.\nDo you want to open it as it was? If you answer No it is discarded.";
+           " was saved.\nDo you want to open it as it was? No discards it, Cancel asks again at the next "
+           "start.";
 }
 
 } // namespace
@@ -96,13 +98,21 @@ bool restore_work(Program& program, const RecoveredWork& work) {
 }
 
 bool offer_work(Program& program, Prompts& prompts) {
+    const auto path = path_in(program.data_folder);
+    const auto aside = path + std::string(put_aside);
+    std::error_code error;
+    if (!std::filesystem::exists(path, error)) std::filesystem::rename(aside, path, error);
     const auto work = FindWork(program.data_folder);
     if (!work) return false;
     auto recipe = new_document(program.settings, program.settings.default_schedule);
-    const bool is_sound = read_recipe(work->recipe, recipe, program.settings) != LoadResult::damaged;
+    if (read_recipe(work->recipe, recipe, program.settings) == LoadResult::damaged) {
+        DropWork(program.data_folder);
+        return false;
+    }
     const auto question = question_about(*work, recipe);
-    if (is_sound && prompts.ask_yes_no({.text = question, .icon = Icon::question}) == Answer::yes)
-        return restore_work(program, *work);
+    const auto answer = prompts.ask_yes_no_cancel({.text = question, .icon = Icon::question});
+    if (answer == Answer::yes) return restore_work(program, *work);
+    if (answer == Answer::cancel) std::filesystem::rename(path, aside, error);
     DropWork(program.data_folder);
     return false;
 }

@@ -23,7 +23,8 @@ std::optional<RecoveredWork> FindWork(const std::string& data_folder);
 /// Makes it the live recipe, as yet unsaved; false if it cannot be read, and all stays as it was.
 bool restore_work(Program& program, const RecoveredWork& work);
 
-/// Offers what a broken run left, and discards it if it is not wanted. True if it is the live recipe now.
+/// Offers what a broken run left: it becomes the live recipe, is discarded or is put aside until the next
+/// start. True if it is the live recipe now.
 bool offer_work(Program& program, Prompts& prompts);
 
 } // namespace wortlex

@@ -1,3 +1,4 @@
+#include "calculators/hop_bitterness.h"
 #include "reports/sections.h"
 #include "reports/unit_words.h"
 
@@ -30,21 +31,6 @@ std::string_view word(ColorFormula formula) {
     return "";
 }
 
-// The generic formula goes by the name of its author.
-std::string_view word(HopFormulaCode formula) {
-    switch (formula) {
-    case HopFormulaCode::Rager:
-        return "Rager";
-    case HopFormulaCode::Garetz:
-        return "Garetz";
-    case HopFormulaCode::Tinseth:
-        return "Tinseth";
-    case HopFormulaCode::Generic:
-        return "Daniels";
-    }
-    return "";
-}
-
 ReportRow utilization_row(std::string_view hops, double percent) {
     auto label = "Additional Utilization Used For " + std::string(hops) + ":";
     label.resize(utilization_column, ' ');
@@ -70,7 +56,7 @@ ReportSection formulas_section(const ReportSource& source) {
         rows.push_back({"Yield Of Mashed Grain Based On: %s\n", {yield_word(settings.yield_type)}});
     rows.push_back({"Sucrose Value for recipe: %0.4f\n", {source.open.figures.recipe_sucrose}});
     rows.push_back({"Color Formula Used:   %s\n", {word(settings.color_formula)}});
-    rows.push_back({"Hop IBU Formula Used: %s\n", {word(settings.HopFormula)}});
+    rows.push_back({"Hop IBU Formula Used: %s\n", {formula_word(settings.HopFormula)}});
     if (settings.HopFormula == HopFormulaCode::Tinseth)
         rows.push_back({"Tinseth Concentration Factor: %0.2f\n", {settings.tinseth_factor}});
     rows.push_back({"Kettle Size Hop Utilization Scale Factor: %0.2f\n", {settings.kettle_factor}});

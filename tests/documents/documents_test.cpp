@@ -257,9 +257,6 @@ TEST(Change, OfSizes) {
     batch_size_changed(batch.recipe(), 5, batch.locks);
     batch.expect({26.799963F, 24.6457863F, 2.4F, 9, 8}, "batch size, with nothing locked to it");
     EXPECT_EQ(batch.document.wort_size, 10.0F);
-    batch.document.batch_size = 0.5F;
-    batch_size_changed(batch.recipe(), 10, batch.locks);
-    EXPECT_EQ(batch.document.batch_size, 1.0F) << "at least a gallon";
 }
 
 TEST(Change, OfBatchSizeScalesWhatIsLockedToIt) {

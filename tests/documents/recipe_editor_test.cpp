@@ -2,6 +2,7 @@
 #include "documents/gravity.h"
 #include "documents/page_forms.h"
 #include "documents/recipe_form.h"
+#include "documents/snapshot.h"
 #include "documents/style_band.h"
 #include "support/field.h"
 
@@ -103,6 +104,9 @@ TEST(RecipeEditor, GravityHoldsUnderTheEfficiencyLock) {
 
 TEST(RecipeEditor, TypingKeepsToTheRules) {
     Work work;
+    PlainField emptied;
+    work.form.type(dynamic_cast<EntryRow&>(work.form.row("batch_size")), emptied);
+    EXPECT_EQ(work.document.batch_size, 5) << "a field that is empty for a moment says nothing";
     work.type("efficiency", "3");
     EXPECT_EQ(work.document.efficiency, 0.05F);
     const float ibu = work.document.total_ibu;
@@ -258,6 +262,21 @@ TEST(RecipeHistory, PagesAreOneStepAndSavesAreNone) {
     EXPECT_EQ(work.document.notes.view(), "Half typed") << "undo takes back the step alone";
 }
 
+TEST(RecipeHistory, LeavesALineSelectedAndSeesNoChangeInNonsense) {
+    Work work;
+    work.editor.view.selected_malt = 1;
+    add_malt(work.editor, {});
+    EXPECT_EQ(work.editor.view.selected_malt, 2);
+    undo(work.editor);
+    EXPECT_EQ(work.editor.view.selected_malt, 1) << "the new line is gone";
+    work.document.malts[0].amount = std::numeric_limits<float>::quiet_NaN(); // of a damaged file
+    start_editing(work.editor, work.editor.view);
+    const auto saved = snapshot_document(work.editor.open, SnapshotScope::with_schedule);
+    edit(work.editor, "Nothing", [] {});
+    EXPECT_EQ(work.editor.history.to_undo(), "");
+    EXPECT_FALSE(document_changed(work.document, saved));
+}
+
 TEST(RecipePages, CancelPutsBackWhatThePageFound) {
     Work work;
     Form extras;
@@ -281,7 +300,7 @@ TEST(RecipePages, CancelPutsBackWhatThePageFound) {
     work.document.yeast.record.optimum_temperature = 95;
     PlainField celsius;
     dynamic_cast<EntryRow&>(yeast.row("celsius")).show(celsius);
-    EXPECT_EQ(celsius.content, "35");
+    EXPECT_EQ(celsius.content, "35.0");
     yeast.cancel();
     EXPECT_TRUE(work.document.yeast.record.name.empty());
 }

@@ -28,9 +28,9 @@ struct Kitchen {
     }
 };
 
-constexpr const char* question_about_file = "Wortlex ended before your work on Alt.rec was saved.\nDo you "
-                                            "want to open it as it was? If you answer No "
-                                            "it is discarded.";
+constexpr const char* question_about_file =
+    "Wortlex ended before your work on Alt.rec was saved.\nDo you want to open it as it was? No discards it, "
+    "Cancel asks again at the next start.";
 
 TEST(Recovery, BringsBackWhatABrokenRunLeft) {
     Kitchen run;
@@ -42,7 +42,7 @@ TEST(Recovery, BringsBackWhatABrokenRunLeft) {
     const auto kept = run.program.recipe_file.stamp;
 
     new_recipe(run.program);
-    run.prompts.expect("yes/no", question_about_file, Answer::yes, Icon::question);
+    run.prompts.expect("yes/no/cancel", question_about_file, Answer::yes, Icon::question);
     EXPECT_TRUE(offer_work(run.program, run.prompts));
     EXPECT_EQ(run.program.document.title.view(), "Alt");
     EXPECT_EQ(run.program.document.file_efficiency_mode, 2);
@@ -51,7 +51,11 @@ TEST(Recovery, BringsBackWhatABrokenRunLeft) {
     EXPECT_EQ(run.program.recipe_file.path, run.folder / "Alt.rec");
     EXPECT_EQ(run.program.recipe_file.stamp, kept);
 
-    run.prompts.expect("yes/no", question_about_file, Answer::no, Icon::question);
+    run.prompts.expect("yes/no/cancel", question_about_file, Answer::cancel, Icon::question);
+    EXPECT_FALSE(offer_work(run.program, run.prompts));
+    KeepWork(run.program);
+    DropWork(run.folder.path()); // a recipe was opened and left meanwhile
+    run.prompts.expect("yes/no/cancel", question_about_file, Answer::no, Icon::question);
     EXPECT_FALSE(offer_work(run.program, run.prompts));
     EXPECT_FALSE(offer_work(run.program, run.prompts)) << "discarded: nothing more to ask";
 }

@@ -67,11 +67,11 @@ YeastWaterActions yeast_water_actions(RecipeEditor& editor, const WindowPorts& p
     YeastWaterActions actions;
     actions.pick_yeast = [side] {
         if (const auto yeast = pick_yeast(side.ports, side.opener, side.owner))
-            side.editor.open.document.yeast.record = *yeast;
+            set_yeast(side.editor, *yeast);
     };
     actions.pick_water = [side] {
         if (const auto water = pick_water(side.ports, side.opener, side.owner))
-            side.editor.open.document.water = *water;
+            set_water(side.editor, *water);
     };
     return actions;
 }
@@ -86,8 +86,11 @@ ExtrasActions extras_actions(RecipeEditor& editor, const WindowPorts& ports, Ope
     actions.edit_extra = [side] {
         const auto line = selected_extra(side.editor);
         if (!line) return;
-        const auto& extra = side.editor.open.document.extras[*line];
-        if (const auto changed = edit_extra_line(side.ports, extra, side.opener, side.owner))
+        const auto& extras = side.editor.open.document.extras;
+        const auto before = extras[*line];
+        const auto changed = edit_extra_line(side.ports, before, side.opener, side.owner);
+        // The recipe window stays open beside this one: meanwhile the line may have become another.
+        if (changed && selected_extra(side.editor) == line && extras[*line] == before)
             replace_extra(side.editor, *changed);
     };
     return actions;

@@ -19,6 +19,7 @@ RecipePage::RecipePage(RecipeEditor& editor, RecipePageUse use, const Places& pl
 Form RecipePage::made_form() {
     Form form;
     use_.fill(form, this);
+    form.after_edit([this](Row&) { tell_change(editor_); });
     return form;
 }
 
@@ -28,6 +29,8 @@ void RecipePage::lay_out_rows() {
     auto* const bottom = new QHBoxLayout;
     bottom->addStretch();
     auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
+    buttons->button(QDialogButtonBox::Ok)->setDefault(false); // Enter is for the fields
+    buttons->button(QDialogButtonBox::Ok)->setAutoDefault(false);
     bottom->addWidget(buttons);
     layout->addLayout(bottom);
     connect(buttons, &QDialogButtonBox::accepted, this, [this] { accept(); });
@@ -47,8 +50,11 @@ void RecipePage::dismiss() {
 
 bool RecipePage::may_close() {
     if (is_dismissed_) return true;
-    if (!is_accepted_) form_.cancel();
     end_page(editor_, use_.step);
+    if (!is_accepted_) { // noted first: who cancels by mistake can undo it
+        form_.cancel();
+        end_page(editor_, "Cancel " + use_.step);
+    }
     if (changed) changed();
     return true;
 }
@@ -97,6 +103,8 @@ QLayout* arrange_extras(const FormWidgets& widgets) {
     auto* const texts = new QGridLayout;
     column = 0;
     for (const auto* const key : {"notes", "awards"}) {
+        auto& text = widgets.field(key);
+        text.setMinimumHeight(text.fontMetrics().lineSpacing() * 6);
         texts->addWidget(widgets.label(key), 0, column);
         texts->addWidget(&widgets.field(key), 1, column++);
     }

@@ -14,6 +14,7 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScreen>
 
 namespace wortlex {
 namespace {
@@ -57,6 +58,8 @@ RecipeWindow::RecipeWindow(const WindowPorts& ports, QWidget* origin)
     connect(&keeper_, &QTimer::timeout, this, [this] { keep_work(); });
     keeper_.start(between_keeps);
     reopen();
+    resize(
+        sizeHint().boundedTo(screen()->availableSize())); // all of it: the toolkit would stop at two thirds
 }
 
 RecipeActions RecipeWindow::actions() {
@@ -145,21 +148,31 @@ RecipeSaving RecipeWindow::saving() {
             ports_.files, ports_.prompts,       folder_path(program_.folders, FolderKind::recipes)};
 }
 
-void RecipeWindow::start_new() {
+bool RecipeWindow::may_leave_recipe() {
+    const auto has_dialog = [](const QWidget* page) { return page != nullptr && show_modal_child(*page); };
+    if (is_asking_ || has_dialog(yeast_and_water_) || has_dialog(extras_) || has_dialog(mash_)) return false;
+    is_asking_ = true;
     auto current = saving();
-    if (!may_leave(current)) return;
+    const bool may = may_leave(current);
+    is_asking_ = false;
+    show_everything();
+    return may;
+}
+
+void RecipeWindow::start_new() {
+    if (!may_leave_recipe()) return;
     close_pages();
     new_recipe(program_);
     reopen();
+    keep_work();
 }
 
 void RecipeWindow::open_another() {
-    auto current = saving();
-    if (!may_leave(current)) return;
-    if (!choose_and_open(program_, DocumentKind::recipe, ports_.files, ports_.prompts))
-        return show_everything();
+    if (!may_leave_recipe()) return;
+    if (!choose_and_open(program_, DocumentKind::recipe, ports_.files, ports_.prompts)) return;
     close_pages();
     reopen();
+    keep_work();
     tell_method();
 }
 
@@ -182,10 +195,7 @@ void RecipeWindow::print() {
 }
 
 bool RecipeWindow::may_close() {
-    auto current = saving();
-    const bool may = may_leave(current);
-    show_everything();
-    if (!may) return false;
+    if (!may_leave_recipe()) return false;
     close_pages();
     keeper_.stop();
     DropWork(program_.data_folder);
@@ -206,7 +216,8 @@ void RecipeWindow::show_changes() {
     for (const auto& [action, word, step] : {std::tuple(undo_, tr("&Undo"), editor_.history.to_undo()),
                                              std::tuple(redo_, tr("&Redo"), editor_.history.to_redo())}) {
         action->setEnabled(!step.empty());
-        action->setText(step.empty() ? word : word + QLatin1Char(' ') + string_of(step));
+        const auto name = string_of(step).replace(QLatin1Char('&'), QLatin1String("&&"));
+        action->setText(step.empty() ? word : word + QLatin1Char(' ') + name);
     }
 }
 
@@ -280,13 +291,15 @@ void RecipeWindow::show_mash() {
         mash_ = new SimpleMashWindow(program_, work,
                                      {.mash_grain = [this] { return program_.figures.mash_grain; },
                                       .accepted =
-                                          [this](const SimpleMash& mash, float ratio) {
+                                          [this](const SimpleMash& mash) {
                                               set_simple_mash(editor_, mash);
-                                              program_.water_to_grain = ratio;
                                               panel_.refresh();
                                           },
-                                      .revert_to_complex = nullptr},
+                                      .revert_to_complex = nullptr,
+                                      .pages = &ports_.pages},
                                      this);
+        // From now on the water itself tells the ratio: worked out from a ratio again it would drift.
+        program_.water_to_grain = 0;
     }
     bring_forward(*mash_);
 }

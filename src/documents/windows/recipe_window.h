@@ -39,6 +39,8 @@ private:
     void add_edit_menu(QMenuBar& bar);
     QLayout* page_part();
 
+    /// Whether the recipe can be left: no dialog stands open over one of its pages, nothing is left to save.
+    bool may_leave_recipe();
     void start_new();
     void open_another();
     bool save_recipe(SaveAs save_as);
@@ -74,7 +76,8 @@ private:
     QPointer<RecipePage> yeast_and_water_;
     QPointer<RecipePage> extras_;
     QPointer<SimpleMashWindow> mash_;
-    float told_grain_ = 0; ///< the mashed pounds that the mash window knows
+    bool is_asking_ = false; ///< whether to save; while it is open the recipe stays
+    float told_grain_ = 0;   ///< the mashed pounds that the mash window knows
 };
 
 } // namespace wortlex

@@ -36,6 +36,8 @@ SimpleMashWindow::SimpleMashWindow(Program& program, const SimpleMashWork& work,
     connect(buttons, &QDialogButtonBox::accepted, this, &SimpleMashWindow::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QWidget::close);
     connect(new QShortcut(QKeySequence::Cancel, this), &QShortcut::activated, this, &QWidget::close);
+    for (const auto key : {Qt::Key_Return, Qt::Key_Enter})
+        connect(new QShortcut(key, this), &QShortcut::activated, this, &SimpleMashWindow::accept);
     widgets_.field("saccharification_temperature").setFocus();
 }
 
@@ -59,7 +61,7 @@ std::function<void()> SimpleMashWindow::print_action(const Program& program) {
 }
 
 void SimpleMashWindow::accept() {
-    calls_.accepted(work_.mash, kept_ratio(work_));
+    calls_.accepted(work_.mash);
     close();
 }
 

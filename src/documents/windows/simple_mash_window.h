@@ -14,8 +14,8 @@ namespace wortlex {
 /// What the document window gives, and what it is told.
 struct SimpleMashCalls {
     std::function<float()> mash_grain; ///< pounds, up to date
-    /// OK: the schedule to take over, and the ratio to keep with it.
-    std::function<void(const SimpleMash& mash, float ratio)> accepted;
+    /// OK: the schedule to take over.
+    std::function<void(const SimpleMash& mash)> accepted;
     /// After that, where the complex schedule is to come into force; empty: it cannot.
     std::function<void()> revert_to_complex;
     PageDesk* pages = nullptr; ///< null: it cannot be printed

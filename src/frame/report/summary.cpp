@@ -1,4 +1,5 @@
 #include "base/windows1252.h"
+#include "calculators/hop_bitterness.h"
 #include "frame/report/document_report.h"
 #include "measures/gravity.h"
 #include "measures/units.h"
@@ -47,20 +48,6 @@ std::string_view word(RecipeKind kind) {
     }
 }
 
-std::string_view word(HopFormulaCode formula) {
-    switch (formula) {
-    case HopFormulaCode::Rager:
-        return "Rager";
-    case HopFormulaCode::Garetz:
-        return "Garetz";
-    case HopFormulaCode::Tinseth:
-        return "Tinseth";
-    case HopFormulaCode::Generic:
-        return "Daniels";
-    }
-    return "no formula";
-}
-
 std::string time_word(const HopUse& line, int boil_minutes) {
     switch (hop_timing(line.boil_time, boil_minutes)) {
     case HopTiming::dry:
@@ -103,7 +90,7 @@ std::string heading(const Program& program, const Evaluation& evaluation) {
            volume(document.wort_size, settings) + "   Boil " + std::to_string(document.boil_minutes) +
            " min   Efficiency " + fixed(document.efficiency * 100.0, 0) + " %\n";
     out += "  OG " + gravity(document.og_points, settings) + "   IBU " + fixed(document.total_ibu, 1) + " (" +
-           std::string(word(settings.HopFormula)) + ")   Colour " +
+           std::string(formula_word(settings.HopFormula)) + ")   Colour " +
            fixed(to_shown_colour(program.figures.colour.srm, settings), 1) + " " +
            std::string(words(settings).colour) + "\n";
     return out +

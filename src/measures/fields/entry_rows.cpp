@@ -126,6 +126,7 @@ bool NumberRow::typed(TextField& field) {
         if (has_changed && when_typed_) when_typed_(before, value);
         return has_changed;
     }
+    if (field.text().empty() && (range.low > 0 || range.high < 0)) return false; // no number yet
     type_into(field, value, {-anything, anything});
     const float held = std::clamp(value, range.low, range.high);
     store(held, before);
@@ -213,6 +214,7 @@ bool IntegerRow::typed(TextField& field) {
     if (units_) return store(value, typed_temperature(*units_, field, value, field_length));
     if (outside_ == Outside::ignore)
         return store(value, typed_int(field, value, typed_low_(), typed_high_(), field_length));
+    if (field.text().empty() && (typed_low_() > 0 || typed_high_() < 0)) return false; // no number yet
     typed_int(field, value, -any_whole, any_whole, field_length);
     const auto held = std::clamp(value, typed_low_(), typed_high_());
     const bool has_changed = store(held, held != before);
@@ -262,7 +264,9 @@ void TextRow::show(TextField& field) const {
 
 bool TextRow::typed(TextField& field) {
     const auto stored = windows1252_from_utf8(multi_line_ ? stored_lines(field.text()) : field.text());
-    if (!stored || stored->size() > limit_) {
+    // What a file brought may be longer than can be typed; it can always be shortened.
+    const bool is_too_long = stored && stored->size() > limit_ && stored->size() >= read_().size();
+    if (!stored || is_too_long) {
         refuse(field, shown());
         return false;
     }

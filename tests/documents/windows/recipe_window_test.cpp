@@ -197,6 +197,23 @@ TEST(RecipeWindow, UndoIsTheRecipesInEveryField) {
     EXPECT_TRUE(kitchen.recipe->close());
 }
 
+TEST(RecipeWindow, StaysWhileADialogIsOpenOverAPage) {
+    Kitchen kitchen;
+    kitchen.begin();
+    kitchen.on_page(Qt::Key_N, [&] {
+        QTimer::singleShot(300, kitchen.recipe, [&] {
+            auto* const list = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+            ASSERT_NE(list, nullptr);
+            EXPECT_FALSE(kitchen.recipe->close()) << "the list would pick for a recipe that is gone";
+            list->reject();
+        });
+        auto* const page = QApplication::activeWindow();
+        page->findChild<QPushButton*>("extra_new")->click();
+        kitchen.activate(page);
+    });
+    EXPECT_TRUE(kitchen.recipe->close());
+}
+
 TEST(RecipeWindow, ShowsRecoveredWorkAsItWas) {
     Kitchen kitchen;
     kitchen.program.document.efficiency = 0.6F;
@@ -205,7 +222,7 @@ TEST(RecipeWindow, ShowsRecoveredWorkAsItWas) {
     kitchen.prompts.expect(
         "yes/no",
         "Wortlex ended before your work on a new recipe was saved.\nDo you want to open it "
-        "as it was? If you answer No it is discarded.",
+        "as it was? No discards it, Cancel asks again at the next start.",
         Answer::yes, Icon::question);
     kitchen.main->offer_unsaved_work();
     auto* const recipe = open_recipe_window();

@@ -55,7 +55,7 @@ TEST(NumberRow, OutsideItsRangeFollowsItsRule) {
         const char* left; ///< in the field
     };
     for (const auto& c : {Case{Outside::ignore, "150", 50, "150"}, Case{Outside::clamp, "150", 100, "150"},
-                          Case{Outside::rewrite, "150", 100, "100"}, Case{Outside::clamp, "", 1, ""},
+                          Case{Outside::rewrite, "150", 100, "100"}, Case{Outside::clamp, "", 50, ""},
                           Case{Outside::clamp, "7x", 50, "7"}}) {
         float value = 50;
         std::int32_t whole = 50;
