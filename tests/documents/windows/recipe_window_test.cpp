@@ -220,7 +220,7 @@ TEST(RecipeWindow, ShowsRecoveredWorkAsItWas) {
     KeepWork(kitchen.program);
     kitchen.program.document.efficiency = 0.9F;
     kitchen.prompts.expect(
-        "yes/no",
+        "yes/no/cancel",
         "Wortlex ended before your work on a new recipe was saved.\nDo you want to open it "
         "as it was? No discards it, Cancel asks again at the next start.",
         Answer::yes, Icon::question);
