@@ -95,6 +95,8 @@ bool take_mode_and_owner(int descriptor, const OldFile& old) {
     return ::fchmod(descriptor, old.status.st_mode & 07777) == 0;
 }
 
+constexpr std::string_view temporary_name = ".wortlex-XXXXXX";
+
 constexpr std::string_view write_error =
     "Wortlex has experienced an error in writing this file.\n\nPossible reasons include:\n\n"
     "a) The file has somehow been tagged as read-only by the system.\n\n"
@@ -134,7 +136,7 @@ bool save_atomically(const std::string& path, ByteView content) {
 
     const auto parent = std::filesystem::path(target).parent_path().string();
     const auto folder = parent.empty() ? std::string(".") : parent;
-    auto temporary = folder + "/.wortlex-XXXXXX";
+    auto temporary = folder + "/" + std::string(temporary_name);
     OpenFile file(::mkostemp(temporary.data(), O_CLOEXEC));
     if (!file.is_open()) return false;
 
@@ -153,6 +155,17 @@ bool save_or_tell(const std::string& path, ByteView content, Prompts& prompts) {
     if (save_atomically(path, content)) return true;
     prompts.tell({.text = write_error, .icon = Icon::warning});
     return false;
+}
+
+void remove_broken_saves(const std::string& folder) {
+    const auto fixed_part = temporary_name.substr(0, temporary_name.find('X'));
+    std::error_code error;
+    for (const auto& entry : std::filesystem::directory_iterator(folder, error)) {
+        const auto name = entry.path().filename().string();
+        if (name.starts_with(fixed_part) && name.size() == temporary_name.size() &&
+            entry.is_regular_file(error))
+            std::filesystem::remove(entry.path(), error);
+    }
 }
 
 std::optional<FileStamp> stamp_of(const std::string& path) {

@@ -16,6 +16,7 @@ constexpr std::string_view page_changes = "Page Changes";
 template <class Line>
 std::vector<float> amounts_of(const std::vector<Line>& lines) {
     std::vector<float> amounts;
+    amounts.reserve(lines.size());
     for (const auto& line : lines) amounts.push_back(line.amount);
     return amounts;
 }

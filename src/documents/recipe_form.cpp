@@ -15,13 +15,13 @@ float sg_of(float points) {
 }
 
 // A band beside the limits: where the recipe stands between them.
-void band(Rows& rows, std::string key, const std::string& what, std::function<StyleBand()> figure,
+void band(Rows& rows, std::string key, const std::string& what, const std::function<StyleBand()>& figure,
           const BrewDocument& document) {
     rows.canvas(std::move(key), {90, 9},
                 [figure, &document](Surface& surface) {
                     draw_style_band(surface, has_style(document) ? figure() : StyleBand{});
                 })
-        .hint([what, figure = std::move(figure), &document]() -> std::string {
+        .hint([what, figure, &document]() -> std::string {
             if (!has_style(document)) return "";
             const auto now = figure();
             if (now.value < now.low) return what + " is below the style's range";

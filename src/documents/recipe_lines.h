@@ -23,9 +23,9 @@ void delete_hop(RecipeEditor& editor);
 void delete_extra(RecipeEditor& editor);
 
 /// A line as its dialog left it.
-void replace_malt(RecipeEditor& editor, const MaltUse& line);
-void replace_hop(RecipeEditor& editor, const HopUse& line);
-void replace_extra(RecipeEditor& editor, const ExtraUse& line);
+void replace_malt(RecipeEditor& editor, const MaltUse& changed);
+void replace_hop(RecipeEditor& editor, const HopUse& changed);
+void replace_extra(RecipeEditor& editor, const ExtraUse& changed);
 
 /// More or less by the increment of the settings, for an extra by 0.05. A weight never comes down to nothing:
 /// less is taken only from more than the increment.

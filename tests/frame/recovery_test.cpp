@@ -60,6 +60,17 @@ TEST(Recovery, BringsBackWhatABrokenRunLeft) {
     EXPECT_FALSE(offer_work(run.program, run.prompts)) << "discarded: nothing more to ask";
 }
 
+TEST(Recovery, ClearsAwayOnlyWhatKilledSavesLeft) {
+    Kitchen run;
+    std::ofstream(run.folder / ".wortlex-a1B2c3") << "half";
+    std::ofstream(run.folder / ".wortlex.lock") << "ours";
+    std::ofstream(run.folder / ".wortlex-notes.txt") << "the brewer's";
+    const auto before = run.folder.entries();
+    remove_broken_saves(run.folder.path());
+    EXPECT_EQ(run.folder.entries(), before - 1);
+    EXPECT_FALSE(std::filesystem::exists(run.folder / ".wortlex-a1B2c3"));
+}
+
 TEST(Recovery, TrustsNoFile) {
     Kitchen run;
     const auto path = run.folder / "WlxWork.rcv";

@@ -1,4 +1,5 @@
 // wortlex: run in a brewery folder, it opens the main window on it, and a document given by name.
+#include "base/files.h"
 #include "desktop/desk.h"
 #include "desktop/message_boxes.h"
 #include "desktop/print_preview.h"
@@ -38,6 +39,7 @@ int run(int count, char** arguments) {
         prompts.tell({.text = "Wortlex is already open in this brewery folder.", .icon = Icon::information});
         return 0;
     }
+    remove_broken_saves(folder); // it is ours alone now
     Program program;
     if (!start(program, folder, prompts)) return 0;
     FileDialogs files;
