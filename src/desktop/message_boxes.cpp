@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QColorDialog>
+#include <QDeadlineTimer>
 #include <QFile>
 #include <QFileDialog>
 #include <QMessageBox>
@@ -55,6 +56,10 @@ Answer answer_of(int button) {
 
 QWidget* window_in_use() {
     if (auto* const modal = QApplication::activeModalWidget()) return modal;
+    // A dialog may have closed just now, and its owner is active only when the desktop has said so.
+    const QDeadlineTimer patience(std::chrono::milliseconds(200));
+    while (QApplication::activeWindow() == nullptr && !patience.hasExpired())
+        QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents, 10);
     if (auto* const active = QApplication::activeWindow()) return active;
     for (auto* const window : QApplication::topLevelWidgets())
         if (window->isVisible()) return window;

@@ -1,11 +1,11 @@
 #include "frame/export_report.h"
 
-#include "base/windows1252.h"
 #include "frame/program.h"
 #include "reports/document_report.h"
 #include "reports/file_names.h"
 #include "reports/print_options.h"
 #include "reports/report_writers.h"
+#include "reports/unit_words.h"
 
 namespace wortlex {
 namespace {
@@ -54,7 +54,7 @@ void export_recipe(const WindowPorts& ports, const RecipeView& view) {
     const auto open = open_recipe(program);
     const auto report =
         document_report({open, view, program.color_table, evaporation_rate(program)}, program.recipe_print);
-    const auto title = utf8_from_windows1252(program.document.title.view());
+    const auto title = line_text(program.document.title);
     const auto name = recipe_file_name(title, ReportOutput::report);
     switch (report_form(program.recipe_print)) {
     case ReportForm::print:

@@ -45,7 +45,9 @@ void print_strike(PageContext& page, const StrikeCalculator& calculator, bool by
     page.NewLines(1);
     print_result(page, formatted("Initial Dough In Strike Water Temp Shoud Be\t%0.2f\tDegrees Fahrenheit",
                                  calculator.strike.fahrenheit));
-    print_result(page, formatted("\t%0.2f\tDegrees Celsius", calculator.strike.celsius));
+    // The window may still show the wanted temperature there, as it does at its opening.
+    print_result(page,
+                 formatted("\t%0.2f\tDegrees Celsius", of_fahrenheit(calculator.strike.fahrenheit).celsius));
     page.NewLines(2);
     print_line(page, formatted("Total Mash Volume:\t%0.2f\tGAL", calculator.mash_gallons) +
                          formatted("\t%0.2f\tLiters", calculator.mash_gallons * litres_per_gallon));

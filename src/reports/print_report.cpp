@@ -71,6 +71,8 @@ void write(const ReportTable& table, PageContext& page) {
     for (const auto& column : table.columns)
         if (column.tab > 0) tabs.push_back(column.tab);
     for (const auto& row : table.rows) {
+        page.KeepTogether(1);
+        if (page.y() == 0) write_titles(table, page);
         const auto words = row.print_format.empty() ? joined(table_cells(row)) : print_words(row);
         write_row(page, tabs, row, fitted(page, table.columns, words));
     }

@@ -96,7 +96,7 @@ TEST(StrikePrintout, TellsBothUnits) {
                             "Total Water:\t12.00\tQTS\t11.36\tLiters", "Water/Grain Ratio:\t1.20\t\t2.50\t",
                             "Desired Mash Temp:\t155.00\tF\t68.33\tC", "Grain Temp:\t68.00\tF\t20.00\tC",
                             "Initial Dough In Strike Water Temp Shoud Be\t170.00\tDegrees Fahrenheit",
-                            "\t68.33\tDegrees Celsius", "Total Mash Volume:\t3.80\tGAL\t14.38\tLiters"));
+                            "\t76.67\tDegrees Celsius", "Total Mash Volume:\t3.80\tGAL\t14.38\tLiters"));
     settings.system_mode = SystemMode::pro_brewer;
     calculator.grain = of_pounds(0);
     work_out_strike(calculator);

@@ -42,21 +42,21 @@ bool is_whole_report(Form form) {
 bool is_usable(const Options& options) {
     if (options.help) return true;
     if (options.files.empty() || (options.output && !is_whole_report(options.form))) return false;
-    return !options.save_as || options.files.size() == 1;
+    return !options.save_as || (options.files.size() == 1 && options.form == Form::summary);
 }
 
-// Takes a word that is all of an option.
+std::optional<Form> form_of(std::string_view word) {
+    if (word == "--json") return Form::json;
+    if (word == "--text") return Form::text;
+    return word == "--html" ? std::optional(Form::html) : std::nullopt;
+}
+
+// Takes a word that is all of an option. There is one form at most.
 bool take_option(Options& options, std::string_view word) {
-    if (word == "--json")
-        options.form = Form::json;
-    else if (word == "--text")
-        options.form = Form::text;
-    else if (word == "--html")
-        options.form = Form::html;
-    else if (word == "--help")
-        options.help = true;
-    else
-        return false;
+    if (word == "--help") return options.help = true;
+    const auto form = form_of(word);
+    if (!form || options.form != Form::summary) return false;
+    options.form = *form;
     return true;
 }
 
@@ -174,7 +174,7 @@ int run(std::span<char* const> arguments) {
     if (is_whole_report(options->form)) reporter.full.emplace(program);
     bool all_well = true;
     for (const auto& file : options->files) all_well = report_file(reporter, file) && all_well;
-    if (std::fflush(stdout) != 0) {
+    if (std::fflush(stdout) != 0 || std::ferror(stdout) != 0) {
         complain("standard output", "could not be written");
         all_well = false;
     }
