@@ -190,6 +190,10 @@ std::string find_data_file(const std::string& folder, std::string_view name) {
     return path;
 }
 
+std::string file_name(const std::string& path) {
+    return std::filesystem::path(path).filename().string();
+}
+
 std::string native_folder(std::string_view stored) {
     std::string folder(stored);
     std::replace(folder.begin(), folder.end(), '\\', '/');

@@ -46,6 +46,9 @@ std::optional<FileStamp> stamp_of(const std::string& path);
 /// `folder` + `name`, or where that does not exist the file of the same name but for capitals.
 std::string find_data_file(const std::string& folder, std::string_view name);
 
+/// The last part of a path.
+std::string file_name(const std::string& path);
+
 /// A folder path of a settings file in the form of this system: slashes, and one at the end.
 /// An empty path stays empty.
 std::string native_folder(std::string_view stored);

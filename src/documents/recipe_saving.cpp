@@ -55,9 +55,9 @@ bool may_overwrite(const RecipeSaving& saving, const std::string& path) {
     const auto& stamp = saving.file.stamp;
     const auto now = stamp_of(path);
     if (path != saving.file.path || !stamp || !now || *now == *stamp) return true;
-    const auto name = std::filesystem::path(path).filename().string();
     const auto text =
-        name + " has been changed by another program since it was opened.\nDo you want to overwrite it?";
+        file_name(path) +
+        " has been changed by another program since it was opened.\nDo you want to overwrite it?";
     return saving.prompts.ask_yes_no({.text = text, .icon = Icon::warning}) == Answer::yes;
 }
 

@@ -43,10 +43,6 @@ bool is_sound(LoadResult result) {
     return result == LoadResult::loaded || result == LoadResult::incomplete;
 }
 
-std::string file_name(const std::string& path) {
-    return std::filesystem::path(path).filename().string();
-}
-
 void tell_fault(LoadResult result, const std::string& path, Prompts& prompts) {
     if (result == LoadResult::loaded) return;
     if (result == LoadResult::not_found) {

@@ -19,10 +19,6 @@ bool is_usable(std::string_view path) {
     return !path.empty() && std::none_of(path.begin(), path.end(), is_control);
 }
 
-std::string file_name(const std::string& path) {
-    return std::filesystem::path(path).filename().string();
-}
-
 void add_last(RecentDocuments& recent, std::string_view path) {
     const bool is_new = std::find(recent.begin(), recent.end(), path) == recent.end();
     if (is_new && is_usable(path) && recent.size() < recent_limit) recent.emplace_back(path);

@@ -9,12 +9,12 @@
 namespace wortlex {
 namespace {
 
-constexpr std::string_view file_name = "WlxWork.rcv";
+constexpr std::string_view work_file = "WlxWork.rcv";
 constexpr std::string_view put_aside = ".later"; // behind the name of work that is to be offered again
 constexpr std::string_view signature = "Wortlex unsaved recipe 1\n";
 
 std::string path_in(const std::string& data_folder) {
-    return data_folder + std::string(file_name);
+    return data_folder + std::string(work_file);
 }
 
 // The head is text: the path and the stamp of the file, a line each. A path may hold anything but a line's
@@ -44,7 +44,7 @@ std::optional<FileStamp> stamp_from(std::string_view line) {
 }
 
 std::string question_about(const RecoveredWork& work, const BrewDocument& recipe) {
-    const auto file = std::filesystem::path(work.path).filename().string();
+    const auto file = file_name(work.path);
     const auto title = utf8_from_windows1252(recipe.title.view());
     const auto name = !file.empty() ? file : title.empty() ? std::string("a new recipe") : title;
     return "Wortlex ended before your work on " + name +

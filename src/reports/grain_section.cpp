@@ -8,7 +8,7 @@
 namespace wortlex {
 namespace {
 
-constexpr std::size_t name_width = 29;
+constexpr std::size_t malt_name_width = 29;
 constexpr std::size_t origin_width = 14;
 
 std::string_view potential_scale(PotentialDisplay display) {
@@ -49,7 +49,7 @@ ReportRow row(const ReportSource& source, std::size_t line, const std::string& f
     return {format,
             {total > 0 ? double{malt.amount} / total * 100 : 0.0,
              grain_to_shown(malt.amount, source.open.settings),
-             {line_text(malt.record.name), name_width},
+             {line_text(malt.record.name), malt_name_width},
              {line_text(malt.record.origin), origin_width},
              malt_value(source.open, source.view, line),
              to_shown_colour(malt.record.colour, source.open.settings)}};

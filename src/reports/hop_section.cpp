@@ -5,7 +5,7 @@
 namespace wortlex {
 namespace {
 
-constexpr std::size_t name_width = 30;
+constexpr std::size_t hop_name_width = 30;
 constexpr std::size_t form_width = 6;
 
 ReportRow row(const HopUse& line, const ReportSource& source) {
@@ -13,7 +13,7 @@ ReportRow row(const HopUse& line, const ReportSource& source) {
     const auto format = "%6.2f " + unit + "   %s    %s %6.2f  %4.1f  ";
     ReportRow row{format + "%s\n",
                   {hop_to_shown(line.amount, source.open.settings),
-                   {line_text(line.record.name), name_width},
+                   {line_text(line.record.name), hop_name_width},
                    {std::string(form_word(form(line.record))), form_width},
                    line.alpha,
                    hop_bitterness(line, source.view, source.open.settings)}};

@@ -8,7 +8,7 @@
 namespace wortlex {
 namespace {
 
-constexpr std::string_view blanks = " \t\n";
+constexpr std::string_view white_space = " \t\n";
 constexpr char column_end = '\t';
 
 // A pattern cut at its places.
@@ -81,9 +81,9 @@ std::string words(std::string_view format, const std::vector<ReportValue>& value
 }
 
 std::string_view trimmed(std::string_view text) {
-    const auto first = text.find_first_not_of(blanks);
+    const auto first = text.find_first_not_of(white_space);
     if (first == std::string_view::npos) return {};
-    return text.substr(first, text.find_last_not_of(blanks) + 1 - first);
+    return text.substr(first, text.find_last_not_of(white_space) + 1 - first);
 }
 
 // Gathers cells from left to right.
@@ -97,7 +97,7 @@ public:
         has_value_ = true;
     }
 
-    // An empty value keeps its cell, blanks alone do not make one.
+    // An empty value keeps its cell, white_space alone do not make one.
     void end_cell() {
         current_.text = std::string(trimmed(current_.text));
         current_.is_label = !has_value_ && current_.text.ends_with(':');

@@ -8,16 +8,16 @@
 namespace wortlex {
 namespace {
 
-constexpr std::size_t name_width = 21;
+constexpr std::size_t step_name_width = 21;
 constexpr std::size_t heat_width = 9;
-constexpr std::size_t label_column = 24;
+constexpr std::size_t step_label_column = 24;
 constexpr double shown_thickness = 0.4784; // a thickness in litres per kilogram is quarts per pound over this
 
 void add_waters(std::vector<ReportRow>& rows, float quarts, std::string_view note, const Settings& settings) {
     for (const auto& [shown, unit] : shown_waters(quarts, settings)) {
         const auto label = "Total Water " + std::string(unit) + ":";
         rows.push_back(
-            {padded(label, label_column) + "%8.2f - %s\n", {shown, note}, label + "\t%6.2f\t- %s"});
+            {padded(label, step_label_column) + "%8.2f - %s\n", {shown, note}, label + "\t%6.2f\t- %s"});
     }
 }
 
@@ -26,7 +26,7 @@ ReportLines opening(const ReportSource& source) {
     const auto& mash = source.open.document.mash;
     const auto grain_label = "Total Grain " + std::string(grain_word(settings)) + ":";
     ReportLines lines{{170, 255}, {{"Mash Name: %s\n\n", {line_text(mash.mash_name)}}}};
-    lines.rows.push_back({padded(grain_label, label_column) + "%8.2f\n",
+    lines.rows.push_back({padded(grain_label, step_label_column) + "%8.2f\n",
                           {grain_to_shown(source.open.figures.mash_grain, settings)}});
     add_waters(lines.rows, source.open.document.simple_mash.dough_in_water, "Before Additional Infusions",
                settings);
@@ -74,7 +74,7 @@ void add_heat(ReportRow& row, const MashStep& step, const Settings& settings) {
 
 ReportRow step_row(const MashStep& step, const Settings& settings) {
     ReportRow row{"%s%3d    %3d    %3d     %3d   ",
-                  {{line_text(step.name), name_width},
+                  {{line_text(step.name), step_name_width},
                    step.step_minutes,
                    step.rest_minutes,
                    shown_degrees(step.start_temperature, settings),
@@ -85,11 +85,11 @@ ReportRow step_row(const MashStep& step, const Settings& settings) {
 }
 
 // In hectolitres print has always left a blank out.
-ReportRow volume_row(const ReportSource& source) {
+ReportRow mash_volume_row(const ReportSource& source) {
     const auto& settings = source.open.settings;
     const auto label = "Total Mash Volume " + std::string(volume_word(settings)) + ":";
     const bool is_hectolitres = volume_word(settings) == "hL";
-    return {padded(label, label_column) + "%8.2f - After Additional Infusions\n\n\n",
+    return {padded(label, step_label_column) + "%8.2f - After Additional Infusions\n\n\n",
             {to_shown_volume(source.open.figures.mash.gallons, settings)},
             label + "\t%6.2f\t-" + (is_hectolitres ? "" : " ") + "After Additional Infusions"};
 }
@@ -120,7 +120,7 @@ std::vector<ReportBlock> complex_schedule(const ReportSource& source) {
     ReportLines totals{{190, 255}, {}};
     add_waters(totals.rows, source.open.figures.mash.quarts, "After Additional Infusions", settings);
     totals.rows.front().format.insert(0, "\n\n");
-    totals.rows.push_back(volume_row(source));
+    totals.rows.push_back(mash_volume_row(source));
     add_notes(totals.rows, settings);
     std::vector<ReportBlock> blocks;
     blocks.emplace_back(opening(source));

@@ -37,7 +37,7 @@ Words words(const Settings& settings) {
             pick(settings.temperature_units == TemperatureUnits::fahrenheit, "F", "C")};
 }
 
-std::string_view word(RecipeKind kind) {
+std::string_view long_kind_word(RecipeKind kind) {
     switch (kind) {
     case RecipeKind::partial_mash:
         return "Partial Mash";
@@ -84,7 +84,7 @@ std::string heading(const Program& program, const Evaluation& evaluation) {
     out += evaluation.kind == DocumentKind::session ? " - Brewing Session" + brew_date(program.session)
                                                     : " - Recipe";
     out += "\n";
-    out += "  " + evaluation.file + "\n  " + std::string(word(document.recipe_kind));
+    out += "  " + evaluation.file + "\n  " + std::string(long_kind_word(document.recipe_kind));
     if (!document.style.name.empty()) out += ", " + utf8_from_windows1252(document.style.name.view());
     out += "\n\n  Batch " + volume(document.batch_size, settings) + "   Wort " +
            volume(document.wort_size, settings) + "   Boil " + std::to_string(document.boil_minutes) +

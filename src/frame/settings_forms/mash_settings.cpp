@@ -59,7 +59,7 @@ Live<std::string> by_volume(const SystemSettings& image, const char* american, c
     return [&image, american, metric] { return has_metric_volumes(image) ? metric : american; };
 }
 
-void water_rows(Rows& rows, SystemSettings& image) {
+void mash_water_rows(Rows& rows, SystemSettings& image) {
     ratio_row(rows, "quarts_per_pound", image.quarts_per_pound, image)
         .label(by_volume(image, "&QTS Water / LBS Grain Ratio:", "&L Water / KG Grain Ratio:"));
     scaled_row(rows, "grain_absorption", image.grain_absorption, absorption_per_kilogram, image)
@@ -111,7 +111,7 @@ std::string volume_per_hour(const SystemSettings& image) {
 
 void mash_settings_form(Form& form, SystemSettings& image, std::function<void()> help) {
     const auto ratios = std::make_shared<Ratios>(ratios_of(image));
-    water_rows(form.group("Water"), image);
+    mash_water_rows(form.group("Water"), image);
     heat_rows(form.group("Heat"), image, *ratios);
     form.next_column();
     form.group("Default Mash Schedule Type:")

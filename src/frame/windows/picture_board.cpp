@@ -8,7 +8,7 @@
 namespace wortlex {
 namespace {
 
-constexpr int title_pixels = 11;
+constexpr int caption_pixels = 11;
 constexpr int title_height = 15; // the gap below a button
 constexpr int title_width = 80;  // from one button to the next
 constexpr double asleep = 0.35;  // of a button whose command is not to be had
@@ -108,7 +108,7 @@ void PictureBoard::mousePressEvent(QMouseEvent* event) {
 // White over a dark shadow reads on copper and on steel.
 void PictureBoard::draw_titles(QPainter& painter) const {
     auto font = painter.font();
-    font.setPixelSize(title_pixels);
+    font.setPixelSize(caption_pixels);
     painter.setFont(font);
     const auto origin = main_screen_origin(width(), height());
     for (std::size_t i = 0; i < buttons_.size(); ++i) {
