@@ -1,3 +1,4 @@
+#include "base/number.h"
 #include "base/ports/quiet_prompts.h"
 #include "documents/windows/simple_mash_window.h"
 #include "frame/windows/main_window.h"
@@ -24,11 +25,12 @@ struct Page {
         program.settings.volume_units = Units::american;
         SimpleMash mash;
         mash.dough_in_water = 12;
-        SimpleMashCalls calls{
-            .mash_grain = [this] { return grain; },
-            .accepted =
-                [this](const SimpleMash& taken) { heard.push_back(std::to_string(taken.dough_in_water)); },
-            .revert_to_complex = nullptr};
+        SimpleMashCalls calls{.mash_grain = [this] { return grain; },
+                              .accepted =
+                                  [this](const SimpleMash& taken) {
+                                      heard.push_back(formatted("%0.2f", taken.dough_in_water));
+                                  },
+                              .revert_to_complex = nullptr};
         if (has_complex) calls.revert_to_complex = [this] { heard.emplace_back("complex"); };
         auto* const window =
             new SimpleMashWindow(program, open_simple_mash(mash, 0, grain, program.settings), calls, nullptr);
@@ -51,7 +53,7 @@ TEST(SimpleMashWindow, HandsOnWhatOkAccepts) {
     page.grain = 20;
     reverted.grain_changed();
     reverted.findChild<QPushButton*>("revert")->click();
-    EXPECT_EQ(page.heard, (std::vector<std::string>{"24.000000", "closed", "complex"}));
+    EXPECT_EQ(page.heard, (std::vector<std::string>{"24.00", "closed", "complex"}));
 }
 
 TEST(StrikeCalculatorWindow, OpensOnceAndKeepsItsValuesForTheRun) {
