@@ -3,7 +3,7 @@
 
 #include <QApplication>
 
-// What the printing plugin asks the C library for its messages in another language is never freed.
+// A plugin of the toolkit that is unloaded by then leaves the name of a locale behind, where that is not "C".
 extern "C" const char* __lsan_default_suppressions() { // NOLINT(bugprone-reserved-identifier)
     return "leak:argz_add_sep\n";
 }
