@@ -3,7 +3,7 @@
 #include "base/files.h"
 #include "base/ports/quiet_prompts.h"
 #include "documents/opening.h"
-#include "documents/records/document_files.h"
+#include "records/documents/document_files.h"
 #include "sample_document.h"
 
 #include <benchmark/benchmark.h>

@@ -3,8 +3,8 @@
 #include "base/ports/quiet_prompts.h"
 #include "databases/hops.h"
 #include "databases/store.h"
-#include "databases/windows/list_window.h"
-#include "desktop/desk.h"
+#include "windows/databases/list_window.h"
+#include "desktop/system_ports.h"
 #include "paint_watch.h"
 
 #include <QApplication>

@@ -2,7 +2,7 @@
 // paper of 300 dots an inch, with its texts measured as in the preview.
 #include "desktop/print_device.h"
 #include "documents/opening.h"
-#include "reports/document_report.h"
+#include "reports/catalogue.h"
 #include "reports/report_writers.h"
 #include "sample_document.h"
 

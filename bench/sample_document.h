@@ -1,7 +1,7 @@
 // A recipe of any size, for measuring.
 #pragma once
 
-#include "documents/records/brew_document.h"
+#include "records/documents/brew_document.h"
 
 namespace wortlex {
 

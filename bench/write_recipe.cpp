@@ -1,7 +1,7 @@
 // write_recipe LINES FILE: writes a recipe of so many malts and hops.
 #include "base/files.h"
 #include "base/number.h"
-#include "documents/records/document_files.h"
+#include "records/documents/document_files.h"
 #include "sample_document.h"
 
 int main(int count, char** arguments) {

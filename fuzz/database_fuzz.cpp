@@ -1,4 +1,4 @@
-#include "databases/records/database_file.h"
+#include "records/ingredients/database_file.h"
 #include "fuzz_input.h"
 
 using namespace wortlex;

@@ -1,7 +1,7 @@
 // What the fuzz targets share.
 #pragma once
 
-#include "frame/report/document_report.h"
+#include "companion/report_format.h"
 
 #include <cstdlib>
 

@@ -1,5 +1,5 @@
 #include "fuzz_input.h"
-#include "mash/records/schedule_file.h"
+#include "records/mash/schedule_file.h"
 
 using namespace wortlex;
 

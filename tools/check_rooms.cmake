@@ -1,19 +1,43 @@
-# Checks that every include of another room is among the rooms that its own is built on, and that nothing below
-# the frame and the windows knows the program's whole state.
+# Checks that every include of another room is among the rooms that its own is built on, that rooms are built only
+# on rooms named before them and top folders only on those before them, and that nothing below the program knows
+# its whole state.
 #
 #     cmake -DROOMS=build/.../rooms.txt -DSOURCE=src -P tools/check_rooms.cmake
 #
-# A line of ROOMS is "folder library library...": the room, its own library, those it is built on.
+# A line of ROOMS is "folder folder folder...": the room, and those it is built on.
 cmake_policy(VERSION 3.21)
 get_filename_component(SOURCE ${SOURCE} ABSOLUTE)
+set(floors base jpeg settings measures records brewing forms page charts databases mash water calculators documents
+    reports program companion desktop windows)
+set(faults 0)
+macro(fault text)
+    message("${text}")
+    math(EXPR faults "${faults}+1")
+endmacro()
+
+function(floor_of folder result)
+    string(REGEX REPLACE "/.*" "" top ${folder})
+    list(FIND floors ${top} floor)
+    set(${result} ${floor} PARENT_SCOPE)
+endfunction()
+
 file(STRINGS ${ROOMS} lines)
 set(folders "")
 foreach(line IN LISTS lines)
     string(REPLACE " " ";" parts "${line}")
-    list(POP_FRONT parts folder library)
-    list(APPEND folders ${folder})
-    set(library_of_${folder} ${library})
+    list(POP_FRONT parts folder)
     set(allowed_of_${folder} ${parts})
+    floor_of(${folder} floor)
+    if(floor EQUAL -1)
+        fault("${folder}: lies on no floor")
+    endif()
+    foreach(other IN LISTS parts)
+        floor_of(${other} below)
+        if(NOT other IN_LIST folders OR below GREATER floor)
+            fault("${folder}: is built on ${other}, which does not come before it")
+        endif()
+    endforeach()
+    list(APPEND folders ${folder})
 endforeach()
 
 # The longest room folder that `path` lies in.
@@ -30,14 +54,12 @@ function(room_of path result)
     set(${result} "${room}" PARENT_SCOPE)
 endfunction()
 
-set(faults 0)
 set(checked 0)
 file(GLOB_RECURSE files RELATIVE ${SOURCE} ${SOURCE}/*.h ${SOURCE}/*.cpp)
 foreach(file IN LISTS files)
     room_of(${file} room)
     if(room STREQUAL "")
-        message("${file}: is in no room")
-        math(EXPR faults "${faults}+1")
+        fault("${file}: is in no room")
         continue()
     endif()
     file(STRINGS ${SOURCE}/${file} includes REGEX "^#include \"")
@@ -46,17 +68,14 @@ foreach(file IN LISTS files)
         room_of(${target} other)
         math(EXPR checked "${checked}+1")
         if(other STREQUAL "")
-            message("${file}: includes ${target}, which is in no room")
-            math(EXPR faults "${faults}+1")
-        elseif(NOT other STREQUAL room AND NOT "${library_of_${other}}" IN_LIST allowed_of_${room})
-            message("${file}: includes ${target}, but ${room} is not built on ${other}")
-            math(EXPR faults "${faults}+1")
+            fault("${file}: includes ${target}, which is in no room")
+        elseif(NOT other STREQUAL room AND NOT other IN_LIST allowed_of_${room})
+            fault("${file}: includes ${target}, but ${room} is not built on ${other}")
         endif()
     endforeach()
     file(STRINGS ${SOURCE}/${file} knows REGEX "Program&")
-    if(knows AND NOT file MATCHES "^frame/|/windows/")
-        message("${file}: takes the whole Program")
-        math(EXPR faults "${faults}+1")
+    if(knows AND NOT file MATCHES "^(program|companion|windows)/")
+        fault("${file}: takes the whole Program")
     endif()
 endforeach()
 if(checked EQUAL 0)

@@ -2,7 +2,7 @@
 
 #include "base/number.h"
 #include "csv.h"
-#include "frame/settings/codes.h"
+#include "settings/codes.h"
 #include "measures/gravity.h"
 
 #include <algorithm>

@@ -1,7 +1,7 @@
 // The tables from which the six databases are made, in the order in which the program lists them.
 #pragma once
 
-#include "databases/records/database_file.h"
+#include "records/ingredients/database_file.h"
 
 namespace wortlex {
 

@@ -1,10 +1,10 @@
 // make-brewery: makes the folder that the program runs in from the sources in data/. What is there already is
 // left as it is, so it can be run again over a brewer's own folder.
 #include "base/files.h"
-#include "calculators/beer_colour.h"
-#include "documents/records/document_files.h"
+#include "brewing/beer_colour.h"
+#include "records/documents/document_files.h"
 #include "sample_sources.h"
-#include "water/records/water_needs.h"
+#include "records/water/water_needs.h"
 
 #include <algorithm>
 #include <cstdio>

@@ -2,11 +2,11 @@
 // and a recipe, and saves a picture of each as main-window.png and recipe-window.png.
 #include "base/number.h"
 #include "base/ports/quiet_prompts.h"
-#include "desktop/desk.h"
+#include "desktop/system_ports.h"
 #include "desktop/print_preview.h"
-#include "desktop/text.h"
-#include "frame/start.h"
-#include "frame/windows/main_window.h"
+#include "desktop/qt_text.h"
+#include "program/start.h"
+#include "windows/main/main_window.h"
 
 #include <QApplication>
 #include <QDir>

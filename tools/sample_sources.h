@@ -3,8 +3,8 @@
 #pragma once
 
 #include "database_sources.h"
-#include "documents/records/session_document.h"
-#include "frame/settings/system_files.h"
+#include "records/documents/session_document.h"
+#include "settings/system_files.h"
 #include "keyed_file.h"
 
 namespace wortlex {

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "base/ports/surface.h"
-#include "calculators/beer_colour.h"
+#include "brewing/beer_colour.h"
 
 namespace wortlex {
 

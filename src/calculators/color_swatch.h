@@ -1,8 +1,8 @@
 // The Color Swatch Detail: one colour, and how it comes about.
 #pragma once
 
-#include "calculators/beer_colour.h"
-#include "measures/fields/form.h"
+#include "brewing/beer_colour.h"
+#include "forms/form.h"
 
 namespace wortlex {
 

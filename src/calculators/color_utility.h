@@ -4,8 +4,8 @@
 #include "base/ports/desk.h"
 #include "base/ports/prompts.h"
 #include "base/ports/surface.h"
-#include "calculators/beer_colour.h"
-#include "measures/fields/form.h"
+#include "brewing/beer_colour.h"
+#include "forms/form.h"
 
 namespace wortlex {
 

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "calculators/degradation_chart.h"
-#include "reports/page/page.h"
+#include "page/page.h"
 
 namespace wortlex {
 

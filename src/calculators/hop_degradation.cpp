@@ -1,8 +1,8 @@
 #include "calculators/hop_degradation.h"
 
 #include "base/windows1252.h"
+#include "brewing/hop_bitterness.h"
 #include "calculators/degradation_chart.h"
-#include "calculators/hop_bitterness.h"
 #include "measures/units.h"
 
 #include <algorithm>

@@ -2,8 +2,8 @@
 #pragma once
 
 #include "calculators/hop_memory.h"
-#include "frame/settings/settings.h"
-#include "measures/fields/form.h"
+#include "forms/form.h"
+#include "settings/settings.h"
 
 namespace wortlex {
 

@@ -1,7 +1,7 @@
 // What the hop calculators remember from one opening to the next, while the program runs.
 #pragma once
 
-#include "documents/records/lines.h"
+#include "records/documents/lines.h"
 
 namespace wortlex {
 

@@ -1,9 +1,9 @@
 // The Hop IBU Calculator: what it starts from, how its fields pull each other along, and its form.
 #pragma once
 
-#include "calculators/hop_bitterness.h"
+#include "brewing/hop_bitterness.h"
 #include "calculators/hop_memory.h"
-#include "measures/fields/form.h"
+#include "forms/form.h"
 
 namespace wortlex {
 

@@ -10,10 +10,6 @@ namespace {
 
 using namespace calculator_range;
 
-bool is_pro(const Settings& settings) {
-    return settings.system_mode == SystemMode::pro_brewer;
-}
-
 // A field of the calculator with the edit that follows from it.
 template <class Value>
 Binding<Value> edited_by(void (*set)(HopCalculator&, Value, const Settings&), std::function<Value()> get,

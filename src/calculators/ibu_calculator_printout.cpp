@@ -1,9 +1,9 @@
 #include "calculators/ibu_calculator_printout.h"
 
 #include "base/number.h"
-#include "calculators/hop_bitterness.h"
+#include "brewing/hop_bitterness.h"
 #include "calculators/ibu_calculator.h"
-#include "measures/fields/numeric_fields.h"
+#include "forms/numeric_fields.h"
 #include "measures/units.h"
 
 namespace wortlex {

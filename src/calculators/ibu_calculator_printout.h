@@ -1,8 +1,8 @@
 // The page that the Hop IBU Calculator prints.
 #pragma once
 
-#include "calculators/hop_bitterness.h"
-#include "reports/page/page.h"
+#include "brewing/hop_bitterness.h"
+#include "page/page.h"
 
 namespace wortlex {
 

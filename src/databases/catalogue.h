@@ -5,8 +5,8 @@
 #include "base/number.h"
 #include "base/windows1252.h"
 #include "databases/printouts.h"
-#include "databases/records/database_file.h"
-#include "measures/fields/form.h"
+#include "forms/form.h"
+#include "records/ingredients/database_file.h"
 
 #include <array>
 #include <variant>

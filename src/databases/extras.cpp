@@ -10,7 +10,7 @@ namespace {
 constexpr std::int32_t most_time = 200;
 constexpr std::size_t most_characters = 54; // of every text that the dialog takes
 
-constexpr CatalogueWords words = {
+constexpr CatalogueWords extra_words = {
     .import_filter = "Extra Import File (*.eim)|*.eim",
     .import_extension = "eim",
     .export_file = "Extra.eim",
@@ -30,7 +30,7 @@ constexpr CatalogueWords words = {
     .inventory_template = "EXTRAINVENTORY",
     .pick_template = "EXTRAPICKDIALOG"};
 
-std::vector<CatalogueColumn<ExtraRecord>> columns() {
+std::vector<CatalogueColumn<ExtraRecord>> extra_columns() {
     using Extra = CatalogueBuilder<ExtraRecord>;
     return {Extra::text("Name", 24, &ExtraRecord::name).stretched(),
             Extra::words("Type Of Ingredient", 18,
@@ -39,18 +39,18 @@ std::vector<CatalogueColumn<ExtraRecord>> columns() {
             Extra::stock("In Stock", &ExtraRecord::stock, [](float amount) { return amount; })};
 }
 
-std::string stock_unit(const ExtraRecord& extra) {
+std::string extra_stock_unit(const ExtraRecord& extra) {
     constexpr std::array units = {"Oz", "Grams", "Lbs", "Tsp(s)", "Tbsp(s)", "Cup(s)", "Units"};
     const auto unit = static_cast<std::size_t>(extra.amount_unit);
     return unit < units.size() ? units[unit] : "";
 }
 
-std::string name_of(const ExtraRecord& extra) {
+std::string extra_name(const ExtraRecord& extra) {
     return utf8_from_windows1252(extra.name.view());
 }
 
-CatalogueFilter<ExtraRecord> only(ExtraType wanted, std::string label, const std::string& kept,
-                                  const std::string& picked) {
+CatalogueFilter<ExtraRecord> only_extras(ExtraType wanted, std::string label, const std::string& kept,
+                                         const std::string& picked) {
     return {std::move(label), "Extra Ingredients Database Maintenance - " + kept,
             "Extra Ingredients Pick - " + picked,
             [wanted](const ExtraRecord& extra) { return extra.extra_type == wanted; }};
@@ -59,12 +59,12 @@ CatalogueFilter<ExtraRecord> only(ExtraType wanted, std::string label, const std
 std::vector<CatalogueFilter<ExtraRecord>> filters() {
     return {{"&All", "Extra Ingredients Database Maintenance - All Types",
              "Extra Ingredients Pick - All Types", nullptr},
-            only(ExtraType::spice, "Spice", "Spices", "Spices"),
-            only(ExtraType::fruit, "&Fruit", "Fruits", "Fruits"),
-            only(ExtraType::coffee, "C&offee", "Coffee", "Coffee"),
-            only(ExtraType::fining, "Finin&g", "Fining", "Fining"),
-            only(ExtraType::other, "O&ther", "Other Types", "Other Types"),
-            only(ExtraType::herb, "Her&b", "Herb Types", "Herbs")};
+            only_extras(ExtraType::spice, "Spice", "Spices", "Spices"),
+            only_extras(ExtraType::fruit, "&Fruit", "Fruits", "Fruits"),
+            only_extras(ExtraType::coffee, "C&offee", "Coffee", "Coffee"),
+            only_extras(ExtraType::fining, "Finin&g", "Fining", "Fining"),
+            only_extras(ExtraType::other, "O&ther", "Other Types", "Other Types"),
+            only_extras(ExtraType::herb, "Her&b", "Herb Types", "Herbs")};
 }
 
 void time_rows(Rows& rows, ExtraRecord& extra) {
@@ -79,7 +79,7 @@ void time_rows(Rows& rows, ExtraRecord& extra) {
 }
 
 // What a file brought beyond the limits of the dialog goes with its OK.
-void hold_in_range(ExtraRecord& extra) {
+void hold_extra_in_range(ExtraRecord& extra) {
     extra.time = std::clamp(extra.time, 0, most_time);
     cut_to(extra.use, most_characters);
     cut_to(extra.comment, most_characters);
@@ -110,20 +110,20 @@ void extra_entry_form(Form& form, ExtraRecord& extra) {
         .choice("amount_unit", extra.amount_unit,
                 {"Ounces", "Grams", "Pounds", "Tsp", "Tbsp", "Cups", "Single Unit"})
         .look(ChoiceRow::Look::down);
-    form.on_accept([&extra] { hold_in_range(extra); });
+    form.on_accept([&extra] { hold_extra_in_range(extra); });
 }
 
 Catalogue<ExtraRecord> extra_catalogue(const Settings& /*settings*/, const std::string& data_folder) {
     Catalogue<ExtraRecord> extras;
-    extras.words = words;
-    extras.columns = columns();
+    extras.words = extra_words;
+    extras.columns = extra_columns();
     extras.chains = {{0}, {1, 0}, {2, 0}, {3, 0}};
     extras.identity = {0, 1};
     extras.filters = filters();
     extras.stock = {.amount = &ExtraRecord::stock,
                     .to_shown = [](float amount) { return amount; },
                     .from_shown = [](float amount) { return amount; },
-                    .unit = stock_unit,
+                    .unit = extra_stock_unit,
                     .most_typed = 1000};
     extras.new_record = [](std::size_t) {
         ExtraRecord extra;
@@ -137,9 +137,9 @@ Catalogue<ExtraRecord> extra_catalogue(const Settings& /*settings*/, const std::
     };
     extras.keep = [](ExtraRecord& imported, const ExtraRecord& existing) { imported.stock = existing.stock; };
     extras.exists_text = [](const ExtraRecord& extra) {
-        return name_of(extra) + " \nThis extra type already exists in the database!";
+        return extra_name(extra) + " \nThis extra type already exists in the database!";
     };
-    extras.delete_name = name_of;
+    extras.delete_name = extra_name;
     extras.load = [data_folder](Database<ExtraRecord>& into, Prompts& prompts) {
         return LoadExtras(data_folder, into, prompts);
     };

@@ -4,9 +4,8 @@ namespace wortlex {
 namespace {
 
 std::string stock_unit(const Settings& settings) {
-    const bool is_pro = settings.system_mode == SystemMode::pro_brewer;
-    if (settings.hop_weight_units == Units::american) return is_pro ? "Lbs" : "Oz";
-    return is_pro ? "kg" : "g";
+    if (settings.hop_weight_units == Units::american) return is_pro(settings) ? "Lbs" : "Oz";
+    return is_pro(settings) ? "kg" : "g";
 }
 
 std::string_view use_word(HopUsage usage) {

@@ -6,10 +6,6 @@
 namespace wortlex {
 namespace {
 
-bool is_pro(const Settings& settings) {
-    return settings.system_mode == SystemMode::pro_brewer;
-}
-
 std::string stock_head(const Settings& settings) {
     const bool american = settings.hop_weight_units == Units::american;
     const std::string unit =
@@ -17,7 +13,7 @@ std::string stock_head(const Settings& settings) {
     return unit + "\nIn Stock";
 }
 
-std::string stock_unit(const Settings& settings) {
+std::string hop_stock_unit(const Settings& settings) {
     if (settings.hop_weight_units == Units::american) return is_pro(settings) ? "Lbs" : "Oz.";
     return is_pro(settings) ? "kg" : "g";
 }
@@ -30,7 +26,7 @@ std::string form_text(const HopRecord& hop) {
     return std::string(form_word(form(hop)));
 }
 
-std::vector<CatalogueColumn<HopRecord>> columns(const Settings& settings) {
+std::vector<CatalogueColumn<HopRecord>> hop_columns(const Settings& settings) {
     using Hop = CatalogueBuilder<HopRecord>;
     return {Hop::text("Name", 24, &HopRecord::name).stretched(),
             Hop::text("Origin", 16, &HopRecord::origin),
@@ -41,7 +37,7 @@ std::vector<CatalogueColumn<HopRecord>> columns(const Settings& settings) {
             Hop::words("Form", 8, form_text)};
 }
 
-constexpr CatalogueWords words = {
+constexpr CatalogueWords hop_words = {
     .import_filter = "Hop Import File (*.him)|*.him",
     .import_extension = "him",
     .export_file = "Hop.him",
@@ -64,7 +60,7 @@ constexpr CatalogueWords words = {
     .inventory_template = "HOPINVENTORY",
     .pick_template = "HOPCHOOSEDIALOG"};
 
-CatalogueFilter<HopRecord> only(HopForm wanted, std::string label, const std::string& of) {
+CatalogueFilter<HopRecord> only_hops(HopForm wanted, std::string label, const std::string& of) {
     return {std::move(label), "Hop Database Maintenance - " + of, "Hop Pick - " + of,
             [wanted](const HopRecord& hop) { return form(hop) == wanted; }};
 }
@@ -176,18 +172,18 @@ void hop_entry_form(Form& form, HopRecord& hop) {
 
 Catalogue<HopRecord> hop_catalogue(const Settings& settings, const std::string& data_folder) {
     Catalogue<HopRecord> hops;
-    hops.words = words;
-    hops.columns = columns(settings);
+    hops.words = hop_words;
+    hops.columns = hop_columns(settings);
     hops.chains = {{0, 1, 2, 5}, {1, 0, 2}, {2, 0, 1}, {3, 0, 1, 2}, {4, 0, 1, 2}, {5, 0, 1, 2}};
     hops.identity = {0, 1, 2, 5};
     hops.filters = {{"&All", "Hop Database Maintenance - All Hops", "Hop Pick - All Hops", nullptr},
-                    only(HopForm::whole, "&Whole", "Whole Hops"),
-                    only(HopForm::plug, "Plu&g", "Plug Hops"),
-                    only(HopForm::pellet, "Pelle&t", "Pellet Hops")};
+                    only_hops(HopForm::whole, "&Whole", "Whole Hops"),
+                    only_hops(HopForm::plug, "Plu&g", "Plug Hops"),
+                    only_hops(HopForm::pellet, "Pelle&t", "Pellet Hops")};
     hops.stock = {.amount = &HopRecord::stock,
                   .to_shown = [&settings](float ounces) { return hop_to_shown(ounces, settings); },
                   .from_shown = [&settings](float shown) { return shown_to_hop(shown, settings); },
-                  .unit = [&settings](const HopRecord&) { return stock_unit(settings); }};
+                  .unit = [&settings](const HopRecord&) { return hop_stock_unit(settings); }};
     hops.new_record = new_hop;
     hops.entry_form = hop_entry_form;
     hops.pages = hop_pages(settings);

@@ -45,9 +45,10 @@ bool is_sound(const Field& field) {
 /// Whether a record can be one: its texts end and hold no control characters, its figures are numbers.
 template <class Record>
 bool looks_like_a_record(const Record& record) {
-    return std::apply(
-        [&](const auto&... field) { return (importing::is_sound(std::invoke(field.access, record)) && ...); },
-        layout_of(record).fields);
+    bool sound = true;
+    layout_of(record).fields.each(
+        [&](const auto& field) { sound = sound && importing::is_sound(std::invoke(field.access, record)); });
+    return sound;
 }
 
 /// The whole records of a transfer file; one cut short by its end is dropped.

@@ -3,8 +3,8 @@
 
 #include "base/ports/desk.h"
 #include "base/ports/prompts.h"
-#include "measures/fields/form.h"
-#include "reports/page/page.h"
+#include "forms/form.h"
+#include "page/page.h"
 
 namespace wortlex {
 

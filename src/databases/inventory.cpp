@@ -7,17 +7,17 @@
 namespace wortlex {
 namespace {
 
-enum class Change : std::int32_t { add = 0, subtract = 1 };
+enum class Direction : std::int32_t { add = 0, subtract = 1 };
 
 struct Movement {
     float stock = 0;
     float amount = 0; ///< in the unit shown
-    Change change = Change::add;
+    Direction direction = Direction::add;
 };
 
 float moved(const Movement& movement, const InventorySubject& subject) {
     const float amount = subject.from_shown(movement.amount);
-    if (movement.change == Change::add) return narrow(double{movement.stock} + amount);
+    if (movement.direction == Direction::add) return narrow(double{movement.stock} + amount);
     return narrow(std::max(0.0, double{movement.stock} - amount));
 }
 
@@ -34,7 +34,7 @@ void inventory_form(Form& form, const InventorySubject& subject, Prompts& prompt
         .label("&Amount (" + subject.unit + ")")
         .typed(0.0F, subject.most_typed)
         .spun(0.0F, 10000.0F, 1.0F);
-    rows.choice("change", movement->change, {"A&dd Amount", "&Subtract Amount"});
+    rows.choice("change", movement->direction, {"A&dd Amount", "&Subtract Amount"});
     rows.button("set_to_zero", "Set To &Zero", [movement, &form, &prompts] {
         if (prompts.ask_yes_no({.text = set_to_zero, .icon = Icon::question}) != Answer::yes) return;
         movement->stock = 0;

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "base/ports/prompts.h"
-#include "measures/fields/form.h"
+#include "forms/form.h"
 
 namespace wortlex {
 

@@ -2,7 +2,7 @@
 // one moves the others.
 #pragma once
 
-#include "databases/records/ingredients.h"
+#include "records/ingredients/ingredients.h"
 
 namespace wortlex {
 

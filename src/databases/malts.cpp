@@ -6,10 +6,6 @@
 namespace wortlex {
 namespace {
 
-bool is_metric(const Settings& settings) {
-    return settings.weight_units == Units::metric;
-}
-
 std::string yield_name(YieldType type) {
     switch (type) {
     case YieldType::fine_as_is:
@@ -49,7 +45,7 @@ CatalogueColumn<MaltRecord> figure(std::string caption, int width, float MaltRec
                 [field](const MaltRecord& malt) { return malt.*field; })};
 }
 
-std::vector<CatalogueColumn<MaltRecord>> columns(const Settings& settings) {
+std::vector<CatalogueColumn<MaltRecord>> malt_columns(const Settings& settings) {
     using Malt = CatalogueBuilder<MaltRecord>;
     const std::string colour_unit = settings.color_units == ColorUnits::srm ? "SRM" : "EBC";
     return {Malt::text("Name", 26, &MaltRecord::name).stretched(),
@@ -60,11 +56,12 @@ std::vector<CatalogueColumn<MaltRecord>> columns(const Settings& settings) {
                    [&settings](const MaltRecord& malt) {
                        return formatted("%5.0f", to_shown_colour(malt.colour, settings));
                    }),
-            Malt::stock(is_metric(settings) ? "Kg\nIn Stock" : "Lbs.\nIn Stock", &MaltRecord::stock,
+            Malt::stock(is_american(settings.weight_units) ? "Lbs.\nIn Stock" : "Kg\nIn Stock",
+                        &MaltRecord::stock,
                         [&settings](float pounds) { return grain_to_shown(pounds, settings); })};
 }
 
-constexpr CatalogueWords words = {
+constexpr CatalogueWords malt_words = {
     .import_filter = "Malt Import File (*.him)|*.mim",
     .import_extension = "mim",
     .export_file = "Malt.mim",
@@ -83,7 +80,7 @@ constexpr CatalogueWords words = {
     .inventory_template = "MALTINVENTORY",
     .pick_template = "MALTCHOOSEDIALOG"};
 
-CatalogueFilter<MaltRecord> only(MaltType wanted, std::string label, const std::string& of) {
+CatalogueFilter<MaltRecord> only_malts(MaltType wanted, std::string label, const std::string& of) {
     return {std::move(label), "Malt Database Maintenance - " + of, "Malt Pick - " + of,
             [wanted](const MaltRecord& malt) { return malt.malt_type == wanted; }};
 }
@@ -108,19 +105,20 @@ std::string potential_cell(const MaltRecord& malt, const Settings& settings) {
 
 Catalogue<MaltRecord> malt_catalogue(const Settings& settings, const std::string& data_folder) {
     Catalogue<MaltRecord> malts;
-    malts.words = words;
-    malts.columns = columns(settings);
+    malts.words = malt_words;
+    malts.columns = malt_columns(settings);
     malts.chains = {{0, 1}, {1, 0}, {2, 0, 1}, {3, 0, 1}, {4, 0, 1}};
     malts.identity = {0, 1, 2, 3};
     malts.filters = {{"&All", "Malt Database Maintenance - All Malt", "Malt Pick - All Malt", nullptr},
-                     only(MaltType::grain, "&Grain", "Grain"),
-                     only(MaltType::extract, "E&xtract", "Extract"),
-                     only(MaltType::sugar, "S&ugar", "Sugar"),
-                     only(MaltType::other, "O&ther", "Other")};
-    malts.stock = {.amount = &MaltRecord::stock,
-                   .to_shown = [&settings](float pounds) { return grain_to_shown(pounds, settings); },
-                   .from_shown = [&settings](float shown) { return shown_to_grain(shown, settings); },
-                   .unit = [&settings](const MaltRecord&) { return is_metric(settings) ? "kg" : "Lbs"; }};
+                     only_malts(MaltType::grain, "&Grain", "Grain"),
+                     only_malts(MaltType::extract, "E&xtract", "Extract"),
+                     only_malts(MaltType::sugar, "S&ugar", "Sugar"),
+                     only_malts(MaltType::other, "O&ther", "Other")};
+    malts.stock = {
+        .amount = &MaltRecord::stock,
+        .to_shown = [&settings](float pounds) { return grain_to_shown(pounds, settings); },
+        .from_shown = [&settings](float shown) { return shown_to_grain(shown, settings); },
+        .unit = [&settings](const MaltRecord&) { return is_american(settings.weight_units) ? "Lbs" : "kg"; }};
     malts.new_record = new_malt;
     malts.entry_form = [&settings](Form& form, MaltRecord& malt) { malt_entry_form(form, malt, settings); };
     malts.pages = malt_pages(settings);

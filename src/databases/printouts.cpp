@@ -1,6 +1,6 @@
 #include "databases/printouts.h"
 
-#include "reports/page/characters.h"
+#include "page/characters.h"
 
 #include <algorithm>
 #include <array>
@@ -36,13 +36,13 @@ std::string cut_to_column(std::string_view text, int units) {
     return std::string(text.substr(0, end));
 }
 
-bool is_control(char c) {
+bool breaks_line(char c) {
     return static_cast<unsigned char>(c) < ' ' || c == '\x7F';
 }
 
 // For one line: without line ends, tabs and blanks at its end.
 std::string plain(std::string text) {
-    std::replace_if(text.begin(), text.end(), is_control, ' ');
+    std::replace_if(text.begin(), text.end(), breaks_line, ' ');
     text.erase(text.find_last_not_of(' ') + 1);
     return text;
 }

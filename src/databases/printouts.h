@@ -3,7 +3,7 @@
 
 #include "base/text.h"
 #include "base/windows1252.h"
-#include "reports/page/page.h"
+#include "page/page.h"
 
 #include <string>
 #include <vector>

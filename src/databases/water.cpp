@@ -12,7 +12,7 @@ constexpr float most_ppm = 2000.0F;
 constexpr float most_ph = 20.0F;
 constexpr std::size_t most_of_name = 24;
 
-constexpr CatalogueWords words = {
+constexpr CatalogueWords water_words = {
     .import_filter = "Water Import File (*.wim)|*.wim",
     .import_extension = "wim",
     .export_file = "Water.wim",
@@ -43,14 +43,14 @@ constexpr std::array ions = {Ion{"calcium", "&Calcium (Ca)", "Ca", &WaterRecord:
                              Ion{"chloride", "Ch&loride (Cl)", "Cl", &WaterRecord::chloride},
                              Ion{"bicarbonate", "&biCarbonate (HCO3)", "HCO3", &WaterRecord::bicarbonate}};
 
-std::vector<CatalogueColumn<WaterRecord>> columns() {
+std::vector<CatalogueColumn<WaterRecord>> water_columns() {
     using Water = CatalogueBuilder<WaterRecord>;
     std::vector columns = {Water::text("Name", 26, &WaterRecord::name).stretched()};
     for (const auto& ion : ions) columns.push_back(Water::number(ion.symbol, 8, ion.ppm, "%06.1f"));
     return columns;
 }
 
-std::string name_of(const WaterRecord& water) {
+std::string water_name(const WaterRecord& water) {
     return utf8_from_windows1252(water.name.view());
 }
 
@@ -88,7 +88,7 @@ void converter_rows(Rows& rows, Form& form, WaterRecord& water, const WaterConve
 }
 
 // The converters and old files may bring more than the fields take.
-void hold_in_range(WaterRecord& water) {
+void hold_water_in_range(WaterRecord& water) {
     cut_to(water.name, most_of_name);
     for (const auto& ion : ions) water.*ion.ppm = std::clamp(water.*ion.ppm, 0.0F, most_ppm);
     water.ph = std::clamp(water.ph, 0.0F, most_ph);
@@ -103,14 +103,14 @@ void water_entry_form(Form& form, WaterRecord& water, const WaterConverters& con
     converter_rows(form.group("Calc From -"), form, water, converters);
     form.next_column();
     ion_rows(form.group("ppm"), form, water);
-    form.on_accept([&water] { hold_in_range(water); });
+    form.on_accept([&water] { hold_water_in_range(water); });
 }
 
 Catalogue<WaterRecord> water_catalogue(const Settings& /*settings*/, const std::string& data_folder,
                                        const WaterConverters& converters) {
     Catalogue<WaterRecord> waters;
-    waters.words = words;
-    waters.columns = columns();
+    waters.words = water_words;
+    waters.columns = water_columns();
     waters.chains = {{0}, {1, 0}, {2, 0}, {3, 0}, {4, 0}, {5, 0}, {6, 0}};
     waters.identity = {0};
     waters.filters = {{"&All", "Water Database Maintenance", "Water Pick", nullptr}};
@@ -123,9 +123,9 @@ Catalogue<WaterRecord> water_catalogue(const Settings& /*settings*/, const std::
     waters.is_same = [](const WaterRecord& a, const WaterRecord& b) { return a.name == b.name; };
     waters.keep = [](WaterRecord&, const WaterRecord&) {};
     waters.exists_text = [](const WaterRecord& water) {
-        return name_of(water) + "\nThis Water type already exists in the database!";
+        return water_name(water) + "\nThis Water type already exists in the database!";
     };
-    waters.delete_name = name_of;
+    waters.delete_name = water_name;
     waters.load = [data_folder](Database<WaterRecord>& into, Prompts& prompts) {
         return LoadWater(data_folder, into, prompts);
     };

@@ -2,8 +2,8 @@
 // as calcium carbonate.
 #pragma once
 
-#include "databases/records/ingredients.h"
-#include "measures/fields/form.h"
+#include "forms/form.h"
+#include "records/ingredients/ingredients.h"
 
 namespace wortlex {
 

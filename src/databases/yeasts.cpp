@@ -11,7 +11,7 @@ namespace {
 constexpr std::int32_t most_attenuation = 100;
 constexpr float most_fahrenheit = 212.0F;
 
-constexpr CatalogueWords words = {
+constexpr CatalogueWords yeast_words = {
     .import_filter = "Yeast Import File (*.yim)|*.yim",
     .import_extension = "yim",
     .export_file = "Yeast.yim",
@@ -31,7 +31,7 @@ constexpr CatalogueWords words = {
     .inventory_template = "YEASTINVENTORY",
     .pick_template = "YEASTPICKDIALOG"};
 
-std::vector<CatalogueColumn<YeastRecord>> columns() {
+std::vector<CatalogueColumn<YeastRecord>> yeast_columns() {
     using Yeast = CatalogueBuilder<YeastRecord>;
     return {
         Yeast::text("Lab", 14, &YeastRecord::lab),
@@ -44,18 +44,18 @@ std::vector<CatalogueColumn<YeastRecord>> columns() {
         Yeast::stock("In Stock", &YeastRecord::stock, [](float units) { return units; })};
 }
 
-CatalogueFilter<YeastRecord> only(YeastKind wanted, std::string label) {
+CatalogueFilter<YeastRecord> only_yeasts(YeastKind wanted, std::string label) {
     const auto of = std::string(kind_word(wanted)) + " Yeast";
     return {std::move(label), "Yeast Database Maintenance - " + of, "Yeast Pick - " + of,
             [wanted](const YeastRecord& yeast) { return yeast.yeast_kind == wanted; }};
 }
 
-std::string name_of(const YeastRecord& yeast) {
+std::string yeast_name(const YeastRecord& yeast) {
     return utf8_from_windows1252(yeast.name.view());
 }
 
 std::string lab_and_name(const YeastRecord& yeast) {
-    return utf8_from_windows1252(yeast.lab.view()) + " " + name_of(yeast);
+    return utf8_from_windows1252(yeast.lab.view()) + " " + yeast_name(yeast);
 }
 
 void attenuation_rows(Rows& rows, YeastRecord& yeast) {
@@ -82,7 +82,7 @@ void temperature_rows(Rows& rows, YeastRecord& yeast) {
         .outside(Outside::clamp);
 }
 
-void hold_in_range(YeastRecord& yeast) {
+void hold_yeast_in_range(YeastRecord& yeast) {
     yeast.low_attenuation = std::clamp(yeast.low_attenuation, 0, most_attenuation);
     yeast.high_attenuation = std::clamp(yeast.high_attenuation, 0, most_attenuation);
     yeast.optimum_temperature = std::clamp(yeast.optimum_temperature, 0.0F, most_fahrenheit);
@@ -137,20 +137,20 @@ void yeast_entry_form(Form& form, YeastRecord& yeast) {
     auto& notes = form.group("Notes");
     notes.text("flavours", yeast.flavours).label("Fla&vors").limit(152).lines();
     notes.text("comment", yeast.comment).label("Commen&t").limit(152).lines();
-    form.on_accept([&yeast] { hold_in_range(yeast); });
+    form.on_accept([&yeast] { hold_yeast_in_range(yeast); });
 }
 
 Catalogue<YeastRecord> yeast_catalogue(const Settings& /*settings*/, const std::string& data_folder) {
     Catalogue<YeastRecord> yeasts;
-    yeasts.words = words;
-    yeasts.columns = columns();
+    yeasts.words = yeast_words;
+    yeasts.columns = yeast_columns();
     yeasts.chains = {{0, 1, 2}, {1, 0, 2}, {2, 0}, {3, 0, 1}, {4, 0, 1}, {5, 0, 1}};
     yeasts.identity = {0, 1, 2, 3, 4};
     yeasts.filters = {{"&All", "Yeast Database Maintenance - All Yeast", "Yeast Pick - All Yeast", nullptr},
-                      only(YeastKind::ale, "A&le"),
-                      only(YeastKind::lager, "La&ger"),
-                      only(YeastKind::wine, "&Wine"),
-                      only(YeastKind::champagne, "Cha&mpagne")};
+                      only_yeasts(YeastKind::ale, "A&le"),
+                      only_yeasts(YeastKind::lager, "La&ger"),
+                      only_yeasts(YeastKind::wine, "&Wine"),
+                      only_yeasts(YeastKind::champagne, "Cha&mpagne")};
     yeasts.stock = {.amount = &YeastRecord::stock,
                     .to_shown = [](float units) { return units; },
                     .from_shown = [](float units) { return units; },
@@ -171,7 +171,7 @@ Catalogue<YeastRecord> yeast_catalogue(const Settings& /*settings*/, const std::
     yeasts.exists_text = [](const YeastRecord& yeast) {
         return lab_and_name(yeast) + "\nThis Yeast type already exists in the database!";
     };
-    yeasts.delete_name = name_of;
+    yeasts.delete_name = yeast_name;
     yeasts.load = [data_folder](Database<YeastRecord>& into, Prompts& prompts) {
         return LoadYeasts(data_folder, into, prompts);
     };

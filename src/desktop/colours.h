@@ -1,7 +1,7 @@
 // The user's colours by area of the screen.
 #pragma once
 
-#include "frame/settings/system_settings.h"
+#include "settings/system_settings.h"
 
 #include <QColor>
 #include <QWidget>

@@ -1,7 +1,7 @@
 // Text fields of the toolkit as the numeric fields see them, and a field with arrows.
 #pragma once
 
-#include "measures/fields/numeric_fields.h"
+#include "forms/numeric_fields.h"
 
 #include <QAbstractSpinBox>
 #include <QLineEdit>

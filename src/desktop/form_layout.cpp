@@ -1,5 +1,5 @@
 #include "desktop/form_widgets.h"
-#include "desktop/text.h"
+#include "desktop/qt_text.h"
 
 #include <QGridLayout>
 #include <QGroupBox>

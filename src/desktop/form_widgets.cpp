@@ -4,7 +4,7 @@
 #include "desktop/drawings.h"
 #include "desktop/fields.h"
 #include "desktop/list_view.h"
-#include "desktop/text.h"
+#include "desktop/qt_text.h"
 
 #include <QButtonGroup>
 #include <QCheckBox>

@@ -1,7 +1,7 @@
 // The one renderer of forms: a widget for each row, kept up to date.
 #pragma once
 
-#include "measures/fields/form.h"
+#include "forms/form.h"
 
 #include <QLabel>
 #include <QWidget>

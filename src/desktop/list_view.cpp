@@ -1,6 +1,6 @@
 #include "desktop/list_view.h"
 
-#include "desktop/text.h"
+#include "desktop/qt_text.h"
 
 #include <QHeaderView>
 #include <QPointer>

@@ -1,7 +1,7 @@
 // A list row of a form as a table with real columns.
 #pragma once
 
-#include "measures/fields/rows.h"
+#include "forms/rows.h"
 
 #include <QAbstractTableModel>
 #include <QTreeView>

@@ -1,6 +1,6 @@
 #include "desktop/menus.h"
 
-#include "desktop/text.h"
+#include "desktop/qt_text.h"
 
 namespace wortlex {
 

@@ -1,7 +1,7 @@
 #include "desktop/message_boxes.h"
 
 #include "desktop/colours.h"
-#include "desktop/text.h"
+#include "desktop/qt_text.h"
 
 #include <QApplication>
 #include <QCheckBox>

@@ -1,7 +1,7 @@
 #include "desktop/painter_surface.h"
 
 #include "desktop/colours.h"
-#include "desktop/text.h"
+#include "desktop/qt_text.h"
 
 #include <QFontMetrics>
 #include <QPolygon>

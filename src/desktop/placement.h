@@ -2,8 +2,8 @@
 #pragma once
 
 #include "desktop/window_table.h"
-#include "frame/settings/settings.h"
-#include "frame/settings/system_files.h"
+#include "settings/settings.h"
+#include "settings/system_files.h"
 
 #include <QObject>
 #include <QPointer>

@@ -1,6 +1,6 @@
 #include "desktop/print_device.h"
 
-#include "desktop/text.h"
+#include "desktop/qt_text.h"
 
 #include <QBuffer>
 #include <QLocale>

@@ -3,7 +3,7 @@
 
 #include "base/bytes.h"
 #include "desktop/painter_surface.h"
-#include "reports/page/page_job.h"
+#include "page/page_job.h"
 
 #include <QImage>
 #include <QPageLayout>

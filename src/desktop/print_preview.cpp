@@ -2,7 +2,7 @@
 
 #include "base/files.h"
 #include "desktop/message_boxes.h"
-#include "desktop/text.h"
+#include "desktop/qt_text.h"
 #include "desktop/tool_window.h"
 
 #include <QHBoxLayout>

@@ -2,8 +2,8 @@
 #pragma once
 
 #include "desktop/print_device.h"
-#include "measures/fields/form.h"
-#include "reports/page/page.h"
+#include "forms/form.h"
+#include "page/page.h"
 
 namespace wortlex {
 

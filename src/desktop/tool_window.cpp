@@ -1,6 +1,6 @@
 #include "desktop/tool_window.h"
 
-#include "desktop/text.h"
+#include "desktop/qt_text.h"
 
 #include <QApplication>
 #include <QCloseEvent>

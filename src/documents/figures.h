@@ -1,8 +1,8 @@
 // What is worked out from a document and not saved with it.
 #pragma once
 
-#include "calculators/beer_colour.h"
-#include "mash/recalculation.h"
+#include "brewing/beer_colour.h"
+#include "brewing/mash_recalculation.h"
 
 #include <vector>
 

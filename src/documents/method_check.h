@@ -1,7 +1,7 @@
 // Gravities of one efficiency method under the settings of the other: what the brewer is told.
 #pragma once
 
-#include "documents/records/brew_document.h"
+#include "records/documents/brew_document.h"
 
 #include <optional>
 #include <string>

@@ -1,6 +1,6 @@
 #include "documents/opening.h"
 
-#include "documents/gravity.h"
+#include "documents/recipe_gravity.h"
 
 namespace wortlex {
 

@@ -1,7 +1,7 @@
 #include "documents/session_figures.h"
 
-#include "calculators/refractometer.h"
-#include "documents/gravity.h"
+#include "brewing/refractometer.h"
+#include "documents/recipe_gravity.h"
 #include "measures/gravity.h"
 
 #include <algorithm>

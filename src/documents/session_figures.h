@@ -1,7 +1,7 @@
 // What the measurements of a brew day tell.
 #pragma once
 
-#include "documents/recalculation.h"
+#include "documents/document_recalculation.h"
 
 namespace wortlex {
 

@@ -1,7 +1,7 @@
 #include "documents/snapshot.h"
 
-#include "documents/gravity.h"
-#include "documents/records/document_files.h"
+#include "documents/recipe_gravity.h"
+#include "records/documents/document_files.h"
 
 #include <algorithm>
 #include <tuple>

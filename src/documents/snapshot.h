@@ -1,7 +1,7 @@
 // The saved image of a document, against which a window tells whether there is anything to save.
 #pragma once
 
-#include "documents/recalculation.h"
+#include "documents/document_recalculation.h"
 
 namespace wortlex {
 

@@ -6,7 +6,6 @@
 namespace wortlex {
 namespace {
 
-constexpr int channels = 3;
 constexpr int most_scans = 200; // a progressive picture has about ten; each costs time
 
 struct Decoder {

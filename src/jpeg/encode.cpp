@@ -8,8 +8,6 @@
 namespace wortlex {
 namespace {
 
-constexpr int channels = 3;
-
 struct Encoder {
     explicit Encoder(const Pixels& picture)
         : pixels(picture), row(static_cast<std::size_t>(picture.width) * channels) {}

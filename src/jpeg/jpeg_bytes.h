@@ -9,6 +9,9 @@ namespace wortlex {
 /// What a picture may hold, 4096 by 4096: its header is not to claim more memory than a machine has.
 inline constexpr std::int64_t most_pixels = std::int64_t{1} << 24;
 
+/// Red, green and blue.
+inline constexpr int channels = 3;
+
 /// The picture of a file with three channels. Nothing for any other file, one that is damaged or ends early,
 /// and one that claims more than `most_pixels`.
 std::optional<Pixels> decode_jpeg(ByteView file);

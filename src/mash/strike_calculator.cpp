@@ -1,7 +1,7 @@
 #include "mash/strike_calculator.h"
 
 #include "base/number.h"
-#include "mash/mash_water.h"
+#include "brewing/mash_water.h"
 #include "measures/units.h"
 
 #include <algorithm>

@@ -2,7 +2,7 @@
 // worked out in the other.
 #pragma once
 
-#include "frame/settings/settings.h"
+#include "settings/settings.h"
 
 namespace wortlex {
 

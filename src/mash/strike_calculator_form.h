@@ -1,8 +1,8 @@
 // The form of the strike water calculator.
 #pragma once
 
+#include "forms/form.h"
 #include "mash/strike_calculator.h"
-#include "measures/fields/form.h"
 
 #include <array>
 #include <string_view>

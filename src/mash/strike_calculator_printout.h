@@ -2,7 +2,7 @@
 #pragma once
 
 #include "mash/strike_calculator.h"
-#include "reports/page/page.h"
+#include "page/page.h"
 
 namespace wortlex {
 

@@ -1,7 +1,7 @@
 // Extract potentials and contributions in the form that the user has chosen to see them.
 #pragma once
 
-#include "frame/settings/settings.h"
+#include "settings/settings.h"
 
 namespace wortlex {
 

@@ -3,7 +3,7 @@
 // exact inverses.
 #pragma once
 
-#include "frame/settings/settings.h"
+#include "settings/settings.h"
 
 namespace wortlex {
 

@@ -1,4 +1,4 @@
-#include "calculators/hop_bitterness.h"
+#include "brewing/hop_bitterness.h"
 #include "reports/sections.h"
 #include "reports/unit_words.h"
 

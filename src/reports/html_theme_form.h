@@ -3,9 +3,9 @@
 
 #include "base/ports/desk.h"
 #include "base/ports/prompts.h"
-#include "frame/settings/system_files.h"
-#include "measures/fields/form.h"
-#include "reports/page/html_theme.h"
+#include "forms/form.h"
+#include "page/html_theme.h"
+#include "settings/system_files.h"
 
 #include <utility>
 

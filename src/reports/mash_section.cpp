@@ -1,8 +1,8 @@
 #include "reports/mash_rows.h"
 
-#include "mash/recalculation.h"
+#include "brewing/mash_recalculation.h"
 #include "measures/units.h"
-#include "reports/page/text_sink.h"
+#include "page/text_sink.h"
 #include "reports/sections.h"
 #include "reports/unit_words.h"
 

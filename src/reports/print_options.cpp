@@ -1,6 +1,6 @@
 #include "reports/print_options.h"
 
-#include "measures/fields/print_scale.h"
+#include "forms/print_scale.h"
 
 namespace wortlex {
 namespace {

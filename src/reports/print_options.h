@@ -1,8 +1,8 @@
 // What of a document is printed or exported, and to where.
 #pragma once
 
-#include "frame/settings/system_files.h"
-#include "measures/fields/form.h"
+#include "forms/form.h"
+#include "settings/system_files.h"
 
 namespace wortlex {
 

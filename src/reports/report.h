@@ -2,7 +2,7 @@
 // a row holds its values once and the words of the text form, from which the other forms follow by rule.
 #pragma once
 
-#include "reports/page/html_writer.h"
+#include "page/html_writer.h"
 
 #include <optional>
 #include <string>

@@ -1,7 +1,7 @@
 // What a report on a document reads.
 #pragma once
 
-#include "documents/recipe_view.h"
+#include "documents/work/recipe_view.h"
 
 namespace wortlex {
 

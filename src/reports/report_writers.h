@@ -1,8 +1,8 @@
 // The three forms of a report.
 #pragma once
 
-#include "reports/page/page.h"
-#include "reports/page/text_sink.h"
+#include "page/page.h"
+#include "page/text_sink.h"
 #include "reports/report.h"
 
 namespace wortlex {

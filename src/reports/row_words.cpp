@@ -1,7 +1,7 @@
 #include "reports/row_words.h"
 
 #include "base/number.h"
-#include "reports/page/text_sink.h"
+#include "page/text_sink.h"
 
 #include <algorithm>
 

@@ -1,6 +1,6 @@
 #include "measures/units.h"
+#include "page/text_sink.h"
 #include "reports/mash_rows.h"
-#include "reports/page/text_sink.h"
 #include "reports/unit_words.h"
 
 #include <algorithm>

@@ -3,7 +3,7 @@
 #include "base/number.h"
 #include "base/windows1252.h"
 #include "measures/units.h"
-#include "reports/page/text_sink.h"
+#include "page/text_sink.h"
 
 #include <algorithm>
 
@@ -25,14 +25,6 @@ std::string blanks(int count) {
 }
 
 } // namespace
-
-bool is_pro(const Settings& settings) {
-    return settings.system_mode == SystemMode::pro_brewer;
-}
-
-bool is_american(Units units) {
-    return units == Units::american;
-}
 
 std::string_view volume_word(const Settings& settings) {
     if (is_american(settings.volume_units)) return is_pro(settings) ? "bbl" : "Gal";

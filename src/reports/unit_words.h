@@ -1,8 +1,8 @@
 // The units of the settings in the words of the reports, and places for figures in the chosen precision.
 #pragma once
 
-#include "documents/records/lines.h"
-#include "frame/settings/settings.h"
+#include "records/documents/lines.h"
+#include "settings/settings.h"
 
 #include <string>
 
@@ -24,9 +24,6 @@ std::string_view bitterness_word(bool show_ibu, const Settings& settings);
 std::string_view yield_word(YieldType type);
 /// 'F' or 'C'.
 std::string temperature_word(const Settings& settings);
-
-bool is_pro(const Settings& settings);
-bool is_american(Units units);
 
 /// "Batch Size (Gal):" for "Batch Size" and "Gal", filled up.
 std::string unit_label(std::string_view text, std::string_view unit, std::size_t width);

@@ -1,7 +1,7 @@
 #include "calculators/degradation_chart_printout.h"
 #include "calculators/ibu_calculator_printout.h"
 #include "documents/brewing.h"
-#include "documents/pre_boil_form.h"
+#include "documents/forms/pre_boil_form.h"
 #include "mash/strike_calculator_printout.h"
 #include "support/recording_desk.h"
 

@@ -1,7 +1,7 @@
 // Settings, lines and recipes to work out in tests.
 #pragma once
 
-#include "documents/recalculation.h"
+#include "documents/document_recalculation.h"
 #include "support/worked_figures.h"
 
 namespace wortlex {

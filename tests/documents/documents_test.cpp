@@ -1,6 +1,6 @@
 #include "documents/brewing.h"
-#include "documents/gravity.h"
 #include "documents/opening.h"
+#include "documents/recipe_gravity.h"
 #include "documents/session_figures.h"
 #include "documents/snapshot.h"
 

@@ -1,5 +1,5 @@
+#include "page/html_writer.h"
 #include "reports/html_theme_form.h"
-#include "reports/page/html_writer.h"
 #include "support/byte_probe.h"
 #include "support/desk.h"
 #include "support/field.h"

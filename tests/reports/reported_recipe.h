@@ -2,7 +2,7 @@
 #pragma once
 
 #include "documents/opening.h"
-#include "reports/document_report.h"
+#include "reports/catalogue.h"
 #include "reports/report_writers.h"
 #include "support/recording_surface.h"
 

@@ -1,7 +1,7 @@
 // A field of text without a toolkit.
 #pragma once
 
-#include "measures/fields/text_field.h"
+#include "forms/text_field.h"
 
 #include <utility>
 

@@ -1,7 +1,7 @@
 // A user before a form: types into rows by their keys, and reads them.
 #pragma once
 
-#include "measures/fields/form.h"
+#include "forms/form.h"
 #include "support/field.h"
 
 namespace wortlex {

@@ -59,4 +59,14 @@ inline std::vector<std::string> sample_files() {
     return files;
 }
 
+inline const std::string bitter = "Recipes/Ploughman's Best Bitter.rec";
+inline const std::string brown_ale = "Recipes/First Batch Brown Ale.rec";
+inline const std::string brew_day = "Sessions/Front Porch Pale Ale, Second Brewing.brw";
+
+/// Runs the companion in the made brewery.
+inline Ran report(std::vector<std::string> words) {
+    words.insert(words.begin(), WORTLEX_REPORT);
+    return run(made_brewery(), words);
+}
+
 } // namespace wortlex

@@ -1,7 +1,7 @@
 // A desk of paper for tests: reports are recorded at once, and their pages can be read.
 #pragma once
 
-#include "reports/page/page.h"
+#include "page/page.h"
 #include "support/recording_surface.h"
 
 #include <stdexcept>

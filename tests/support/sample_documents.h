@@ -1,7 +1,7 @@
 // Documents and files of documents to load, cut and damage.
 #pragma once
 
-#include "documents/records/document_files.h"
+#include "records/documents/document_files.h"
 #include "support/byte_probe.h"
 
 namespace wortlex {

@@ -2,12 +2,12 @@
 #pragma once
 
 #include "base/ports/quiet_prompts.h"
-#include "documents/windows/recipe_window.h"
-#include "frame/start.h"
-#include "frame/windows/main_window.h"
+#include "program/start.h"
 #include "support/desk.h"
 #include "support/recording_desk.h"
 #include "support/temporary_folder.h"
+#include "windows/documents/recipe_window.h"
+#include "windows/main/main_window.h"
 
 #include <QApplication>
 #include <QImage>

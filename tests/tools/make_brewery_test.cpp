@@ -1,6 +1,6 @@
 #include "base/ports/quiet_prompts.h"
-#include "calculators/beer_colour.h"
-#include "frame/report/evaluation.h"
+#include "brewing/beer_colour.h"
+#include "companion/evaluation.h"
 #include "support/process.h"
 
 #include <gmock/gmock.h>

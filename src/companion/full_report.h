@@ -1,0 +1,28 @@
+// The reports of the program's exports, for many documents in turn.
+#pragma once
+
+#include "program/program.h"
+#include "reports/report_writers.h"
+
+namespace wortlex {
+
+class FullReports {
+public:
+    /// Reads what the brewer has chosen as default: sections, theme, colours. `program` must live on.
+    explicit FullReports(Program& program);
+
+    /// The live document, which has been worked out. Of a session it is the recipe's part.
+    TextSink text(DocumentKind kind) const;
+    HtmlWriter html(DocumentKind kind) const;
+
+private:
+    DocumentReport report(DocumentKind kind) const;
+
+    Program& program_;
+    PrintSelection recipe_sections_;
+    PrintSelection session_sections_;
+    HtmlTheme theme_;
+    ColorTable color_table_;
+};
+
+} // namespace wortlex

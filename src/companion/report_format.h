@@ -1,0 +1,14 @@
+// The two forms in which the console companion reports on a document.
+#pragma once
+
+#include "companion/evaluation.h"
+
+namespace wortlex {
+
+/// One object on one line, without the line's end.
+std::string json_line(const Program& program, const Evaluation& evaluation);
+
+/// A page to read, in the units of the settings.
+std::string summary(const Program& program, const Evaluation& evaluation);
+
+} // namespace wortlex

@@ -1,0 +1,231 @@
+#include "base/windows1252.h"
+#include "brewing/hop_bitterness.h"
+#include "companion/report_format.h"
+#include "measures/gravity.h"
+#include "measures/units.h"
+
+#include <algorithm>
+#include <array>
+
+namespace wortlex {
+namespace {
+
+// Columns of a page: texts are cut and filled on the right, figures filled on the left.
+std::string column(std::string_view windows1252, std::size_t width) {
+    const auto cut = windows1252.substr(0, width);
+    return utf8_from_windows1252(cut) + std::string(width - cut.size(), ' ');
+}
+
+std::string figure(double value, int decimals, std::size_t width) {
+    const auto text = fixed(value, decimals);
+    return text.size() >= width ? " " + text : std::string(width - text.size(), ' ') + text;
+}
+
+constexpr std::size_t name_width = 34;
+
+struct Words {
+    std::string_view volume, grain, hops, colour, temperature;
+};
+
+Words words(const Settings& settings) {
+    const bool pro = settings.system_mode == SystemMode::pro_brewer;
+    const auto pick = [](bool first, std::string_view a, std::string_view b) { return first ? a : b; };
+    return {settings.volume_units == Units::american ? pick(pro, "bbl", "gal") : pick(pro, "hL", "L"),
+            pick(settings.weight_units == Units::american, "lb", "kg"),
+            settings.hop_weight_units == Units::american ? pick(pro, "lb", "oz") : pick(pro, "kg", "g"),
+            pick(settings.color_units == ColorUnits::srm, "SRM", "EBC"),
+            pick(settings.temperature_units == TemperatureUnits::fahrenheit, "F", "C")};
+}
+
+std::string_view long_kind_word(RecipeKind kind) {
+    switch (kind) {
+    case RecipeKind::partial_mash:
+        return "Partial Mash";
+    case RecipeKind::extract:
+        return "Extract";
+    default:
+        return "All Grain";
+    }
+}
+
+std::string time_word(const HopUse& line, int boil_minutes) {
+    switch (hop_timing(line.boil_time, boil_minutes)) {
+    case HopTiming::dry:
+        return "  Dry";
+    case HopTiming::first_wort:
+        return "  FWH";
+    case HopTiming::mash:
+        return "   MH";
+    default:
+        return figure(line.boil_time, 0, 5);
+    }
+}
+
+std::string volume(float gallons, const Settings& settings) {
+    return fixed(to_shown_volume(gallons, settings), 2) + " " + std::string(words(settings).volume);
+}
+
+std::string gravity(float points, const Settings& settings) {
+    const float sg = narrow(points / 1000.0 + 1);
+    return fixed(sg, 3 + static_cast<int>(std::min(settings.sg_precision, 2U))) + " (" +
+           fixed(sg_to_plato(sg), 1) + " Plato)";
+}
+
+std::string brew_date(const SessionDocument& session) {
+    if (session.brew_year == 0) return {};
+    const auto two = [](int number) { return (number < 10 ? "-0" : "-") + std::to_string(number); };
+    return ", " + std::to_string(session.brew_year) + two(session.brew_month) + two(session.brew_day);
+}
+
+std::string heading(const Program& program, const Evaluation& evaluation) {
+    const auto& document = program.document;
+    const auto& settings = program.settings;
+    std::string out = utf8_from_windows1252(document.title.view());
+    out += evaluation.kind == DocumentKind::session ? " - Brewing Session" + brew_date(program.session)
+                                                    : " - Recipe";
+    out += "\n";
+    out += "  " + evaluation.file + "\n  " + std::string(long_kind_word(document.recipe_kind));
+    if (!document.style.name.empty()) out += ", " + utf8_from_windows1252(document.style.name.view());
+    out += "\n\n  Batch " + volume(document.batch_size, settings) + "   Wort " +
+           volume(document.wort_size, settings) + "   Boil " + std::to_string(document.boil_minutes) +
+           " min   Efficiency " + fixed(document.efficiency * 100.0, 0) + " %\n";
+    out += "  OG " + gravity(document.og_points, settings) + "   IBU " + fixed(document.total_ibu, 1) + " (" +
+           std::string(formula_word(settings.HopFormula)) + ")   Colour " +
+           fixed(to_shown_colour(program.figures.colour.srm, settings), 1) + " " +
+           std::string(words(settings).colour) + "\n";
+    return out +
+           "  Before the boil, by its rate of evaporation: " + volume(evaluation.pre_boil.volume, settings) +
+           " at " + gravity(evaluation.pre_boil.points, settings) + "\n";
+}
+
+std::string malt_list(const Program& program) {
+    const auto& settings = program.settings;
+    std::string out = "\n  " + column("Malts", name_width) + "     " + std::string(words(settings).grain) +
+                      "      %  points\n";
+    for (const auto& line : program.document.malts) {
+        const double percent =
+            program.figures.total_grain > 0 ? double{line.amount} / program.figures.total_grain * 100 : 0.0;
+        out += "  " + column(line.record.name.view(), name_width) +
+               figure(grain_to_shown(line.amount, settings), 2, 7) + figure(percent, 1, 7) +
+               figure(line.points, 1, 8) + "\n";
+    }
+    return out + "  " + column("Total", name_width) +
+           figure(grain_to_shown(program.figures.total_grain, settings), 2, 7) + "\n";
+}
+
+std::string hop_list(const Program& program) {
+    const auto& settings = program.settings;
+    std::string unit(words(settings).hops);
+    unit.insert(0, 7 - unit.size(), ' ');
+    constexpr std::size_t form_width = 8;
+    std::string out = "\n  " + column("Hops", name_width - form_width) + column("Form", form_width) + unit +
+                      "  alpha   min   IBU\n";
+    for (const auto& line : program.document.hops) {
+        out += "  " + column(line.record.name.view(), name_width - form_width) +
+               column(form_word(form(line.record)), form_width) +
+               figure(hop_to_shown(line.amount, settings), 2, 7) + figure(line.alpha, 1, 7) + " " +
+               time_word(line, program.document.boil_minutes) + figure(line.ibu, 1, 6) + "\n";
+    }
+    return out;
+}
+
+std::string other_ingredients(const Program& program) {
+    const auto& document = program.document;
+    std::string out;
+    for (const auto& line : document.extras) {
+        constexpr std::array<std::string_view, 7> units = {"oz", "g", "lb", "tsp", "tbsp", "cups", "units"};
+        const auto unit = static_cast<std::size_t>(line.record.amount_unit);
+        out += "  " + column(line.record.name.view(), name_width) + figure(line.amount, 2, 7) + " " +
+               std::string(unit < units.size() ? units[unit] : "") + "\n";
+    }
+    if (!out.empty()) out = "\n  Extras\n" + out;
+    const auto& yeast = document.yeast.record;
+    if (!yeast.name.empty())
+        out += "\n  Yeast: " + utf8_from_windows1252(yeast.lab.view()) + " " +
+               utf8_from_windows1252(yeast.catalog_number.view()) + " " +
+               utf8_from_windows1252(yeast.name.view()) + "\n";
+    if (!document.water.name.empty())
+        out += "  Water: " + utf8_from_windows1252(document.water.name.view()) + "\n";
+    return out;
+}
+
+std::string temperature(std::int32_t fahrenheit, const Settings& settings) {
+    return figure(to_shown_temperature(static_cast<float>(fahrenheit), settings), 0, 5) + " " +
+           std::string(words(settings).temperature);
+}
+
+std::string quarts(float amount, const Settings& settings) {
+    return volume(narrow(amount / 4.0), settings);
+}
+
+constexpr std::size_t rest_width = 22;
+
+std::string rests(const SimpleMash& mash, const InfusionExtras& infusions, const Settings& settings) {
+    const auto row = [&](std::string_view name, const Rest& rest, float infused) {
+        if (!rest.is_present()) return std::string();
+        return "    " + column(name, rest_width) + temperature(rest.temperature, settings) +
+               figure(rest.minutes, 0, 5) + " min" +
+               (infused > 0 ? ", " + quarts(infused, settings) + " added" : std::string()) + "\n";
+    };
+    return row("Dough In", mash.dough_in, 0) + row("Acid Rest", mash.acid, 0) +
+           row("Protein Rest", mash.protein, infusions.protein.amount) +
+           row("Intermediate Rest", mash.intermediate, infusions.intermediate.amount) +
+           row("Saccharification Rest", mash.saccharification, infusions.saccharification.amount) +
+           row("Mash Out", mash.mash_out, infusions.mash_out.amount) + row("Sparge", mash.sparge, 0);
+}
+
+std::string step_water(const MashStep& step, const Settings& settings) {
+    if (!(step.amount > 0)) return {};
+    const auto amount = ", " + quarts(step.amount, settings);
+    if (step.heat_type == StepHeat::decoction) return amount + " pulled";
+    return amount + " added at" + temperature(step.infuse_temperature, settings);
+}
+
+std::string steps(const ComplexMash& mash, const Settings& settings) {
+    std::string out;
+    for (const auto& step : mash.used_steps())
+        out += "    " + column(step.name.view(), rest_width) + temperature(step.start_temperature, settings) +
+               figure(step.rest_minutes, 0, 5) + " min" + step_water(step, settings) + "\n";
+    return out;
+}
+
+std::string mash_schedule(const Program& program, const Evaluation& evaluation) {
+    const auto& settings = program.settings;
+    if (!(program.figures.mash_grain > 0)) return {};
+    const bool is_complex = has_complex_schedule(program.document);
+    const auto& mash = program.figures.mash;
+    const bool is_session = evaluation.kind == DocumentKind::session;
+    const auto& infusions = is_session ? program.session.infusions : InfusionExtras{};
+    return "\n  Mash: water " + quarts(mash.quarts, settings) + ", volume " + volume(mash.gallons, settings) +
+           "\n" +
+           (is_complex ? steps(program.document.mash, settings)
+                       : rests(program.document.simple_mash, infusions, settings));
+}
+
+std::string brew_day(const Program& program, const Evaluation& evaluation) {
+    const auto& settings = program.settings;
+    const auto& session = program.session;
+    const auto& alcohol = evaluation.fermentation;
+    const auto& water = program.water;
+    const auto points = [](float sg) { return narrow((sg - 1.0) * 1000); };
+    return "\n  Measured OG " + gravity(points(session.actual_og), settings) + ", FG " +
+           gravity(points(session.actual_fg), settings) + "\n  Alcohol " +
+           fixed(alcohol.alcohol_by_volume, 2) + " % by volume, " + fixed(alcohol.alcohol_by_weight, 2) +
+           " % by weight   ADF " + fixed(alcohol.apparent_attenuation, 1) + " %   RDF " +
+           fixed(alcohol.real_attenuation, 1) + " %\n  Mash efficiency " +
+           fixed(evaluation.efficiency.efficiency * 100.0, 0) + " %\n  Water plan: needed " +
+           volume(water.needed, settings) + ", into the kettle " + volume(water.into_kettle, settings) +
+           ", after the boil " + volume(water.after_boil, settings) + ", to the fermenter " +
+           volume(water.after_cooling, settings) + "\n";
+}
+
+} // namespace
+
+std::string summary(const Program& program, const Evaluation& evaluation) {
+    auto page = heading(program, evaluation) + malt_list(program) + hop_list(program) +
+                other_ingredients(program) + mash_schedule(program, evaluation);
+    if (evaluation.kind == DocumentKind::session) page += brew_day(program, evaluation);
+    return page;
+}
+
+} // namespace wortlex

@@ -1,0 +1,326 @@
+#include "documents/forms/recipe_form.h"
+
+#include "base/windows1252.h"
+#include "documents/forms/style_band.h"
+#include "documents/forms/style_rows.h"
+#include "documents/recipe_gravity.h"
+#include "measures/gravity.h"
+#include "measures/units.h"
+
+namespace wortlex {
+namespace {
+
+float sg_of(float points) {
+    return narrow(points / 1000.0 + 1);
+}
+
+// A band beside the limits: where the recipe stands between them.
+void band(Rows& rows, std::string key, const std::string& what, const std::function<StyleBand()>& figure,
+          const BrewDocument& document) {
+    rows.canvas(std::move(key), {90, 9},
+                [figure, &document](Surface& surface) {
+                    draw_style_band(surface, has_style(document) ? figure() : StyleBand{});
+                })
+        .hint([what, figure, &document]() -> std::string {
+            if (!has_style(document)) return "";
+            const auto now = figure();
+            if (now.value < now.low) return what + " is below the style's range";
+            return what + (now.value > now.high ? " is above the style's range" : " is in the style's range");
+        });
+}
+
+void band_rows(Rows& rows, const OpenDocument& open) {
+    const auto& document = open.document;
+    const auto& style = document.style;
+    const auto& figures = open.figures;
+    band(
+        rows, "sg_band", "Gravity",
+        [&] {
+            return StyleBand{style.min_og, style.max_og, sg_of(document.og_points)};
+        },
+        document);
+    band(
+        rows, "ibu_band", "Bitterness",
+        [&] {
+            return StyleBand{style.min_ibu, style.max_ibu, document.total_ibu};
+        },
+        document);
+    band(
+        rows, "colour_band", "Color",
+        [&] {
+            return StyleBand{style.min_colour, style.max_colour, figures.colour.srm};
+        },
+        document);
+}
+
+bool is_extract(const BrewDocument& document) {
+    return document.recipe_kind == RecipeKind::extract;
+}
+
+void name_rows(Rows& rows, RecipeEditor& editor) {
+    constexpr std::size_t longest_title = 80;
+    auto& document = editor.open.document;
+    rows.text(
+            "title", [&] { return document.title.view(); },
+            [&](std::string_view stored) { set_title(editor, stored); }, longest_title)
+        .label("&Recipe Name:")
+        .width(40);
+    rows.choice("recipe_kind",
+                {[&] { return static_cast<std::int32_t>(document.recipe_kind); },
+                 [&](std::int32_t kind) { set_kind(editor, static_cast<RecipeKind>(kind)); }},
+                {"All &Grain", "E&xtract", "Part&ial"})
+        .codes({0, 2, 1});
+}
+
+NumberRow& size_row(Rows& rows, std::string key, Binding<float> gallons, const Settings& settings) {
+    return rows.number(std::move(key), std::move(gallons))
+        .shown_as([&settings](float value) { return to_shown_volume(value, settings); },
+                  [&settings](float shown) { return from_shown_volume(shown, settings); })
+        .range(1.0F, 100000.0F)
+        .step(0.5F)
+        .format("%0.1f")
+        .outside(Outside::clamp);
+}
+
+void batch_row(Rows& rows, RecipeEditor& editor) {
+    const auto& settings = editor.open.settings;
+    size_row(rows, "batch_size",
+             {[&editor] { return editor.open.document.batch_size; },
+              [&editor](float gallons) { set_batch_size(editor, gallons); }},
+             settings)
+        .label([&settings] { return size_label("&Batch Size", settings); });
+}
+
+void boil_row(Rows& rows, RecipeEditor& editor) {
+    rows.integer("boil_minutes", {[&editor] { return editor.open.document.boil_minutes; },
+                                  [&editor](std::int32_t minutes) { set_boil_minutes(editor, minutes); }})
+        .label("Boil &Time")
+        .typed(5, 500)
+        .spun(1, 500, 5)
+        .width(6);
+}
+
+void wort_row(Rows& rows, RecipeEditor& editor) {
+    const auto& settings = editor.open.settings;
+    size_row(rows, "wort_size",
+             {[&editor] { return editor.open.document.wort_size; },
+              [&editor](float gallons) { set_wort_size(editor, gallons); }},
+             settings)
+        .label([&settings] { return size_label("&Wort Size", settings); })
+        .enabled([&settings] { return settings.wort_equals_batch == 0; });
+}
+
+void efficiency_rows(Rows& rows, RecipeEditor& editor) {
+    const auto& document = editor.open.document;
+    const auto mashes = [&document] { return !is_extract(document); };
+    rows.number("efficiency", {[&document] { return narrow(document.efficiency * 100.0); },
+                               [&editor](float percent) { set_efficiency(editor, percent); }})
+        .label("% &Efficiency")
+        .range(5.0F, 100.0F)
+        .step(1.0F)
+        .format("%0.0f")
+        .outside(Outside::clamp)
+        .enabled(mashes)
+        .when_disabled(" ") // no text at all would leave the figure standing
+        .width(6);
+    rows.check("efficiency_lock", {[&editor] { return editor.view.locks.efficiency; },
+                                   [&editor](bool locked) { lock_efficiency(editor, locked); }})
+        .label("Loc&k")
+        .enabled(mashes);
+}
+
+// In the order in which they stand, and in which the tab key visits them.
+void size_rows(Rows& rows, const RecipeSubject& subject) {
+    auto& editor = subject.editor;
+    batch_row(rows, editor);
+    boil_row(rows, editor);
+    rows.button("pre_boil", "Pre-Boi&l", subject.actions.pre_boil);
+    wort_row(rows, editor);
+    efficiency_rows(rows, editor);
+    rows.check("lock_to_batch", {[&editor] { return editor.view.locks.to_batch; },
+                                 [&editor](bool locked) { lock_to_batch(editor, locked); }})
+        .label("Lock Ingredients to Batc&h Size");
+}
+
+void figure_rows(Rows& rows, const RecipeSubject& subject) {
+    const auto& document = subject.editor.open.document;
+    const auto& figures = subject.editor.open.figures;
+    const auto& settings = subject.editor.open.settings;
+    rows.shown_sg(
+            "sg", [&] { return sg_of(document.og_points); }, settings)
+        .label("SG");
+    rows.shown_plato(
+            "plato", [&] { return sg_to_plato(sg_of(document.og_points)); }, settings)
+        .label("Plato");
+    rows.shown_number(
+            "total_ibu", [&] { return document.total_ibu; }, "%0.1f")
+        .label("Total IBU's");
+    rows.shown_number(
+            "colour", [&] { return to_shown_colour(figures.colour.srm, settings); }, "%0.1f")
+        .label([&] { return "Est. " + colour_unit(settings); })
+        .unit([&] { return "(" + colour_unit(settings) + ")"; });
+    rows.swatch("swatch",
+                [&figures, &settings, &colours = subject.colours] {
+                    return swatch_colour(colours, figures.colour.srm, settings);
+                })
+        .label("&CLR")
+        .pressed(subject.actions.show_colour);
+}
+
+// A button about the selected line.
+void line_button(Rows& rows, const std::string& key, const std::string& caption, std::function<void()> action,
+                 const std::function<bool()>& has_line) {
+    rows.button(key, caption, std::move(action)).enabled(has_line);
+}
+
+void malt_list(Rows& rows, const RecipeSubject& subject) {
+    auto& editor = subject.editor;
+    const auto& settings = editor.open.settings;
+    rows.list(
+            "malts",
+            {{.caption = "Malt Name", .width = 24, .stretches = true},
+             {.caption = "Origin", .width = 11},
+             {.caption = [&] { return malt_value_head(editor.view, settings); },
+              .is_number = true,
+              .width = 10},
+             {.caption = [&] { return malt_colour_head(settings); }, .is_number = true},
+             {.caption = [&] { return malt_amount_head(settings); }, .is_number = true},
+             {.caption = "%", .is_number = true, .width = 6}},
+            [&] { return editor.open.document.malts.size(); },
+            [&](std::size_t row, std::size_t column) {
+                return malt_cell(editor.open, editor.view, row, column);
+            })
+        .label("Malts")
+        .selection(editor.view.selected_malt)
+        .header_clicked([&editor](std::size_t column) { sort_malts(editor, column); })
+        .activated(subject.actions.edit_malt);
+}
+
+void malt_rows(Rows& rows, const RecipeSubject& subject) {
+    auto& editor = subject.editor;
+    auto& view = editor.view;
+    const auto& settings = editor.open.settings;
+    malt_list(rows, subject);
+    rows.choice("show_potential",
+                {[&view] { return view.show_potential ? 0 : 1; },
+                 [&view](std::int32_t code) { view.show_potential = code == 0; }},
+                {"Potential", "Extract"})
+        .option_enabled([&settings](std::size_t option) {
+            return option != 0 || settings.efficiency_mode != EfficiencyMode::method_2;
+        });
+    rows.shown_number(
+            "total_grain", [&] { return grain_to_shown(editor.open.figures.total_grain, settings); }, "%0.2f")
+        .label([&] { return grain_unit(settings); });
+    const std::string unit = settings.weight_units == Units::american ? "Lbs" : "kg";
+    const auto has_line = [&editor] { return selected_malt(editor).has_value(); };
+    rows.button("malt_new", "New", subject.actions.new_malt);
+    line_button(
+        rows, "malt_del", "Del", [&editor] { delete_malt(editor); }, has_line);
+    line_button(rows, "malt_edit", "Edit", subject.actions.edit_malt, has_line);
+    line_button(
+        rows, "malt_more", "+" + unit, [&editor] { step_malt(editor, Step::more); }, has_line);
+    line_button(
+        rows, "malt_less", "-" + unit, [&editor] { step_malt(editor, Step::less); }, has_line);
+    line_button(rows, "malt_detail", "%", subject.actions.malt_contribution, has_line);
+}
+
+void hop_list(Rows& rows, const RecipeSubject& subject) {
+    auto& editor = subject.editor;
+    const auto& settings = editor.open.settings;
+    rows.list(
+            "hops",
+            {{.caption = "Hop Name", .width = 24, .stretches = true},
+             {.caption = "Form", .width = 8},
+             {.caption = "Alpha", .is_number = true},
+             {.caption = [&] { return hop_bitterness_head(editor.view, settings); }, .is_number = true},
+             {.caption = [&] { return hop_amount_head(settings); }, .is_number = true},
+             {.caption = "Boil", .is_number = true, .width = 6}},
+            [&] { return editor.open.document.hops.size(); },
+            [&](std::size_t row, std::size_t column) {
+                return hop_cell(editor.open, editor.view, row, column);
+            })
+        .label("Hops")
+        .selection(editor.view.selected_hop)
+        .header_clicked([&editor](std::size_t column) { sort_hops(editor, column); })
+        .activated(subject.actions.edit_hop);
+}
+
+void hop_buttons(Rows& rows, const RecipeSubject& subject) {
+    auto& editor = subject.editor;
+    const auto unit = hop_amount_head(editor.open.settings);
+    const auto has_line = [&editor] { return selected_hop(editor).has_value(); };
+    rows.button("hop_new", "New", subject.actions.new_hop);
+    line_button(
+        rows, "hop_del", "Del", [&editor] { delete_hop(editor); }, has_line);
+    line_button(rows, "hop_edit", "Edit", subject.actions.edit_hop, has_line);
+    line_button(
+        rows, "hop_more", "+" + unit, [&editor] { step_hop(editor, Step::more); }, has_line);
+    line_button(
+        rows, "hop_less", "-" + (unit == "Oz." ? std::string("Oz") : unit),
+        [&editor] { step_hop(editor, Step::less); }, has_line);
+    line_button(rows, "hop_loss", "Loss", subject.actions.lose_alpha, has_line);
+    line_button(
+        rows, "boil_more", "+Boil", [&editor] { step_boil(editor, Step::more); }, has_line);
+    line_button(
+        rows, "boil_less", "-Boil", [&editor] { step_boil(editor, Step::less); }, has_line);
+}
+
+void hop_rows(Rows& rows, const RecipeSubject& subject) {
+    auto& editor = subject.editor;
+    auto& view = editor.view;
+    const auto& settings = editor.open.settings;
+    hop_list(rows, subject);
+    rows.choice("show_ibu",
+                {[&view] { return view.show_ibu ? 0 : 1; },
+                 [&view](std::int32_t code) { view.show_ibu = code == 0; }},
+                {"IBU", [&settings] { return bittering_unit(settings); }})
+        .visible([&settings] { return settings.display_home_bittering != 0; });
+    rows.shown_number(
+            "total_hops", [&] { return hop_to_shown(editor.open.figures.total_hop_ounces, settings); },
+            "%0.3f")
+        .label([&] { return hop_unit(settings); });
+    hop_buttons(rows, subject);
+}
+
+// A schedule of steps has a window of its own, which is not there yet. The mark that a save leaves in the
+// flag byte makes no steps.
+bool has_steps(const BrewDocument& document) {
+    return (document.mash_flags & 0x0F) != 0;
+}
+
+std::string mash_hint(const BrewDocument& document) {
+    if (!has_mashable_grain(document)) return "There is no grain to mash.";
+    return has_steps(document) ? "This recipe has a schedule of steps, which cannot be edited yet." : "";
+}
+
+void page_rows(Rows& rows, const RecipeSubject& subject) {
+    const auto& document = subject.editor.open.document;
+    const auto& actions = subject.actions;
+    rows.button("yeast_and_water", "Yeast &And Water", actions.yeast_and_water);
+    rows.button("extras_and_notes", "Extras && &Notes", actions.extras_and_notes);
+    rows.button("mash_schedule", "&Mash Schedule", actions.mash_schedule)
+        .enabled([&document] { return has_mashable_grain(document) && !has_steps(document); })
+        .hint([&document] { return mash_hint(document); });
+    rows.button("save", "&Save", actions.save);
+    rows.button("print", "&Print", actions.print);
+    rows.button("help", "Help", actions.help);
+}
+
+} // namespace
+
+void recipe_form(Form& form, const RecipeSubject& subject) {
+    auto& recipe = form.group("Recipe");
+    name_rows(recipe, subject.editor);
+    size_rows(recipe, subject);
+    auto& style = form.group("Style Guidelines");
+    style.button("pick_style", "Pick St&yle", subject.actions.pick_style);
+    style_rows(style, subject.editor.open);
+    band_rows(style, subject.editor.open);
+    figure_rows(form.group("Predicted"), subject);
+    malt_rows(form.group("Malts"), subject);
+    hop_rows(form.group("Hops"), subject);
+    page_rows(form.group(), subject);
+    form.on_leave([&editor = subject.editor] { end_edit(editor); });
+}
+
+} // namespace wortlex

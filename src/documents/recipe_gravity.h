@@ -1,0 +1,38 @@
+// The gravity that a grain bill gives, by either efficiency method on either base.
+#pragma once
+
+#include "documents/figures.h"
+#include "records/documents/brew_document.h"
+
+namespace wortlex {
+
+/// Points of the wort at batch size; the caller stores them in `og_points`. Writes the points of the lines
+/// and the figures. Without malts it returns 0 and touches nothing. -1 where no wort can hold the extract.
+float compute_og(BrewDocument& document, RecipeFigures& figures, const Settings& settings);
+
+/// Points over the wort size. Neither the lines nor any figures are touched.
+float compute_wort_points(const BrewDocument& document, const Settings& settings);
+
+/// The points of a pound of sucrose in a gallon of wort with `extract_pounds` in `gallons`: they fall as the
+/// wort gets stronger.
+double variable_sucrose_value(double extract_pounds, float gallons);
+
+/// Points at batch size at 100 % extraction, of all lines, of the mashed ones and of the others; 0 without
+/// any.
+float potential_points(const BrewDocument& document, const Settings& settings);
+float mash_potential_points(const BrewDocument& document, const Settings& settings);
+float other_potential_points(const BrewDocument& document, const Settings& settings);
+
+/// Changes the weights of mashed lines so that the gravity that `locked_efficiency` gave stays under the
+/// document's efficiency, which then is the locked one. `og_points` stays as it is.
+void hold_gravity(BrewDocument& document, RecipeFigures& figures, float& locked_efficiency,
+                  const Settings& settings);
+
+/// Sums of amounts.
+void total_grain_update(const BrewDocument& document, RecipeFigures& figures);
+void mash_grain_update(const BrewDocument& document, RecipeFigures& figures);
+
+/// Whether there is grain to mash in a recipe of a kind that mashes.
+bool has_mashable_grain(const BrewDocument& document);
+
+} // namespace wortlex

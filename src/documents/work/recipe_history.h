@@ -1,0 +1,47 @@
+// Undo and redo of the work on a recipe.
+#pragma once
+
+#include "documents/document_recalculation.h"
+
+#include <deque>
+
+namespace wortlex {
+
+/// Remembers the recipe as it was before each step. What a save leaves in the document - its packed flag byte
+/// and the method that it carries - is no step and is never taken back.
+class RecipeHistory {
+public:
+    /// Forgets everything and starts from the recipe as it is.
+    void start(const OpenDocument& open);
+
+    /// The recipe has changed: a step of that name; false, and none, if nothing is different. Edits of the
+    /// same `merge_key`, if it is not empty, make one step until `end_step`.
+    bool note(const OpenDocument& open, std::string_view name, std::string_view merge_key = {});
+    void end_step() { merge_key_.clear(); }
+
+    /// The names of the steps that `undo` and `redo` would take; empty without one.
+    std::string_view to_undo() const;
+    std::string_view to_redo() const;
+    /// Each answers whether there was a step to take. The figures come back with the recipe.
+    bool undo(const OpenDocument& open);
+    bool redo(const OpenDocument& open);
+
+private:
+    struct State {
+        BrewDocument document;
+        RecipeFigures figures;
+    };
+    struct Step {
+        std::string name;
+        State state; ///< the recipe on the other side of the step
+    };
+
+    bool is_current(const OpenDocument& open);
+    void take(const OpenDocument& open, std::deque<Step>& from, std::deque<Step>& to);
+
+    State now_;
+    std::deque<Step> done_, undone_; ///< the last one is the next to be taken
+    std::string merge_key_;
+};
+
+} // namespace wortlex

@@ -1,0 +1,149 @@
+// The page engine: reports set header lines, choose fonts and send lines of tabbed text; where lines and
+// pages end is decided here.
+//
+//     desk.show({"Wortlex Recipe", scale, [&](PageContext& page) {
+//         page.SetHeader(0, "Wortlex Recipe Printout");
+//         page.TabbedLine({160, 250, 380}, "Batch Size (Gal):\t5.00\tWort Size (Gal):\t5.50");
+//     }});
+#pragma once
+
+#include "page/page_job.h"
+
+#include <array>
+#include <initializer_list>
+
+namespace wortlex {
+
+enum class PageFont { body, body_italic, title, title_italic, small };
+
+/// A chart that stands alone on its page, or below the lines of a report.
+enum class ChartForm { alone, in_report };
+
+/// Where a chart of 445 by 320 logical units goes: `offset` is its corner, `scale` the dots of one unit.
+struct ChartPlace {
+    Surface& surface;
+    Point offset;
+    double scale = 1;
+};
+
+/// The state of one job. Tab stops and positions are logical units, 640 to the width of an upright page;
+/// texts are UTF-8.
+class PageContext {
+public:
+    static constexpr int header_slots = 7;
+
+    /// Sets everything up for a paper. `measure` tells how wide texts are and must outlive the context;
+    /// `printer_scale` is the scaling ratio, and 1 where it is out of all reason. False if nothing can be
+    /// printed on such paper.
+    bool BeginPrint(std::string document_name, const Paper& paper, Surface& measure, float printer_scale);
+    /// Page 1, body font.
+    void StartJob();
+
+    void ClearHeaders();
+    /// Slot 0 is the title of the page, 1 to 6 are lines below it. Nothing turns the slot off.
+    void SetHeader(std::size_t slot, std::optional<std::string> text);
+    /// Whether the title is followed by the number of the page. It is at first.
+    void SetPageNumbering(bool is_on) { numbers_pages_ = is_on; }
+
+    /// For the next line or paragraph; then it is the body font again. A line in a title font is one and a
+    /// half pitches high.
+    void SelectFont(PageFont font) { font_ = font; }
+
+    void NewLines(int count);
+    void Line(std::string_view text) { TabbedLine({}, text); }
+    /// The first column begins at the left margin, a tab leads to the next stop.
+    void TabbedLine(std::span<const int> stops, std::string_view text);
+    void TabbedLine(std::initializer_list<int> stops, std::string_view text) {
+        TabbedLine(std::span<const int>(stops.begin(), stops.size()), text);
+    }
+    /// In the middle between the margins; a text too long for them begins at the left one.
+    void CentredLine(std::string_view text);
+    /// As much of a text, in the chosen font, as fits between two tab positions and leaves a gap there.
+    std::string fitted(std::string_view text, int from, int to) const;
+    /// A long text in lines of 101 characters. Carriage returns end lines, line feeds are dropped.
+    void Paragraph(std::string_view text);
+
+    /// Ends the page if so many lines do not fit on it; whether it did.
+    bool KeepTogether(int lines);
+    /// Ends the page if the paragraph, and four lines with it, do not fit on it.
+    void KeepParagraph(std::string_view text);
+
+    /// A rule takes a line of its own: across the page, or to its middle.
+    void Rule();
+    void HalfRule();
+    /// A patch of colour (0x00BBGGRR) in the line that is written next, at a tab position.
+    void ColourBox(int position, std::uint32_t colour);
+    /// Room for a chart, on a new page where it is short; lines go on below it.
+    ChartPlace PlaceChart(ChartForm form);
+
+    /// What follows goes to a new page. Does nothing on a page that has not begun.
+    void EndPage();
+    void EndJob();
+    /// Hands the pages over.
+    PageJob Release();
+
+    /// Dots from the top of the page; 0: it has not begun.
+    int y() const { return y_; }
+    int line_pitch() const { return line_pitch_; }
+
+private:
+    struct FontSpec {
+        int height = 0;
+        int weight = 400;
+        bool italic = false;
+    };
+
+    Font font_of(PageFont font) const;
+    void make_fonts(Surface& measure);
+    RecordedPage& page() { return job_.pages.back(); }
+    void use(const Font& font);
+    int tab(int position) const;
+    int pitch() const;
+    bool fits(int dots) const;
+    void begin_line(int height);
+    void begin_page();
+    void start_line();
+    void end_line();
+    void write_title(const std::string& title);
+    void write(std::string_view text, std::span<const int> positions);
+    void advance(int dots);
+    void draw_rule(int right);
+
+    PageJob job_;
+    Surface* measure_ = nullptr;
+    std::array<FontSpec, 5> fonts_;
+    std::array<std::optional<std::string>, header_slots> headers_;
+    PageFont font_ = PageFont::body;
+    bool numbers_pages_ = true;
+    int page_number_ = 1;
+    int y_ = 0;
+    int line_pitch_ = 1;
+    int paragraph_pitch_ = 1;
+    int lines_on_page_ = 0;
+    int left_margin_ = 0;
+    int label_column_ = 0;
+    double scale_ = 1; // dots of a logical unit
+    double printer_scale_ = 1;
+};
+
+/// What a report does with a page: headers and lines. The job around them is begun and ended for it.
+using Report = std::function<void(PageContext&)>;
+
+/// A report to be shown. `run` is called again for every paper that the user tries.
+struct PrintRequest {
+    std::string document_name;
+    float printer_scale = 1;
+    Report run;
+};
+
+/// The pages of a report on such paper; nothing if the paper cannot be printed on.
+std::optional<PageJob> record_report(const PrintRequest& request, const Paper& paper, Surface& measure);
+
+/// Where reports are shown before they go to paper.
+class PageDesk {
+public:
+    virtual ~PageDesk() = default;
+    virtual void show(const PrintRequest& request) = 0;
+};
+
+} // namespace wortlex

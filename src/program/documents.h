@@ -1,0 +1,50 @@
+// New documents and files that become the live one.
+#pragma once
+
+#include "base/ports/desk.h"
+#include "documents/work/recipe_saving.h"
+#include "program/tools.h"
+#include "records/documents/document_files.h"
+#include "settings/system_files.h"
+
+namespace wortlex {
+
+struct Program;
+
+DocumentFile& document_file(Program& program, DocumentKind kind);
+
+/// The kind of document that a file name stands for by its ending, or nothing.
+std::optional<DocumentKind> document_kind(std::string_view path);
+
+/// What became of the wish for a document window. There is one at most.
+enum class Wanted {
+    go_on,       ///< no document is open
+    reactivated, ///< an open one was brought forward instead
+    refused      ///< the user stays where he is
+};
+
+/// To be asked before a document is made or opened from outside its own window.
+Wanted want_document(const ToolTable& table, DocumentKind kind, Prompts& prompts);
+
+/// Makes the live document an empty one without a file.
+void new_recipe(Program& program);
+void new_session(Program& program);
+
+/// Loads a file into the live document. A file that is not found or damaged leaves everything as it was.
+LoadResult load_document(Program& program, const std::string& path, DocumentKind kind);
+
+/// Loads a file, tells what is wrong with it and notes where the document comes from. True if it is now the
+/// live document, however incomplete.
+bool open_document(Program& program, const std::string& path, DocumentKind kind, Prompts& prompts);
+
+/// The same for a file that the user chooses in the folder of its kind; false if he leaves the dialog.
+bool choose_and_open(Program& program, DocumentKind kind, Files& files, Prompts& prompts);
+
+/// The same for a file from outside, a dropped or a recent one: its ending tells its kind. Asks for an open
+/// document first; true if a window is to be opened on the new one.
+bool open_document_file(Program& program, const std::string& path, Prompts& prompts);
+
+/// Puts a document that was opened or saved first among the recent ones, and saves the list.
+void remember_document(Program& program, const std::string& path);
+
+} // namespace wortlex

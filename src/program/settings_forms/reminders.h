@@ -1,0 +1,15 @@
+// The messages that a user may have waved away for good. What changes here is on the disk at once.
+#pragma once
+
+#include "base/ports/prompts.h"
+#include "settings/system_files.h"
+
+namespace wortlex {
+
+/// Asks, and lets every reminder come again.
+void show_all_reminders(ReminderFlags& reminders, const std::string& data_folder, Prompts& prompts);
+
+/// Tells what folders that follow the user mean, unless that is no longer wanted.
+void remind_of_folders(ReminderFlags& reminders, const std::string& data_folder, Prompts& prompts);
+
+} // namespace wortlex

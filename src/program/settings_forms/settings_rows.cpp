@@ -1,0 +1,44 @@
+#include "program/settings_forms/settings_rows.h"
+
+#include "base/number.h"
+#include "measures/units.h"
+
+namespace wortlex {
+
+NumberRow& percent_row(Rows& rows, std::string key, float& fraction, float low, float high) {
+    return rows.number(std::move(key), fraction)
+        .shown_as([](float stored) { return narrow(stored * 100.0); },
+                  [](float shown) { return narrow(shown / 100.0); })
+        .range(low, high)
+        .step(1.0F)
+        .outside(Outside::hold)
+        .unit("%");
+}
+
+NumberRow& change_row(Rows& rows, std::string key, std::int32_t& percent) {
+    return rows.signed_number(std::move(key), percent)
+        .range(-100.0F, 100.0F)
+        .step(5.0F)
+        .format("%0.0f")
+        .outside(Outside::hold)
+        .unit("%");
+}
+
+NumberRow& degrees_row(Rows& rows, std::string key, float& fahrenheit, const SystemSettings& image) {
+    const auto celsius = [&image] { return image.temperature_units == TemperatureUnits::celsius; };
+    return rows.signed_number(std::move(key), fahrenheit)
+        .shown_as([celsius](float stored) { return celsius() ? celsius_from_fahrenheit(stored) : stored; },
+                  [celsius](float shown) { return celsius() ? fahrenheit_from_celsius(shown) : shown; })
+        .range([celsius] { return celsius() ? -30.0F : -21.0F; },
+               [celsius] { return celsius() ? 100.0F : 212.0F; })
+        .step(1.0F)
+        .format("%6.2f")
+        .outside(Outside::hold)
+        .unit([celsius] { return celsius() ? "C" : "F"; });
+}
+
+bool has_metric_volumes(const SystemSettings& image) {
+    return image.volume_units == Units::metric;
+}
+
+} // namespace wortlex

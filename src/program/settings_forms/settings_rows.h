@@ -1,0 +1,19 @@
+// Kinds of rows that several settings dialogs share.
+#pragma once
+
+#include "forms/form.h"
+
+namespace wortlex {
+
+/// A fraction, edited as a percentage. The range is in percent.
+NumberRow& percent_row(Rows& rows, std::string key, float& fraction, float low, float high);
+
+/// A percentage that is kept as a whole number and may be a decrease: -100 to 100.
+NumberRow& change_row(Rows& rows, std::string key, std::int32_t& percent);
+
+/// Degrees F, edited in the unit that `image` asks for: -21 to 212 F or -30 to 100 C.
+NumberRow& degrees_row(Rows& rows, std::string key, float& fahrenheit, const SystemSettings& image);
+
+bool has_metric_volumes(const SystemSettings& image);
+
+} // namespace wortlex

@@ -1,0 +1,51 @@
+#include "program/start.h"
+
+#include "base/files.h"
+
+namespace wortlex {
+namespace {
+
+// Before the settings: where files are, how HTML pages look, and where windows were.
+void read_places(Program& program, const std::string& data_folder) {
+    program.folders = LoadFolders(data_folder);
+    program.html_theme = LoadDefaultTheme(data_folder);
+    program.main_position = LoadMainPosition(data_folder);
+    program.tool_positions = LoadToolPositions(data_folder);
+}
+
+void read_print_options(Program& program) {
+    const float scale = program.settings.printer_scale;
+    program.recipe_print = LoadPrintSelection(program.data_folder, DocumentKind::recipe, scale);
+    program.session_print = LoadPrintSelection(program.data_folder, DocumentKind::session, scale);
+    program.reminders = LoadReminders(program.data_folder);
+}
+
+void read_color_table(Program& program, Prompts& prompts) {
+    if (LoadColorTable(find_data_file(program.data_folder, color_table_file), program.color_table)) return;
+    prompts.tell(
+        {.text = "Could not read kv_lovrgb.ldt file!", .caption = "Wortlex Error", .icon = Icon::error});
+    program.color_table = built_in_color_table();
+}
+
+} // namespace
+
+bool start(Program& program, const std::string& data_folder, Prompts& prompts) {
+    // The states of dilution and boil off come behind the theme of HTML pages, once there is something to
+    // read them into.
+    read_places(program, data_folder);
+    if (!start_core(program, data_folder, prompts)) return false;
+    read_print_options(program);
+    program.art_scheme = program.system.settings.art_scheme;
+    LoadWater(data_folder, program.water_database, prompts);
+    program.calculator_defaults = calculator_defaults(program.settings.system_mode);
+    read_color_table(program, prompts);
+    program.recent_documents = LoadRecent(data_folder);
+    return true;
+}
+
+CalculatorDefaults calculator_defaults(SystemMode mode) {
+    if (mode == SystemMode::pro_brewer) return {527.0F, 1200.0F, 300.0F, 1200.0F};
+    return {5.0F, 10.0F, 2.5F, 10.0F};
+}
+
+} // namespace wortlex

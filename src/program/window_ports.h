@@ -1,0 +1,20 @@
+// What every window is handed: the program's state, and whom it asks, shows and tells.
+#pragma once
+
+#include "base/ports/desk.h"
+#include "base/ports/prompts.h"
+#include "page/page.h"
+
+namespace wortlex {
+
+struct Program;
+
+struct WindowPorts {
+    Program& program;
+    Prompts& prompts;
+    Files& files;
+    PageDesk& pages;
+    Clipboard& clipboard;
+};
+
+} // namespace wortlex

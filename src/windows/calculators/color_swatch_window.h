@@ -1,0 +1,27 @@
+// The colour of the document, large.
+#pragma once
+
+#include "calculators/color_swatch.h"
+#include "desktop/form_widgets.h"
+#include "desktop/tool_window.h"
+#include "program/program.h"
+
+namespace wortlex {
+
+/// Open once at most: who opens it keeps it, until `closed` is called.
+class ColorSwatchWindow : public ToolWindow {
+public:
+    ColorSwatchWindow(Program& program, float srm, Opener opener, QWidget* origin);
+
+    /// The document has another colour: the alpha is that of the settings again.
+    void set_colour(float srm);
+
+private:
+    void lay_out_rows();
+
+    ColorSwatch swatch_;
+    Form form_;
+    FormWidgets widgets_;
+};
+
+} // namespace wortlex

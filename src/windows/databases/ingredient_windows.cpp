@@ -1,0 +1,185 @@
+#include "windows/databases/ingredient_windows.h"
+
+#include "databases/extras.h"
+#include "databases/hops.h"
+#include "databases/malts.h"
+#include "databases/styles.h"
+#include "databases/water.h"
+#include "databases/water_hardness.h"
+#include "databases/yeasts.h"
+#include "desktop/form_dialog.h"
+
+#include <QApplication>
+
+namespace wortlex {
+namespace {
+
+Places places(const WindowPorts& ports) {
+    return {ports.program.tool_positions, ports.program.settings};
+}
+
+ListPorts list_ports(const WindowPorts& ports) {
+    return {places(ports), ports.files, ports.prompts};
+}
+
+void open(IngredientList& list, const WindowPorts& ports) {
+    list.print = [&pages = ports.pages, &settings = ports.program.settings](PrintRequest request) {
+        request.printer_scale = settings.printer_scale;
+        pages.show(request);
+    };
+    list.open(ports.prompts);
+}
+
+// Runs the window that keeps a database.
+void keep(IngredientList& list, const WindowPorts& ports, QWidget* owner) {
+    open(list, ports);
+    ListWindow(list, list_ports(ports), Opener::main, nullptr, owner).exec();
+}
+
+template <class Record>
+void keep(Catalogue<Record> catalogue, Database<Record>& database, const WindowPorts& ports, QWidget* owner) {
+    Store<Record> list(std::move(catalogue), ListSide::maintenance, ports.program.data_folder, database);
+    keep(list, ports, owner);
+}
+
+// Runs a pick list from the choice of the last pick. A pick keeps the new choice, leaving the list the old
+// one. `picked` is told the window, and answers whether it is done.
+void run_pick(IngredientList& list, ListChoice& choice, const std::function<bool(QWidget*)>& picked,
+              const WindowPorts& ports, Opener opener, QWidget* owner) {
+    list.filter = static_cast<std::int32_t>(choice.filter);
+    list.only_in_stock = choice.only_in_stock;
+    open(list, ports);
+    ListWindow* shown = nullptr;
+    ListWindow window(
+        list, list_ports(ports), opener, [&] { return picked(shown); }, owner);
+    shown = &window;
+    if (window.exec() == QDialog::Accepted)
+        choice = {static_cast<std::size_t>(list.filter), list.only_in_stock};
+}
+
+template <class Record>
+std::optional<Record> pick(Store<Record>& list, ListChoice& choice, const WindowPorts& ports, Opener opener,
+                           QWidget* owner) {
+    std::optional<Record> chosen;
+    const auto take = [&](QWidget*) {
+        chosen = list.entry(*list.selected_entry());
+        return true;
+    };
+    run_pick(list, choice, take, ports, opener, owner);
+    return chosen;
+}
+
+template <class Record>
+std::optional<Record> pick(Catalogue<Record> catalogue, ListChoice& choice, const WindowPorts& ports,
+                           Opener opener, QWidget* owner) {
+    Database<Record> database; // a pick never sees unsaved edits
+    Store<Record> list(std::move(catalogue), ListSide::pick, ports.program.data_folder, database);
+    return pick(list, choice, ports, opener, owner);
+}
+
+template <class MakeForm>
+auto converter(const WindowPorts& ports, std::string_view dialog_template, MakeForm make_form) {
+    return [ports, dialog_template, make_form](WaterRecord& water) {
+        Form form;
+        make_form(form, water);
+        run_dialog(form, {.template_name = dialog_template}, places(ports),
+                   QApplication::activeModalWidget());
+    };
+}
+
+WaterConverters converters(const WindowPorts& ports) {
+    return {.calcium = converter(ports, "WATER_CAHARD", calcium_hardness_form),
+            .magnesium = converter(ports, "WATER_MGHARD", magnesium_hardness_form),
+            .alkalinity = converter(ports, "WATER_CACO3", alkalinity_form)};
+}
+
+} // namespace
+
+void keep_styles(const WindowPorts& ports, QWidget* owner) {
+    Database<StyleRecord> database;
+    StyleStore list(ports.program.settings, ListSide::maintenance, ports.program.data_folder, database);
+    keep(list, ports, owner);
+}
+
+void keep_malts(const WindowPorts& ports, QWidget* owner) {
+    Database<MaltRecord> database;
+    keep(malt_catalogue(ports.program.settings, ports.program.data_folder), database, ports, owner);
+}
+
+void keep_hops(const WindowPorts& ports, QWidget* owner) {
+    Database<HopRecord> database;
+    keep(hop_catalogue(ports.program.settings, ports.program.data_folder), database, ports, owner);
+}
+
+void keep_yeasts(const WindowPorts& ports, QWidget* owner) {
+    Database<YeastRecord> database;
+    keep(yeast_catalogue(ports.program.settings, ports.program.data_folder), database, ports, owner);
+}
+
+void keep_waters(const WindowPorts& ports, QWidget* owner) {
+    keep(water_catalogue(ports.program.settings, ports.program.data_folder, converters(ports)),
+         ports.program.water_database, ports, owner);
+}
+
+void keep_extras(const WindowPorts& ports, QWidget* owner) {
+    Database<ExtraRecord> database;
+    keep(extra_catalogue(ports.program.settings, ports.program.data_folder), database, ports, owner);
+}
+
+std::optional<StyleRecord> pick_style(const WindowPorts& ports, Opener opener, QWidget* owner) {
+    auto& program = ports.program;
+    Database<StyleRecord> database;
+    StyleStore list(program.settings, ListSide::pick, program.data_folder, database);
+    program.picks.styles.filter = static_cast<std::size_t>(list.filter);
+    auto style = pick(list, program.picks.styles, ports, opener, owner);
+    if (!style) return style;
+    style->book = list.book() == StyleBook::aha ? 0 : 1;
+    program.settings.style_book = list.book(); // the set of the next pick too
+    return style;
+}
+
+std::optional<MaltRecord> pick_malt(const WindowPorts& ports, Opener opener, QWidget* owner) {
+    const auto& program = ports.program;
+    return pick(malt_catalogue(program.settings, program.data_folder), ports.program.picks.malts, ports,
+                opener, owner);
+}
+
+std::optional<HopRecord> pick_hop(const WindowPorts& ports, Opener opener, QWidget* owner) {
+    const auto& program = ports.program;
+    return pick(hop_catalogue(program.settings, program.data_folder), ports.program.picks.hops, ports, opener,
+                owner);
+}
+
+std::optional<YeastRecord> pick_yeast(const WindowPorts& ports, Opener opener, QWidget* owner) {
+    const auto& program = ports.program;
+    return pick(yeast_catalogue(program.settings, program.data_folder), ports.program.picks.yeasts, ports,
+                opener, owner);
+}
+
+std::optional<WaterRecord> pick_water(const WindowPorts& ports, Opener opener, QWidget* owner) {
+    const auto& program = ports.program;
+    return pick(water_catalogue(program.settings, program.data_folder, {}), ports.program.picks.waters, ports,
+                opener, owner);
+}
+
+std::optional<ExtraRecord> pick_extra(const WindowPorts& ports, Opener opener, QWidget* owner) {
+    const auto& program = ports.program;
+    return pick(extra_catalogue(program.settings, program.data_folder), ports.program.picks.extras, ports,
+                opener, owner);
+}
+
+void pick_hops_for(const std::function<void(QWidget*, const HopRecord&)>& use, const WindowPorts& ports,
+                   QWidget* owner) {
+    const auto& program = ports.program;
+    Database<HopRecord> database;
+    Store<HopRecord> list(hop_catalogue(program.settings, program.data_folder), ListSide::pick,
+                          program.data_folder, database);
+    ListChoice everything;
+    const auto hand_on = [&](QWidget* window) {
+        use(window, list.entry(*list.selected_entry()));
+        return false;
+    };
+    run_pick(list, everything, hand_on, ports, Opener::main, owner);
+}
+
+} // namespace wortlex

@@ -1,0 +1,167 @@
+#include "windows/databases/list_window.h"
+
+#include "desktop/form_dialog.h"
+#include "desktop/qt_text.h"
+
+#include <QDragEnterEvent>
+#include <QFile>
+#include <QFileInfo>
+#include <QPushButton>
+#include <QShortcut>
+#include <QVBoxLayout>
+
+namespace wortlex {
+
+ListWindow::ListWindow(IngredientList& list, const ListPorts& ports, Opener opener,
+                       std::function<bool()> picked, QWidget* owner)
+    : QDialog(owner), list_(list), ports_(ports), opener_(opener), picked_(std::move(picked)),
+      place_(dress_window(*this, window_info(list.dialog_template()), 0, opener, owner, ports.places)) {
+    setWindowModality(Qt::WindowModal);
+    setSizeGripEnabled(true);
+    setAcceptDrops(!picked_);
+    fill_form();
+    widgets_ = std::make_unique<FormWidgets>(form_, ports.places.settings, *this);
+    lay_out_rows();
+    setWindowTitle(string_of(list_.caption()));
+    widgets_->field("list").setFocus();
+}
+
+void ListWindow::setVisible(bool visible) {
+    if (visible) place_.put();
+    QDialog::setVisible(visible);
+}
+
+void ListWindow::fill_form() {
+    auto& rows = form_.rows();
+    choice_rows(rows);
+    list_row(rows);
+    if (picked_)
+        rows.button("pick", "&Pick", [this] { pick(); });
+    else
+        edit_buttons(rows);
+    print_button(rows);
+    rows.button("help", picked_ ? "&Help" : "Help", nullptr);
+    if (picked_)
+        rows.button("cancel", "Cancel", [this] { reject(); });
+    else
+        rows.button("ok", "OK", [this] { accept(); });
+}
+
+void ListWindow::choice_rows(Rows& rows) {
+    std::vector<Live<std::string>> labels;
+    for (const auto& label : list_.filter_labels()) labels.emplace_back(label);
+    const bool has_choice = labels.size() > 1;
+    rows.choice("filter",
+                {[this] { return list_.filter; },
+                 [this](std::int32_t chosen) { list_.choose_filter(chosen, ports_.prompts); }},
+                std::move(labels))
+        .visible(has_choice)
+        .changed([this] { setWindowTitle(string_of(list_.caption())); });
+    rows.check("in_stock", {[this] { return list_.only_in_stock; },
+                            [this](bool only) { list_.show_only_in_stock(only); }})
+        .label("Show Only Items In Stoc&k")
+        .visible(list_.has_stock());
+}
+
+void ListWindow::list_row(Rows& rows) {
+    rows.list(
+            "list", list_.heads(), [this] { return list_.shown_count(); },
+            [this](std::size_t row, std::size_t column) { return list_.cell(row, column); })
+        .colours(ColorArea::pick_lists)
+        .selection(list_.selected)
+        .header_clicked([this](std::size_t column) { change([&] { list_.click(column); }); })
+        .activated([this] { picked_ ? pick() : run(list_.edit_entry()); });
+}
+
+void ListWindow::edit_buttons(Rows& rows) {
+    rows.button("new", "&New", [this] { run(list_.new_entry(ports_.prompts)); });
+    if (list_.can_clone())
+        rows.button("clone", "&Clone", [this] { change([this] { list_.clone_entry(ports_.prompts); }); });
+    rows.button("import", "&Import",
+                [this] { change([this] { list_.import(ports_.files, ports_.prompts); }); });
+    rows.button("edit", "&Edit", [this] { run(list_.edit_entry()); });
+    rows.button("delete", "&Delete", [this] { change([this] { list_.delete_entry(ports_.prompts); }); });
+    if (list_.has_stock())
+        rows.button("inventory", "In&ventory", [this] { run(list_.inventory(ports_.prompts)); });
+    rows.button("save", "&Save", [this] { change([this] { list_.save(ports_.prompts); }); });
+}
+
+void ListWindow::print_button(Rows& rows) {
+    std::function<void()> print;
+    if (list_.print) print = [this] { list_.print(list_.printout()); };
+    rows.button("print", picked_ ? "P&rint" : "&Print", std::move(print));
+}
+
+void ListWindow::lay_out_rows() {
+    auto* const layout = new QVBoxLayout(this);
+    auto* const choices = new QHBoxLayout;
+    choices->addWidget(&widgets_->field("filter"));
+    choices->addStretch();
+    choices->addWidget(&widgets_->field("in_stock"));
+    layout->addLayout(choices);
+    auto& list = widgets_->field("list");
+    list.setMinimumHeight(fontMetrics().height() * 24);
+    layout->addWidget(&list, 1);
+    auto* const buttons = new QHBoxLayout;
+    form_.for_each([&](Row& row) {
+        auto* const button = dynamic_cast<QPushButton*>(&widgets_->field(row));
+        if (button == nullptr) return;
+        if (row.key == "print") buttons->addStretch();
+        button->setAutoDefault(false); // Enter in the list edits or picks, it does not close
+        buttons->addWidget(button);
+    });
+    layout->addLayout(buttons);
+    if (picked_) return;
+    connect(new QShortcut(QKeySequence::Delete, &list), &QShortcut::activated, this,
+            [this] { change([this] { list_.delete_entry(ports_.prompts); }); });
+    connect(new QShortcut(Qt::Key_Insert, &list), &QShortcut::activated, this,
+            [this] { run(list_.new_entry(ports_.prompts)); });
+}
+
+void ListWindow::change(const std::function<void()>& action) {
+    action();
+    setWindowTitle(string_of(list_.caption()));
+    widgets_->refresh();
+}
+
+void ListWindow::run(std::unique_ptr<EntryForm> entry) {
+    if (entry == nullptr) return;
+    run_dialog(entry->form,
+               {.template_name = entry->dialog_template, .caption = entry->caption, .opener = opener_},
+               ports_.places, this);
+    widgets_->refresh();
+    widgets_->field("list").setFocus();
+}
+
+void ListWindow::pick() {
+    if (list_.selected >= 0 && list_.shown_count() > 0 && picked_()) leave(QDialog::Accepted);
+}
+
+void ListWindow::leave(int result) {
+    if (list_.close(ports_.prompts)) return done(result);
+    widgets_->refresh();
+}
+
+bool ListWindow::can_import(const QMimeData& dragged) const {
+    const auto urls = dragged.urls();
+    return urls.size() == 1 && urls.front().isLocalFile() &&
+           QFileInfo(urls.front().path())
+                   .suffix()
+                   .compare(string_of(list_.import_extension()), Qt::CaseInsensitive) == 0;
+}
+
+void ListWindow::dragEnterEvent(QDragEnterEvent* event) {
+    if (can_import(*event->mimeData())) event->acceptProposedAction();
+}
+
+void ListWindow::dropEvent(QDropEvent* event) {
+    if (!can_import(*event->mimeData())) return;
+    event->acceptProposedAction();
+    const auto path = QFile::encodeName(event->mimeData()->urls().front().toLocalFile()).toStdString();
+    // Questions wait until the drag is over: until then the other program hangs on our answer.
+    QMetaObject::invokeMethod(
+        this, [this, path] { change([&] { list_.import_file(path, ports_.prompts); }); },
+        Qt::QueuedConnection);
+}
+
+} // namespace wortlex

@@ -1,0 +1,89 @@
+#include "windows/documents/line_dialogs.h"
+
+#include "desktop/form_dialog.h"
+#include "documents/forms/extra_amount.h"
+#include "documents/forms/hop_amount.h"
+#include "documents/forms/malt_amount.h"
+#include "documents/forms/malt_contribution.h"
+#include "documents/forms/pre_boil_form.h"
+#include "windows/calculators/hop_degradation_window.h"
+
+namespace wortlex {
+namespace {
+
+Places places(const WindowPorts& ports) {
+    return {ports.program.tool_positions, ports.program.settings};
+}
+
+// A brewery weighs its hops by the pound.
+std::string_view first_hop_field(const Settings& settings) {
+    return settings.system_mode == SystemMode::pro_brewer ? "large_amount" : "amount";
+}
+
+} // namespace
+
+std::optional<MaltUse> edit_malt_line(const WindowPorts& ports, const MaltUse& line, Opener opener,
+                                      QWidget* owner) {
+    auto copy = line;
+    Form form;
+    malt_amount_form(form, copy, ports.program.settings);
+    if (!run_dialog(form, {.template_name = "MALTSHORTEDITDIALOG", .opener = opener}, places(ports), owner))
+        return std::nullopt;
+    return copy;
+}
+
+std::optional<HopUse> edit_hop_line(const WindowPorts& ports, const HopUse& line, Opener opener,
+                                    QWidget* owner) {
+    const auto& settings = ports.program.settings;
+    auto copy = line;
+    Form form;
+    hop_amount_form(form, copy, open_recipe(ports.program), ports.prompts);
+    const bool in_home_units = settings.display_home_bittering != 0;
+    FormDialog dialog(
+        form,
+        {.template_name = in_home_units ? "HOPSHORTEDITDIALOG1" : "HOPSHORTEDITDIALOG", .opener = opener},
+        places(ports), owner);
+    dialog.widgets().field(first_hop_field(settings)).setFocus();
+    if (dialog.exec() != QDialog::Accepted) return std::nullopt;
+    return copy;
+}
+
+std::optional<ExtraUse> edit_extra_line(const WindowPorts& ports, const ExtraUse& line, Opener opener,
+                                        QWidget* owner) {
+    auto copy = line;
+    Form form;
+    extra_amount_form(form, copy);
+    if (!run_dialog(form, {.template_name = "EXTRASHORTEDITDIALOG", .opener = opener}, places(ports), owner))
+        return std::nullopt;
+    return copy;
+}
+
+std::optional<HopUse> lose_hop_alpha(const WindowPorts& ports, const HopUse& line, Opener opener,
+                                     QWidget* owner) {
+    auto copy = line;
+    const auto adjusted = degrade_hop(ports, owner, copy, opener);
+    if (!adjusted) return std::nullopt;
+    copy.alpha = *adjusted;
+    return copy;
+}
+
+void show_malt_contribution(const WindowPorts& ports, std::size_t line, Opener opener, QWidget* owner) {
+    Form form;
+    malt_contribution_form(form, open_recipe(ports.program), line);
+    run_dialog(form, {.template_name = "GRAINLISTDETAIL", .opener = opener, .has_cancel = false},
+               places(ports), owner);
+}
+
+void show_pre_boil(const WindowPorts& ports, QWidget* owner) {
+    const auto& program = ports.program;
+    const auto print = [&ports, &program] {
+        ports.pages.show(pre_boil_printout(program.document, evaporation_rate(program), program.settings));
+    };
+    Form form;
+    pre_boil_form(form, program.document, evaporation_rate(program), program.settings);
+    pre_boil_buttons(form, {.print = print, .help = nullptr});
+    run_dialog(form, {.template_name = "PREBOILDIALOG", .opener = Opener::recipe, .has_cancel = false},
+               places(ports), owner);
+}
+
+} // namespace wortlex

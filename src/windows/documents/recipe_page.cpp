@@ -1,0 +1,120 @@
+#include "windows/documents/recipe_page.h"
+
+#include "desktop/list_keys.h"
+
+#include <QDialogButtonBox>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QKeyEvent>
+#include <QPushButton>
+
+namespace wortlex {
+
+RecipePage::RecipePage(RecipeEditor& editor, RecipePageUse use, const Places& places, QWidget* origin)
+    : ToolWindow(window_info(use.template_name), 0, use.opener, origin, places), editor_(editor),
+      use_(std::move(use)), form_(made_form()), widgets_(form_, places.settings, *this) {
+    lay_out_rows();
+}
+
+Form RecipePage::made_form() {
+    Form form;
+    use_.fill(form, this);
+    form.after_edit([this](Row&) { tell_change(editor_); });
+    return form;
+}
+
+void RecipePage::lay_out_rows() {
+    auto* const layout = new QVBoxLayout(this);
+    layout->addLayout(use_.arrange ? use_.arrange(widgets_) : lay_out(form_, widgets_), 1);
+    auto* const bottom = new QHBoxLayout;
+    bottom->addStretch();
+    auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
+    buttons->button(QDialogButtonBox::Ok)->setDefault(false); // Enter is for the fields
+    buttons->button(QDialogButtonBox::Ok)->setAutoDefault(false);
+    bottom->addWidget(buttons);
+    layout->addLayout(bottom);
+    connect(buttons, &QDialogButtonBox::accepted, this, [this] { accept(); });
+    connect(buttons, &QDialogButtonBox::rejected, this, &QWidget::close);
+}
+
+void RecipePage::accept() {
+    form_.accept();
+    is_accepted_ = true;
+    close();
+}
+
+void RecipePage::dismiss() {
+    is_dismissed_ = true;
+    close();
+}
+
+bool RecipePage::may_close() {
+    if (is_dismissed_) return true;
+    end_page(editor_, use_.step);
+    if (!is_accepted_) { // noted first: who cancels by mistake can undo it
+        form_.cancel();
+        end_page(editor_, "Cancel " + use_.step);
+    }
+    if (changed) changed();
+    return true;
+}
+
+void RecipePage::keyPressEvent(QKeyEvent* event) {
+    if (event->matches(QKeySequence::Cancel))
+        close();
+    else
+        ToolWindow::keyPressEvent(event);
+}
+
+QLayout* arrange_extras(const FormWidgets& widgets) {
+    const auto add_field = [&](QGridLayout& grid, std::string_view key, int row, int column) {
+        grid.addWidget(widgets.label(key), row, column, Qt::AlignRight | Qt::AlignVCenter);
+        grid.addWidget(&widgets.field(key), row, column + 1);
+    };
+    auto* const page = new QVBoxLayout;
+    auto* const head = new QGridLayout;
+    add_field(*head, "title", 0, 0);
+    add_field(*head, "batch_size", 0, 2);
+    head->setColumnStretch(1, 1);
+    page->addLayout(head);
+    auto* const style = new QGridLayout;
+    int row = 0;
+    for (const auto* const key : {"style_class", "style_name", "style_type", "style_book"}) {
+        add_field(*style, key, row / 2, row % 2 * 2);
+        ++row;
+    }
+    int column = 4;
+    for (const auto& [low, high] : {std::pair("min_sg", "max_sg"), std::pair("min_ibu", "max_ibu"),
+                                    std::pair("min_colour", "max_colour")}) {
+        add_field(*style, low, 0, column);
+        add_field(*style, high, 1, column);
+        column += 2;
+    }
+    style->setColumnStretch(1, 1);
+    style->setColumnStretch(3, 1);
+    page->addLayout(style);
+    page->addWidget(&widgets.field("extras"), 2);
+    auto* const buttons = new QHBoxLayout;
+    for (const auto* const key :
+         {"extra_new", "extra_del", "extra_edit", "amount_more", "amount_less", "time_more", "time_less"})
+        buttons->addWidget(&widgets.field(key));
+    buttons->addStretch();
+    page->addLayout(buttons);
+    auto* const texts = new QGridLayout;
+    column = 0;
+    for (const auto* const key : {"notes", "awards"}) {
+        auto& text = widgets.field(key);
+        text.setMinimumHeight(text.fontMetrics().lineSpacing() * 6);
+        texts->addWidget(widgets.label(key), 0, column);
+        texts->addWidget(&widgets.field(key), 1, column++);
+    }
+    page->addLayout(texts, 1);
+    auto& list = widgets.field("extras");
+    press_by_key(list, Qt::Key_Insert, widgets.field("extra_new"));
+    press_by_key(list, QKeySequence::Delete, widgets.field("extra_del"));
+    press_by_key(list, Qt::Key_Plus, widgets.field("amount_more"));
+    press_by_key(list, Qt::Key_Minus, widgets.field("amount_less"));
+    return page;
+}
+
+} // namespace wortlex

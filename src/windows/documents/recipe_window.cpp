@@ -1,0 +1,318 @@
+#include "windows/documents/recipe_window.h"
+
+#include "desktop/menus.h"
+#include "desktop/qt_text.h"
+#include "documents/method_check.h"
+#include "program/documents.h"
+#include "program/export_report.h"
+#include "program/recovery.h"
+#include "windows/documents/recipe_actions.h"
+#include "windows/reports/print_options_window.h"
+
+#include <QAbstractSpinBox>
+#include <QFileInfo>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QScreen>
+
+namespace wortlex {
+namespace {
+
+constexpr std::chrono::seconds between_keeps{30};
+
+QKeySequence::StandardKey key_of(int command) {
+    switch (command) {
+    case command::new_document:
+        return QKeySequence::New;
+    case command::open_recipe:
+        return QKeySequence::Open;
+    case command::save:
+        return QKeySequence::Save;
+    case command::save_as:
+        return QKeySequence::SaveAs;
+    case command::print:
+        return QKeySequence::Print;
+    default:
+        return QKeySequence::Close;
+    }
+}
+
+} // namespace
+
+RecipeWindow::RecipeWindow(const WindowPorts& ports, QWidget* origin)
+    : ToolWindow(window_info("RECIPEDIALOG"), 0, Opener::main, origin,
+                 {ports.program.tool_positions, ports.program.settings}),
+      ports_(ports),
+      program_(ports.program), editor_{open_recipe(program_), {}, {}}, subject_{editor_, program_.color_table,
+                                                                                actions()},
+      panel_(subject_, program_.settings, this) {
+    editor_.changed = [this] { show_changes(); };
+    auto* const layout = new QVBoxLayout(this);
+    add_menu();
+    layout->addWidget(&panel_, 1);
+    layout->addLayout(page_part());
+    for (auto* const field : panel_.findChildren<QWidget*>())
+        if (qobject_cast<QLineEdit*>(field) != nullptr || qobject_cast<QAbstractSpinBox*>(field) != nullptr)
+            field->installEventFilter(this);
+    connect(&keeper_, &QTimer::timeout, this, [this] { keep_work(); });
+    keeper_.start(between_keeps);
+    reopen();
+    resize(
+        sizeHint().boundedTo(screen()->availableSize())); // all of it: the toolkit would stop at two thirds
+}
+
+RecipeActions RecipeWindow::actions() {
+    auto actions = line_actions(editor_, ports_, Opener::recipe, this);
+    actions.yeast_and_water = [this] { show_yeast_and_water(); };
+    actions.extras_and_notes = [this] { show_extras(); };
+    actions.mash_schedule = [this] { show_mash(); };
+    actions.save = [this] { save_recipe(SaveAs::no); };
+    actions.print = [this] { print(); };
+    actions.show_colour = [this] { show_colour(); };
+    return actions;
+}
+
+void RecipeWindow::add_menu() {
+    auto* const menu = new QMenuBar(this);
+    layout()->setMenuBar(menu);
+    const std::map<int, std::function<void()>> does = {
+        {command::new_document, [this] { start_new(); }},
+        {command::open_recipe, [this] { open_another(); }},
+        {command::save, [this] { save_recipe(SaveAs::no); }},
+        {command::save_as, [this] { save_recipe(SaveAs::yes); }},
+        {command::print, [this] { print(); }},
+        {command::close, [this] { close(); }}};
+    fill_menu(*menu, document_menu(), [&does](int command) -> MenuAction {
+        const auto found = does.find(command);
+        return found == does.end() ? MenuAction{} : MenuAction{found->second, key_of(command)};
+    });
+    add_edit_menu(*menu);
+}
+
+void RecipeWindow::add_edit_menu(QMenuBar& bar) {
+    auto* const menu = bar.addMenu(tr("E&dit"));
+    undo_ = menu->addAction(tr("&Undo"), this, [this] { travel(undo); });
+    undo_->setObjectName(QStringLiteral("undo"));
+    undo_->setShortcuts(QKeySequence::Undo);
+    redo_ = menu->addAction(tr("&Redo"), this, [this] { travel(redo); });
+    redo_->setObjectName(QStringLiteral("redo"));
+    redo_->setShortcuts(QKeySequence::Redo);
+}
+
+QLayout* RecipeWindow::page_part() {
+    auto* const line = new QHBoxLayout;
+    const auto& widgets = panel_.widgets();
+    for (const auto* const key : {"yeast_and_water", "extras_and_notes", "mash_schedule"})
+        line->addWidget(&widgets.field(key));
+    line->addStretch();
+    for (const auto* const key : {"save", "print", "help"}) line->addWidget(&widgets.field(key));
+    auto* const ok = new QPushButton(tr("&OK"), this);
+    ok->setObjectName(QStringLiteral("ok"));
+    connect(ok, &QPushButton::clicked, this, &QWidget::close);
+    line->addWidget(ok);
+    return line;
+}
+
+bool RecipeWindow::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::ShortcutOverride) {
+        const auto* const key = dynamic_cast<QKeyEvent*>(event);
+        if (key != nullptr && (key->matches(QKeySequence::Undo) || key->matches(QKeySequence::Redo))) {
+            event->ignore();
+            return true;
+        }
+    }
+    return ToolWindow::eventFilter(watched, event);
+}
+
+void RecipeWindow::reopen() {
+    const auto& file = program_.recipe_file;
+    auto opened = open_recipe_window(editor_.open, file.loaded_from_file || file.recovered);
+    start_editing(editor_, {.locks = opened.locks,
+                            .show_potential = opened.show_potential,
+                            .selected_malt = 0,
+                            .selected_hop = 0,
+                            .selected_extra = 0});
+    saved_ = std::move(opened.saved);
+    show_everything();
+}
+
+void RecipeWindow::tell_method() {
+    if (!program_.recipe_file.loaded_from_file) return;
+    if (const auto warning = method_check_on_load(program_.document, program_.settings))
+        ports_.prompts.tell({.text = *warning, .icon = Icon::warning});
+}
+
+RecipeSaving RecipeWindow::saving() {
+    return {editor_,      program_.recipe_file, saved_,
+            ports_.files, ports_.prompts,       folder_path(program_.folders, FolderKind::recipes)};
+}
+
+bool RecipeWindow::may_leave_recipe() {
+    const auto has_dialog = [](const QWidget* page) { return page != nullptr && show_modal_child(*page); };
+    if (is_asking_ || has_dialog(yeast_and_water_) || has_dialog(extras_) || has_dialog(mash_)) return false;
+    is_asking_ = true;
+    auto current = saving();
+    const bool may = may_leave(current);
+    is_asking_ = false;
+    show_everything();
+    return may;
+}
+
+void RecipeWindow::start_new() {
+    if (!may_leave_recipe()) return;
+    close_pages();
+    new_recipe(program_);
+    reopen();
+    keep_work();
+}
+
+void RecipeWindow::open_another() {
+    if (!may_leave_recipe()) return;
+    if (!choose_and_open(program_, DocumentKind::recipe, ports_.files, ports_.prompts)) return;
+    close_pages();
+    reopen();
+    keep_work();
+    tell_method();
+}
+
+bool RecipeWindow::save_recipe(SaveAs save_as) {
+    auto current = saving();
+    const auto before = program_.recipe_file.path;
+    const bool saved = save(current, save_as);
+    const auto& path = program_.recipe_file.path;
+    if (saved && path != before) {
+        follow_user(program_.folders, FolderKind::recipes, path);
+        remember_document(program_, path);
+    }
+    keep_work();
+    show_everything();
+    return saved;
+}
+
+void RecipeWindow::print() {
+    if (choose_print_options(ports_, this)) export_recipe(ports_, editor_.view);
+}
+
+bool RecipeWindow::may_close() {
+    if (!may_leave_recipe()) return false;
+    close_pages();
+    keeper_.stop();
+    DropWork(program_.data_folder);
+    return true;
+}
+
+void RecipeWindow::travel(bool (*step)(RecipeEditor&)) {
+    step(editor_);
+    show_everything();
+}
+
+void RecipeWindow::show_changes() {
+    show_file_name();
+    if (!swatch_.isNull()) swatch_->set_colour(program_.figures.colour.srm);
+    for (const auto& page : {yeast_and_water_, extras_})
+        if (!page.isNull()) page->refresh();
+    tell_grain();
+    for (const auto& [action, word, step] : {std::tuple(undo_, tr("&Undo"), editor_.history.to_undo()),
+                                             std::tuple(redo_, tr("&Redo"), editor_.history.to_redo())}) {
+        action->setEnabled(!step.empty());
+        const auto name = string_of(step).replace(QLatin1Char('&'), QLatin1String("&&"));
+        action->setText(step.empty() ? word : word + QLatin1Char(' ') + name);
+    }
+}
+
+void RecipeWindow::tell_grain() {
+    const float grain = program_.figures.mash_grain;
+    if (!mash_.isNull() && grain != told_grain_) mash_->grain_changed();
+    told_grain_ = grain;
+}
+
+void RecipeWindow::show_everything() {
+    show_changes();
+    panel_.refresh();
+}
+
+void RecipeWindow::show_file_name() {
+    const auto caption = string_of(window_info("RECIPEDIALOG").captions[0]);
+    const auto& path = program_.recipe_file.path;
+    const auto file = QFileInfo(QFile::decodeName(QByteArray::fromStdString(path))).fileName();
+    const bool modified = is_modified(program_.document, saved_, program_.recipe_file);
+    const auto before = file + (modified ? QStringLiteral("*") : QString());
+    setWindowTitle(before.isEmpty() ? caption : before + QStringLiteral(" - ") + caption);
+}
+
+void RecipeWindow::keep_work() {
+    if (is_modified(program_.document, saved_, program_.recipe_file))
+        KeepWork(program_);
+    else
+        DropWork(program_.data_folder);
+}
+
+void RecipeWindow::show_colour() {
+    if (swatch_.isNull())
+        swatch_ = new ColorSwatchWindow(program_, program_.figures.colour.srm, Opener::recipe, this);
+    bring_forward(*swatch_);
+}
+
+void RecipeWindow::show_page(QPointer<RecipePage>& page, RecipePageUse use) {
+    if (page.isNull()) {
+        page = new RecipePage(editor_, std::move(use), {program_.tool_positions, program_.settings}, this);
+        page->changed = [this] { show_everything(); };
+    }
+    bring_forward(*page);
+}
+
+void RecipeWindow::show_yeast_and_water() {
+    show_page(yeast_and_water_,
+              {.template_name = "RECIPE4DIALOG",
+               .step = "Yeast And Water",
+               .fill = [this](Form& form, QWidget* page) {
+                   yeast_water_form(form, editor_,
+                                    yeast_water_actions(editor_, ports_, Opener::recipe, page));
+               }});
+}
+
+void RecipeWindow::show_extras() {
+    show_page(extras_, {.template_name = "RECIPEEXTRADIALOG",
+                        .step = "Extras & Notes",
+                        .fill =
+                            [this](Form& form, QWidget* page) {
+                                extras_form(form, editor_,
+                                            extras_actions(editor_, ports_, Opener::recipe, page));
+                            },
+                        .arrange = arrange_extras});
+}
+
+void RecipeWindow::show_mash() {
+    if (mash_.isNull()) {
+        told_grain_ = program_.figures.mash_grain;
+        const auto work = open_simple_mash(program_.document.simple_mash, program_.water_to_grain,
+                                           told_grain_, program_.settings);
+        mash_ = new SimpleMashWindow(program_, work,
+                                     {.mash_grain = [this] { return program_.figures.mash_grain; },
+                                      .accepted =
+                                          [this](const SimpleMash& mash) {
+                                              set_simple_mash(editor_, mash);
+                                              panel_.refresh();
+                                          },
+                                      .revert_to_complex = nullptr,
+                                      .pages = &ports_.pages},
+                                     this);
+        // From now on the water itself tells the ratio: worked out from a ratio again it would drift.
+        program_.water_to_grain = 0;
+    }
+    bring_forward(*mash_);
+}
+
+void RecipeWindow::close_pages() {
+    for (const auto& page : {yeast_and_water_, extras_})
+        if (!page.isNull()) page->dismiss();
+    if (!mash_.isNull()) mash_->close();
+    if (!swatch_.isNull()) swatch_->close();
+}
+
+RecipeWindow::~RecipeWindow() {
+    close_pages();
+}
+
+} // namespace wortlex

@@ -1,0 +1,83 @@
+// The window in which a recipe is formulated.
+#pragma once
+
+#include "desktop/tool_window.h"
+#include "documents/work/recipe_saving.h"
+#include "program/program.h"
+#include "program/window_ports.h"
+#include "windows/calculators/color_swatch_window.h"
+#include "windows/documents/recipe_page.h"
+#include "windows/documents/recipe_panel.h"
+#include "windows/documents/simple_mash_window.h"
+
+#include <QBoxLayout>
+#include <QMenuBar>
+#include <QPointer>
+#include <QTimer>
+
+namespace wortlex {
+
+class RecipeWindow : public ToolWindow {
+public:
+    /// On the live document, which the program's `recipe_file` tells the origin of.
+    RecipeWindow(const WindowPorts& ports, QWidget* origin);
+
+    /// Shows the live document anew, as after another one was opened.
+    void reopen();
+    /// What is left to tell once the window stands: a recipe of the other efficiency method.
+    void tell_method();
+    ~RecipeWindow() override;
+
+protected:
+    bool may_close() override;
+    /// Undo is the recipe's, also while the cursor stands in a field.
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    RecipeActions actions();
+    void add_menu();
+    void add_edit_menu(QMenuBar& bar);
+    QLayout* page_part();
+
+    /// Whether the recipe can be left: no dialog stands open over one of its pages, nothing is left to save.
+    bool may_leave_recipe();
+    void start_new();
+    void open_another();
+    bool save_recipe(SaveAs save_as);
+    RecipeSaving saving();
+    void print();
+
+    void travel(bool (*step)(RecipeEditor&));
+    /// Everything that shows the recipe but the fields, which follow by themselves.
+    void show_changes();
+    void show_file_name();
+    void tell_grain();
+    void show_everything();
+    void keep_work();
+
+    void show_colour();
+    void show_page(QPointer<RecipePage>& page, RecipePageUse use);
+    void show_yeast_and_water();
+    void show_extras();
+    void show_mash();
+    void close_pages();
+
+    WindowPorts ports_;
+    Program& program_;
+    RecipeEditor editor_;
+    DocumentSnapshot saved_;
+    RecipeSubject subject_;
+    RecipePanel panel_;
+    QAction* undo_ = nullptr;
+    QAction* redo_ = nullptr;
+    QTimer keeper_; ///< of unsaved work
+    // Each is open once at most.
+    QPointer<ColorSwatchWindow> swatch_;
+    QPointer<RecipePage> yeast_and_water_;
+    QPointer<RecipePage> extras_;
+    QPointer<SimpleMashWindow> mash_;
+    bool is_asking_ = false; ///< whether to save; while it is open the recipe stays
+    float told_grain_ = 0;   ///< the mashed pounds that the mash window knows
+};
+
+} // namespace wortlex

@@ -1,0 +1,68 @@
+#include "windows/documents/simple_mash_window.h"
+
+#include "windows/documents/simple_mash_printout.h"
+
+#include <QDialogButtonBox>
+#include <QShortcut>
+#include <QVBoxLayout>
+
+#include <utility>
+
+namespace wortlex {
+namespace {
+
+// A form filled before its widgets are made.
+Form made_form(SimpleMashWork& work, const Settings& settings, SimpleMashActions actions) {
+    Form form;
+    simple_mash_form(form, work, settings, MashSide::recipe, std::move(actions));
+    return form;
+}
+
+} // namespace
+
+SimpleMashWindow::SimpleMashWindow(Program& program, const SimpleMashWork& work, SimpleMashCalls calls,
+                                   QWidget* origin)
+    : ToolWindow(window_info("MASHENTRYDIALOG"), 0, Opener::recipe, origin,
+                 {program.tool_positions, program.settings}),
+      calls_(std::move(calls)), work_(work),
+      form_(made_form(
+          work_, program.settings,
+          {.revert = revert_action(), .graph = nullptr, .print = print_action(program), .help = nullptr})),
+      widgets_(form_, program.settings, *this) {
+    auto* const layout = new QVBoxLayout(this);
+    layout->addLayout(lay_out(form_, widgets_));
+    auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
+    layout->addWidget(buttons);
+    connect(buttons, &QDialogButtonBox::accepted, this, &SimpleMashWindow::accept);
+    connect(buttons, &QDialogButtonBox::rejected, this, &QWidget::close);
+    connect(new QShortcut(QKeySequence::Cancel, this), &QShortcut::activated, this, &QWidget::close);
+    for (const auto key : {Qt::Key_Return, Qt::Key_Enter})
+        connect(new QShortcut(key, this), &QShortcut::activated, this, &SimpleMashWindow::accept);
+    widgets_.field("saccharification_temperature").setFocus();
+}
+
+void SimpleMashWindow::grain_changed() {
+    set_mash_grain(work_, calls_.mash_grain());
+    widgets_.refresh();
+}
+
+std::function<void()> SimpleMashWindow::revert_action() {
+    if (!calls_.revert_to_complex) return nullptr;
+    return [this] {
+        const auto revert = calls_.revert_to_complex; // a copy: closing may end this window
+        accept();
+        revert();
+    };
+}
+
+std::function<void()> SimpleMashWindow::print_action(const Program& program) {
+    if (calls_.pages == nullptr) return nullptr;
+    return [this, &program] { calls_.pages->show(simple_mash_printout(program, work_)); };
+}
+
+void SimpleMashWindow::accept() {
+    calls_.accepted(work_.mash);
+    close();
+}
+
+} // namespace wortlex

@@ -1,1 +1,0 @@
-room_tests(databases_tests DEPENDS databases SOURCES databases/extras_test.cpp databases/store_test.cpp databases/malts_test.cpp databases/printouts_test.cpp databases/styles_test.cpp databases/yeasts_test.cpp databases/water_test.cpp)

@@ -1,0 +1,300 @@
+#include "base/files.h"
+#include "base/ports/notice_board.h"
+#include "documents/method_check.h"
+#include "program/exit.h"
+#include "program/main_screen.h"
+#include "program/start.h"
+#include "support/byte_probe.h"
+#include "support/desk.h"
+#include "support/temporary_folder.h"
+
+#include <gmock/gmock.h>
+
+#include <set>
+
+namespace wortlex {
+namespace {
+
+using testing::ElementsAre;
+
+TEST(NoticeBoard, KeepsToItsListenersWhileTheyComeAndGo) {
+    NoticeBoard board;
+    std::string heard;
+    int second = 0;
+    board.listen([&](Change) {
+        heard += "first ";
+        for (const int listener : {1, second}) board.stop(listener);
+        board.listen([&](Change) { heard += "late "; });
+        board.tell(Change::colour);
+    });
+    second = board.listen([&](Change) { heard += "second "; });
+    board.listen([&](Change) { heard += "third "; });
+    board.tell(Change::grain);
+    EXPECT_EQ(heard, "first third late third ");
+}
+
+// Every letter picks one entry; every entry leads somewhere.
+std::multiset<int> commands_of(std::span<const MenuEntry> menu) {
+    std::multiset<int> commands;
+    std::set<char> letters;
+    for (const auto& entry : menu) {
+        const char letter = entry.caption.substr(entry.caption.find('&') + 1).front();
+        EXPECT_TRUE(letters.insert(static_cast<char>(letter | 0x20)).second) << entry.caption;
+        EXPECT_NE(entry.command == 0, entry.entries.empty()) << entry.caption;
+        if (entry.command != 0) commands.insert(entry.command);
+        commands.merge(commands_of(entry.entries));
+    }
+    return commands;
+}
+
+TEST(Menus, ReachEveryCommandByALetter) {
+    EXPECT_THAT(commands_of(document_menu()), ElementsAre(414, 8004, 10060, 40004, 40027, 40037));
+    EXPECT_THAT(commands_of(main_menu()),
+                ElementsAre(999, 1036, 1052, 40001, 40003, 40004, 40005, 40006, 40007, 40008, 40011, 40012,
+                            40013, 40014, 40015, 40016, 40017, 40018, 40019, 40020, 40021, 40022, 40032,
+                            40032, 40032, 40033, 40034, 40034, 40034, 40035, 40040, 40041, 40042, 40045,
+                            40045, 40046, 40046, 40047, 40047, 40048, 40048, 40049, 40049, 41000));
+}
+
+// Writes down what is asked of it.
+struct FakeTool : OpenTool {
+    FakeTool(std::string& all, int command) : log(all), name(std::to_string(command)) {}
+    void note(const char* what) { log += name + what; }
+    void activate() override { note(" forward "); }
+    bool close() override { return note(" close "), closes; }
+    bool show_modal_child() override { return has_dialog && (note(" dialog "), true); }
+
+    std::string &log, name;
+    bool closes = true, has_dialog = false;
+};
+
+TEST(Tools, AreOpenOnceFromTheirCommandToTheirNotification) {
+    const std::pair<int, int> rows[] = {
+        {40003, 6000}, {40004, 6000}, {40005, 6001}, {40006, 6001}, {40014, 6002}, {40011, 6003},
+        {40007, 6004}, {40012, 6006}, {40013, 6007}, {40022, 6008}, {40032, 6011}, {40032, 6012},
+        {40034, 6013}, {40034, 6014}, {40035, 6015}, {40040, 6016}, {40041, 6017}, {40042, 6018},
+        {40045, 6021}, {40046, 6022}, {40047, 6023}, {40048, 6024}};
+    ToolTable table;
+    for (const auto& [command, notification] : rows) {
+        std::string log;
+        const auto window = std::make_shared<FakeTool>(log, command);
+        EXPECT_FALSE(activate_if_open(table, command) || any_open(table)) << command;
+        opened(table, command, window);
+        closed(table, 6005); // of a tool that was never made
+        EXPECT_TRUE(activate_if_open(table, command)) << command;
+        EXPECT_EQ(log, window->name + " forward ");
+        closed(table, notification);
+    }
+    opened(table, command::hop_ibu, {}); // a dialog, no tool
+    ScriptedPrompts prompts;
+    EXPECT_TRUE(may_edit_settings(table, prompts));
+    table.unmade[1] = true;
+    prompts.expect_tell(
+        "You cannot modify the System Defaults while other Wortlex windows are open. To modify the System "
+        "Defaults, please close the current work (make sure to save your work if required), then choose "
+        "System Defaults again.",
+        Icon::information);
+    EXPECT_FALSE(may_edit_settings(table, prompts));
+    closed(table, 6020);
+    EXPECT_FALSE(any_open(table));
+}
+
+TEST(Tools, OfTwoDocumentsOneIsOpen) {
+    using enum DocumentKind;
+    const std::tuple<DocumentKind, DocumentKind, int, std::string, std::string> rows[] = {
+        {recipe, session, 40004, "recipe", "brewing session"},
+        {session, recipe, 40005, "brewing session", "recipe"}};
+    for (const auto& [kind, other, command, its, others] : rows) {
+        const auto question = "You cannot open a " + others + " while a " + its +
+                              " is open.\nWould you like to transfer to the currently open " + its + "?";
+        Program program;
+        std::string log;
+        const auto window = std::make_shared<FakeTool>(log, 1);
+        ScriptedPrompts prompts;
+        opened(program.tools, command, window);
+        EXPECT_EQ(want_document(program.tools, kind, prompts), Wanted::reactivated);
+        prompts.expect("yes/no", question, Answer::no, Icon::question);
+        EXPECT_EQ(want_document(program.tools, other, prompts), Wanted::refused);
+        prompts.expect("yes/no", question, Answer::yes, Icon::question);
+        EXPECT_FALSE(open_document_file(program, other == recipe ? "dropped.rec" : "dropped.brw", prompts));
+        EXPECT_EQ(log, "1 forward 1 forward ");
+    }
+}
+
+TEST(Start, ReadsWhatIsThereAndGoesOnWithoutAllButTheSettings) {
+    const TemporaryFolder folder;
+    auto settings = WriteDefaultSettings();
+    settings.system_mode = SystemMode::pro_brewer;
+    settings.printer_scale = 0.75F;
+    SaveSettingsFile(folder / "WlxMSys.DAT", settings);
+    SaveMainPosition(folder.path(), {{3, 4, 5, 6}, 1});
+    Program program;
+    ScriptedPrompts prompts;
+    prompts.expect_tell("The file WATER.DAT was not found. Its database is empty until the file is back.",
+                        Icon::warning);
+    prompts.expect("tell", "Could not read kv_lovrgb.ldt file!", {}, Icon::error, "Wortlex Error");
+    EXPECT_TRUE(start(program, folder.path(), prompts));
+    EXPECT_EQ(folder_path(program.folders, FolderKind::sessions), folder / "Sessions/");
+    EXPECT_TRUE(program.main_position.window.bottom == 6 && program.recipe_print.scale == 0.75F);
+    EXPECT_EQ(program.calculator_defaults, (CalculatorDefaults{527, 1200, 300, 1200}));
+    EXPECT_EQ(calculator_defaults(SystemMode::home_brewer), (CalculatorDefaults{5, 10, 2.5, 10}));
+    std::filesystem::resize_file(folder / "WlxMSys.DAT", 1579);
+    prompts.expect_tell("Bad Or Missing System File!", Icon::error);
+    EXPECT_FALSE(start(program, folder.path(), prompts)) << "and nothing more is told";
+}
+
+TEST(Exit, IsStoppedByADialogOrAWindowAndThenWritesNothing) {
+    const TemporaryFolder folder;
+    Program program;
+    program.data_folder = folder.path();
+    program.folders.save_automatically = 1;
+    std::string log;
+    std::map<int, std::shared_ptr<FakeTool>> windows;
+    for (const int command : {40013, 40011, 40005, 40046, 40047}) {
+        windows[command] = std::make_shared<FakeTool>(log, command);
+        opened(program.tools, command, windows[command]);
+    }
+    EXPECT_TRUE(activate_if_open(program.tools, 40046)) << "shares a slot with the next";
+    windows.erase(40047);
+    EXPECT_TRUE(activate_if_open(program.tools, 40047)) << "a lost window does no harm";
+    windows[40046]->has_dialog = true;
+    EXPECT_FALSE(leave(program, MainPosition()));
+    windows[40046]->has_dialog = windows[40011]->closes = false;
+    EXPECT_FALSE(leave(program, MainPosition()));
+    EXPECT_EQ(log, "40047 forward 40046 dialog 40005 close 40011 close ");
+    EXPECT_TRUE(folder.entries() == 0 && any_open(program.tools));
+    windows[40011]->closes = true;
+    EXPECT_TRUE(leave(program, std::nullopt) && !any_open(program.tools));
+    EXPECT_EQ(folder.entries(), 2) << "the positions of tools, and folders";
+    EXPECT_TRUE(leave(program, MainPosition{{7, 8, 9, 10}, 1}));
+    EXPECT_EQ(LoadMainPosition(folder.path()).window.left, 7);
+}
+
+TEST(MainScreen, FindsTheButtonUnderAPoint) {
+    const auto command_at = [](int x, int y, int width, int height) {
+        const auto* const button = button_at({x, y}, width, height);
+        return button ? button->command : 0;
+    };
+    const std::pair<int, std::vector<std::pair<int, int>>> rows[] = {
+        {76, {{86, 40003}, {186, 40004}, {386, 40005}, {486, 40006}}},
+        {180, {{86, 40007}, {166, 40008}, {246, 40021}, {326, 40011}, {406, 40014}, {486, 40041}}},
+        {260, {{86, 40012}, {166, 40013}, {246, 40022}, {326, 40032}, {406, 40034}, {486, 40040}}},
+        {360, {{86, 40015}, {166, 40016}, {246, 40017}, {326, 40018}, {406, 40019}, {486, 40020}}}};
+    for (const auto& [y, buttons] : rows)
+        for (const auto& [x, command] : buttons) {
+            EXPECT_EQ(command_at(x, y, 300, 200), command) << "a small area cuts the frame off";
+            EXPECT_EQ(command_at(x + 64 + 50, y + 64 + 10, 741, 501), command) << "half pixels are cut off";
+            EXPECT_EQ(command_at(x + 65, y, 640, 480) + command_at(x, y + 65, 640, 480), 0) << command;
+        }
+    EXPECT_EQ(button_bitmap("/b/", art_scheme(3), main_screen_buttons[9]), "/b/art/cb12_3.bmp");
+    EXPECT_EQ(background_bitmap("/b/", art_scheme(5)), "/b/art/KVBack.bmp");
+}
+
+// Its rows begin right behind a header of `length` bytes.
+Bytes bitmap(std::uint32_t length, std::int32_t width, std::int32_t height, std::uint16_t bits,
+             std::size_t pixels) {
+    Bytes file(14 + length + pixels);
+    poke(file, 0, std::array{'B', 'M'});
+    poke(file, 10, std::array{14 + length, length});
+    poke(file, 18, width);
+    length == 12 ? poke(file, 20, static_cast<std::int16_t>(height)) : poke(file, 22, height);
+    poke(file, length == 12 ? 24 : 28, bits);
+    return file;
+}
+
+TEST(MainScreen, SaysWhatIsWrongWithABitmap) {
+    const auto *info = "Could not read info", *cut = "1Error reading the file",
+               *memory = "Error Allocating Memory", *header = "Error Reading FIle Header";
+    // clang-format off
+    const std::tuple<Bytes, std::string> rows[] = {
+        {bitmap(40, 3, 2, 24, 24), ""}, {bitmap(40, 3, 2, 24, 23), cut}, {bitmap(108, 3, -2, 24, 24), ""},
+        {bitmap(12, 3, 2, 1, 8), ""}, {bitmap(12, 3, 2, 1, 7), cut}, {bitmap(39, 1, 1, 24, 4), info},
+        {bitmap(40, 1, 1, 7, 4), info}, {bitmap(40, 0, 1, 24, 4), info}, {Bytes(54, std::byte{'B'}), header},
+        {bitmap(40, 10000, 6000, 1, 0), cut}, {bitmap(40, 10000, 6001, 1, 0), memory},
+        {bitmap(40, 0x7FFFFFFF, -0x7FFFFFFF - 1, 32, 0), memory}, {Bytes(13, std::byte{'B'}), header}};
+    // clang-format on
+    for (const auto& [file, fault] : rows) EXPECT_EQ(bitmap_fault(file), fault) << file.size();
+    for (std::size_t size = 14; size < 54; ++size)
+        EXPECT_EQ(bitmap_fault(ByteView(std::get<0>(rows[0])).first(size)), info) << size;
+    EXPECT_EQ(bitmap_fault(std::nullopt), "Error Reading FIle");
+}
+
+// A program with a folder and a recipe in it.
+struct Documents : testing::Test {
+    Documents() {
+        program.data_folder = folder.path();
+        program.settings = settings_from(program.system.settings = WriteDefaultSettings());
+        BrewDocument saved = new_document(program.settings, ScheduleKind::simple);
+        saved.title.assign("Pale");
+        EXPECT_TRUE(save_recipe(pale, saved, prompts));
+        new_recipe(program);
+    }
+    void expect_fault(const std::string& name, const std::string& text, Icon icon = Icon::error) {
+        prompts.expect_tell(text, icon);
+        EXPECT_EQ(open_document_file(program, folder / name, prompts), icon == Icon::warning);
+    }
+
+    TemporaryFolder folder;
+    std::string pale = folder / "Pale.REC";
+    ScriptedPrompts prompts;
+    Program program;
+};
+
+TEST_F(Documents, ComeFromTheFileThatIsChosen) {
+    program.folders.save_automatically = 1;
+    set_folder(program.folders, FolderKind::recipes, "/away");
+    ScriptedFiles files({std::nullopt, pale});
+    EXPECT_FALSE(choose_and_open(program, DocumentKind::recipe, files, prompts));
+    EXPECT_TRUE(program.document.title.empty() && program.water_to_grain == 1.0F);
+    EXPECT_TRUE(choose_and_open(program, DocumentKind::recipe, files, prompts));
+    EXPECT_EQ(files.offers[1], "open Recipe File (*.rec)|*.rec /away/  rec");
+    EXPECT_TRUE(program.document.title.view() == "Pale" && program.water_to_grain == 0.0F);
+    EXPECT_TRUE(program.recipe_file.path == pale && program.recipe_file.loaded_from_file);
+    EXPECT_EQ(folder_path(program.folders, FolderKind::recipes), folder.path());
+}
+
+TEST_F(Documents, StayWhereAFileCannotBeOpened) {
+    ASSERT_TRUE(open_document_file(program, pale, prompts));
+    const auto before = program.document;
+    auto damaged = *read_file(pale);
+    damaged[88] = std::byte{0xFF}; // a negative number of hops
+    save_atomically(folder / "damaged.rec", damaged);
+    expect_fault("none.brw", "File Not Found!");
+    expect_fault("damaged.rec", "damaged.rec is damaged or is no Wortlex document; it was not opened.");
+    expect_fault("notes.txt", "notes.txt is neither a recipe (.rec) nor a brewing session (.brw).");
+    EXPECT_TRUE(program.document == before && program.recipe_file.path == pale);
+    EXPECT_THAT(LoadRecent(folder.path()), ElementsAre(pale));
+    save_atomically(folder / "short.rec", *read_file(pale, 5000));
+    expect_fault("short.rec", "short.rec ended early; what is missing was left empty.", Icon::warning);
+    EXPECT_TRUE(program.recipe_file.incomplete);
+}
+
+TEST_F(Documents, WarnOfTheOtherEfficiencyMethod) {
+    using enum EfficiencyMode;
+    const auto check = [&](std::uint8_t of_file, EfficiencyMode ours) {
+        program.document.file_efficiency_mode = of_file;
+        program.settings.efficiency_mode = ours;
+        return method_check_on_load(program.document, program.settings).value_or("");
+    };
+    EXPECT_EQ(check(1, method_1) + check(0, method_1_yield) + check(2, method_2), "");
+    EXPECT_THAT(check(2, method_1_yield),
+                testing::MatchesRegex("The recipe you are about to load was (.|\n)*potential. than your "
+                                      "current system .by maximum potential of grain.[.](.|\n)*Method #2"));
+    EXPECT_THAT(check(0, method_2), testing::EndsWith("Method #1"));
+}
+
+TEST_F(Documents, AreRememberedNewestFirst) {
+    RecentDocuments many = {"/b/Pale.rec", "", "/tab\there.rec", "/b/Pale.rec"};
+    for (int i = 0; i < 9; ++i) many.push_back("/a/" + std::to_string(i) + ".rec");
+    SaveRecent(folder.path(), many);
+    auto recent = LoadRecent(folder.path());
+    EXPECT_EQ(std::pair(recent.size(), recent.back()), std::pair(recent_limit, std::string("/a/7.rec")));
+    for (const auto* path : {"/a/7.rec", "/c/Pale.rec", "/new\nline.rec"}) remember(recent, path);
+    EXPECT_EQ(std::pair(recent.size(), recent.back()), std::pair(recent_limit, std::string("/a/5.rec")));
+    EXPECT_EQ(recent_name(recent, 0) + recent_name(recent, 1), "Pale.rec (/c)7.rec");
+    SaveRecent(folder.path(), {std::string(65536, 'a')});
+    EXPECT_TRUE(LoadRecent(folder.path()).empty());
+}
+
+} // namespace
+} // namespace wortlex

@@ -1,0 +1,150 @@
+#include "databases/hops.h"
+#include "databases/store.h"
+#include "desktop/form_dialog.h"
+#include "support/desk.h"
+#include "support/drop.h"
+#include "support/qt_keys.h"
+#include "support/temporary_folder.h"
+#include "windows/databases/list_window.h"
+
+#include <QAbstractButton>
+#include <QHeaderView>
+#include <QTimer>
+#include <QTreeView>
+
+namespace wortlex {
+namespace {
+
+HopRecord hop(std::string_view name, float alpha, HopForm form = HopForm::whole) {
+    HopRecord record;
+    record.name.assign(name);
+    record.alpha = alpha;
+    set_form(record, form);
+    return record;
+}
+
+// The window of a hop list of three, in the folder of its file.
+struct ListDesk {
+    TemporaryFolder folder;
+    Settings settings;
+    ToolPositions positions;
+    ScriptedPrompts prompts;
+    ScriptedFiles files;
+    Database<HopRecord> database;
+    Store<HopRecord> store{hop_catalogue(settings, folder.path()), ListSide::maintenance, folder.path(),
+                           database};
+    std::unique_ptr<ListWindow> window;
+    explicit ListDesk(const std::function<bool()>& picked = nullptr) {
+        settings.save_window_positions = 1;
+        database.count = 3;
+        database.slots = {hop("Saaz", 3), hop("Fuggle", 5, HopForm::plug), hop("Galena", 13)};
+        database.slots.resize(database_slots);
+        EXPECT_TRUE(SaveHops(folder.path(), database));
+        show(picked);
+    }
+    ~ListDesk() { window->hide(); }
+    void show(const std::function<bool()>& picked = nullptr) {
+        store.open(prompts);
+        const ListPorts ports{{positions, settings}, files, prompts};
+        window = std::make_unique<ListWindow>(store, ports, Opener::main, picked, nullptr);
+        window->show();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(window.get()));
+    }
+    QTreeView& list() const { return *window->findChild<QTreeView*>(); }
+    // The names as the rows show them, a star before the selected one.
+    std::string rows() const {
+        std::string names;
+        for (int row = 0; row < list().model()->rowCount(); ++row)
+            names += (row == list().currentIndex().row() ? "*" : "") +
+                     list().model()->index(row, 0).data().toString().toStdString() + ' ';
+        return names;
+    }
+    void click(const char* key) const {
+        QTest::mouseClick(window->findChild<QAbstractButton*>(QString::fromLatin1(key)), Qt::LeftButton);
+    }
+    void double_click(int row) const {
+        const auto cell = list().visualRect(list().model()->index(row, 0));
+        QTest::mouseClick(list().viewport(), Qt::LeftButton, {}, cell.center());
+        QTest::mouseDClick(list().viewport(), Qt::LeftButton, {}, cell.center());
+    }
+    // Types into the dialog that is about to open, and leaves it by `key`.
+    void answer_dialog(const char* field, const char* text, Qt::Key key) {
+        QTimer::singleShot(0, window.get(), [=, this] {
+            auto* const dialog = dynamic_cast<FormDialog*>(QApplication::activeModalWidget());
+            ASSERT_NE(dialog, nullptr);
+            type_over(*line_of(dialog->widgets().field(field)), text);
+            QTest::keyClick(dialog, key);
+            window->activateWindow(); // there is no window manager to do it
+        });
+    }
+};
+
+TEST(ListWindow, EntersEditsAndDeletes) {
+    ListDesk desk;
+    desk.answer_dialog("name", "Admiral", Qt::Key_Return);
+    desk.click("new");
+    EXPECT_EQ(desk.rows(), "Fuggle Galena Saaz *Admiral ");
+    desk.answer_dialog("name", "Nugget", Qt::Key_Return);
+    desk.double_click(1);
+    EXPECT_EQ(desk.rows(), "Fuggle *Nugget Saaz Admiral ");
+    desk.prompts.expect("yes/no", "Do you really want to delete the\n\nNugget\n\nentry?", Answer::yes,
+                        Icon::question);
+    QTest::keyClick(&desk.list(), Qt::Key_Delete);
+    EXPECT_EQ(desk.rows(), "*Fuggle Saaz Admiral ");
+}
+
+TEST(ListWindow, FiltersSortsAndFindsByTyping) {
+    ListDesk desk;
+    desk.click("filter_2");
+    EXPECT_EQ(desk.rows(), "*Fuggle ");
+    EXPECT_EQ(desk.window->windowTitle(), "Hop Database Maintenance - Plug Hops");
+    desk.click("filter_0");
+    const auto& head = *desk.list().header();
+    QTest::mouseClick(head.viewport(), Qt::LeftButton, {}, {head.sectionViewportPosition(2) + 5, 5});
+    EXPECT_EQ(desk.rows(), "*Saaz Fuggle Galena ");
+    QTest::keyClicks(&desk.list(), "fu");
+    EXPECT_EQ(desk.store.selected_entry(), 1U);
+}
+
+TEST(ListWindow, PicksByDoubleClickAndEnter) {
+    for (const bool by_mouse : {true, false}) {
+        ListDesk desk([] { return true; });
+        EXPECT_FALSE(drop_file(*desk.window, desk.folder / "new.him")) << "a pick list imports nothing";
+        by_mouse ? desk.double_click(2) : QTest::keyClick(&desk.list(), Qt::Key_Return);
+        EXPECT_EQ(std::pair(desk.window->result(), desk.store.selected), std::pair(1, by_mouse ? 2 : 0));
+    }
+}
+
+TEST(ListWindow, EscAsksAboutChangesAndOnlyOkRemembersThePlace) {
+    ListDesk desk;
+    const auto change_and_leave = [&](Answer answer) {
+        desk.answer_dialog("name", "Admiral", Qt::Key_Return);
+        desk.click("new");
+        desk.prompts.expect("yes/no", std::string(hop_catalogue(desk.settings, "").words.closing_question),
+                            answer, Icon::warning);
+        if (answer == Answer::yes) desk.prompts.expect_tell(std::string(not_saved), Icon::error);
+        QTest::keyClick(desk.window.get(), Qt::Key_Escape);
+    };
+    change_and_leave(Answer::no);
+    EXPECT_EQ(desk.positions.slots[40], Rectangle{});
+    desk.show();
+    desk.window->move(70, 60);
+    desk.click("ok");
+    EXPECT_EQ(desk.positions.slots[40].left, 70);
+    desk.show();
+    std::filesystem::remove_all(desk.folder.path());
+    change_and_leave(Answer::yes);
+    EXPECT_TRUE(desk.window->isVisible()) << "what cannot be saved is not thrown away";
+}
+
+TEST(ListWindow, ImportsWhatIsDropped) {
+    ListDesk desk;
+    save_atomically(desk.folder / "new.HIM", encoded(hop("Ella", 15), hop_layout));
+    EXPECT_FALSE(drop_file(*desk.window, desk.folder / "new.mim")) << "a file of another database";
+    desk.prompts.expect_tell("Data Successfully Imported!", Icon::information);
+    EXPECT_TRUE(drop_file(*desk.window, desk.folder / "new.HIM"));
+    EXPECT_EQ(desk.rows(), "*Ella Fuggle Galena Saaz ");
+}
+
+} // namespace
+} // namespace wortlex

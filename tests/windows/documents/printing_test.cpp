@@ -1,0 +1,72 @@
+#include "databases/hops.h"
+#include "databases/store.h"
+#include "support/desk.h"
+#include "support/recording_desk.h"
+#include "support/temporary_folder.h"
+#include "windows/databases/list_window.h"
+#include "windows/documents/simple_mash_printout.h"
+#include "windows/documents/simple_mash_window.h"
+
+#include <gmock/gmock.h>
+
+#include <QPushButton>
+
+namespace wortlex {
+namespace {
+
+using testing::IsSupersetOf;
+
+QPushButton& print_button(const QWidget& window) {
+    return *window.findChild<QPushButton*>("print");
+}
+
+TEST(ListWindowPrint, ShowsListAndEntry) {
+    const TemporaryFolder folder;
+    Settings settings;
+    ToolPositions positions;
+    ScriptedPrompts prompts;
+    ScriptedFiles files;
+    RecordingPageDesk desk;
+    Database<HopRecord> hops;
+    Store<HopRecord> list(hop_catalogue(settings, folder.path()), ListSide::pick, folder.path(), hops);
+    EXPECT_FALSE(dynamic_cast<ButtonRow&>(list.new_entry(prompts)->form.row("print")).press) << "no desk";
+    list.print = [&desk](const PrintRequest& request) { desk.show(request); };
+    const ListPorts ports{{positions, settings}, files, prompts};
+    const ListWindow window(list, ports, Opener::main, nullptr, nullptr);
+    print_button(window).click();
+    dynamic_cast<ButtonRow&>(list.new_entry(prompts)->form.row("print")).press();
+    ASSERT_EQ(desk.jobs.size(), 2U);
+    EXPECT_EQ(desk.jobs[0].document_name, "Wortlex Hop List - All Hops");
+    EXPECT_EQ(desk.jobs[1].document_name, "Wortlex Hop Detail");
+}
+
+TEST(SimpleMashPrint, TellsTheScheduleUnderWork) {
+    Program program;
+    auto& settings = program.settings;
+    settings.volume_units = settings.weight_units = Units::american;
+    settings.temperature_units = TemperatureUnits::fahrenheit;
+    settings.grain_water_volume = 1.32F;
+    settings.printer_scale = 0.75F;
+    program.document.title.assign("Stout");
+    program.document.simple_mash.dough_in_water = 99;
+    SimpleMashWork work{.mash = {}, .ratio = 1.2F, .grain = 10};
+    work.mash.mash_kind = MashKind::single_step;
+    work.mash.dough_in_water = 12;
+    work.mash.saccharification = {.temperature = 155, .minutes = 60};
+    RecordingPageDesk desk;
+    SimpleMashWindow window(
+        program, work,
+        {.mash_grain = nullptr, .accepted = nullptr, .revert_to_complex = nullptr, .pages = &desk}, nullptr);
+    print_button(window).click();
+    std::vector<std::string> lines;
+    for (const auto& text : texts_on(desk.jobs.front(), 0)) lines.push_back(text.substr(text.find(' ') + 1));
+    EXPECT_THAT(lines, IsSupersetOf({"Wortlex Recipe - Mash Details Printout", "Recipe:\tStout",
+                                     "Mash Type:\tSingle Step", "Grain Lbs:\t10.00",
+                                     "Water Qts:\t12.00 - Before Additional Infusions",
+                                     "Saccharification Rest Temp:\t155\tTime:\t60",
+                                     "Total Mash Volume Gal:\t3.80 - After Additioanl Infusions"}));
+    EXPECT_EQ(program.document.simple_mash.dough_in_water, 99) << "the document has not taken it over";
+}
+
+} // namespace
+} // namespace wortlex

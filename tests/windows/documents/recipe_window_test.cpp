@@ -1,0 +1,240 @@
+#include "program/recovery.h"
+#include "support/qt_keys.h"
+#include "support/started_brewery.h"
+
+#include <QDialog>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QTimer>
+
+namespace wortlex {
+namespace {
+
+template <class Record>
+Database<Record> database_of(const Record& record) {
+    Database<Record> database;
+    database.count = 1;
+    database.slots[0] = record;
+    return database;
+}
+
+// A brewery with one entry in each database, and a recipe begun from the keyboard.
+struct Kitchen : Brewery {
+    std::unique_ptr<MainWindow> main;
+    RecipeWindow* recipe = nullptr;
+
+    Kitchen() {
+        StyleRecord style;
+        style.name.assign("Blonde Ale");
+        style.min_ibu = 15;
+        style.max_ibu = 28;
+        for (const bool bjcp : {false, true}) SaveStyles(folder.path(), bjcp, database_of(style));
+        MaltRecord malt;
+        malt.name.assign("Pale Malt");
+        malt.malt_type = MaltType::grain;
+        malt.must_mash = 1;
+        malt.potential = 1.037F;
+        SaveMalts(folder.path(), database_of(malt));
+        HopRecord hop;
+        hop.name.assign("Cascade");
+        hop.alpha = 6;
+        SaveHops(folder.path(), database_of(hop));
+        YeastRecord yeast;
+        yeast.name.assign("House Yeast");
+        SaveYeasts(folder.path(), database_of(yeast));
+        ExtraRecord extra;
+        extra.name.assign("Irish Moss");
+        SaveExtras(folder.path(), database_of(extra));
+        SaveWater(folder.path(), database_of(water()));
+        main = std::make_unique<MainWindow>(ports());
+        main->show();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(main.get()));
+    }
+    static WaterRecord water() {
+        WaterRecord water;
+        water.name.assign("Soft Water");
+        return water;
+    }
+
+    void begin() {
+        press(Qt::Key_N, Qt::ControlModifier);
+        recipe = open_recipe_window();
+        ASSERT_NE(recipe, nullptr);
+        activate(recipe);
+    }
+
+    static void activate(QWidget* window) {
+        window->activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(window));
+    }
+    static void press(Qt::Key key, Qt::KeyboardModifiers with = Qt::NoModifier) {
+        auto* const focus = QApplication::focusWidget();
+        QTest::keyClick(focus != nullptr ? focus : QApplication::activeWindow(), key, with);
+    }
+    static void type(const char* text) { QTest::keyClicks(QApplication::focusWidget(), text); }
+    // Where the tab key leads in the end.
+    static void tab_to(const char* name) {
+        const auto there = [name] {
+            const auto* const focus = QApplication::focusWidget();
+            return focus != nullptr && focus->objectName() == QLatin1String(name);
+        };
+        for (int i = 0; i < 120 && !there(); ++i) press(Qt::Key_Tab);
+        EXPECT_TRUE(there()) << "no way by keyboard to " << name;
+    }
+    // Presses a key that opens a list, in which Enter then picks the first entry. A button that is pressed by
+    // its letter acts a moment later.
+    static void pick_by(Qt::Key key, Qt::KeyboardModifiers with = Qt::NoModifier) {
+        auto* const window = QApplication::activeWindow();
+        bool is_picked = false;
+        QTimer user;
+        QObject::connect(&user, &QTimer::timeout, window, [&] {
+            auto* const list = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+            if (list == nullptr) return;
+            user.stop();
+            QTest::keyClick(list->findChild<QWidget*>("list"), Qt::Key_Return);
+            is_picked = true;
+        });
+        user.start(1);
+        press(key, with);
+        EXPECT_TRUE(QTest::qWaitFor([&] { return is_picked; }));
+        activate(window);
+    }
+    // A page that Alt and a letter open, and that its OK button closes.
+    void on_page(Qt::Key letter, const std::function<void()>& work) {
+        press(letter, Qt::AltModifier);
+        ASSERT_TRUE(QTest::qWaitFor([this] { return QApplication::activeWindow() != recipe; }));
+        auto* const page = QApplication::activeWindow();
+        work();
+        for (auto* const button : page->findChildren<QPushButton*>())
+            if (button->text().contains(QLatin1String("OK"))) button->setFocus(Qt::TabFocusReason);
+        press(Qt::Key_Space);
+        activate(recipe);
+    }
+};
+
+TEST(RecipeWindow, AWholeRecipeByKeyboard) {
+    const auto path = std::filesystem::temp_directory_path() / "Kitchen Blonde.rec";
+    Kitchen kitchen;
+    kitchen.files.add(path.string());
+    kitchen.begin();
+    kitchen.press(Qt::Key_R, Qt::AltModifier);
+    kitchen.type("Kitchen Blonde");
+    kitchen.pick_by(Qt::Key_Y, Qt::AltModifier);
+    kitchen.press(Qt::Key_B, Qt::AltModifier);
+    kitchen.type("6");
+    kitchen.tab_to("malts");
+    kitchen.pick_by(Qt::Key_Insert);
+    kitchen.tab_to("malts");
+    for (int i = 0; i < 9; ++i) kitchen.press(Qt::Key_Plus);
+    kitchen.tab_to("hops");
+    kitchen.pick_by(Qt::Key_Insert);
+    kitchen.on_page(Qt::Key_A, [&] {
+        kitchen.pick_by(Qt::Key_Y, Qt::AltModifier);
+        kitchen.pick_by(Qt::Key_W, Qt::AltModifier);
+    });
+    kitchen.on_page(Qt::Key_N, [&] {
+        kitchen.pick_by(Qt::Key_N, Qt::AltModifier);
+        kitchen.press(Qt::Key_O, Qt::AltModifier);
+        kitchen.type("Simple.");
+    });
+    kitchen.on_page(Qt::Key_M, [&] {
+        kitchen.tab_to("saccharification_temperature");
+        kitchen.type("152");
+    });
+    EXPECT_EQ(kitchen.recipe->windowTitle(), "* - Wortlex Recipe Formulation");
+    kitchen.press(Qt::Key_S, Qt::ControlModifier);
+    EXPECT_EQ(kitchen.recipe->windowTitle(), "Kitchen Blonde.rec - Wortlex Recipe Formulation");
+    const auto sg = text_in(*kitchen.recipe, "sg");
+    kitchen.press(Qt::Key_W, Qt::ControlModifier);
+    EXPECT_FALSE(any_open(kitchen.program.tools));
+
+    BrewDocument loaded;
+    ASSERT_EQ(load_recipe(path.string(), loaded, kitchen.program.settings), LoadResult::loaded);
+    EXPECT_EQ(loaded.title.view(), "Kitchen Blonde");
+    EXPECT_EQ(loaded.style.name.view(), "Blonde Ale");
+    EXPECT_EQ(loaded.batch_size, 6);
+    ASSERT_EQ(loaded.malts.size(), 1U);
+    EXPECT_FLOAT_EQ(loaded.malts[0].amount, kitchen.program.settings.grain_increment * 10);
+    ASSERT_EQ(loaded.hops.size(), 1U);
+    EXPECT_EQ(loaded.yeast.record.name.view(), "House Yeast");
+    EXPECT_EQ(loaded.water.name.view(), "Soft Water");
+    ASSERT_EQ(loaded.extras.size(), 1U);
+    EXPECT_EQ(loaded.notes.view(), "Simple.");
+    EXPECT_EQ(loaded.simple_mash.saccharification.temperature, 152);
+
+    kitchen.main->open_file(path.string());
+    EXPECT_EQ(text_in(*open_recipe_window(), "sg"), sg);
+    open_recipe_window()->close();
+    std::filesystem::remove(path);
+}
+
+TEST(RecipeWindow, UndoIsTheRecipesInEveryField) {
+    Kitchen kitchen;
+    kitchen.begin();
+    auto& title = *kitchen.recipe->findChild<QLineEdit*>("title");
+    auto& batch = *line_of(*kitchen.recipe->findChild<QWidget*>("batch_size"));
+    type_over(title, "Stout");
+    const auto size = batch.text();
+    type_over(batch, "20");
+    const auto* const undo = kitchen.recipe->findChild<QAction*>("undo");
+    EXPECT_EQ(undo->text(), "&Undo Batch Size");
+    kitchen.press(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(batch.text(), size);
+    EXPECT_EQ(title.text(), "Stout");
+    kitchen.press(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(title.text(), "");
+    EXPECT_FALSE(undo->isEnabled());
+    EXPECT_EQ(kitchen.recipe->windowTitle(), "Wortlex Recipe Formulation") << "as if nothing had been";
+    kitchen.recipe->findChild<QAction*>("redo")->trigger();
+    EXPECT_EQ(title.text(), "Stout");
+    kitchen.prompts.expect("yes/no/cancel",
+                           "The current recipe has been modified!\nDo you want to save the changes?",
+                           Answer::cancel, Icon::question);
+    EXPECT_FALSE(kitchen.recipe->close());
+    kitchen.prompts.expect("yes/no/cancel",
+                           "The current recipe has been modified!\nDo you want to save the changes?",
+                           Answer::no, Icon::question);
+    EXPECT_TRUE(kitchen.recipe->close());
+}
+
+TEST(RecipeWindow, StaysWhileADialogIsOpenOverAPage) {
+    Kitchen kitchen;
+    kitchen.begin();
+    kitchen.on_page(Qt::Key_N, [&] {
+        QTimer::singleShot(300, kitchen.recipe, [&] {
+            auto* const list = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+            ASSERT_NE(list, nullptr);
+            EXPECT_FALSE(kitchen.recipe->close()) << "the list would pick for a recipe that is gone";
+            list->reject();
+        });
+        auto* const page = QApplication::activeWindow();
+        page->findChild<QPushButton*>("extra_new")->click();
+        kitchen.activate(page);
+    });
+    EXPECT_TRUE(kitchen.recipe->close());
+}
+
+TEST(RecipeWindow, ShowsRecoveredWorkAsItWas) {
+    Kitchen kitchen;
+    kitchen.program.document.efficiency = 0.6F;
+    KeepWork(kitchen.program);
+    kitchen.program.document.efficiency = 0.9F;
+    kitchen.prompts.expect(
+        "yes/no/cancel",
+        "Wortlex ended before your work on a new recipe was saved.\nDo you want to open it "
+        "as it was? No discards it, Cancel asks again at the next start.",
+        Answer::yes, Icon::question);
+    kitchen.main->offer_unsaved_work();
+    auto* const recipe = open_recipe_window();
+    ASSERT_NE(recipe, nullptr);
+    EXPECT_EQ(line_of(*recipe->findChild<QWidget*>("efficiency"))->text(), "60");
+    EXPECT_EQ(recipe->windowTitle(), "* - Wortlex Recipe Formulation");
+    kitchen.prompts.expect("yes/no/cancel",
+                           "The current recipe has been modified!\nDo you want to save the changes?",
+                           Answer::no, Icon::question);
+    EXPECT_TRUE(recipe->close());
+    EXPECT_EQ(FindWork(kitchen.folder.path()), std::nullopt) << "left knowingly";
+}
+
+} // namespace
+} // namespace wortlex

@@ -1,0 +1,149 @@
+#include "base/files.h"
+#include "base/ports/quiet_prompts.h"
+#include "program/start.h"
+#include "support/desk.h"
+#include "support/drop.h"
+#include "support/qt_keys.h"
+#include "support/sample_documents.h"
+#include "support/started_brewery.h"
+#include "support/temporary_folder.h"
+#include "windows/documents/recipe_window.h"
+#include "windows/main/main_window.h"
+
+#include <QApplication>
+#include <QImage>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QTreeView>
+
+#include <filesystem>
+
+namespace wortlex {
+namespace {
+
+TEST(MainWindow, DisablesWhatIsNotBuilt) {
+    Brewery brewery;
+    MainWindow window(brewery.ports());
+    window.show();
+    int enabled = 0;
+    for (const auto& button : main_screen_buttons) {
+        auto* const picture = window.findChild<QAbstractButton*>(QString::fromUtf8(button.bitmap.data(), 4));
+        const bool is_built = window.commands().is_built(button.command);
+        EXPECT_EQ(picture->isEnabled(), is_built) << button.name;
+        for (const auto* const action :
+             window.menuBar()->findChildren<QAction*>(QString::number(button.command)))
+            EXPECT_EQ(action->isEnabled(), is_built) << button.name;
+        EXPECT_FALSE(picture->accessibleName().isEmpty());
+        enabled += picture->isEnabled();
+    }
+    EXPECT_GT(enabled, 1);
+    EXPECT_TRUE(window.menuBar()->findChild<QAction*>(QString::number(command::exit))->isEnabled());
+}
+
+TEST(MainWindow, OpensARecipeOnceAndShowsItsFigures) {
+    Brewery brewery;
+    const auto path = brewery.save_sample("Mild");
+    MainWindow window(brewery.ports());
+    window.show();
+    window.open_file(path);
+    auto* const recipe = open_recipe_window();
+    ASSERT_NE(recipe, nullptr);
+    EXPECT_EQ(recipe->windowTitle(), "Mild.rec - Wortlex Recipe Formulation");
+    EXPECT_EQ(text_in(*recipe, "title"), "Mild");
+    // 10 lb x 37 points x 76 % / 5 gallons = 56.24 points
+    EXPECT_EQ(text_in(*recipe, "sg"), "1.056");
+    auto* const malts = recipe->findChild<QTreeView*>("malts");
+    EXPECT_EQ(malts->model()->rowCount(), 2);
+    EXPECT_EQ(malts->model()->index(0, 0).data(), "Maris Otter");
+    QTest::keyClick(recipe, Qt::Key_Escape);
+    QTest::keyClick(recipe->findChild<QLineEdit*>("title"), Qt::Key_Return);
+    EXPECT_TRUE(recipe->isVisible()) << "neither Esc nor Enter closes a document";
+    window.commands().start(command::new_recipe); // a second request only brings it forward
+    EXPECT_EQ(brewery.program.document.title.view(), "Mild");
+    EXPECT_EQ(brewery.program.recent_documents, RecentDocuments{path});
+    QTest::mouseClick(recipe->findChild<QPushButton*>("ok"), Qt::LeftButton);
+    EXPECT_FALSE(any_open(brewery.program.tools));
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_FALSE(activate_if_open(brewery.program.tools, command::open_recipe));
+}
+
+TEST(MainWindow, OpensADroppedRecipe) {
+    Brewery brewery;
+    const auto path = brewery.save_sample("Porter");
+    save_atomically(brewery.folder / "notes.txt", Bytes(10));
+    MainWindow window(brewery.ports());
+    window.show();
+    EXPECT_FALSE(drop_file(window, brewery.folder / "notes.txt"));
+    EXPECT_EQ(open_recipe_window(), nullptr);
+    EXPECT_TRUE(drop_file(window, path));
+    auto* const recipe = open_recipe_window();
+    ASSERT_NE(recipe, nullptr);
+    EXPECT_EQ(text_in(*recipe, "title"), "Porter");
+    EXPECT_TRUE(window.close());
+}
+
+TEST(MainWindow, TellsOfDamagedAndCutFilesAndKeepsTheOpenOne) {
+    Brewery brewery;
+    const auto path = brewery.save_sample("Stout");
+    auto bytes = *read_file(path);
+    bytes.resize(bytes.size() - 100);
+    save_atomically(brewery.folder.path() + "cut.rec", bytes);
+    bytes.assign(300, std::byte{0xFF});
+    save_atomically(brewery.folder.path() + "noise.rec", bytes);
+    MainWindow window(brewery.ports());
+    brewery.prompts.expect_tell("File Not Found!", Icon::error);
+    window.open_file(brewery.folder.path() + "gone.rec");
+    brewery.prompts.expect_tell("noise.rec " + std::string(load_fault(LoadResult::damaged)) + ".",
+                                Icon::error);
+    window.open_file(brewery.folder.path() + "noise.rec");
+    EXPECT_EQ(open_recipe_window(), nullptr);
+    brewery.prompts.expect_tell("cut.rec " + std::string(load_fault(LoadResult::incomplete)) + ".",
+                                Icon::warning);
+    window.open_file(brewery.folder.path() + "cut.rec");
+    ASSERT_NE(open_recipe_window(), nullptr);
+    EXPECT_TRUE(brewery.program.recipe_file.incomplete);
+    EXPECT_TRUE(window.close());
+    EXPECT_FALSE(any_open(brewery.program.tools));
+    EXPECT_TRUE(std::filesystem::exists(brewery.folder.path() + "WlxWin.pos"));
+}
+
+TEST(PictureBoard, TellsOfMissingPicturesOnceAShowing) {
+    Brewery brewery;
+    std::filesystem::remove(brewery.folder.path() + "art/cb01.bmp");
+    std::filesystem::remove(brewery.folder.path() + "art/cb02.bmp");
+    MainWindow window(brewery.ports());
+    for (int showing = 0; showing < 2; ++showing) {
+        brewery.prompts.expect("tell", "Error Reading FIle", {}, Icon::error, "File Error");
+        window.show();
+        QCoreApplication::processEvents();
+        window.repaint();
+        QCoreApplication::processEvents();
+        EXPECT_FALSE(window.findChild<QAbstractButton*>("cb01")->isVisible());
+        EXPECT_TRUE(window.findChild<QAbstractButton*>("cb04")->isVisible());
+        window.hide();
+    }
+}
+
+TEST(PictureBoard, ActsAsAButtonGoesDown) {
+    Brewery brewery;
+    MainWindow window(brewery.ports());
+    window.show();
+    auto* const board = window.centralWidget();
+    const auto origin = main_screen_origin(board->width(), board->height());
+    int started = 0;
+    window.commands().carry_out(command::new_recipe, [&] { ++started; });
+    const QPoint corner(origin.x + 86, origin.y + 76);
+    const auto press = [&](QPoint at) {
+        auto* const under = board->childAt(at);
+        if (under != nullptr) QTest::mousePress(under, Qt::LeftButton, {}, under->mapFrom(board, at));
+    };
+    press(corner);
+    press(corner + QPoint(64, 64));
+    EXPECT_EQ(started, 2);
+    press(corner + QPoint(65, 10));
+    press(corner + QPoint(10, 65));
+    EXPECT_EQ(started, 2) << "right and bottom edges belong to no button";
+}
+
+} // namespace
+} // namespace wortlex
