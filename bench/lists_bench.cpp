@@ -3,9 +3,9 @@
 #include "base/ports/quiet_prompts.h"
 #include "databases/hops.h"
 #include "databases/store.h"
-#include "windows/databases/list_window.h"
 #include "desktop/system_ports.h"
 #include "paint_watch.h"
+#include "windows/databases/list_window.h"
 
 #include <QApplication>
 #include <QHeaderView>

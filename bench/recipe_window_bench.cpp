@@ -1,11 +1,11 @@
 // The recipe window with 25 malts and 25 hops: what it takes to open, and from a keystroke until all figures
 // are painted anew.
 #include "base/ports/quiet_prompts.h"
-#include "desktop/system_ports.h"
 #include "desktop/print_preview.h"
-#include "windows/documents/recipe_window.h"
+#include "desktop/system_ports.h"
 #include "paint_watch.h"
 #include "sample_document.h"
+#include "windows/documents/recipe_window.h"
 
 #include <QAbstractItemView>
 #include <QAbstractSpinBox>

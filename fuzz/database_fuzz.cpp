@@ -1,5 +1,5 @@
-#include "records/ingredients/database_file.h"
 #include "fuzz_input.h"
+#include "records/ingredients/database_file.h"
 
 using namespace wortlex;
 

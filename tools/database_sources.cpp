@@ -2,8 +2,8 @@
 
 #include "base/number.h"
 #include "csv.h"
-#include "settings/codes.h"
 #include "measures/gravity.h"
+#include "settings/codes.h"
 
 #include <algorithm>
 #include <tuple>

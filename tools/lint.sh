@@ -1,37 +1,56 @@
 #!/usr/bin/env bash
-# The format of every source file, and clang-tidy over the program and the tools. Needs a configured test build.
-# A room is linted as one text, so that the toolkit's headers are read once for all its files; findings name the text
-# in build/lint and the line in it. Where two files of a room use one name for different things, it goes file by file.
+# The format of every source file; every file of the program compiled by itself, so that each header brings what it
+# needs; and clang-tidy over the program and the tools. Floors that lie together are linted as one text, so that the
+# headers of the library and the toolkit are read once for all their files; where two rooms use one name for different
+# things, each goes by itself.
 set -eu
 cd "$(dirname "$0")/.."
-sources=$(git ls-files 'src/*.cpp' 'src/*.h' 'tools/*.cpp' 'tools/*.h' 'tests/*.cpp' 'tests/*.h' 'bench/*.cpp' 'bench/*.h' \
-    'fuzz/*.cpp' 'fuzz/*.h')
-echo "$sources" | xargs clang-format --dry-run --Werror
+git ls-files '*.cpp' '*.h' | xargs clang-format --dry-run --Werror
 echo "The format is in order."
 
+cmake --preset dev > /dev/null
+flags_of() { # the compile command of a source, without its output
+    grep -o "\"command\": \".*/$2\"" "build/$1/compile_commands.json" | head -1 | sed -E 's/^"command": "//; s/ -o .*//; s/ccache //'
+}
+for file in $(git ls-files 'src/*.cpp'); do
+    echo "$(flags_of dev "$file") -fsyntax-only $file"
+done | xargs -P "$(nproc)" -I COMMAND sh -c COMMAND || { echo "A file does not stand by itself."; exit 1; }
+echo "Every file stands by itself."
+
+cmake --preset quick > /dev/null
 rm -rf build/lint
 mkdir -p build/lint
-# As the room with the most dependencies is compiled.
-flags=$(grep -o '"command": .*frame/windows/main_window.cpp"' build/test/compile_commands.json | head -1 |
-    sed -E 's/^"command": "[^ ]+ //; s/ -o .*//; s/ccache //')
-singles=$(echo "$sources" | grep -E '^tools/.*\.cpp$')
-rooms=()
-for folder in $(echo "$sources" | grep -E '^src/.*\.cpp$' | xargs -n 1 dirname | sort -u); do
-    files=$(echo "$sources" | grep -E "^$folder/[^/]*\.cpp$" | grep -v '/main\.cpp$' || true)
-    [ -n "$files" ] || continue
-    room=build/lint/$(echo "$folder" | tr / -).cpp
-    for file in $files; do
-        echo "// ---- $file"
-        cat "$file"
-    done > "$room"
+floors=("base jpeg settings measures records brewing" "forms page charts databases mash water calculators"
+    "documents reports" "program companion" "desktop windows")
+texts=$(find build/quick/tools -name 'unity_*.cxx')
+for floor in "${floors[@]}"; do
+    pattern=$(echo "$floor" | tr ' ' '|')
+    # Rooms in the order in which they are built, the last one with the flags of all.
+    rooms=$(sed -nE "s/^(($pattern)(\/[a-z_]+)?)( .*)?$/\1/p" build/quick/rooms.txt | tr / _)
+    text=build/lint/$(echo "$floor" | tr ' ' '_').cpp
+    for room in $rooms; do
+        echo "#include \"$PWD/build/quick/src/CMakeFiles/$room.dir/Unity/unity_0_cxx.cxx\""
+    done > "$text"
+    flags=$(flags_of quick "src/CMakeFiles/$room.dir/Unity/unity_0_cxx.cxx")
     # shellcheck disable=SC2086
-    if c++ $flags -w -fsyntax-only "$room" 2> /dev/null; then rooms+=("$room"); else singles="$singles $files"; fi
+    if $flags -w -fsyntax-only "$text" 2> "$text.log"; then
+        grouped="${grouped:-} $text:$room"
+    else
+        echo "Linted room by room ($(grep -m 1 error "$text.log")): $floor"
+        for room in $rooms; do texts="$texts build/quick/src/CMakeFiles/$room.dir/Unity/unity_0_cxx.cxx"; done
+    fi
 done
-singles="$singles $(echo "$sources" | grep -E '^src/.*/main\.cpp$')"
-found=0
-# Each file of a room includes for itself, and its names do not hide those of another one.
-printf '%s\n' "${rooms[@]}" |
-    xargs -P "$(nproc)" -I ROOM clang-tidy --quiet --checks=-readability-duplicate-include ROOM -- $flags -Wno-shadow 2> /dev/null || found=1
-echo $singles | xargs -P "$(nproc)" -n 3 clang-tidy -p build/test --quiet 2> /dev/null || found=1
-[ $found -eq 0 ] || exit 1
+
+# A whole floor is not one text to the compiler: its rooms may hide each other's names.
+checks=-readability-duplicate-include,-bugprone-suspicious-include
+tidy() { clang-tidy --quiet --checks="$checks" "$@" 2> /dev/null; }
+export -f tidy flags_of
+export checks
+{
+    for pair in ${grouped:-}; do
+        unity=src/CMakeFiles/${pair#*:}.dir/Unity/unity_0_cxx.cxx
+        echo "tidy ${pair%:*} -- $(flags_of quick "$unity" | sed 's/^[^ ]* //') -Wno-shadow"
+    done
+    for text in $texts; do echo "tidy -p build/quick $text"; done
+} | xargs -P "$(nproc)" -d '\n' -I COMMAND bash -c COMMAND || { echo "The lint has findings."; exit 1; }
 echo "The lint is in order."

@@ -3,8 +3,8 @@
 #include "base/files.h"
 #include "brewing/beer_colour.h"
 #include "records/documents/document_files.h"
-#include "sample_sources.h"
 #include "records/water/water_needs.h"
+#include "sample_sources.h"
 
 #include <algorithm>
 #include <cstdio>

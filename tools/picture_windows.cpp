@@ -2,9 +2,9 @@
 // and a recipe, and saves a picture of each as main-window.png and recipe-window.png.
 #include "base/number.h"
 #include "base/ports/quiet_prompts.h"
-#include "desktop/system_ports.h"
 #include "desktop/print_preview.h"
 #include "desktop/qt_text.h"
+#include "desktop/system_ports.h"
 #include "program/start.h"
 #include "windows/main/main_window.h"
 

@@ -3,9 +3,9 @@
 #pragma once
 
 #include "database_sources.h"
+#include "keyed_file.h"
 #include "records/documents/session_document.h"
 #include "settings/system_files.h"
-#include "keyed_file.h"
 
 namespace wortlex {
 

@@ -1,6 +1,7 @@
 #include "calculators/degradation_chart.h"
 
 #include "base/number.h"
+#include "charts/strokes.h"
 
 #include <algorithm>
 #include <array>
@@ -9,8 +10,7 @@
 namespace wortlex {
 namespace {
 
-constexpr std::uint32_t black = 0x000000, white = 0xFFFFFF, pale = 0xDCDCDC, leaf = 0x2C7A1E, red = 0x1E1EC8;
-constexpr std::string_view face = "Arial";
+constexpr std::uint32_t pale = 0xDCDCDC, leaf = 0x2C7A1E, red = 0x1E1EC8;
 
 constexpr Extent area{500, 350};
 constexpr int header_height = 156;
@@ -18,47 +18,25 @@ constexpr Box plot{60, 16, 480, 296}; // in the area
 constexpr int steps_of_months = 12;
 constexpr int mark_radius = 4;
 
-// From months and percent to pixels.
-struct Scale {
-    int months = 12;
-    int percent = 1;
-    int top = 0; // of the area
+struct Scales {
+    Axis months;
+    Axis percent;
+
+    Point place(int month, double alpha) const { return {months.place(month), percent.place(alpha)}; }
 };
 
-Scale scale_of(const HopDegradation& hop, int top) {
-    Scale scale{.percent = std::clamp(truncate(hop.start_alpha), 0, 100) + 1, .top = top};
-    while (scale.months < hop.months && scale.months < 60) scale.months += 12;
-    return scale;
-}
-
-int part_of(int length, double share) {
-    return truncate(length * share + 0.5);
-}
-
-// Alpha that runs off the scale, as that of a damaged record may, stays at its end.
-Point place(const Scale& scale, int month, double alpha) {
-    const int x = plot.left + part_of(plot.right - plot.left, static_cast<double>(month) / scale.months);
-    const int height = plot.bottom - plot.top;
-    const int up = std::clamp(part_of(height, alpha / scale.percent), 0, height);
-    return {x, scale.top + plot.bottom - up};
-}
-
-void draw_line(Surface& surface, Point from, Point to) {
-    surface.move_to(from);
-    surface.line_to(to);
-}
-
-// The pen fills, too: without one a rectangle would miss its last row and column.
-void clear(Surface& surface, Extent extent) {
-    surface.set_pen({white});
-    surface.set_brush(white);
-    surface.rectangle({0, 0, extent.width, extent.height});
+Scales scales_of(const HopDegradation& hop, int top) {
+    int months = steps_of_months;
+    while (months < hop.months && months < 60) months += steps_of_months;
+    const int percent = std::clamp(truncate(hop.start_alpha), 0, 100) + 1;
+    return {{plot.left, plot.right, 0, static_cast<double>(months)},
+            {top + plot.bottom, top + plot.top, 0, static_cast<double>(percent)}};
 }
 
 void draw_header(Surface& surface, const HopDegradation& hop) {
-    surface.set_font({.face = face, .cell_height = 17, .weight = 700});
+    surface.set_font({.face = chart_face, .cell_height = 17, .weight = 700});
     surface.text({16, 12}, "Wortlex Hop Time/Alpha Degradation Chart");
-    surface.set_font({.face = face, .cell_height = 13});
+    surface.set_font({.face = chart_face, .cell_height = 13});
     const std::array lines = {"Hop Name:\t" + hop.name,
                               "Start Alpha:\t" + formatted("%0.2f", hop.start_alpha),
                               "Temp Stored At:\t" + formatted("%0.2f F", hop.fahrenheit) +
@@ -74,59 +52,46 @@ void draw_header(Surface& surface, const HopDegradation& hop) {
     }
 }
 
-void draw_percents(Surface& surface, const Scale& scale) {
-    const int label_step = scale.percent < 18 ? 1 : 2;
+void draw_grid(Surface& surface, const Scales& scales) {
+    const int labelled = scales.percent.high < 18 ? 1 : 2;
     surface.set_pen({pale});
-    for (int percent = 0; percent <= scale.percent; ++percent) {
-        const auto at = place(scale, 0, percent);
-        draw_line(surface, at, {plot.right, at.y});
-        if (percent % label_step != 0) continue;
-        const auto text = formatted("%d", percent);
-        const auto extent = surface.text_extent(text);
-        surface.text({at.x - 6 - extent.width, at.y - extent.height / 2}, text);
-    }
+    const auto percents = ticks(scales.percent, 1, [labelled](int percent) {
+        return percent % labelled == 0 ? formatted("%d", percent) : std::string();
+    });
+    draw_level_grid(surface, percents, plot.left, plot.right);
+    const auto months = ticks(scales.months, truncate(scales.months.high) / steps_of_months,
+                              [](int month) { return formatted("%d", month); });
+    draw_upright_grid(surface, months, scales.percent.to, scales.percent.from);
 }
 
-void draw_months(Surface& surface, const Scale& scale) {
-    surface.set_pen({pale});
-    for (int month = 0; month <= scale.months; month += scale.months / steps_of_months) {
-        const auto at = place(scale, month, 0);
-        draw_line(surface, at, {at.x, scale.top + plot.top});
-        const auto text = formatted("%d", month);
-        surface.text({at.x - surface.text_extent(text).width / 2, at.y + 4}, text);
-    }
-}
-
-void draw_axes(Surface& surface, int top) {
-    surface.set_pen({black});
-    draw_line(surface, {plot.left, top + plot.top}, {plot.left, top + plot.bottom});
-    draw_line(surface, {plot.left, top + plot.bottom}, {plot.right, top + plot.bottom});
+void draw_axes(Surface& surface, const Scales& scales) {
+    const Point origin{plot.left, scales.percent.from};
+    surface.set_pen({chart_black});
+    draw_line(surface, {plot.left, scales.percent.to}, origin);
+    draw_line(surface, origin, {plot.right, origin.y});
 }
 
 void draw_captions(Surface& surface, int top) {
-    surface.set_font({.face = face, .cell_height = 14, .weight = 700});
+    surface.set_font({.face = chart_face, .cell_height = 14, .weight = 700});
     constexpr std::string_view word = "Alpha";
     const int height = surface.text_extent(word).height;
-    int y = top + (plot.top + plot.bottom - height * static_cast<int>(word.size())) / 2;
-    for (std::size_t letter = 0; letter < word.size(); ++letter, y += height) {
-        const auto text = word.substr(letter, 1);
-        surface.text({18 - surface.text_extent(text).width / 2, y}, text);
-    }
+    const int above = top + (plot.top + plot.bottom - height * static_cast<int>(word.size())) / 2;
+    draw_upright_text(surface, word, 18, above, height);
     const auto extent = surface.text_extent("Months");
     surface.text({(plot.left + plot.right - extent.width) / 2, top + area.height - extent.height - 6},
                  "Months");
 }
 
-void draw_curve(Surface& surface, const Scale& scale, const HopDegradation& hop) {
-    std::vector<Point> points = {place(scale, 0, hop.start_alpha)};
-    for (int month = 1; month <= scale.months; ++month)
-        points.push_back(place(scale, month, alpha_after(hop, month)));
+void draw_curve(Surface& surface, const Scales& scales, const HopDegradation& hop) {
+    std::vector<Point> points = {scales.place(0, hop.start_alpha)};
+    for (int month = 1; month <= truncate(scales.months.high); ++month)
+        points.push_back(scales.place(month, alpha_after(hop, month)));
     surface.set_pen({leaf, 2});
     surface.polyline(points);
 }
 
-void draw_mark(Surface& surface, const Scale& scale, const HopDegradation& hop) {
-    const auto at = place(scale, hop.months, hop.adjusted_alpha);
+void draw_mark(Surface& surface, const Scales& scales, const HopDegradation& hop) {
+    const auto at = scales.place(hop.months, hop.adjusted_alpha);
     surface.set_pen({red});
     surface.set_brush(red);
     // The right and bottom edge of a box lie outside the circle.
@@ -140,17 +105,17 @@ Extent degradation_chart_size(bool with_header) {
 }
 
 void draw_degradation_chart(Surface& surface, const HopDegradation& hop, bool with_header) {
-    const auto scale = scale_of(hop, with_header ? header_height : 0);
-    clear(surface, degradation_chart_size(with_header));
-    surface.set_text_colour(black);
+    const int top = with_header ? header_height : 0;
+    const auto scales = scales_of(hop, top);
+    clear(surface, degradation_chart_size(with_header), chart_white);
+    surface.set_text_colour(chart_black);
     if (with_header) draw_header(surface, hop);
-    surface.set_font({.face = face, .cell_height = 12});
-    draw_percents(surface, scale);
-    draw_months(surface, scale);
-    draw_axes(surface, scale.top);
-    draw_captions(surface, scale.top);
-    draw_curve(surface, scale, hop);
-    draw_mark(surface, scale, hop);
+    surface.set_font({.face = chart_face, .cell_height = 12});
+    draw_grid(surface, scales);
+    draw_axes(surface, scales);
+    draw_captions(surface, top);
+    draw_curve(surface, scales, hop);
+    draw_mark(surface, scales, hop);
 }
 
 } // namespace wortlex
