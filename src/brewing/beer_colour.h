@@ -1,5 +1,6 @@
 // From the grain bill to the colour of the beer, and from that to the colour on the screen. All is SRM
-// (degrees Lovibond of the malts); other units are a matter of display.
+// (degrees Lovibond of the malts); other units are a matter of display. The formulae are those of Morey
+// (1995, a power of the malt colour units), and of Mosher and Daniels, each a straight line.
 #pragma once
 
 #include "records/documents/lines.h"

@@ -126,6 +126,9 @@ float compute_wort_points(const BrewDocument& document, const Settings& settings
     return points_of_total(total, document.wort_size, settings);
 }
 
+// The polynomial in s is degrees Plato at the specific gravity s; times s and a hundredth of the 8.33041
+// pounds that a gallon of water weighs it is the extract of a gallon of wort in pounds. The first guess is a
+// fit of its inverse.
 double variable_sucrose_value(double extract_pounds, float gallons) {
     const double x = extract_pounds / trunc_5(gallons);
     const auto extract = [](double s) {

@@ -1,4 +1,11 @@
 // The gravity that a grain bill gives, by either efficiency method on either base.
+//
+// Method #1 knows the potential of each malt: a mashed malt gives its laboratory yield, on the basis of the
+// settings, times the brewhouse efficiency. Method #2 does not: any mashed malt gives its weight times the
+// efficiency, which is then extract per grain weight, so that an efficiency means less under it. Malts that
+// are not mashed give their potential under both. On the base of points the yields are turned into points by
+// the constant sucrose value and summed; on the base of mass the extract is summed in pounds, and the gravity
+// of that solution is looked for.
 #pragma once
 
 #include "documents/figures.h"
@@ -14,7 +21,8 @@ float compute_og(BrewDocument& document, RecipeFigures& figures, const Settings&
 float compute_wort_points(const BrewDocument& document, const Settings& settings);
 
 /// The points of a pound of sucrose in a gallon of wort with `extract_pounds` in `gallons`: they fall as the
-/// wort gets stronger.
+/// wort gets stronger. By the polynomial of Plato over specific gravity that brewing chemists (ASBC) fitted
+/// to the tables, solved for the gravity, and a fit of a pound's points over Plato.
 double variable_sucrose_value(double extract_pounds, float gallons);
 
 /// Points at batch size at 100 % extraction, of all lines, of the mashed ones and of the others; 0 without
