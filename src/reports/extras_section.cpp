@@ -25,7 +25,7 @@ constexpr std::array<std::string_view, 3> places = {"(boil)", "(fermenter)", "(m
 
 ReportRow row(const ExtraUse& line) {
     const auto& extra = line.record;
-    return {"%6.2f " + word(extra.amount_unit, amount_units) + "%s%s  %3d " +
+    return {"%6.2f " + word(extra.amount_unit, amount_units) + "|%s|%s  |%3d " +
                 word(extra.time_unit, time_units) + word(extra.time_place, places) + " \n",
             {line.amount, {line_text(extra.name), name_width}, word(extra.extra_type, types), extra.time}};
 }

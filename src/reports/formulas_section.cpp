@@ -32,9 +32,8 @@ std::string_view word(ColorFormula formula) {
 }
 
 ReportRow utilization_row(std::string_view hops, double percent) {
-    auto label = "Additional Utilization Used For " + std::string(hops) + ":";
-    label.resize(utilization_column, ' ');
-    return {label + "%3.0f %s\n", {percent, "%"}};
+    const auto label = "Additional Utilization Used For " + std::string(hops) + ":";
+    return {padded_label(label, utilization_column) + "%3.0f %s\n", {percent, "%"}};
 }
 
 void add_utilizations(std::vector<ReportRow>& rows, const Settings& settings) {
@@ -53,13 +52,13 @@ ReportSection formulas_section(const ReportSource& source) {
     const auto& settings = source.open.settings;
     std::vector<ReportRow> rows{method_row(settings), gravity_base_row(settings)};
     if (settings.efficiency_mode < EfficiencyMode::method_2)
-        rows.push_back({"Yield Of Mashed Grain Based On: %s\n", {yield_word(settings.yield_type)}});
-    rows.push_back({"Sucrose Value for recipe: %0.4f\n", {source.open.figures.recipe_sucrose}});
-    rows.push_back({"Color Formula Used:   %s\n", {word(settings.color_formula)}});
-    rows.push_back({"Hop IBU Formula Used: %s\n", {formula_word(settings.HopFormula)}});
+        rows.push_back({"Yield Of Mashed Grain Based On: |%s\n", {yield_word(settings.yield_type)}});
+    rows.push_back({"Sucrose Value for recipe: |%0.4f\n", {source.open.figures.recipe_sucrose}});
+    rows.push_back({"Color Formula Used:   |%s\n", {word(settings.color_formula)}});
+    rows.push_back({"Hop IBU Formula Used: |%s\n", {formula_word(settings.HopFormula)}});
     if (settings.HopFormula == HopFormulaCode::Tinseth)
-        rows.push_back({"Tinseth Concentration Factor: %0.2f\n", {settings.tinseth_factor}});
-    rows.push_back({"Kettle Size Hop Utilization Scale Factor: %0.2f\n", {settings.kettle_factor}});
+        rows.push_back({"Tinseth Concentration Factor: |%0.2f\n", {settings.tinseth_factor}});
+    rows.push_back({"Kettle Size Hop Utilization Scale Factor: |%0.2f\n", {settings.kettle_factor}});
     add_utilizations(rows, settings);
     rows.back().format += "\n";
     return section_of("Formulas Used", ReportLines{{290}, rows});

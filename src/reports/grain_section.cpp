@@ -65,8 +65,8 @@ ReportSection grain_section(const ReportSource& source) {
                     {"Origin", 50, 335, 90},
                     {source.view.show_potential ? "Potential" : "Extract", 64, 430, 75, HtmlAlign::right},
                     {std::string(colour_word(source.open.settings)), 74, 500, 50, HtmlAlign::right}};
-    const auto format = " %4.1f %8.2f " + std::string(grain_column_word(source.open.settings)) + " %s %s " +
-                        value_column(source) + "%4.0f\n";
+    const auto format = " %4.1f |%8.2f " + std::string(grain_column_word(source.open.settings)) +
+                        " |%s |%s |" + value_column(source) + "|%4.0f\n";
     for (std::size_t i = 0; i < source.open.document.malts.size(); ++i)
         list.rows.push_back(row(source, i, format));
     return section_of("Grain/Extract/Sugar", std::move(list), ReportLines{{}, {note(source)}});

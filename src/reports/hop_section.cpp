@@ -10,7 +10,7 @@ constexpr std::size_t form_width = 6;
 
 ReportRow row(const HopUse& line, const ReportSource& source) {
     const std::string unit(hop_column_word(source.open.settings));
-    const auto format = "%6.2f " + unit + "   %s    %s %6.2f  %4.1f  ";
+    const auto format = "%6.2f " + unit + "   |%s    |%s |%6.2f  |%4.1f  |";
     ReportRow row{format + "%s\n",
                   {hop_to_shown(line.amount, source.open.settings),
                    {line_text(line.record.name), hop_name_width},

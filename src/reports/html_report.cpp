@@ -101,7 +101,7 @@ void write_run(HtmlWriter& page, const Run& run) {
 void write(const ReportLines& lines, HtmlWriter& page) {
     Run run;
     for (const auto& row : lines.rows) {
-        auto cells = line_cells(row);
+        auto cells = row_cells(row);
         if (cells.empty()) continue;
         if (!run.takes(cells)) {
             write_run(page, run);
@@ -142,7 +142,7 @@ void write(const ReportTable& table, HtmlWriter& page) {
     page.table_start();
     for (const auto& column : table.columns) write_title(page, column);
     page.row_end();
-    for (const auto& row : table.rows) write_list_row(page, table, table_cells(row));
+    for (const auto& row : table.rows) write_list_row(page, table, row_cells(row));
     if (table.rows.empty()) write_list_row(page, table, {});
     page.bare_table_end();
 }

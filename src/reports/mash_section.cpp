@@ -12,13 +12,13 @@ namespace {
 ReportRow type_row(MashKind kind) {
     switch (kind) {
     case MashKind::partial_mash:
-        return {"Mash Type: Partial Mash\n", {}};
+        return {"Mash Type: |Partial Mash\n", {}};
     case MashKind::multi_step:
-        return {"Mash Type: Multi Step\n", {}};
+        return {"Mash Type: |Multi Step\n", {}};
     case MashKind::decoction:
-        return {"Mash Type: Decoction\n", {}};
+        return {"Mash Type: |Decoction\n", {}};
     default:
-        return {"Mash Type: Single Step\n", {}};
+        return {"Mash Type: |Single Step\n", {}};
     }
 }
 
@@ -28,24 +28,25 @@ void add_amounts(std::vector<ReportRow>& rows, const ReportSource& source) {
     const auto& settings = source.open.settings;
     const float grain = source.open.figures.mash_grain,
                 water = source.open.document.simple_mash.dough_in_water;
-    rows.push_back({padded("Grain " + std::string(grain_word(settings)) + ":", label_column) + "%6.2f\n",
-                    {grain_to_shown(grain, settings)}});
+    rows.push_back(
+        {padded_label("Grain " + std::string(grain_word(settings)) + ":", label_column) + "%6.2f\n",
+         {grain_to_shown(grain, settings)}});
     for (const auto& [shown, unit] : shown_waters(water, settings))
-        rows.push_back({padded("Water " + std::string(unit) + ":", label_column) +
+        rows.push_back({padded_label("Water " + std::string(unit) + ":", label_column) +
                             "%6.2f - Before Additional Infusions\n",
                         {shown}});
     const std::string ratio = is_american(settings.volume_units) ? "Qts Water Per Lbs" : "L Water Per kg";
-    rows.push_back({ratio + " Grain: %2.2f - Before Additional Infusions\n",
+    rows.push_back({ratio + " Grain: |%2.2f - Before Additional Infusions\n",
                     {shown_ratio(water, grain, settings.volume_units)}});
-    rows.push_back({"Tun Thermal Mass:  %8.2f\n", {settings.tun_thermal_mass}});
-    rows.push_back({"Grain Temp:        %8.0f " + temperature_word(settings) + "\n\n",
+    rows.push_back({"Tun Thermal Mass:  |%8.2f\n", {settings.tun_thermal_mass}});
+    rows.push_back({"Grain Temp:        |%8.0f " + temperature_word(settings) + "\n\n",
                     {shown_degrees(source.open.document.mash.grain_temperature, settings)}});
 }
 
 void add_rest(std::vector<ReportRow>& rows, std::string_view name, const Rest& rest,
               const Settings& settings) {
     if (!rest.is_present()) return;
-    rows.push_back({padded(std::string(name) + " Temp:", 28) + "%3d  Time: %3d\n",
+    rows.push_back({padded_label(std::string(name) + " Temp:", 28) + "%3d  |Time: |%3d\n",
                     {shown_degrees(rest.temperature, settings), rest.minutes}});
 }
 
@@ -66,9 +67,10 @@ ReportRow volume_row(const ReportSource& source) {
     const auto& settings = source.open.settings;
     const std::string unit(volume_word(settings));
     const std::string additional = is_american(settings.volume_units) ? "Additioanl" : "Additional";
-    return {padded("\nTotal Mash Volume " + unit + ":", 24) + "%8.2f  - After Additional Infusions\n\n",
+    return {padded_label("\nTotal Mash Volume " + unit + ":", 24) +
+                "%8.2f  |- After Additional Infusions\n\n",
             {to_shown_volume(source.open.figures.mash.gallons, settings)},
-            "Total Mash Volume " + unit + ":\t%0.2f - After " + additional + " Infusions"};
+            "Total Mash Volume " + unit + ":|%0.2f - After " + additional + " Infusions"};
 }
 
 } // namespace

@@ -8,9 +8,9 @@ namespace {
 
 constexpr int colour_box = 250; // behind the figure that it belongs to
 
-std::string joined(const std::vector<ReportCell>& cells) {
+std::string tabbed(const std::vector<std::string>& cells) {
     std::string out;
-    for (const auto& cell : cells) out += (out.empty() && &cell == &cells.front() ? "" : "\t") + cell.text;
+    for (const auto& cell : cells) out += (&cell == &cells.front() ? "" : "\t") + cell;
     return out;
 }
 
@@ -23,9 +23,7 @@ void write_row(PageContext& page, std::span<const int> tabs, const ReportRow& ro
 }
 
 void write(const ReportLines& lines, PageContext& page) {
-    for (const auto& row : lines.rows)
-        write_row(page, lines.tabs, row,
-                  row.print_format.empty() ? joined(line_cells(row)) : print_words(row));
+    for (const auto& row : lines.rows) write_row(page, lines.tabs, row, tabbed(print_cells(row)));
 }
 
 // One of the two lines of titles.
@@ -53,16 +51,13 @@ void write_titles(const ReportTable& table, PageContext& page) {
 }
 
 // No text runs into the next column: a long name is cut off. Figures are left whole.
-std::string fitted(const PageContext& page, std::span<const ReportColumn> columns, std::string_view words) {
-    std::string out;
-    for (std::size_t i = 0; i + 1 < columns.size(); ++i) {
-        const auto cell = words.substr(0, words.find('\t'));
-        const bool is_text = columns[i].align == HtmlAlign::left;
-        out += is_text ? page.fitted(cell, columns[i].tab, columns[i + 1].tab) : std::string(cell);
-        out += '\t';
-        words.remove_prefix(std::min(cell.size() + 1, words.size()));
-    }
-    return out.append(words);
+std::vector<std::string> fitted(const PageContext& page, const std::vector<ReportColumn>& columns,
+                                std::vector<std::string> cells) {
+    cells.resize(columns.size());
+    for (std::size_t i = 0; i + 1 < columns.size(); ++i)
+        if (columns[i].align == HtmlAlign::left)
+            cells[i] = page.fitted(cells[i], columns[i].tab, columns[i + 1].tab);
+    return cells;
 }
 
 void write(const ReportTable& table, PageContext& page) {
@@ -73,8 +68,7 @@ void write(const ReportTable& table, PageContext& page) {
     for (const auto& row : table.rows) {
         page.KeepTogether(1);
         if (page.y() == 0) write_titles(table, page);
-        const auto words = row.print_format.empty() ? joined(table_cells(row)) : print_words(row);
-        write_row(page, tabs, row, fitted(page, table.columns, words));
+        write_row(page, tabs, row, tabbed(fitted(page, table.columns, print_cells(row))));
     }
 }
 

@@ -1,5 +1,5 @@
 // A report on a document: what it says, apart from the form it takes. It is built once, as sections of rows;
-// a row holds its values once and the words of the text form, from which the other forms follow by rule.
+// a row holds its values once and the line of the text form, in which a mark ends every cell of the others.
 #pragma once
 
 #include "page/html_writer.h"
@@ -25,17 +25,23 @@ struct ReportValue {
     std::size_t width = 0;
 };
 
-/// One line. In `format` every place is "%f" or "%d" with width and decimals, "%s" or "%c"; `\t` ends a
-/// column where the text form shows none; `\n` ends the line and, in front or behind it, leaves one blank.
+/// Ends a cell in the format of a row, the last one excepted. The text form leaves it out. It stands in
+/// formats alone: what a user typed is a value, so that any text can hold this character.
+constexpr char cell_end = '|';
+
+/// One line. In `format` every place is "%f" or "%d" with width and decimals, "%s" or "%c"; `\n` ends the
+/// line and, in front or behind it, leaves one blank. A cell that holds a number is a figure, unless the
+/// number has leading zeros, which make it a name ("%02d"); one of words alone that ends in a colon is a
+/// label.
 struct ReportRow {
     std::string format;
     std::vector<ReportValue> values;
-    /// The words of print where it has its own: tabs between columns, figures as wide as told.
+    /// The cells of print where it has its own, each as it stands, with figures as wide as told.
     std::string print_format{};
     std::optional<std::uint32_t> colour{}; ///< 0x00BBGGRR, of a box beside it in print and HTML
 };
 
-/// Labels and figures. A colon or two blanks end a column, as tab stop and as cell.
+/// Labels and figures, or sentences: rows of one cell.
 struct ReportLines {
     std::vector<int> tabs; ///< of print, behind the first column
     std::vector<ReportRow> rows;
@@ -50,7 +56,7 @@ struct ReportColumn {
     int title_tab = 0; ///< of print, where the title stands elsewhere than the column
 };
 
-/// A list under column titles. Each place of a row begins a column.
+/// A list under column titles, a cell a column.
 struct ReportTable {
     std::vector<ReportColumn> columns;
     std::vector<ReportRow> rows;

@@ -9,7 +9,6 @@ namespace wortlex {
 namespace {
 
 constexpr std::string_view white_space = " \t\n";
-constexpr char column_end = '\t';
 
 // A pattern cut at its places.
 struct Piece {
@@ -69,109 +68,73 @@ private:
     std::size_t at_ = 0;
 };
 
-std::string words(std::string_view format, const std::vector<ReportValue>& values, Width width) {
-    std::string out;
-    Values next(values);
-    while (!format.empty()) {
-        const auto piece = take_piece(format);
-        out += piece.literal;
-        if (!piece.place.empty()) out += value_words(piece.place, next.next(), width);
-    }
-    return out;
-}
-
 std::string_view trimmed(std::string_view text) {
     const auto first = text.find_first_not_of(white_space);
     if (first == std::string_view::npos) return {};
     return text.substr(first, text.find_last_not_of(white_space) + 1 - first);
 }
 
-// Gathers cells from left to right.
-class CellRow {
-public:
-    void add(char c) { current_.text += c; }
-
-    void add_value(std::string_view place, const ReportValue& value) {
-        current_.text += trimmed(value_words(place, value, Width::as_needed));
-        current_.is_figure |= std::holds_alternative<double>(value.content) && !has_zeros(place);
-        has_value_ = true;
-    }
-
-    // An empty value keeps its cell, white_space alone do not make one.
-    void end_cell() {
-        current_.text = std::string(trimmed(current_.text));
-        current_.is_label = !has_value_ && current_.text.ends_with(':');
-        if (has_value_ || !current_.text.empty()) cells_.push_back(std::move(current_));
-        current_ = {};
-        has_value_ = false;
-    }
-
-    std::vector<ReportCell> take() {
-        end_cell();
-        return std::move(cells_);
-    }
-
-private:
-    ReportCell current_;
-    bool has_value_ = false;
-    std::vector<ReportCell> cells_;
-};
-
-// Whether a column ends in a pattern: it says so, or at a blank there are two, or a colon stands before it.
-bool ends_column(std::string_view literal, std::size_t at) {
-    if (literal[at] == column_end) return true;
-    if (literal[at] != ' ') return false;
-    const bool behind_colon = at > 0 && literal[at - 1] == ':';
-    return behind_colon || (at + 1 < literal.size() && literal[at + 1] == ' ');
+// Cuts a pattern behind its first cell.
+std::string_view take_cell(std::string_view& format) {
+    const auto cell = format.substr(0, format.find(cell_end));
+    format.remove_prefix(std::min(cell.size() + 1, format.size()));
+    return cell;
 }
 
-void add_literal(CellRow& row, std::string_view literal) {
-    for (std::size_t i = 0; i < literal.size(); ++i) {
-        if (ends_column(literal, i)) {
-            row.end_cell();
-        } else {
-            row.add(literal[i]);
-        }
+ReportCell cell_of(std::string_view pattern, Values& values) {
+    ReportCell cell;
+    bool has_value = false;
+    while (!pattern.empty()) {
+        const auto piece = take_piece(pattern);
+        cell.text += piece.literal;
+        if (piece.place.empty()) continue;
+        const auto& value = values.next();
+        cell.text += trimmed(value_words(piece.place, value, Width::as_needed));
+        cell.is_figure |= std::holds_alternative<double>(value.content) && !has_zeros(piece.place);
+        has_value = true;
     }
+    cell.text = std::string(trimmed(cell.text));
+    cell.is_label = !has_value && cell.text.ends_with(':');
+    return cell;
+}
+
+std::string words(std::string_view pattern, Values& values, Width width) {
+    std::string out;
+    while (!pattern.empty()) {
+        const auto piece = take_piece(pattern);
+        out += piece.literal;
+        if (!piece.place.empty()) out += value_words(piece.place, values.next(), width);
+    }
+    return out;
 }
 
 } // namespace
 
 std::string text_words(const ReportRow& row) {
     auto format = row.format;
-    std::erase(format, column_end);
-    return words(format, row.values, Width::as_told);
+    std::erase(format, cell_end);
+    Values values(row.values);
+    return words(format, values, Width::as_told);
 }
 
-std::string print_words(const ReportRow& row) {
-    return words(row.print_format, row.values, Width::of_figures);
-}
-
-std::vector<ReportCell> line_cells(const ReportRow& row) {
-    CellRow cells;
-    Values next(row.values);
+std::vector<ReportCell> row_cells(const ReportRow& row) {
+    std::vector<ReportCell> cells;
+    Values values(row.values);
     auto format = without_line_ends(row.format);
-    while (!format.empty()) {
-        const auto piece = take_piece(format);
-        add_literal(cells, piece.literal);
-        if (!piece.place.empty()) cells.add_value(piece.place, next.next());
-    }
-    return cells.take();
+    while (!format.empty()) cells.push_back(cell_of(take_cell(format), values));
+    return cells;
 }
 
-std::vector<ReportCell> table_cells(const ReportRow& row) {
-    CellRow cells;
-    Values next(row.values);
-    auto format = without_line_ends(row.format);
-    while (!format.empty()) {
-        const auto piece = take_piece(format);
-        const auto unit = trimmed(piece.literal);
-        if (!unit.empty()) cells.add(' ');
-        for (const char c : unit) cells.add(c);
-        cells.end_cell();
-        if (!piece.place.empty()) cells.add_value(piece.place, next.next());
+std::vector<std::string> print_cells(const ReportRow& row) {
+    std::vector<std::string> cells;
+    if (row.print_format.empty()) {
+        for (auto& cell : row_cells(row)) cells.push_back(std::move(cell.text));
+        return cells;
     }
-    return cells.take();
+    Values values(row.values);
+    std::string_view format = row.print_format;
+    while (!format.empty()) cells.push_back(words(take_cell(format), values, Width::of_figures));
+    return cells;
 }
 
 BlankLines blank_lines(std::string_view format) {

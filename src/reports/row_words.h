@@ -8,20 +8,16 @@ namespace wortlex {
 /// The row in columns of blanks, line ends and all.
 std::string text_words(const ReportRow& row);
 
-/// One column of a row without its blanks.
+/// What stands in a row up to a mark, without its outer blanks; a value in it takes the width that it needs.
 struct ReportCell {
     std::string text;
-    bool is_label = false;  ///< it ends in a colon
-    bool is_figure = false; ///< it holds a number
+    bool is_label = false;
+    bool is_figure = false;
 };
+std::vector<ReportCell> row_cells(const ReportRow& row);
 
-/// The columns of a line of labels and figures.
-std::vector<ReportCell> line_cells(const ReportRow& row);
-/// The columns of a row of a table.
-std::vector<ReportCell> table_cells(const ReportRow& row);
-
-/// The row in the words that it has for print alone; texts are as long as they are.
-std::string print_words(const ReportRow& row);
+/// The cells in the words of print.
+std::vector<std::string> print_cells(const ReportRow& row);
 
 /// How many lines are left blank in front of a row and behind it.
 struct BlankLines {

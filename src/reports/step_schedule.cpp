@@ -17,7 +17,7 @@ void add_waters(std::vector<ReportRow>& rows, float quarts, std::string_view not
     for (const auto& [shown, unit] : shown_waters(quarts, settings)) {
         const auto label = "Total Water " + std::string(unit) + ":";
         rows.push_back(
-            {padded(label, step_label_column) + "%8.2f - %s\n", {shown, note}, label + "\t%6.2f\t- %s"});
+            {padded_label(label, step_label_column) + "%8.2f - %s\n", {shown, note}, label + "|%6.2f|- %s"});
     }
 }
 
@@ -25,15 +25,15 @@ ReportLines opening(const ReportSource& source) {
     const auto& settings = source.open.settings;
     const auto& mash = source.open.document.mash;
     const auto grain_label = "Total Grain " + std::string(grain_word(settings)) + ":";
-    ReportLines lines{{170, 255}, {{"Mash Name: %s\n\n", {line_text(mash.mash_name)}}}};
-    lines.rows.push_back({padded(grain_label, step_label_column) + "%8.2f\n",
+    ReportLines lines{{170, 255}, {{"Mash Name: |%s\n\n", {line_text(mash.mash_name)}}}};
+    lines.rows.push_back({padded_label(grain_label, step_label_column) + "%8.2f\n",
                           {grain_to_shown(source.open.figures.mash_grain, settings)}});
     add_waters(lines.rows, source.open.document.simple_mash.dough_in_water, "Before Additional Infusions",
                settings);
-    lines.rows.push_back({"\nGrain Temp:             %8.2f " + temperature_word(settings) + "\n",
+    lines.rows.push_back({"\nGrain Temp:             |%8.2f " + temperature_word(settings) + "\n",
                           {shown_degrees(mash.grain_temperature, settings)}});
     lines.rows.push_back(
-        {"Tun Thermal Mass:       %8.2f\n\n\n", {mash.tun_thermal_mass}, "Tun Thermal Mass :\t%6.2f"});
+        {"Tun Thermal Mass:       |%8.2f\n\n\n", {mash.tun_thermal_mass}, "Tun Thermal Mass :|%6.2f"});
     return lines;
 }
 
@@ -60,26 +60,26 @@ void add_heat(ReportRow& row, const MashStep& step, const Settings& settings) {
         row.values.insert(row.values.end(), values.begin(), values.end());
     };
     if (step.heat_type == StepHeat::direct) {
-        add("%s%s     %s   %s\n", "%s\t---\t-----\t----", {{"Direct", heat_width}, "---", "-------", "----"});
+        add("%s|%s     |%s   |%s\n", "%s|---|-----|----", {{"Direct", heat_width}, "---", "-------", "----"});
     } else if (step.heat_type == StepHeat::decoction) {
         const double thickness =
             is_american(settings.volume_units) ? step.ratio : step.ratio / shown_thickness;
-        add("%s%3d     %7.2f   %4.2f (Decoc Thickness)\n", "%s\t%3d\t%5.2f\t%4.2f (Decoc Thickness)",
+        add("%s|%3d     |%7.2f   |%4.2f (Decoc Thickness)\n", "%s|%3d|%5.2f|%4.2f (Decoc Thickness)",
             {{"Decoc", heat_width}, degrees, std::max(amount, 0.0F), thickness});
     } else {
-        add("%s%3d     %7.2f   %4.2f\n", "%s\t%3d\t%5.2f\t%4.2f",
+        add("%s|%3d     |%7.2f   |%4.2f\n", "%s|%3d|%5.2f|%4.2f",
             {{"Infuse", heat_width}, degrees, amount, step.ratio});
     }
 }
 
 ReportRow step_row(const MashStep& step, const Settings& settings) {
-    ReportRow row{"%s%3d    %3d    %3d     %3d   ",
+    ReportRow row{"%s|%3d    |%3d    |%3d     |%3d   |",
                   {{line_text(step.name), step_name_width},
                    step.step_minutes,
                    step.rest_minutes,
                    shown_degrees(step.start_temperature, settings),
                    shown_degrees(step.stop_temperature, settings)},
-                  "%s\t%3d\t%3d\t%3d\t%3d\t"};
+                  "%s|%3d|%3d|%3d|%3d|"};
     add_heat(row, step, settings);
     return row;
 }
@@ -89,9 +89,9 @@ ReportRow mash_volume_row(const ReportSource& source) {
     const auto& settings = source.open.settings;
     const auto label = "Total Mash Volume " + std::string(volume_word(settings)) + ":";
     const bool is_hectolitres = volume_word(settings) == "hL";
-    return {padded(label, step_label_column) + "%8.2f - After Additional Infusions\n\n\n",
+    return {padded_label(label, step_label_column) + "%8.2f - After Additional Infusions\n\n\n",
             {to_shown_volume(source.open.figures.mash.gallons, settings)},
-            label + "\t%6.2f\t-" + (is_hectolitres ? "" : " ") + "After Additional Infusions"};
+            label + "|%6.2f|-" + (is_hectolitres ? "" : " ") + "After Additional Infusions"};
 }
 
 void add_notes(std::vector<ReportRow>& rows, const Settings& settings) {

@@ -7,19 +7,19 @@ namespace {
 
 ReportRow name_row(const StyleRecord& style) {
     const auto name = line_text(style.name), category = line_text(style.category);
-    if (style.letter == '\0') return {"%02d  %s, %s\n\n", {style.number, name, category}};
+    if (style.letter == '\0') return {"%02d  |%s, %s\n\n", {style.number, name, category}};
     const auto letter = line_text(std::string_view(&style.letter, 1));
-    return {"%02d-%c  %s, %s\n\n", {style.number, letter, name, category}};
+    return {"%02d-%c  |%s, %s\n\n", {style.number, letter, name, category}};
 }
 
 ReportRow gravity_row(const StyleRecord& style, const Settings& settings) {
-    return {"Min OG:  " + sg_column(5, 3, settings) + "Max OG:  " + sg_column(5, 0, settings) + "\n",
+    return {"Min OG:  |" + sg_column(5, 3, settings) + "|Max OG:  |" + sg_column(5, 0, settings) + "\n",
             {style.min_og, style.max_og}};
 }
 
 ReportRow colour_row(const StyleRecord& style, const Settings& settings) {
     const bool is_srm = settings.color_units == ColorUnits::srm;
-    return {std::string("Min Clr: %5.0f   Max Clr: %5.0f  Color in ") +
+    return {std::string("Min Clr: |%5.0f   |Max Clr: |%5.0f  |Color in ") +
                 (is_srm ? "SRM, Lovibond\n\n" : "EBC\n\n"),
             {to_shown_colour(style.min_colour, settings), to_shown_colour(style.max_colour, settings)}};
 }
@@ -32,7 +32,7 @@ ReportSection style_section(const ReportSource& source) {
                       ReportLines{{90, 170, 260, 340},
                                   {name_row(style),
                                    gravity_row(style, source.open.settings),
-                                   {"Min IBU: %5.0f   Max IBU: %5.0f\n", {style.min_ibu, style.max_ibu}},
+                                   {"Min IBU: |%5.0f   |Max IBU: |%5.0f\n", {style.min_ibu, style.max_ibu}},
                                    colour_row(style, source.open.settings)}});
 }
 

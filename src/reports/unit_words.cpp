@@ -4,6 +4,7 @@
 #include "base/windows1252.h"
 #include "measures/units.h"
 #include "page/text_sink.h"
+#include "reports/report.h"
 
 #include <algorithm>
 
@@ -76,8 +77,12 @@ std::string temperature_word(const Settings& settings) {
     return settings.temperature_units == TemperatureUnits::fahrenheit ? "F" : "C";
 }
 
+std::string padded_label(std::string_view label, std::size_t width) {
+    return padded(label, width) + cell_end;
+}
+
 std::string unit_label(std::string_view text, std::string_view unit, std::size_t width) {
-    return padded(std::string(text).append(" (").append(unit).append("):"), width);
+    return padded_label(std::string(text).append(" (").append(unit).append("):"), width);
 }
 
 std::string sg_place(int width, const Settings& settings) {
@@ -90,12 +95,12 @@ std::string plato_place(int width, const Settings& settings) {
 
 std::string sg_column(int width, int gap, const Settings& settings) {
     const int more = more_decimals(settings.sg_precision);
-    return sg_place(width + more, settings) + '\t' + blanks(gap - more);
+    return sg_place(width + more, settings) + blanks(gap - more);
 }
 
 std::string plato_column(int width, int gap, const Settings& settings) {
     const int more = more_decimals(settings.plato_precision);
-    return plato_place(width + more, settings) + '\t' + blanks(gap - more);
+    return plato_place(width + more, settings) + blanks(gap - more);
 }
 
 int shown_degrees(std::int32_t fahrenheit, const Settings& settings) {

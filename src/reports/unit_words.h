@@ -25,14 +25,16 @@ std::string_view yield_word(YieldType type);
 /// 'F' or 'C'.
 std::string temperature_word(const Settings& settings);
 
-/// "Batch Size (Gal):" for "Batch Size" and "Gal", filled up.
+/// The cell of a label, filled up.
+std::string padded_label(std::string_view label, std::size_t width);
+/// That of "Batch Size (Gal):" for "Batch Size" and "Gal".
 std::string unit_label(std::string_view text, std::string_view unit, std::size_t width);
 
 /// The place of a gravity, three to five decimals in the same width, and of Plato, one to three.
 std::string sg_place(int width, const Settings& settings);
 std::string plato_place(int width, const Settings& settings);
 /// The same, with blanks behind it: `width` and `gap` are those of the fewest decimals, and each one more
-/// takes a blank of the gap, so that point and next column stay where they are. The column ends in any case.
+/// takes a blank of the gap, so that point and next column stay where they are.
 std::string sg_column(int width, int gap, const Settings& settings);
 std::string plato_column(int width, int gap, const Settings& settings);
 

@@ -24,33 +24,30 @@ std::string joined(const std::vector<ReportCell>& cells) {
     return all;
 }
 
-TEST(RowWords, other_forms_follow_from_the_text_form) {
+TEST(RowWords, marks_end_cells_in_all_forms_but_that_of_text) {
     const std::tuple<const char*, ReportRow, std::string, std::string> rows[] = {
-        {"columns end at colons and wide gaps",
-         {"Size (Gal):     %8.2f    Wort (Gal): %6.2f\n", {5.0, 12.5}},
-         "Size (Gal):         5.00    Wort (Gal):  12.50\n",
+        {"blanks around a cell belong to the text form",
+         {"\nSize (Gal):     |%8.2f    |Wort (Gal): |%6.2f\n", {5.0, 12.5}},
+         "\nSize (Gal):         5.00    Wort (Gal):  12.50\n",
          "<Size (Gal):][5.00#]<Wort (Gal):][12.50#]"},
-        {"a single blank keeps unit and figure together",
-         {"Left:  %8.0f %s - so far\n\n", {75.0, "%"}},
-         "Left:        75 % - so far\n\n",
-         "<Left:][75 % - so far#]"},
-        {"typed text is one column, whatever is in it",
-         {"Known for: %s\n", {"ale:  %d 100% and  stout"}},
-         "Known for: ale:  %d 100% and  stout\n",
-         "<Known for:][ale:  %d 100% and  stout]"},
+        {"nothing but a mark ends a cell",
+         {"Left:  %8.0f %s - of: a  b\n\n", {75.0, "%"}},
+         "Left:        75 % - of: a  b\n\n",
+         "[Left:  75 % - of: a  b#]"},
+        {"typed text is one cell, whatever is in it",
+         {"Known for: |%s\n", {"ale:  %d 100% and | stout:"}},
+         "Known for: ale:  %d 100% and | stout:\n",
+         "<Known for:][ale:  %d 100% and | stout:]"},
         {"numbers with leading zeros are names, empty texts keep their place",
-         {"%02d-%c  %s\n", {7, "C", ""}},
+         {"%02d-%c  |%s|%s\n", {7, "C", "", ""}},
          "07-C  \n",
-         "[07-C][]"},
-        {"a row that lacks a value", {"%d  %s", {1}}, "1  ", "[1#][]"},
+         "[07-C][][]"},
+        {"a row that lacks a value", {"%d  |%s", {1}}, "1  ", "[1#][]"},
     };
     for (const auto& [why, row, text, cells] : rows) {
         EXPECT_EQ(text_words(row), text) << why;
-        EXPECT_EQ(joined(line_cells(row)), cells) << why;
+        EXPECT_EQ(joined(row_cells(row)), cells) << why;
     }
-    const ReportRow listed{" %4.1f %8.2f lbs. %s %3d min.\n", {5.0, 1.5, {"M\u00FCnch", 6}, 60}};
-    EXPECT_EQ(text_words(listed), "  5.0     1.50 lbs. M\u00FCnch   60 min.\n");
-    EXPECT_EQ(joined(table_cells(listed)), "[5.0#][1.50 lbs.#][M\u00FCnch][60 min.#]");
 }
 
 SystemSettings metric_brewery() {
