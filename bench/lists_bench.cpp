@@ -2,7 +2,6 @@
 // on a column's head takes until the list is painted anew.
 #include "base/ports/quiet_prompts.h"
 #include "databases/hops.h"
-#include "databases/store.h"
 #include "desktop/system_ports.h"
 #include "paint_watch.h"
 #include "windows/databases/list_window.h"
@@ -35,7 +34,9 @@ struct Desk {
     ~Desk() { std::filesystem::remove_all(folder); }
 
     ListPorts ports() { return {{positions, settings}, files, prompts}; }
-    Catalogue<HopRecord> catalogue() const { return hop_catalogue(settings, folder); }
+    std::unique_ptr<RecordList<HopRecord>> list() {
+        return hop_list({ListSide::maintenance, settings, folder}, database);
+    }
 };
 
 // Names repeat, as they do where a hop is kept in each of its forms.
@@ -66,30 +67,31 @@ void load(benchmark::State& state, Desk& desk) {
 // From the file to rows in order.
 void open(benchmark::State& state, Desk& desk) {
     for (auto _ : state) {
-        Store<HopRecord> list(desk.catalogue(), ListSide::maintenance, desk.folder, desk.database);
-        list.open(desk.prompts);
-        benchmark::DoNotOptimize(list.shown_count());
+        const auto list = desk.list();
+        list->open(desk.prompts);
+        benchmark::DoNotOptimize(list->shown_count());
     }
 }
 
-void sort(benchmark::State& state, const Desk& desk, std::size_t column) {
-    const auto catalogue = desk.catalogue();
+// A click on a head: sorted anew from the shuffled order, and the rows listed.
+void sort(benchmark::State& state, Desk& desk, std::size_t column) {
+    const auto list = desk.list();
     const auto unsorted = shuffled();
-    const std::vector<std::uint8_t> upwards(catalogue.columns.size(), 0);
     for (auto _ : state) {
         state.PauseTiming();
-        auto database = unsorted;
+        list->click(column == 0 ? 1 : 0); // so that the next click sorts upwards
+        desk.database = unsorted;
         state.ResumeTiming();
-        sort_by<HopRecord>(std::span(database.slots).first(import_limit), catalogue, column, upwards);
-        benchmark::DoNotOptimize(database.slots.data());
+        list->click(column);
+        benchmark::DoNotOptimize(desk.database.slots.data());
     }
 }
 
 void fill(benchmark::State& state, Desk& desk) {
-    Store<HopRecord> list(desk.catalogue(), ListSide::maintenance, desk.folder, desk.database);
-    list.open(desk.prompts);
-    for (auto _ : state) list.choose_filter(0, desk.prompts);
-    if (list.shown_count() != import_limit) state.SkipWithError("rows are missing");
+    const auto list = desk.list();
+    list->open(desk.prompts);
+    for (auto _ : state) list->choose_filter(0, desk.prompts);
+    if (list->shown_count() != import_limit) state.SkipWithError("rows are missing");
 }
 
 void send(QWidget& to, QEvent::Type type, QPoint at, Qt::MouseButtons held) {
@@ -105,9 +107,9 @@ void click(QHeaderView& head, int column) {
 
 // Every second click turns the order around.
 void click_to_paint(benchmark::State& state, Desk& desk, int column) {
-    Store<HopRecord> list(desk.catalogue(), ListSide::maintenance, desk.folder, desk.database);
-    list.open(desk.prompts);
-    ListWindow window(list, desk.ports(), Opener::main, nullptr, nullptr);
+    const auto list = desk.list();
+    list->open(desk.prompts);
+    ListWindow window(*list, desk.ports(), Opener::main, nullptr, nullptr);
     window.show();
     QApplication::processEvents();
     auto& view = *window.findChild<QTreeView*>(QStringLiteral("list"));

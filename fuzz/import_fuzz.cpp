@@ -2,12 +2,8 @@
 // questions, the rest is the file. It is imported twice, so that the second time every entry is there
 // already.
 #include "base/ports/quiet_prompts.h"
-#include "databases/extras.h"
-#include "databases/hops.h"
-#include "databases/malts.h"
-#include "databases/styles.h"
-#include "databases/water.h"
-#include "databases/yeasts.h"
+#include "databases/catalogues.h"
+#include "databases/store.h"
 #include "fuzz_input.h"
 
 using namespace wortlex;
@@ -45,7 +41,7 @@ void use(Store<Record>& list, QuietPrompts& prompts) {
     }
     for (std::size_t chosen = list.filter_labels().size(); chosen-- > 0;)
         list.choose_filter(static_cast<std::int32_t>(chosen), prompts);
-    promise(list.selected_entry().has_value() == (list.shown_count() > 0));
+    promise(list.selected_record().has_value() == (list.shown_count() > 0));
 }
 
 template <class Record>
@@ -58,7 +54,8 @@ void check(Catalogue<Record> catalogue, ByteView input) {
         return true;
     };
     Database<Record> database;
-    Store<Record> list(catalogue, ListSide::maintenance, "no such folder/", database);
+    Settings settings;
+    Store<Record> list(catalogue, {ListSide::maintenance, settings, "no such folder/"}, database);
     list.open(prompts);
     for (int time = 0; time < 2; ++time) list.import_bytes(input.subspan(head_size), "input", prompts);
     use(list, prompts);

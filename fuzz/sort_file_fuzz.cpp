@@ -1,12 +1,7 @@
 // The file that remembers a list's order, and behind it entries to be put in that order.
-#include "databases/extras.h"
-#include "databases/hops.h"
+#include "databases/catalogues.h"
 #include "databases/import.h"
-#include "databases/malts.h"
 #include "databases/sorting.h"
-#include "databases/styles.h"
-#include "databases/water.h"
-#include "databases/yeasts.h"
 #include "fuzz_input.h"
 
 using namespace wortlex;

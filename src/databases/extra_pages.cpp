@@ -1,3 +1,4 @@
+#include "databases/catalogues.h"
 #include "databases/extras.h"
 
 namespace wortlex {

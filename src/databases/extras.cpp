@@ -1,6 +1,8 @@
 #include "databases/extras.h"
 
 #include "base/windows1252.h"
+#include "databases/catalogues.h"
+#include "databases/store.h"
 
 #include <algorithm>
 
@@ -145,6 +147,11 @@ Catalogue<ExtraRecord> extra_catalogue(const Settings& /*settings*/, const std::
     };
     extras.save = [data_folder](const Database<ExtraRecord>& from) { return SaveExtras(data_folder, from); };
     return extras;
+}
+
+std::unique_ptr<RecordList<ExtraRecord>> extra_list(const ListSource& source, Database<ExtraRecord>& extras) {
+    return std::make_unique<Store<ExtraRecord>>(extra_catalogue(source.settings, source.data_folder), source,
+                                                extras);
 }
 
 } // namespace wortlex

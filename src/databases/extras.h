@@ -1,16 +1,14 @@
 // The database of extra ingredients: spices, herbs, fruits, coffee, finings and what else there is.
 #pragma once
 
-#include "databases/catalogue.h"
+#include "databases/ingredient_list.h"
 
 namespace wortlex {
 
-Catalogue<ExtraRecord> extra_catalogue(const Settings& settings, const std::string& data_folder);
+std::unique_ptr<RecordList<ExtraRecord>> extra_list(const ListSource& source, Database<ExtraRecord>& extras);
 
 /// The entry dialog of an extra.
 void extra_entry_form(Form& form, ExtraRecord& extra);
-
-CataloguePages<ExtraRecord> extra_pages();
 
 /// As lists show it and sort by it.
 std::string_view type_word(ExtraType type);

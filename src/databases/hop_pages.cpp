@@ -1,3 +1,4 @@
+#include "databases/catalogues.h"
 #include "databases/hops.h"
 
 namespace wortlex {

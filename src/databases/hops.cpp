@@ -1,6 +1,8 @@
 #include "databases/hops.h"
 
 #include "base/windows1252.h"
+#include "databases/catalogues.h"
+#include "databases/store.h"
 #include "measures/units.h"
 
 namespace wortlex {
@@ -204,6 +206,11 @@ Catalogue<HopRecord> hop_catalogue(const Settings& settings, const std::string& 
     };
     hops.save = [data_folder](const Database<HopRecord>& from) { return SaveHops(data_folder, from); };
     return hops;
+}
+
+std::unique_ptr<RecordList<HopRecord>> hop_list(const ListSource& source, Database<HopRecord>& hops) {
+    return std::make_unique<Store<HopRecord>>(hop_catalogue(source.settings, source.data_folder), source,
+                                              hops);
 }
 
 } // namespace wortlex

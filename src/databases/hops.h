@@ -1,16 +1,14 @@
 // The hop database.
 #pragma once
 
-#include "databases/catalogue.h"
+#include "databases/ingredient_list.h"
 
 namespace wortlex {
 
-Catalogue<HopRecord> hop_catalogue(const Settings& settings, const std::string& data_folder);
+std::unique_ptr<RecordList<HopRecord>> hop_list(const ListSource& source, Database<HopRecord>& hops);
 
 /// The entry dialog of a hop.
 void hop_entry_form(Form& form, HopRecord& hop);
-
-CataloguePages<HopRecord> hop_pages(const Settings& settings);
 
 /// The storage class that a loss (percent in 6 months) stands for, as it is typed; and as the arrows carry it
 /// from one value to another, where only a crossing counts: nothing then.

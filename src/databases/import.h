@@ -3,21 +3,11 @@
 
 #include "base/bytes.h"
 #include "databases/catalogue.h"
+#include "databases/messages.h"
 
 #include <cmath>
 
 namespace wortlex {
-
-inline constexpr std::string_view no_room = "There is not enough room in the database for a new "
-                                            "entry!\n\nPlease delete entries that are no longer needed to "
-                                            "free some space in the database.";
-inline constexpr std::string_view nothing_to_clone = "There is no entry selected to clone!";
-inline constexpr std::string_view imported = "Data Successfully Imported!";
-inline constexpr std::string_view not_saved =
-    "The database could not be saved. Is the disk full, or the folder "
-    "read-only?";
-inline constexpr std::string_view set_to_zero =
-    "You are about to set the inventory amount for this item to Zero.\n\nDo you really want to do this?\n";
 
 /// What is told of a file without a record, of damaged records, and of those that found no room.
 std::string nothing_to_import(const std::string& path);

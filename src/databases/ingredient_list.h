@@ -5,11 +5,20 @@
 #include "base/ports/prompts.h"
 #include "forms/form.h"
 #include "page/page.h"
+#include "records/ingredients/database_file.h"
+#include "settings/settings.h"
 
 namespace wortlex {
 
 /// The list that keeps a database, and the list from which an entry is picked.
 enum class ListSide { maintenance = 0, pick = 1 };
+
+/// What a list stands on. The settings must outlive it; that of styles sets their book.
+struct ListSource {
+    ListSide side = ListSide::maintenance;
+    Settings& settings;
+    std::string data_folder; ///< ends in a slash
+};
 
 /// What a pick list starts with, and keeps for the next one when an entry was picked.
 struct ListChoice {
@@ -72,5 +81,18 @@ public:
     /// Asks about changes and keeps the order for the next time. False: the list stays open.
     virtual bool close(Prompts& prompts) = 0;
 };
+
+template <class Record>
+class RecordList : public IngredientList {
+public:
+    /// The entry that the selected row means: the first one that reads the same. Nothing without a selection.
+    virtual std::optional<Record> selected_record() const = 0;
+};
+
+/// Makes a list on a database, which a maintenance list edits; a pick list is given one of its own. The
+/// database must outlive the list.
+template <class Record>
+using ListMaker = std::unique_ptr<RecordList<Record>> (*)(const ListSource& source,
+                                                          Database<Record>& database);
 
 } // namespace wortlex

@@ -1,6 +1,6 @@
 #include "databases/inventory.h"
 
-#include "databases/import.h"
+#include "databases/messages.h"
 
 #include <memory>
 

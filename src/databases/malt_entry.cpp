@@ -6,7 +6,7 @@
 namespace wortlex {
 namespace {
 
-constexpr const char* blank = " "; // no text at all would leave the figure standing
+constexpr const char* blank_text = " "; // no text at all would leave the figure standing
 
 bool is_syrup_or_sugar(const MaltRecord& malt) {
     return malt.malt_type == MaltType::extract || malt.malt_type == MaltType::sugar;
@@ -102,7 +102,7 @@ void potential_row(Rows& rows, const Yields& yields, const Settings& settings) {
 void yield_grid(Rows& rows, const Yields& yields, const std::function<bool()>& has_grind) {
     auto& grid = rows.grid("yields", {"Dry Basis", "As Is"});
     const auto percent = [](Rows& line, const char* key, const Binding<float>& value) -> NumberRow& {
-        return line.number(key, value).range(1.0F, 100.0F).outside(Outside::clamp).when_disabled(blank);
+        return line.number(key, value).range(1.0F, 100.0F).outside(Outside::clamp).when_disabled(blank_text);
     };
     auto& fine = grid.line("% Yield - &Fine Grind (FG)");
     percent(fine, "fine_dry",
@@ -123,14 +123,14 @@ void yield_rows(Rows& rows, const MaltRecord& malt, const Yields& yields, const 
         .range(0.0F, 10.0F)
         .outside(Outside::clamp)
         .enabled(has_grind)
-        .when_disabled(blank);
+        .when_disabled(blank_text);
     rows.number("moisture", yields->moisture)
         .label("% &Moisture Content")
         .range(0.0F, 10.0F)
         .outside(Outside::clamp)
         .step(0.25F)
         .enabled(has_grind)
-        .when_disabled(blank);
+        .when_disabled(blank_text);
 }
 
 } // namespace

@@ -1,3 +1,4 @@
+#include "databases/catalogues.h"
 #include "databases/malt_yields.h"
 #include "databases/malts.h"
 #include "measures/potential.h"

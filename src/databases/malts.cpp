@@ -1,5 +1,7 @@
 #include "databases/malts.h"
 
+#include "databases/catalogues.h"
+#include "databases/store.h"
 #include "measures/potential.h"
 #include "measures/units.h"
 
@@ -140,6 +142,11 @@ Catalogue<MaltRecord> malt_catalogue(const Settings& settings, const std::string
     };
     malts.save = [data_folder](const Database<MaltRecord>& from) { return SaveMalts(data_folder, from); };
     return malts;
+}
+
+std::unique_ptr<RecordList<MaltRecord>> malt_list(const ListSource& source, Database<MaltRecord>& malts) {
+    return std::make_unique<Store<MaltRecord>>(malt_catalogue(source.settings, source.data_folder), source,
+                                               malts);
 }
 
 } // namespace wortlex

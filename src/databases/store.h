@@ -23,12 +23,15 @@ bool holds_the_same(const Database<Record>& a, const Database<Record>& b) {
 }
 
 template <class Record>
-class Store : public IngredientList {
+class Store : public RecordList<Record> {
 public:
-    /// On `database`, which a maintenance list edits; a pick list is given an array of its own.
-    Store(Catalogue<Record> catalogue, ListSide side, std::string data_folder, Database<Record>& database)
-        : catalogue_(std::move(catalogue)), database_(database), side_(side),
-          data_folder_(std::move(data_folder)) {}
+    using RecordList<Record>::filter;
+    using RecordList<Record>::only_in_stock;
+    using RecordList<Record>::selected;
+    using RecordList<Record>::print;
+
+    Store(Catalogue<Record> catalogue, ListSource source, Database<Record>& database)
+        : catalogue_(std::move(catalogue)), database_(database), source_(std::move(source)) {}
 
     void open(Prompts& prompts) override;
 
@@ -62,9 +65,7 @@ public:
     /// The same from the bytes of a transfer file; `name` is what messages call it.
     void import_bytes(ByteView file, const std::string& name, Prompts& prompts);
 
-    /// The entry that the selected row means: the first one that reads the same. Nothing without a selection.
-    std::optional<std::size_t> selected_entry() const;
-    const Record& entry(std::size_t index) const { return database_.slots[index]; }
+    std::optional<Record> selected_record() const override;
 
 protected:
     std::span<Record> entries() {
@@ -77,13 +78,14 @@ protected:
     void reload(Prompts& prompts);
     /// The list as it was before the array was sorted for the file.
     void show_again();
-    ListSide side() const { return side_; }
-    const std::string& data_folder() const { return data_folder_; }
+    ListSide side() const { return source_.side; }
+    const ListSource& source() const { return source_; }
 
     Catalogue<Record> catalogue_;
     Database<Record>& database_;
 
 private:
+    std::optional<std::size_t> selected_entry() const;
     bool passes(const Record& record) const;
     void fill();
     void append(const Record& record);
@@ -93,9 +95,10 @@ private:
     std::vector<std::string> printed_row(const Record& record) const;
     std::function<void()> print_action(const std::shared_ptr<Record>& copy) const;
     std::string sort_path() const {
-        return data_folder_ + std::string(catalogue_.words.sort_files[static_cast<std::size_t>(side_)]);
+        const auto place = static_cast<std::size_t>(side());
+        return source_.data_folder + std::string(catalogue_.words.sort_files.at(place));
     }
-    std::string data_path() const { return find_data_file(data_folder_, catalogue_.words.data_file); }
+    std::string data_path() const { return find_data_file(source_.data_folder, catalogue_.words.data_file); }
 
     struct Merge {
         int changed = 0;
@@ -106,8 +109,7 @@ private:
     void merge(Record record, Merge& merge, Prompts& prompts);
     void finish_import(const Merge& merge, Prompts& prompts);
 
-    ListSide side_;
-    std::string data_folder_;
+    ListSource source_;
     Database<Record> saved_;
     SortState sort_;
     std::vector<std::size_t> shown_; ///< the entries in the list, row by row
@@ -123,7 +125,7 @@ void Store<Record>::open(Prompts& prompts) {
 template <class Record>
 void Store<Record>::reload(Prompts& prompts) {
     catalogue_.load(database_, prompts);
-    if (side_ == ListSide::maintenance) sort_canonically<Record>(entries(), catalogue_);
+    if (side() == ListSide::maintenance) sort_canonically<Record>(entries(), catalogue_);
     saved_ = database_;
 }
 
@@ -149,12 +151,12 @@ std::vector<std::string> Store<Record>::filter_labels() const {
 template <class Record>
 std::string Store<Record>::caption() const {
     const auto& chosen = catalogue_.filters[static_cast<std::size_t>(filter)];
-    return side_ == ListSide::pick ? chosen.pick_caption : chosen.maintenance_caption;
+    return side() == ListSide::pick ? chosen.pick_caption : chosen.maintenance_caption;
 }
 
 template <class Record>
 std::string_view Store<Record>::dialog_template() const {
-    return side_ == ListSide::pick ? catalogue_.words.pick_template : catalogue_.words.maintenance_template;
+    return side() == ListSide::pick ? catalogue_.words.pick_template : catalogue_.words.maintenance_template;
 }
 
 template <class Record>
@@ -213,6 +215,13 @@ std::optional<std::size_t> Store<Record>::selected_entry() const {
     const auto all = database_.entries();
     const auto found = std::find_if(all.begin(), all.end(), reads_the_same);
     return static_cast<std::size_t>(found - all.begin());
+}
+
+template <class Record>
+std::optional<Record> Store<Record>::selected_record() const {
+    const auto index = selected_entry();
+    if (!index) return std::nullopt;
+    return database_.slots[*index];
 }
 
 template <class Record>
@@ -342,7 +351,8 @@ void Store<Record>::delete_entry(Prompts& prompts) {
 template <class Record>
 void Store<Record>::import(Files& files, Prompts& prompts) {
     const auto& words = catalogue_.words;
-    const auto path = files.choose_to_open({words.import_filter, data_folder_, {}, words.import_extension});
+    const auto path =
+        files.choose_to_open({words.import_filter, source_.data_folder, {}, words.import_extension});
     if (path) import_file(*path, prompts);
 }
 
@@ -405,7 +415,7 @@ void Store<Record>::finish_import(const Merge& merge, Prompts& prompts) {
     }
     if (merge.changed > 0) {
         if (const auto old = read_file(data_path())) save_atomically(data_path() + ".bak", *old);
-        if (write(prompts)) prompts.tell({.text = imported, .icon = Icon::information});
+        if (write(prompts)) prompts.tell({.text = data_imported, .icon = Icon::information});
     }
     show_again();
 }
@@ -435,7 +445,7 @@ void Store<Record>::save(Prompts& prompts) {
 
 template <class Record>
 bool Store<Record>::close(Prompts& prompts) {
-    if (side_ == ListSide::maintenance && is_changed()) {
+    if (side() == ListSide::maintenance && is_changed()) {
         const bool wants_save = prompts.ask_yes_no({.text = catalogue_.words.closing_question,
                                                     .icon = Icon::warning}) == Answer::yes;
         if (wants_save && !write(prompts)) {

@@ -1,3 +1,4 @@
+#include "databases/catalogues.h"
 #include "databases/styles.h"
 #include "measures/units.h"
 
@@ -53,7 +54,7 @@ std::vector<std::string> style_row(const StyleRecord& style) {
 } // namespace
 
 CataloguePages<StyleRecord> style_pages(const Settings& settings, StyleBook book) {
-    const std::string name = book == StyleBook::aha ? "AHA" : "BJCP";
+    const auto name = style_book_name(book);
     return {.list_titles = {"Wortlex Style List - AHA Styles", "Wortlex Style List - BJCP Styles"},
             .stops = {55, 130, 355},
             .heads = {name + "#\tType\tCategory\tSub-Catergory"},

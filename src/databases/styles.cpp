@@ -1,25 +1,9 @@
 #include "databases/styles.h"
 
+#include "databases/catalogues.h"
+
 namespace wortlex {
 namespace {
-
-constexpr std::string_view nothing_changed = "No changes have been made in the Styles Database!";
-
-std::string book_name(StyleBook book) {
-    return book == StyleBook::aha ? "AHA" : "BJCP";
-}
-
-std::string switch_question(StyleBook book) {
-    const auto name = book_name(book);
-    return "You have made changes to the Style Guidlines Database!\nThese guidlines adhere to " + name +
-           " guidlines and changing them may affect validity.\nAre you sure you want to save the changes?";
-}
-
-std::string save_question(StyleBook book) {
-    const std::string name = book == StyleBook::aha ? "the pre-2000 AHA" : "BJCP";
-    return "You have made changes to the Style Guidelines Database!\nThese guidelines adhere to " + name +
-           " guidelines and changing them may affect validity.\nAre you sure you want to save the changes?";
-}
 
 constexpr CatalogueWords aha_words = {
     .import_filter = "AHA Style Import File (*.asim)|*.asim",
@@ -54,7 +38,7 @@ CatalogueWords words_of(StyleBook book) {
 }
 
 CatalogueFilter<StyleRecord> set_of(StyleBook book, std::string label) {
-    const auto styles = book_name(book) + " Styles";
+    const auto styles = style_book_name(book) + " Styles";
     return {std::move(label), "Style Database Maintenance - " + styles, "Style Pick - " + styles, nullptr};
 }
 
@@ -73,6 +57,10 @@ bool is_same_style(const StyleRecord& a, const StyleRecord& b) {
 
 } // namespace
 
+std::string style_book_name(StyleBook book) {
+    return book == StyleBook::aha ? "AHA" : "BJCP";
+}
+
 std::string style_number(const StyleRecord& style) {
     const std::string letter = style.letter == '\0' ? "?" : std::string(1, style.letter);
     return formatted("%02d", style.number) + "-" + utf8_from_windows1252(letter);
@@ -90,7 +78,7 @@ Catalogue<StyleRecord> style_catalogue(const Settings& settings, const std::stri
     const bool bjcp = book == StyleBook::bjcp;
     Catalogue<StyleRecord> styles;
     styles.words = words_of(book);
-    styles.columns = {Style::words(book_name(book) + "\n#", 6, style_number),
+    styles.columns = {Style::words(style_book_name(book) + "\n#", 6, style_number),
                       Style::text("Category", 26, &StyleRecord::category),
                       Style::text("Sub-Category", 30, &StyleRecord::name).stretched(),
                       Style::words("Type", 10, style_type_word)};
@@ -120,48 +108,6 @@ Catalogue<StyleRecord> style_catalogue(const Settings& settings, const std::stri
         return SaveStyles(data_folder, bjcp, from);
     };
     return styles;
-}
-
-StyleStore::StyleStore(Settings& settings, ListSide side, const std::string& data_folder,
-                       Database<StyleRecord>& database)
-    : Store(style_catalogue(settings, data_folder, settings.style_book), side, data_folder, database),
-      settings_(settings), book_(settings.style_book) {
-    take(book_);
-}
-
-// A damaged setting counts as the second set.
-void StyleStore::take(StyleBook book) {
-    book_ = book == StyleBook::aha ? book : StyleBook::bjcp;
-    filter = static_cast<std::int32_t>(book_);
-    catalogue_ = style_catalogue(settings_, data_folder(), book_);
-    if (side() == ListSide::maintenance) settings_.style_book = book_;
-}
-
-void StyleStore::open(Prompts& prompts) {
-    take(static_cast<StyleBook>(filter));
-    Store::open(prompts);
-}
-
-void StyleStore::choose_filter(std::int32_t chosen, Prompts& prompts) {
-    const auto book = static_cast<StyleBook>(chosen);
-    if (book == book_) return;
-    if (side() == ListSide::maintenance && is_changed()) {
-        const auto question = switch_question(book_);
-        const bool wants_save = prompts.ask_yes_no({.text = question, .icon = Icon::warning}) == Answer::yes;
-        if (wants_save && !write(prompts)) return show_again();
-    }
-    take(book);
-    reload(prompts);
-    show_again();
-}
-
-void StyleStore::save(Prompts& prompts) {
-    const auto question = save_question(book_);
-    if (!is_changed())
-        prompts.tell({.text = nothing_changed, .icon = Icon::information});
-    else if (prompts.ask_yes_no({.text = question, .icon = Icon::warning}) == Answer::yes)
-        write(prompts);
-    show_again();
 }
 
 } // namespace wortlex

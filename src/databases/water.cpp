@@ -1,6 +1,8 @@
 #include "databases/water.h"
 
 #include "base/windows1252.h"
+#include "databases/catalogues.h"
+#include "databases/store.h"
 #include "databases/water_hardness.h"
 
 #include <algorithm>
@@ -131,6 +133,16 @@ Catalogue<WaterRecord> water_catalogue(const Settings& /*settings*/, const std::
     };
     waters.save = [data_folder](const Database<WaterRecord>& from) { return SaveWater(data_folder, from); };
     return waters;
+}
+
+std::unique_ptr<RecordList<WaterRecord>> water_list(const ListSource& source, Database<WaterRecord>& waters) {
+    return water_list(source, waters, {});
+}
+
+std::unique_ptr<RecordList<WaterRecord>> water_list(const ListSource& source, Database<WaterRecord>& waters,
+                                                    const WaterConverters& converters) {
+    return std::make_unique<Store<WaterRecord>>(
+        water_catalogue(source.settings, source.data_folder, converters), source, waters);
 }
 
 } // namespace wortlex

@@ -1,7 +1,7 @@
 // The database of waters. It keeps no stock, and has no kinds to choose from.
 #pragma once
 
-#include "databases/catalogue.h"
+#include "databases/ingredient_list.h"
 
 namespace wortlex {
 
@@ -13,12 +13,12 @@ struct WaterConverters {
     std::function<void(WaterRecord&)> alkalinity;
 };
 
-Catalogue<WaterRecord> water_catalogue(const Settings& settings, const std::string& data_folder,
-                                       const WaterConverters& converters);
+/// `converters` serve the entry dialog; a pick needs none.
+std::unique_ptr<RecordList<WaterRecord>> water_list(const ListSource& source, Database<WaterRecord>& waters);
+std::unique_ptr<RecordList<WaterRecord>> water_list(const ListSource& source, Database<WaterRecord>& waters,
+                                                    const WaterConverters& converters);
 
 /// The entry dialog of a water.
 void water_entry_form(Form& form, WaterRecord& water, const WaterConverters& converters);
-
-CataloguePages<WaterRecord> water_pages();
 
 } // namespace wortlex

@@ -1,4 +1,4 @@
-#include "databases/water.h"
+#include "databases/catalogues.h"
 
 namespace wortlex {
 namespace {

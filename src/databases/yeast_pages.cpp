@@ -1,3 +1,4 @@
+#include "databases/catalogues.h"
 #include "databases/yeasts.h"
 #include "measures/units.h"
 

@@ -1,6 +1,8 @@
 #include "databases/yeasts.h"
 
 #include "base/windows1252.h"
+#include "databases/catalogues.h"
+#include "databases/store.h"
 #include "measures/units.h"
 
 #include <algorithm>
@@ -177,6 +179,11 @@ Catalogue<YeastRecord> yeast_catalogue(const Settings& /*settings*/, const std::
     };
     yeasts.save = [data_folder](const Database<YeastRecord>& from) { return SaveYeasts(data_folder, from); };
     return yeasts;
+}
+
+std::unique_ptr<RecordList<YeastRecord>> yeast_list(const ListSource& source, Database<YeastRecord>& yeasts) {
+    return std::make_unique<Store<YeastRecord>>(yeast_catalogue(source.settings, source.data_folder), source,
+                                                yeasts);
 }
 
 } // namespace wortlex

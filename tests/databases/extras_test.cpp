@@ -1,6 +1,6 @@
 #include "databases/extras.h"
-#include "databases/sorting.h"
 #include "support/field.h"
+#include "support/listed.h"
 
 #include <gtest/gtest.h>
 
@@ -12,35 +12,37 @@ ExtraRecord extra(std::string_view name, ExtraType type, std::string_view use = 
 }
 
 TEST(ExtraList, NamesItsKindsAndSortsByThem) {
-    const auto catalogue = extra_catalogue(Settings(), "");
     const std::vector<std::pair<ExtraType, std::string>> kinds = {
         {ExtraType::spice, "Spice"},   {ExtraType::fruit, "Fruit"}, {ExtraType::coffee, "Coffee"},
         {ExtraType::fining, "Fining"}, {ExtraType::other, "Other"}, {ExtraType::herb, "Herb"}};
+    std::vector<ExtraRecord> one_of_each;
+    for (const auto& [kind, word] : kinds) one_of_each.push_back(extra(word, kind));
+    Listed each(SaveExtras, extra_list, one_of_each);
     for (std::size_t i = 0; i < kinds.size(); ++i) {
-        const auto& [kind, word] = kinds[i];
-        const auto& filter = catalogue.filters[i + 1];
-        EXPECT_EQ(catalogue.columns[1].cell(extra("", kind)), word);
-        EXPECT_TRUE(filter.passes(extra("", kind))) << word;
-        EXPECT_NE(filter.pick_caption.find(word), std::string::npos) << filter.pick_caption;
+        const auto& word = kinds[i].second;
+        each->choose_filter(static_cast<std::int32_t>(i) + 1, each.prompts);
+        EXPECT_EQ(each.column(0) + each.column(1), word + "|" + word + "|");
+        EXPECT_NE(each->caption().find(word), std::string::npos) << each->caption();
     }
-    auto strange = extra("", static_cast<ExtraType>(9));
+    each->new_entry(each.prompts)->form.accept();
+    EXPECT_EQ(each.column(1), "Herb|Other|") << "whatever the list shows";
+
+    auto strange = extra("c", static_cast<ExtraType>(9), "All");
     strange.amount_unit = static_cast<AmountUnit>(9);
-    EXPECT_EQ(catalogue.columns[1].cell(strange) + catalogue.stock.unit(strange), "");
-    EXPECT_EQ(catalogue.new_record(1).extra_type, ExtraType::other) << "whatever the list shows";
-    const std::vector extras = {extra("b", ExtraType::spice, "Wit"), extra("A", ExtraType::spice, "Wit"),
-                                extra("c", ExtraType::other, "All"), extra("a", ExtraType::herb, "Wit")};
-    const auto order = [&](std::size_t column) {
-        auto sorted = extras;
-        sort_by<ExtraRecord>(sorted, catalogue, column, std::vector<std::uint8_t>(4, 0));
-        std::string names;
-        for (const auto& record : sorted) names.append(record.name.view());
-        return names;
-    };
-    EXPECT_EQ(order(1), "acAb") << "Herb, Other, Spice";
-    EXPECT_EQ(order(2), "cAab") << "by use, then name";
-    EXPECT_FALSE(catalogue.is_same(extra("a", ExtraType::spice), extra("a", ExtraType::herb)))
-        << "one name, two types";
-    EXPECT_EQ(catalogue.exists_text(extras[0]), "b \nThis extra type already exists in the database!");
+    Listed extras(SaveExtras, extra_list,
+                  {extra("b", ExtraType::spice, "Wit"), extra("A", ExtraType::spice, "Wit"), strange,
+                   extra("a", ExtraType::herb, "Wit")});
+    extras->click(1);
+    EXPECT_EQ(extras.column(0) + extras->cell(0, 1), "c|a|A|b|") << "nothing, Herb, Spice";
+    EXPECT_NE(extras->inventory(extras.prompts), nullptr) << "without a word for its unit";
+    extras->click(2);
+    EXPECT_EQ(extras.column(0), "c|a|A|b|") << "by use, then name, whatever the case";
+    extras.import(extra("b", ExtraType::herb), extra_layout, "", "");
+    EXPECT_EQ(extras->shown_count(), 5U) << "one name, two types";
+    extras.import(extra("b", ExtraType::spice), extra_layout,
+                  "b \nThis extra type already exists in the database!",
+                  "Replacing the item will NOT overwrite your existing inventory amounts.\n\nDo you wish to "
+                  "replace this item?");
 }
 
 TEST(ExtraEntry, CutsTextsThatAreTooLongOnlyOnAccept) {

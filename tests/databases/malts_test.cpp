@@ -1,7 +1,7 @@
 #include "databases/malt_yields.h"
 #include "databases/malts.h"
-#include "databases/sorting.h"
 #include "support/field.h"
+#include "support/listed.h"
 
 #include <gtest/gtest.h>
 
@@ -27,37 +27,39 @@ MaltRecord pale() {
 TEST(MaltList, ShowsItsFiguresAsTheSettingsAsk) {
     Settings settings;
     settings.sg_precision = 1;
-    const auto sugar = malt("Sucrose", "", MaltType::sugar, 1.04621F, 0);
     const auto column = [&](std::size_t which) {
-        const auto shown = malt_catalogue(settings, "").columns[which];
-        return shown.caption + "|" + shown.cell(pale()) + "|" + shown.cell(sugar);
+        const Listed malts(SaveMalts, malt_list, {pale(), malt("Sucrose", "", MaltType::sugar, 1.04621F, 0)},
+                           settings);
+        return malts->heads()[which].caption() + "|" + malts.column(which);
     };
-    EXPECT_EQ(column(2), "Potential\n(SG pppg)| 1.0370| 1.0462");
+    EXPECT_EQ(column(2), "Potential\n(SG pppg)| 1.0370| 1.0462|");
     settings.potential_display = PotentialDisplay::percent_yield;
     settings.yield_type = YieldType::fine_as_is;
-    EXPECT_EQ(column(2), "Potential\n(% Yield - FAI)|   76.8|  100.0") << "sugar holds no moisture";
+    EXPECT_EQ(column(2), "Potential\n(% Yield - FAI)|   76.8|  100.0|") << "sugar holds no moisture";
     settings.color_units = ColorUnits::ebc_new;
-    EXPECT_EQ(column(3), "EBC\nColor|    6|    0");
-    EXPECT_EQ(column(4), "Kg\nIn Stock|   4.54|     --");
+    EXPECT_EQ(column(3), "EBC\nColor|    6|    0|");
+    EXPECT_EQ(column(4), "Kg\nIn Stock|   4.54|     --|");
 }
 
 TEST(MaltList, SortsByItsChainsAndKeepsWhatTheOwnerMeasured) {
-    const Settings settings;
-    const auto malts = malt_catalogue(settings, "");
-    std::vector entries = {malt("Wheat", "DE", MaltType::grain, 1.039F, 2),
-                           malt("Oats", "UK", MaltType::other, 1.033F, 2),
-                           malt("Wheat", "BE", MaltType::extract, 1.036F, 4)};
+    Listed malts(SaveMalts, malt_list,
+                 {malt("Wheat", "DE", MaltType::grain, 1.039F, 2),
+                  malt("Oats", "UK", MaltType::other, 1.033F, 2),
+                  malt("Wheat", "BE", MaltType::extract, 1.036F, 4), pale()});
     const auto origins = [&](std::size_t column) {
-        sort_by<MaltRecord>(entries, malts, column, {0, 0, 0, 0, 0});
-        std::string list;
-        for (const auto& entry : entries) list += entry.origin.view();
-        return list;
+        malts->click(column);
+        return malts.column(1);
     };
-    EXPECT_EQ(std::tuple(origins(3), origins(0), origins(2)), std::tuple("UKDEBE", "UKBEDE", "UKBEDE"));
-    auto fresh = malt("Pale", "UK", MaltType::other, 1.02F, 99);
-    EXPECT_TRUE(malts.is_same(fresh, pale()) && malts.filters[4].passes(fresh));
-    malts.keep(fresh, pale());
-    EXPECT_EQ(std::tuple(fresh.potential, fresh.colour, fresh.stock, fresh.fine_yield),
+    EXPECT_EQ(std::tuple(origins(3), origins(0), origins(2)),
+              std::tuple("UK|DE|UK|BE|", "UK|UK|BE|DE|", "UK|BE|UK|DE|"));
+    malts.import(malt("Pale", "UK", MaltType::other, 1.02F, 99), malt_layout,
+                 "Pale UK\nThis Malt type already exists in the database!",
+                 "Replacing the item will NOT overwrite your existing inventory amounts, Gravity or Color "
+                 "settings.\n\nDo you wish to replace this item?");
+    malts->choose_filter(4, malts.prompts);
+    malts->selected = static_cast<std::int32_t>(malts->shown_count()) - 1;
+    const auto kept = *malts->selected_record();
+    EXPECT_EQ(std::tuple(kept.potential, kept.colour, kept.stock, kept.fine_yield),
               std::tuple(1.036968F, 3.0F, 10.0F, 0.0F));
 }
 

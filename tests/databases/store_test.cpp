@@ -1,9 +1,7 @@
-#include "base/ports/quiet_prompts.h"
 #include "databases/hops.h"
-#include "databases/store.h"
-#include "support/desk.h"
+#include "databases/messages.h"
 #include "support/field.h"
-#include "support/temporary_folder.h"
+#include "support/listed.h"
 
 #include <gtest/gtest.h>
 
@@ -19,60 +17,40 @@ HopRecord hop(std::string_view name, std::string_view origin, float alpha, HopFo
     return record;
 }
 
-// A hop list over a file of its own.
-struct Hops {
-    TemporaryFolder folder;
-    Settings settings;
-    ScriptedPrompts prompts;
-    Database<HopRecord> database;
-    Store<HopRecord> store;
+constexpr std::string_view clone_warning =
+    "Cloning may cause problems with inventory if either the Name, Origin or Form is not changed to reflect "
+    "a unique entry. Additionally, cloning may cause problems with selecting items if either the Name, "
+    "Origin, Alpha or Form is not changed to reflect a unique entry. You may change any of these items after "
+    "the cloning process.\n\nDo you really want to clone this entry?";
 
-    explicit Hops(const std::vector<HopRecord>& entries, ListSide side = ListSide::maintenance)
-        : store(hop_catalogue(settings, folder.path()), side, folder.path(), database) {
+struct Hops : Listed<HopRecord> {
+    explicit Hops(const std::vector<HopRecord>& entries) : Listed(SaveHops, hop_list, entries, american()) {}
+    static Settings american() {
+        Settings settings;
         settings.hop_weight_units = Units::american;
-        write(entries);
-        store.open(prompts);
-    }
-    void write(const std::vector<HopRecord>& entries) const {
-        Database<HopRecord> file;
-        file.count = static_cast<std::int32_t>(entries.size());
-        std::copy(entries.begin(), entries.end(), file.slots.begin());
-        EXPECT_TRUE(SaveHops(folder.path(), file));
+        return settings;
     }
     Bytes file() const { return *read_file(folder / "HOPS.DAT"); }
-    std::string names() const {
-        std::string list;
-        for (std::size_t row = 0; row < store.shown_count(); ++row) list += store.cell(row, 0) + " ";
-        return list;
-    }
-    std::string transfer(const std::vector<HopRecord>& records, std::size_t cut = 0) const {
-        Bytes bytes;
-        for (const auto& record : records) append(bytes, record, hop_layout);
-        bytes.resize(bytes.size() - cut);
-        save_atomically(folder / "new.him", bytes);
-        return folder / "new.him";
-    }
 };
 
 TEST(StoreSorting, ChainsKeysEachInItsOwnDirection) {
     Hops hops({hop("b", "US", 5), hop("A", "UK", 5), hop("a", "US", 3), hop("c", "UK", std::nanf("")),
                hop("B", "UK", 9)});
-    EXPECT_EQ(hops.names(), "A a B b c ") << "by name, then origin, whatever the case";
-    hops.store.click(2);
-    EXPECT_EQ(hops.names(), "a A b B c ") << "by alpha, then name";
-    hops.store.click(2);
-    EXPECT_EQ(hops.names(), "B A b a c ") << "downwards, the name still upwards, and no number last";
-    hops.store.click(1);
-    hops.store.click(1);
-    EXPECT_EQ(hops.names(), "a b A B c ") << "origin downwards, then name";
-    EXPECT_TRUE(hops.store.close(hops.prompts)) << "an order is no change";
+    EXPECT_EQ(hops.column(0), "A|a|B|b|c|") << "by name, then origin, whatever the case";
+    hops->click(2);
+    EXPECT_EQ(hops.column(0), "a|A|b|B|c|") << "by alpha, then name";
+    hops->click(2);
+    EXPECT_EQ(hops.column(0), "B|A|b|a|c|") << "downwards, the name still upwards, and no number last";
+    hops->click(1);
+    hops->click(1);
+    EXPECT_EQ(hops.column(0), "a|b|A|B|c|") << "origin downwards, then name";
+    EXPECT_TRUE(hops->close(hops.prompts)) << "an order is no change";
     EXPECT_EQ(*read_file(hops.folder / "hsort1.srt"),
               (Bytes{{}, std::byte{1}, {}, {}, {}, {}, std::byte{1}}));
     Database<HopRecord> again;
-    Store<HopRecord> reopened(hop_catalogue(hops.settings, hops.folder.path()), ListSide::maintenance,
-                              hops.folder.path(), again);
-    reopened.open(hops.prompts);
-    EXPECT_EQ(reopened.cell(0, 0) + reopened.cell(2, 0), "aA") << "as it was left";
+    const auto reopened = hop_list({ListSide::maintenance, hops.settings, hops.folder.path()}, again);
+    reopened->open(hops.prompts);
+    EXPECT_EQ(reopened->cell(0, 0) + reopened->cell(2, 0), "aA") << "as it was left";
 }
 
 TEST(Store, FiltersAndFormatsItsRows) {
@@ -80,70 +58,64 @@ TEST(Store, FiltersAndFormatsItsRows) {
     stocked.stock = 0.001F;
     stocked.usage = HopUsage::both;
     Hops hops({hop("Saaz", "CZ", 3, HopForm::pellet), stocked});
-    EXPECT_EQ(hops.store.caption(), "Hop Database Maintenance - All Hops");
-    hops.store.choose_filter(2, hops.prompts);
-    EXPECT_EQ(hops.names(), "Fuggle ");
-    EXPECT_EQ(hops.store.caption(), "Hop Database Maintenance - Plug Hops");
-    hops.store.choose_filter(0, hops.prompts);
-    hops.store.show_only_in_stock(true);
-    EXPECT_EQ(hops.names(), "Fuggle ") << "a thousandth of an ounce is stock";
-    const auto row = [&](std::size_t at) {
-        std::string text;
-        for (std::size_t column = 0; column < 6; ++column) text += hops.store.cell(at, column) + "|";
-        return text;
-    };
-    EXPECT_EQ(row(0), "Fuggle|UK|   4.50|Bittering/Aroma|   0.00|Plug|");
-    hops.store.show_only_in_stock(false);
-    EXPECT_EQ(row(1), "Saaz|CZ|   3.00||     --|Pellet|");
+    EXPECT_EQ(hops->caption(), "Hop Database Maintenance - All Hops");
+    hops->choose_filter(2, hops.prompts);
+    EXPECT_EQ(hops.column(0), "Fuggle|");
+    EXPECT_EQ(hops->caption(), "Hop Database Maintenance - Plug Hops");
+    hops->choose_filter(0, hops.prompts);
+    hops->show_only_in_stock(true);
+    EXPECT_EQ(hops.column(0), "Fuggle|") << "a thousandth of an ounce is stock";
+    EXPECT_EQ(hops.row(0), "Fuggle|UK|   4.50|Bittering/Aroma|   0.00|Plug|");
+    hops->show_only_in_stock(false);
+    EXPECT_EQ(hops.row(1), "Saaz|CZ|   3.00||     --|Pellet|");
 }
 
 TEST(Store, AddsClonesAndDeletes) {
     Hops hops({hop("Saaz", "CZ", 3)});
-    hops.store.filter = 3;
-    auto entry = hops.store.new_entry(hops.prompts);
+    hops->filter = 3;
+    auto entry = hops->new_entry(hops.prompts);
     PlainField field("Admiral");
     entry->form.type(dynamic_cast<EntryRow&>(entry->form.row("name")), field);
     EXPECT_EQ(hops.database.count, 1) << "nothing is stored before OK";
     entry->form.accept();
-    EXPECT_EQ(hops.names(), "Saaz Admiral ") << "unsorted until a column is clicked";
-    EXPECT_EQ(std::pair(form(hops.database.slots[1]), hops.store.selected), std::pair(HopForm::pellet, 1));
-    hops.prompts.expect("yes/no", std::string(hop_catalogue(hops.settings, "").words.clone_warning),
-                        Answer::yes, Icon::warning);
-    hops.store.clone_entry(hops.prompts);
+    EXPECT_EQ(hops.column(0), "Saaz|Admiral|") << "unsorted until a column is clicked";
+    EXPECT_EQ(std::pair(form(hops.database.slots[1]), hops->selected), std::pair(HopForm::pellet, 1));
+    hops.prompts.expect("yes/no", std::string(clone_warning), Answer::yes, Icon::warning);
+    hops->clone_entry(hops.prompts);
     hops.prompts.expect("yes/no", "Do you really want to delete the\n\nAdmiral\n\nentry?", Answer::yes,
                         Icon::question);
-    hops.store.delete_entry(hops.prompts);
-    EXPECT_EQ(hops.names(), "Saaz Admiral ");
-    EXPECT_EQ(hops.store.selected, 1);
+    hops->delete_entry(hops.prompts);
+    EXPECT_EQ(hops.column(0), "Saaz|Admiral|");
+    EXPECT_EQ(hops->selected, 1);
     EXPECT_EQ(hops.database.slots[2].name.view(), "Admiral")
         << "the free slot keeps a copy of the last entry";
     hops.database.count = 244;
     hops.prompts.expect_tell(std::string(no_room), Icon::warning);
-    EXPECT_EQ(hops.store.new_entry(hops.prompts), nullptr);
+    EXPECT_EQ(hops->new_entry(hops.prompts), nullptr);
     hops.database.count = 2;
     hops.prompts.expect("yes/no", "The hop database has been modified!\nDo you want to save the changes?",
                         Answer::no, Icon::warning);
-    EXPECT_TRUE(hops.store.close(hops.prompts));
+    EXPECT_TRUE(hops->close(hops.prompts));
     EXPECT_EQ(hops.database.count, 1) << "No reloads the file";
 }
 
 TEST(Store, EmptyDatabaseDoesNoHarm) {
     Hops hops({});
-    EXPECT_EQ(hops.store.edit_entry(), nullptr);
-    EXPECT_EQ(hops.store.inventory(hops.prompts), nullptr);
-    hops.store.delete_entry(hops.prompts);
+    EXPECT_EQ(hops->edit_entry(), nullptr);
+    EXPECT_EQ(hops->inventory(hops.prompts), nullptr);
+    hops->delete_entry(hops.prompts);
     hops.prompts.expect_tell("There is no entry selected to clone!", Icon::information);
-    hops.store.clone_entry(hops.prompts);
-    EXPECT_TRUE(hops.store.close(hops.prompts));
+    hops->clone_entry(hops.prompts);
+    EXPECT_TRUE(hops->close(hops.prompts));
 }
 
 TEST(Store, EntriesThatReadTheSameMeanTheFirst) {
     auto second = hop("Fuggle", "UK", 4.501F); // reads as 4.50 too
     second.stock = 7;
     Hops hops({hop("Fuggle", "UK", 4.5F), second});
-    hops.store.selected = 1;
-    EXPECT_EQ(hops.store.selected_entry(), 0U);
-    auto entry = hops.store.inventory(hops.prompts);
+    hops->selected = 1;
+    EXPECT_EQ(hops->selected_record()->stock, 0.0F);
+    auto entry = hops->inventory(hops.prompts);
     PlainField field("2.5");
     entry->form.type(dynamic_cast<EntryRow&>(entry->form.row("amount")), field);
     entry->form.accept();
@@ -155,14 +127,14 @@ TEST(StoreInventory, SubtractsDownToNothing) {
     auto stocked = hop("Fuggle", "UK", 4.5F);
     stocked.stock = 3;
     Hops hops({stocked});
-    auto entry = hops.store.inventory(hops.prompts);
+    auto entry = hops->inventory(hops.prompts);
     PlainField field("5");
     entry->form.type(dynamic_cast<EntryRow&>(entry->form.row("amount")), field);
     entry->form.choose(dynamic_cast<ChoiceRow&>(entry->form.row("change")), 1);
     entry->form.accept();
     EXPECT_EQ(hops.database.slots[0].stock, 0.0F);
     hops.database.slots[0].stock = 3;
-    entry = hops.store.inventory(hops.prompts);
+    entry = hops->inventory(hops.prompts);
     hops.prompts.expect("yes/no", std::string(set_to_zero), Answer::yes, Icon::question);
     dynamic_cast<ButtonRow&>(entry->form.row("set_to_zero")).press();
     EXPECT_EQ(hops.database.slots[0].stock, 3.0F) << "Cancel would leave it";
@@ -178,44 +150,43 @@ TEST(StoreImport, ReplacesKeepsAndAppends) {
     auto saaz = hop("Saaz", "CZ", 9, HopForm::plug), fresh = hop("Ella", "AU", 15);
     saaz.stock = fresh.stock = 99;
     saaz.tastes.assign("spicy");
-    const auto question = "Saaz\nThis Hop type already exists in the database!" +
-                          std::string(hop_catalogue(hops.settings, "").words.replace_warning);
-    const auto path = hops.transfer({saaz, fresh, hop("Cut", "off", 1)}, 1);
+    const auto path = hops.transfer({saaz, fresh, hop("Cut", "off", 1)}, hop_layout, 1);
     const auto expect_question = [&](ReplaceAnswer answer) {
         hops.prompts.expect("replace", "Saaz\nThis Hop type already exists in the database!", answer, {},
-                            std::string(hop_catalogue(hops.settings, "").words.replace_warning));
+                            "Replacing the item will NOT overwrite your existing inventory amounts or "
+                            "Alpha/Beta acid levels.\n\nDo you wish to replace this item?");
     };
     const auto before = hops.file();
     expect_question(ReplaceAnswer::cancel);
-    hops.store.import_file(path, hops.prompts);
+    hops->import_file(path, hops.prompts);
     EXPECT_EQ(hops.file(), before) << "Cancel saves nothing";
     expect_question(ReplaceAnswer::yes);
     hops.prompts.expect_tell("Data Successfully Imported!", Icon::information);
-    hops.store.import_file(path, hops.prompts);
-    EXPECT_EQ(hops.names(), "Ella Fuggle Saaz ");
+    hops->import_file(path, hops.prompts);
+    EXPECT_EQ(hops.column(0), "Ella|Fuggle|Saaz|");
     const auto& replaced = hops.database.slots[2];
     EXPECT_EQ(std::tuple(replaced.alpha, replaced.beta, replaced.stock, form(replaced)),
               std::tuple(3.0F, 4.0F, 12.0F, HopForm::plug));
     EXPECT_EQ(replaced.tastes.view(), "spicy");
     EXPECT_EQ(hops.database.slots[0].stock, 0.0F) << "what is new comes without stock";
     EXPECT_EQ(*read_file(hops.folder / "HOPS.DAT.bak"), before);
-    EXPECT_TRUE(hops.store.close(hops.prompts)) << "saved already";
+    EXPECT_TRUE(hops->close(hops.prompts)) << "saved already";
 }
 
 TEST(StoreImport, RefusesWhatIsNoDatabaseAndStopsAtTheLimit) {
     Hops hops({hop("Saaz", "CZ", 3)});
     save_atomically(hops.folder / "noise.him", Bytes(614 * 5, std::byte{0xEE}));
     hops.prompts.expect_tell("noise.him holds nothing that this database could take.", Icon::error);
-    hops.store.import_file(hops.folder / "noise.him", hops.prompts);
+    hops->import_file(hops.folder / "noise.him", hops.prompts);
     hops.prompts.expect_tell("File Not Found!", Icon::error);
-    hops.store.import_file(hops.folder / "gone.him", hops.prompts);
+    hops->import_file(hops.folder / "gone.him", hops.prompts);
     std::vector<HopRecord> many;
     for (int i = 0; i < 10000; ++i) many.push_back(hop("Hop " + std::to_string(i), "", 1));
     many[3].alpha = std::nanf("");
     hops.prompts.expect_tell("1 entry of the file is damaged and left out.", Icon::warning);
     hops.prompts.expect_tell("The Hop Database is Full!\n\n9001 entries were left out.", Icon::warning);
     hops.prompts.expect_tell("Data Successfully Imported!", Icon::information);
-    hops.store.import_file(hops.transfer(many), hops.prompts);
+    hops->import_file(hops.transfer(many, hop_layout), hops.prompts);
     EXPECT_EQ(hops.database.count, 999);
 }
 

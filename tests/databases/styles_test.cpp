@@ -36,10 +36,10 @@ struct Styles {
         std::copy(entries.begin(), entries.end(), database.slots.begin());
         EXPECT_TRUE(SaveStyles(folder.path(), bjcp, database));
     }
-    StyleStore open(ListSide side) {
-        StyleStore store(settings, side, folder.path(), database);
-        store.open(prompts);
-        return store;
+    std::unique_ptr<RecordList<StyleRecord>> open(ListSide side) {
+        auto list = style_list({side, settings, folder.path()}, database);
+        list->open(prompts);
+        return list;
     }
     void expect_question(const std::string& text, Answer answer) {
         prompts.expect("yes/no", "You have made changes to the Style " + text, answer, Icon::warning);
@@ -52,15 +52,15 @@ struct Styles {
     }
 };
 
-std::string column(const StyleStore& store, std::size_t which) {
-    std::string list;
-    for (std::size_t row = 0; row < store.shown_count(); ++row) list += store.cell(row, which) + "|";
-    return list;
+std::string column_of(const IngredientList& list, std::size_t which) {
+    std::string cells;
+    for (std::size_t row = 0; row < list.shown_count(); ++row) cells += list.cell(row, which) + "|";
+    return cells;
 }
 
-void rename_first(StyleStore& store) {
-    store.selected = 0;
-    const auto entry = store.edit_entry();
+void rename_first(IngredientList& list) {
+    list.selected = 0;
+    const auto entry = list.edit_entry();
     PlainField field("Renamed");
     entry->form.type(dynamic_cast<EntryRow&>(entry->form.row("name")), field);
     entry->form.accept();
@@ -68,52 +68,53 @@ void rename_first(StyleStore& store) {
 
 TEST(StyleList, NumbersAndSorts) {
     Styles styles;
-    auto store = styles.open(ListSide::maintenance);
-    EXPECT_EQ(column(store, 0), "02-?|02-A|10-B|") << "sorted as it reads";
-    EXPECT_EQ(column(store, 3), "N/A|Lager|Ale|");
-    store.click(2);
-    EXPECT_EQ(column(store, 2), "Dry Stout|Helles|Other|");
+    const auto list = styles.open(ListSide::maintenance);
+    EXPECT_EQ(column_of(*list, 0), "02-?|02-A|10-B|") << "sorted as it reads";
+    EXPECT_EQ(column_of(*list, 3), "N/A|Lager|Ale|");
+    list->click(2);
+    EXPECT_EQ(column_of(*list, 2), "Dry Stout|Helles|Other|");
     styles.prompts.expect("yes/no", "Do you really want to delete the\n\nStout\nDry Stout\n\nentry?",
                           Answer::no, Icon::question);
-    store.delete_entry(styles.prompts);
+    list->delete_entry(styles.prompts);
 }
 
 TEST(StyleList, SwitchesTheSetInForce) {
     Styles styles;
-    auto store = styles.open(ListSide::maintenance);
-    rename_first(store);
+    const auto list = styles.open(ListSide::maintenance);
+    rename_first(*list);
     styles.expect_switch("AHA", Answer::no);
-    store.choose_filter(1, styles.prompts);
+    list->choose_filter(1, styles.prompts);
     EXPECT_EQ(styles.settings.style_book, StyleBook::bjcp);
-    EXPECT_EQ(store.heads()[0].caption() + column(store, 3), "BJCP\n#Sake|Cider|");
-    EXPECT_EQ(store.edit_entry()->caption, 1U);
-    rename_first(store);
+    EXPECT_EQ(list->heads()[0].caption() + column_of(*list, 3), "BJCP\n#Sake|Cider|");
+    EXPECT_EQ(list->edit_entry()->caption, 1U);
+    rename_first(*list);
     styles.expect_switch("BJCP", Answer::yes);
-    store.choose_filter(0, styles.prompts);
-    EXPECT_EQ(column(store, 2), "Other|Helles|Dry Stout|") << "No dropped the change";
-    auto pick = styles.open(ListSide::pick);
-    pick.choose_filter(1, styles.prompts);
-    EXPECT_EQ(pick.caption() + column(pick, 2), "Style Pick - BJCP StylesRenamed|Common|");
+    list->choose_filter(0, styles.prompts);
+    EXPECT_EQ(column_of(*list, 2), "Other|Helles|Dry Stout|") << "No dropped the change";
+    const auto pick = styles.open(ListSide::pick);
+    pick->choose_filter(1, styles.prompts);
+    EXPECT_EQ(pick->caption() + column_of(*pick, 2), "Style Pick - BJCP StylesRenamed|Common|");
+    EXPECT_EQ(pick->selected_record()->book, 1);
     EXPECT_EQ(styles.settings.style_book, StyleBook::aha) << "until the style is taken";
 }
 
 TEST(StyleList, WarnsBeforeItSaves) {
     Styles styles;
-    auto store = styles.open(ListSide::maintenance);
+    const auto list = styles.open(ListSide::maintenance);
     styles.prompts.expect_tell("No changes have been made in the Styles Database!", Icon::information);
-    store.save(styles.prompts);
-    rename_first(store);
+    list->save(styles.prompts);
+    rename_first(*list);
     styles.expect_question(
         "Guidelines Database!\nThese guidelines adhere to the pre-2000 AHA guidelines and changing "
         "them may affect validity.\nAre you sure you want to save the changes?",
         Answer::no);
-    store.save(styles.prompts);
+    list->save(styles.prompts);
     styles.expect_question(
         "Guidlines Database!\nExiting now will not save the changes made.\nThese guidlines adhere "
         "to AHA guidlines and changing them may affect validity.\nDo you want to save the changes?",
         Answer::yes);
-    EXPECT_TRUE(store.close(styles.prompts)) << "No left the change as it was";
-    EXPECT_EQ(column(styles.open(ListSide::pick), 2), "Renamed|Helles|Dry Stout|");
+    EXPECT_TRUE(list->close(styles.prompts)) << "No left the change as it was";
+    EXPECT_EQ(column_of(*styles.open(ListSide::pick), 2), "Renamed|Helles|Dry Stout|");
 }
 
 TEST(StyleEntry, DragsByArrowsAloneAndKeepsItsColours) {

@@ -1,9 +1,7 @@
-#include "databases/store.h"
 #include "databases/water.h"
 #include "databases/water_hardness.h"
-#include "support/desk.h"
 #include "support/field.h"
-#include "support/temporary_folder.h"
+#include "support/listed.h"
 
 #include <gtest/gtest.h>
 
@@ -16,27 +14,21 @@ void type(Form& form, const char* key, const char* text) {
 }
 
 TEST(WaterList, WorksOnTheResidentArray) {
-    const TemporaryFolder folder;
-    ScriptedPrompts prompts;
-    Database<WaterRecord> resident{.count = 2};
-    resident.slots[0] = {.name = Text<27>("pilsen"), .known_for = {}};
-    resident.slots[1] = {
-        .name = Text<27>("Pilsen"), .magnesium = 2.25F, .bicarbonate = 1234.5F, .known_for = {}};
-    ASSERT_TRUE(SaveWater(folder.path(), resident));
-    Store<WaterRecord> store(water_catalogue(Settings(), folder.path(), {}), ListSide::maintenance,
-                             folder.path(), resident);
-    store.open(prompts);
-    EXPECT_EQ(store.cell(1, 2) + " " + store.cell(1, 3) + " " + store.cell(1, 6), "0002.2 0000.0 1234.5");
-    store.selected = 1;
-    EXPECT_EQ(store.selected_entry(), 1U) << "capitals tell two entries apart";
-    const auto entry = store.new_entry(prompts);
+    Listed<WaterRecord> waters(
+        SaveWater, water_list,
+        {{.name = Text<27>("pilsen"), .known_for = {}},
+         {.name = Text<27>("Pilsen"), .magnesium = 2.25F, .bicarbonate = 1234.5F, .known_for = {}}});
+    EXPECT_EQ(waters.row(1), "Pilsen|0000.0|0002.2|0000.0|0000.0|0000.0|1234.5|");
+    waters->selected = 1;
+    EXPECT_EQ(waters->selected_record()->magnesium, 2.25F) << "capitals tell two entries apart";
+    const auto entry = waters->new_entry(waters.prompts);
     EXPECT_FALSE(dynamic_cast<ButtonRow&>(entry->form.row("from_alkalinity")).press) << "no converter";
     type(entry->form, "name", "Burton");
     entry->form.accept();
-    prompts.expect("yes/no", "The water database has been modified!\nDo you want to save the changes?",
-                   Answer::no, Icon::warning);
-    EXPECT_TRUE(store.close(prompts));
-    EXPECT_EQ(resident.count, 2) << "No reads the file again";
+    waters.prompts.expect("yes/no", "The water database has been modified!\nDo you want to save the changes?",
+                          Answer::no, Icon::warning);
+    EXPECT_TRUE(waters->close(waters.prompts));
+    EXPECT_EQ(waters.database.count, 2) << "No reads the file again";
 }
 
 TEST(WaterEntry, TakesWhatItsConvertersBringAndClampsItOnAccept) {

@@ -1,8 +1,6 @@
-#include "databases/store.h"
 #include "databases/yeasts.h"
-#include "support/desk.h"
 #include "support/field.h"
-#include "support/temporary_folder.h"
+#include "support/listed.h"
 
 #include <gtest/gtest.h>
 
@@ -21,40 +19,34 @@ YeastRecord yeast(std::string_view lab, std::string_view number, std::string_vie
 }
 
 TEST(YeastList, SortsByItsWordsAndTellsMediaApart) {
-    const TemporaryFolder folder;
-    ScriptedPrompts prompts;
-    Database<YeastRecord> database{.count = 4};
-    database.slots[0] = yeast("Wyeast", "7", "b", YeastKind::wine, YeastMedium::liquid);
-    database.slots[1] = yeast("Danstar", "2", "b", YeastKind::lager, YeastMedium::agar_slant);
-    database.slots[2] = yeast("danstar", "1", "c", YeastKind::champagne);
-    database.slots[3] = yeast("Wyeast", "7", "b", YeastKind::wine);
-    ASSERT_TRUE(SaveYeasts(folder.path(), database));
-    const auto catalogue = yeast_catalogue(Settings(), folder.path());
-    Store<YeastRecord> store(catalogue, ListSide::maintenance, folder.path(), database);
-    store.open(prompts);
+    auto stocked = yeast("Wyeast", "7", "b", YeastKind::wine);
+    stocked.stock = 5;
+    Listed yeasts(SaveYeasts, yeast_list,
+                  {yeast("Wyeast", "7", "b", YeastKind::wine, YeastMedium::liquid),
+                   yeast("Danstar", "2", "b", YeastKind::lager, YeastMedium::agar_slant),
+                   yeast("danstar", "1", "c", YeastKind::champagne), stocked});
     const auto order = [&](std::size_t column) {
-        store.click(column);
+        yeasts->click(column);
         std::string rows;
-        for (std::size_t row = 0; row < 4; ++row) rows += store.cell(row, 1) + store.cell(row, 4)[0] + " ";
+        for (std::size_t row = 0; row < 4; ++row)
+            rows += yeasts->cell(row, 1) + yeasts->cell(row, 4)[0] + " ";
         return rows;
     };
-    store.click(0); // labs downwards
+    yeasts->click(0); // labs downwards
     EXPECT_EQ(order(2), "2A 7L 7D 1D ") << "by name, then lab";
     EXPECT_EQ(order(3), "1D 2A 7L 7D ") << "Champagne, Lager, Wine";
     EXPECT_EQ(order(4), "2A 1D 7D 7L ") << "Agar, Dry, Liquid";
-    EXPECT_EQ(store.cell(0, 3) + store.cell(0, 5), "Lager     --");
-    store.selected = 3;
-    EXPECT_EQ(store.selected_entry(), 3U) << "not the dry one of that number";
-    database.count = 998;
-    store.new_entry(prompts)->form.accept();
-    EXPECT_EQ(database.count, 999) << "there is room beyond the limit of the hops";
-
-    auto imported = database.slots[2], existing = database.slots[3];
-    EXPECT_TRUE(catalogue.is_same(imported, existing)) << "for an import the medium is no difference";
-    existing.stock = 5;
-    catalogue.keep(imported, existing);
-    EXPECT_EQ(imported.stock, 5);
-    EXPECT_EQ(catalogue.exists_text(imported), "Wyeast b\nThis Yeast type already exists in the database!");
+    EXPECT_EQ(yeasts->cell(0, 3) + yeasts->cell(0, 5), "Lager     --");
+    yeasts->selected = 3;
+    EXPECT_EQ(yeasts->selected_record()->stock, 0.0F) << "not the dry one of that number";
+    yeasts.import(yeast("Wyeast", "7", "b", YeastKind::ale, YeastMedium::agar_slant), yeast_layout,
+                  "Wyeast b\nThis Yeast type already exists in the database!",
+                  "Replacing the item will NOT overwrite your existing inventory amounts.\n\nDo you wish to "
+                  "replace this item?");
+    EXPECT_EQ(yeasts->shown_count(), 4U) << "for an import the medium is no difference";
+    yeasts.database.count = 998;
+    yeasts->new_entry(yeasts.prompts)->form.accept();
+    EXPECT_EQ(yeasts.database.count, 999) << "there is room beyond the limit of the hops";
 }
 
 TEST(YeastEntry, HasOneTemperatureInTwoFields) {

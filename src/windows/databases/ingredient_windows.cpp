@@ -30,6 +30,10 @@ void open(IngredientList& list, const WindowPorts& ports) {
     list.open(ports.prompts);
 }
 
+ListSource source(ListSide side, const WindowPorts& ports) {
+    return {side, ports.program.settings, ports.program.data_folder};
+}
+
 // Runs the window that keeps a database.
 void keep(IngredientList& list, const WindowPorts& ports, QWidget* owner) {
     open(list, ports);
@@ -37,9 +41,9 @@ void keep(IngredientList& list, const WindowPorts& ports, QWidget* owner) {
 }
 
 template <class Record>
-void keep(Catalogue<Record> catalogue, Database<Record>& database, const WindowPorts& ports, QWidget* owner) {
-    Store<Record> list(std::move(catalogue), ListSide::maintenance, ports.program.data_folder, database);
-    keep(list, ports, owner);
+void keep(ListMaker<Record> make, const WindowPorts& ports, QWidget* owner) {
+    Database<Record> database;
+    keep(*make(source(ListSide::maintenance, ports), database), ports, owner);
 }
 
 // Runs a pick list from the choice of the last pick. A pick keeps the new choice, leaving the list the old
@@ -58,11 +62,11 @@ void run_pick(IngredientList& list, ListChoice& choice, const std::function<bool
 }
 
 template <class Record>
-std::optional<Record> pick(Store<Record>& list, ListChoice& choice, const WindowPorts& ports, Opener opener,
-                           QWidget* owner) {
+std::optional<Record> pick(RecordList<Record>& list, ListChoice& choice, const WindowPorts& ports,
+                           Opener opener, QWidget* owner) {
     std::optional<Record> chosen;
     const auto take = [&](QWidget*) {
-        chosen = list.entry(*list.selected_entry());
+        chosen = list.selected_record();
         return true;
     };
     run_pick(list, choice, take, ports, opener, owner);
@@ -70,11 +74,10 @@ std::optional<Record> pick(Store<Record>& list, ListChoice& choice, const Window
 }
 
 template <class Record>
-std::optional<Record> pick(Catalogue<Record> catalogue, ListChoice& choice, const WindowPorts& ports,
+std::optional<Record> pick(ListMaker<Record> make, ListChoice& choice, const WindowPorts& ports,
                            Opener opener, QWidget* owner) {
     Database<Record> database; // a pick never sees unsaved edits
-    Store<Record> list(std::move(catalogue), ListSide::pick, ports.program.data_folder, database);
-    return pick(list, choice, ports, opener, owner);
+    return pick(*make(source(ListSide::pick, ports), database), choice, ports, opener, owner);
 }
 
 template <class MakeForm>
@@ -96,90 +99,69 @@ WaterConverters converters(const WindowPorts& ports) {
 } // namespace
 
 void keep_styles(const WindowPorts& ports, QWidget* owner) {
-    Database<StyleRecord> database;
-    StyleStore list(ports.program.settings, ListSide::maintenance, ports.program.data_folder, database);
-    keep(list, ports, owner);
+    keep(style_list, ports, owner);
 }
 
 void keep_malts(const WindowPorts& ports, QWidget* owner) {
-    Database<MaltRecord> database;
-    keep(malt_catalogue(ports.program.settings, ports.program.data_folder), database, ports, owner);
+    keep(malt_list, ports, owner);
 }
 
 void keep_hops(const WindowPorts& ports, QWidget* owner) {
-    Database<HopRecord> database;
-    keep(hop_catalogue(ports.program.settings, ports.program.data_folder), database, ports, owner);
+    keep(hop_list, ports, owner);
 }
 
 void keep_yeasts(const WindowPorts& ports, QWidget* owner) {
-    Database<YeastRecord> database;
-    keep(yeast_catalogue(ports.program.settings, ports.program.data_folder), database, ports, owner);
+    keep(yeast_list, ports, owner);
 }
 
 void keep_waters(const WindowPorts& ports, QWidget* owner) {
-    keep(water_catalogue(ports.program.settings, ports.program.data_folder, converters(ports)),
-         ports.program.water_database, ports, owner);
+    keep(*water_list(source(ListSide::maintenance, ports), ports.program.water_database, converters(ports)),
+         ports, owner);
 }
 
 void keep_extras(const WindowPorts& ports, QWidget* owner) {
-    Database<ExtraRecord> database;
-    keep(extra_catalogue(ports.program.settings, ports.program.data_folder), database, ports, owner);
+    keep(extra_list, ports, owner);
 }
 
 std::optional<StyleRecord> pick_style(const WindowPorts& ports, Opener opener, QWidget* owner) {
     auto& program = ports.program;
-    Database<StyleRecord> database;
-    StyleStore list(program.settings, ListSide::pick, program.data_folder, database);
-    program.picks.styles.filter = static_cast<std::size_t>(list.filter);
-    auto style = pick(list, program.picks.styles, ports, opener, owner);
-    if (!style) return style;
-    style->book = list.book() == StyleBook::aha ? 0 : 1;
-    program.settings.style_book = list.book(); // the set of the next pick too
+    program.picks.styles.filter = static_cast<std::size_t>(program.settings.style_book);
+    auto style = pick(style_list, program.picks.styles, ports, opener, owner);
+    // The set of the next pick too.
+    if (style) program.settings.style_book = style->book == 0 ? StyleBook::aha : StyleBook::bjcp;
     return style;
 }
 
 std::optional<MaltRecord> pick_malt(const WindowPorts& ports, Opener opener, QWidget* owner) {
-    const auto& program = ports.program;
-    return pick(malt_catalogue(program.settings, program.data_folder), ports.program.picks.malts, ports,
-                opener, owner);
+    return pick(malt_list, ports.program.picks.malts, ports, opener, owner);
 }
 
 std::optional<HopRecord> pick_hop(const WindowPorts& ports, Opener opener, QWidget* owner) {
-    const auto& program = ports.program;
-    return pick(hop_catalogue(program.settings, program.data_folder), ports.program.picks.hops, ports, opener,
-                owner);
+    return pick(hop_list, ports.program.picks.hops, ports, opener, owner);
 }
 
 std::optional<YeastRecord> pick_yeast(const WindowPorts& ports, Opener opener, QWidget* owner) {
-    const auto& program = ports.program;
-    return pick(yeast_catalogue(program.settings, program.data_folder), ports.program.picks.yeasts, ports,
-                opener, owner);
+    return pick(yeast_list, ports.program.picks.yeasts, ports, opener, owner);
 }
 
 std::optional<WaterRecord> pick_water(const WindowPorts& ports, Opener opener, QWidget* owner) {
-    const auto& program = ports.program;
-    return pick(water_catalogue(program.settings, program.data_folder, {}), ports.program.picks.waters, ports,
-                opener, owner);
+    return pick<WaterRecord>(water_list, ports.program.picks.waters, ports, opener, owner);
 }
 
 std::optional<ExtraRecord> pick_extra(const WindowPorts& ports, Opener opener, QWidget* owner) {
-    const auto& program = ports.program;
-    return pick(extra_catalogue(program.settings, program.data_folder), ports.program.picks.extras, ports,
-                opener, owner);
+    return pick(extra_list, ports.program.picks.extras, ports, opener, owner);
 }
 
 void pick_hops_for(const std::function<void(QWidget*, const HopRecord&)>& use, const WindowPorts& ports,
                    QWidget* owner) {
-    const auto& program = ports.program;
     Database<HopRecord> database;
-    Store<HopRecord> list(hop_catalogue(program.settings, program.data_folder), ListSide::pick,
-                          program.data_folder, database);
+    const auto list = hop_list(source(ListSide::pick, ports), database);
     ListChoice everything;
     const auto hand_on = [&](QWidget* window) {
-        use(window, list.entry(*list.selected_entry()));
+        use(window, *list->selected_record());
         return false;
     };
-    run_pick(list, everything, hand_on, ports, Opener::main, owner);
+    run_pick(*list, everything, hand_on, ports, Opener::main, owner);
 }
 
 } // namespace wortlex

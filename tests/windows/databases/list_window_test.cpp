@@ -1,5 +1,5 @@
 #include "databases/hops.h"
-#include "databases/store.h"
+#include "databases/messages.h"
 #include "desktop/form_dialog.h"
 #include "support/desk.h"
 #include "support/drop.h"
@@ -31,8 +31,8 @@ struct ListDesk {
     ScriptedPrompts prompts;
     ScriptedFiles files;
     Database<HopRecord> database;
-    Store<HopRecord> store{hop_catalogue(settings, folder.path()), ListSide::maintenance, folder.path(),
-                           database};
+    std::unique_ptr<RecordList<HopRecord>> hops =
+        hop_list({ListSide::maintenance, settings, folder.path()}, database);
     std::unique_ptr<ListWindow> window;
     explicit ListDesk(const std::function<bool()>& picked = nullptr) {
         settings.save_window_positions = 1;
@@ -44,9 +44,9 @@ struct ListDesk {
     }
     ~ListDesk() { window->hide(); }
     void show(const std::function<bool()>& picked = nullptr) {
-        store.open(prompts);
+        hops->open(prompts);
         const ListPorts ports{{positions, settings}, files, prompts};
-        window = std::make_unique<ListWindow>(store, ports, Opener::main, picked, nullptr);
+        window = std::make_unique<ListWindow>(*hops, ports, Opener::main, picked, nullptr);
         window->show();
         EXPECT_TRUE(QTest::qWaitForWindowActive(window.get()));
     }
@@ -103,7 +103,7 @@ TEST(ListWindow, FiltersSortsAndFindsByTyping) {
     QTest::mouseClick(head.viewport(), Qt::LeftButton, {}, {head.sectionViewportPosition(2) + 5, 5});
     EXPECT_EQ(desk.rows(), "*Saaz Fuggle Galena ");
     QTest::keyClicks(&desk.list(), "fu");
-    EXPECT_EQ(desk.store.selected_entry(), 1U);
+    EXPECT_EQ(desk.hops->selected_record()->name.view(), "Fuggle");
 }
 
 TEST(ListWindow, PicksByDoubleClickAndEnter) {
@@ -111,7 +111,7 @@ TEST(ListWindow, PicksByDoubleClickAndEnter) {
         ListDesk desk([] { return true; });
         EXPECT_FALSE(drop_file(*desk.window, desk.folder / "new.him")) << "a pick list imports nothing";
         by_mouse ? desk.double_click(2) : QTest::keyClick(&desk.list(), Qt::Key_Return);
-        EXPECT_EQ(std::pair(desk.window->result(), desk.store.selected), std::pair(1, by_mouse ? 2 : 0));
+        EXPECT_EQ(std::pair(desk.window->result(), desk.hops->selected), std::pair(1, by_mouse ? 2 : 0));
     }
 }
 
@@ -120,7 +120,7 @@ TEST(ListWindow, EscAsksAboutChangesAndOnlyOkRemembersThePlace) {
     const auto change_and_leave = [&](Answer answer) {
         desk.answer_dialog("name", "Admiral", Qt::Key_Return);
         desk.click("new");
-        desk.prompts.expect("yes/no", std::string(hop_catalogue(desk.settings, "").words.closing_question),
+        desk.prompts.expect("yes/no", "The hop database has been modified!\nDo you want to save the changes?",
                             answer, Icon::warning);
         if (answer == Answer::yes) desk.prompts.expect_tell(std::string(not_saved), Icon::error);
         QTest::keyClick(desk.window.get(), Qt::Key_Escape);

@@ -1,5 +1,4 @@
 #include "databases/hops.h"
-#include "databases/store.h"
 #include "support/desk.h"
 #include "support/recording_desk.h"
 #include "support/temporary_folder.h"
@@ -28,13 +27,13 @@ TEST(ListWindowPrint, ShowsListAndEntry) {
     ScriptedFiles files;
     RecordingPageDesk desk;
     Database<HopRecord> hops;
-    Store<HopRecord> list(hop_catalogue(settings, folder.path()), ListSide::pick, folder.path(), hops);
-    EXPECT_FALSE(dynamic_cast<ButtonRow&>(list.new_entry(prompts)->form.row("print")).press) << "no desk";
-    list.print = [&desk](const PrintRequest& request) { desk.show(request); };
+    const auto list = hop_list({ListSide::pick, settings, folder.path()}, hops);
+    EXPECT_FALSE(dynamic_cast<ButtonRow&>(list->new_entry(prompts)->form.row("print")).press) << "no desk";
+    list->print = [&desk](const PrintRequest& request) { desk.show(request); };
     const ListPorts ports{{positions, settings}, files, prompts};
-    const ListWindow window(list, ports, Opener::main, nullptr, nullptr);
+    const ListWindow window(*list, ports, Opener::main, nullptr, nullptr);
     print_button(window).click();
-    dynamic_cast<ButtonRow&>(list.new_entry(prompts)->form.row("print")).press();
+    dynamic_cast<ButtonRow&>(list->new_entry(prompts)->form.row("print")).press();
     ASSERT_EQ(desk.jobs.size(), 2U);
     EXPECT_EQ(desk.jobs[0].document_name, "Wortlex Hop List - All Hops");
     EXPECT_EQ(desk.jobs[1].document_name, "Wortlex Hop Detail");
