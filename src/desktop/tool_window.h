@@ -26,6 +26,9 @@ public:
     ToolWindow(const WindowInfo& info, std::size_t use, Opener opener, QWidget* origin, const Places& places);
     void setVisible(bool visible) override;
 
+    /// What is left to tell the user once the window stands.
+    virtual void tell_once_shown() {}
+
     std::function<void()> closed; ///< told once, when it is gone from the screen
 
 protected:

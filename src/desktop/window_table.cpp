@@ -6,16 +6,9 @@
 namespace wortlex {
 namespace {
 
-// A place from the main window, and one each from recipe and session.
-constexpr std::array<int, 3> from_main(int slot) {
-    return {slot, no_place, no_place};
-}
-
 constexpr std::array<int, 3> from_documents(int recipe, int session) {
     return {no_place, recipe, session};
 }
-
-constexpr std::array no_places = {no_place, no_place, no_place};
 
 constexpr std::array windows = {
     WindowInfo{"GENERIC", {"Wortlex Version 1.8.a"}, no_places, 0},
@@ -29,7 +22,6 @@ constexpr std::array windows = {
                from_documents(13, no_place),
                0},
     WindowInfo{"RECIPEPREPRINTDIALOG", {"Recipe Print and Export Options"}, no_places, 0},
-    WindowInfo{"RECIPEDIALOG", {"Wortlex Recipe Formulation"}, no_places, 0},
     WindowInfo{"MALTSHORTEDITDIALOG", {"Edit Grain/Extract Amounts"}, from_documents(76, 77), 0},
     WindowInfo{"HOPSHORTEDITDIALOG", {"Hop Amounts"}, from_documents(78, 79), 0},
     WindowInfo{"HOPSHORTEDITDIALOG1", {"Hop Amounts"}, from_documents(78, 79), 0},
@@ -37,7 +29,6 @@ constexpr std::array windows = {
     WindowInfo{"GRAINLISTDETAIL", {"Individual Malt Gravity/Color Contribution"}, no_places, 0},
     WindowInfo{"PREBOILDIALOG", {"Pre-Boil Calculator"}, from_documents(82, no_place), 0},
     WindowInfo{"MASHENTRYDIALOG", {"Recipe Formulation - Simple Mash Schedule"}, from_documents(15, 34), 0},
-    WindowInfo{"WATERCALCDIALOG2", {"Dough In Strike Water Temperature Calculator"}, from_main(8), 0},
     // The lists set their own captions, by what they show.
     WindowInfo{"STYLETYPEDIALOG", {""}, from_main(38), 0},
     WindowInfo{"MALTSTYPEDIALOG", {""}, from_main(39), 0},

@@ -1,4 +1,5 @@
-// Every window of the program once: its name, its captions, where its place is kept, its help topic.
+// What names a window: its template, its captions, where its place is kept, its help topic. Every window that
+// is no tool of the main window stands here once; a tool brings its own.
 #pragma once
 
 #include <array>
@@ -10,11 +11,17 @@ namespace wortlex {
 enum class Opener { main, recipe, session };
 
 inline constexpr int no_place = -1;
+inline constexpr std::array no_places = {no_place, no_place, no_place};
+
+/// Of a window that only the main window opens.
+constexpr std::array<int, 3> from_main(int slot) {
+    return {slot, no_place, no_place};
+}
 
 struct WindowInfo {
     std::string_view template_name;
     std::array<std::string_view, 4> captions; ///< by use, as the window tells
-    std::array<int, 3> places;                ///< slots of `ToolPositions`, by opener
+    std::array<int, 3> places = no_places;    ///< slots of `ToolPositions`, by opener
     int help_topic = 0;                       ///< 0: none
 };
 

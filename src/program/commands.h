@@ -4,7 +4,7 @@
 #include "base/ports/desk.h"
 
 #include <map>
-#include <span>
+#include <vector>
 
 namespace wortlex {
 
@@ -58,16 +58,15 @@ inline constexpr int open_recent = 41000;
 } // namespace command
 
 /// A `&` stands before the letter that picks the entry, unique in its menu. An entry with entries of its own
-/// is a submenu and has no command; so has "Open Recent", whose entries change.
+/// is a submenu and has no command.
 struct MenuEntry {
     std::string_view caption;
     int command = 0;
-    std::span<const MenuEntry> entries;
+    std::vector<MenuEntry> entries = {};
 };
 
-/// The menu bars of the main window and of recipe and session windows.
-std::span<const MenuEntry> main_menu();
-std::span<const MenuEntry> document_menu();
+/// The menu bar of recipe and session windows.
+std::vector<MenuEntry> document_menu();
 
 /// Who carries out which command. A command that nobody carries out does nothing; menus show it disabled.
 class CommandTable : public Commands {

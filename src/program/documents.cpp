@@ -69,13 +69,13 @@ std::optional<DocumentKind> document_kind(std::string_view path) {
     return std::nullopt;
 }
 
-Wanted want_document(const ToolTable& table, DocumentKind kind, Prompts& prompts) {
+Wanted want_document(const OpenTools& tools, DocumentKind kind, Prompts& prompts) {
     const auto& wanted = traits(kind);
-    if (activate_if_open(table, wanted.command)) return Wanted::reactivated;
-    if (!is_open(table, wanted.other_command)) return Wanted::go_on;
+    if (activate_if_open(tools, wanted.command)) return Wanted::reactivated;
+    if (!is_open(tools, wanted.other_command)) return Wanted::go_on;
     if (prompts.ask_yes_no({.text = wanted.question, .icon = Icon::question}) != Answer::yes)
         return Wanted::refused;
-    activate_if_open(table, wanted.other_command);
+    activate_if_open(tools, wanted.other_command);
     return Wanted::reactivated;
 }
 

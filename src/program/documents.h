@@ -3,7 +3,7 @@
 
 #include "base/ports/desk.h"
 #include "documents/work/recipe_saving.h"
-#include "program/tools.h"
+#include "program/open_tools.h"
 #include "records/documents/document_files.h"
 #include "settings/system_files.h"
 
@@ -24,7 +24,7 @@ enum class Wanted {
 };
 
 /// To be asked before a document is made or opened from outside its own window.
-Wanted want_document(const ToolTable& table, DocumentKind kind, Prompts& prompts);
+Wanted want_document(const OpenTools& tools, DocumentKind kind, Prompts& prompts);
 
 /// Makes the live document an empty one without a file.
 void new_recipe(Program& program);

@@ -85,18 +85,19 @@ Point main_screen_origin(int width, int height) {
     return {margin(width, main_screen_frame.width), margin(height, main_screen_frame.height)};
 }
 
-const MainScreenButton* button_at(Point point, int width, int height) {
+const MainScreenButton* button_at(std::span<const MainScreenButton> buttons, Point point, int width,
+                                  int height) {
     const auto origin = main_screen_origin(width, height);
     const auto covers = [](int start, int place) { return place >= start && place < start + button_side; };
-    const auto* const found =
-        std::find_if(main_screen_buttons.begin(), main_screen_buttons.end(), [&](const auto& button) {
-            return covers(origin.x + button.at.x, point.x) && covers(origin.y + button.at.y, point.y);
-        });
-    return found == main_screen_buttons.end() ? nullptr : found;
+    const auto found = std::find_if(buttons.begin(), buttons.end(), [&](const auto& button) {
+        const auto& at = button.picture.at;
+        return covers(origin.x + at.x, point.x) && covers(origin.y + at.y, point.y);
+    });
+    return found == buttons.end() ? nullptr : &*found;
 }
 
 std::string button_bitmap(const std::string& data_folder, const ArtScheme& scheme,
-                          const MainScreenButton& button) {
+                          const ButtonPicture& button) {
     return art_file(data_folder, std::string(button.bitmap) + std::string(scheme.suffix) + ".bmp");
 }
 

@@ -10,8 +10,8 @@
 #include "mash/strike_calculator.h"
 #include "page/html_theme.h"
 #include "program/documents.h"
+#include "program/open_tools.h"
 #include "program/recent.h"
-#include "program/tools.h"
 #include "records/ingredients/database_file.h"
 #include "settings/settings.h"
 #include "settings/system_files.h"
@@ -61,7 +61,7 @@ struct Program {
     std::optional<StrikeCalculator> strike_calculator; ///< none before its window first opens
     PickChoices picks;
 
-    ToolTable tools;
+    OpenTools tools;
     MainPosition main_position; ///< as it was at the start
     ToolPositions tool_positions;
 };

@@ -54,7 +54,7 @@ TEST(FormDialog, TypesAndSpinsWithRealKeysWhateverTheLocale) {
         .shown_number(
             "sum", [&] { return gravity + amount; }, "%0.2f")
         .label("Sum");
-    FormDialog dialog(form, {"RECIPEDIALOG"}, desk.places, nullptr);
+    FormDialog dialog(form, {"ABOUTDIALOG"}, desk.places, nullptr);
     dialog.show();
     EXPECT_TRUE(QTest::qWaitForWindowActive(&dialog));
     const auto line = [&](const char* key) { return line_of(dialog.widgets().field(key)); };
@@ -92,7 +92,7 @@ TEST(FormDialog, ShowsEveryKindOfRowAndItsState) {
         .selection(selected);
     form.rows().button("press", "Press", [&] { ++pressed; });
     form.rows().button("later", "Later", nullptr);
-    FormDialog dialog(form, {"RECIPEDIALOG"}, desk.places, nullptr);
+    FormDialog dialog(form, {"ABOUTDIALOG"}, desk.places, nullptr);
     dialog.show();
     const auto& widgets = dialog.widgets();
     auto& check = widgets.field("dry");
@@ -122,7 +122,7 @@ TEST(FormDialog, OkCommitsAndEscRestores) {
         Form form;
         form.rows().number("value", record.value).range(0, 9);
         form.restore_on_cancel(record);
-        FormDialog dialog(form, {"RECIPEDIALOG"}, desk.places, nullptr);
+        FormDialog dialog(form, {"ABOUTDIALOG"}, desk.places, nullptr);
         dialog.show();
         type_over(*line_of(dialog.widgets().field("value")), ok ? "5" : "7");
         if (ok)
@@ -139,12 +139,12 @@ TEST(ToolWindow, StaysWhileItsModalDialogIsOpen) {
     Desk desk;
     int closings = 0;
     auto* const window =
-        new ToolWindow(window_info("RECIPEDIALOG"), 0, Opener::main, nullptr, desk.places); // deletes itself
+        new ToolWindow(window_info("ABOUTDIALOG"), 0, Opener::main, nullptr, desk.places); // deletes itself
     window->closed = [&] { ++closings; };
     window->show();
     {
         Form form;
-        FormDialog dialog(form, {"RECIPEDIALOG"}, desk.places, window);
+        FormDialog dialog(form, {"ABOUTDIALOG"}, desk.places, window);
         dialog.show();
         EXPECT_FALSE(window->close());
         EXPECT_TRUE(window->isVisible() && dialog.isVisible());

@@ -10,8 +10,6 @@
 
 #include <gmock/gmock.h>
 
-#include <set>
-
 namespace wortlex {
 namespace {
 
@@ -33,29 +31,6 @@ TEST(NoticeBoard, KeepsToItsListenersWhileTheyComeAndGo) {
     EXPECT_EQ(heard, "first third late third ");
 }
 
-// Every letter picks one entry; every entry leads somewhere.
-std::multiset<int> commands_of(std::span<const MenuEntry> menu) {
-    std::multiset<int> commands;
-    std::set<char> letters;
-    for (const auto& entry : menu) {
-        const char letter = entry.caption.substr(entry.caption.find('&') + 1).front();
-        EXPECT_TRUE(letters.insert(static_cast<char>(letter | 0x20)).second) << entry.caption;
-        EXPECT_NE(entry.command == 0, entry.entries.empty()) << entry.caption;
-        if (entry.command != 0) commands.insert(entry.command);
-        commands.merge(commands_of(entry.entries));
-    }
-    return commands;
-}
-
-TEST(Menus, ReachEveryCommandByALetter) {
-    EXPECT_THAT(commands_of(document_menu()), ElementsAre(414, 8004, 10060, 40004, 40027, 40037));
-    EXPECT_THAT(commands_of(main_menu()),
-                ElementsAre(999, 1036, 1052, 40001, 40003, 40004, 40005, 40006, 40007, 40008, 40011, 40012,
-                            40013, 40014, 40015, 40016, 40017, 40018, 40019, 40020, 40021, 40022, 40032,
-                            40032, 40032, 40033, 40034, 40034, 40034, 40035, 40040, 40041, 40042, 40045,
-                            40045, 40046, 40046, 40047, 40047, 40048, 40048, 40049, 40049, 41000));
-}
-
 // Writes down what is asked of it.
 struct FakeTool : OpenTool {
     FakeTool(std::string& all, int command) : log(all), name(std::to_string(command)) {}
@@ -68,35 +43,26 @@ struct FakeTool : OpenTool {
     bool closes = true, has_dialog = false;
 };
 
-TEST(Tools, AreOpenOnceFromTheirCommandToTheirNotification) {
-    const std::pair<int, int> rows[] = {
-        {40003, 6000}, {40004, 6000}, {40005, 6001}, {40006, 6001}, {40014, 6002}, {40011, 6003},
-        {40007, 6004}, {40012, 6006}, {40013, 6007}, {40022, 6008}, {40032, 6011}, {40032, 6012},
-        {40034, 6013}, {40034, 6014}, {40035, 6015}, {40040, 6016}, {40041, 6017}, {40042, 6018},
-        {40045, 6021}, {40046, 6022}, {40047, 6023}, {40048, 6024}};
-    ToolTable table;
-    for (const auto& [command, notification] : rows) {
+TEST(Tools, AreOpenOnceAndKeepTheSettingsFromBeingEdited) {
+    OpenTools tools;
+    ScriptedPrompts prompts;
+    for (const int command : {40003, 40004, 40006, 40013, 40042, 40047}) {
         std::string log;
         const auto window = std::make_shared<FakeTool>(log, command);
-        EXPECT_FALSE(activate_if_open(table, command) || any_open(table)) << command;
-        opened(table, command, window);
-        closed(table, 6005); // of a tool that was never made
-        EXPECT_TRUE(activate_if_open(table, command)) << command;
+        EXPECT_FALSE(activate_if_open(tools, command)) << command;
+        EXPECT_TRUE(may_edit_settings(tools, prompts));
+        opened(tools, command, window);
+        EXPECT_TRUE(activate_if_open(tools, command)) << command;
         EXPECT_EQ(log, window->name + " forward ");
-        closed(table, notification);
+        prompts.expect_tell(
+            "You cannot modify the System Defaults while other Wortlex windows are open. To modify the "
+            "System "
+            "Defaults, please close the current work (make sure to save your work if required), then choose "
+            "System Defaults again.",
+            Icon::information);
+        EXPECT_FALSE(may_edit_settings(tools, prompts));
+        closed(tools, command);
     }
-    opened(table, command::hop_ibu, {}); // a dialog, no tool
-    ScriptedPrompts prompts;
-    EXPECT_TRUE(may_edit_settings(table, prompts));
-    table.unmade[1] = true;
-    prompts.expect_tell(
-        "You cannot modify the System Defaults while other Wortlex windows are open. To modify the System "
-        "Defaults, please close the current work (make sure to save your work if required), then choose "
-        "System Defaults again.",
-        Icon::information);
-    EXPECT_FALSE(may_edit_settings(table, prompts));
-    closed(table, 6020);
-    EXPECT_FALSE(any_open(table));
 }
 
 TEST(Tools, OfTwoDocumentsOneIsOpen) {
@@ -168,26 +134,6 @@ TEST(Exit, IsStoppedByADialogOrAWindowAndThenWritesNothing) {
     EXPECT_EQ(folder.entries(), 2) << "the positions of tools, and folders";
     EXPECT_TRUE(leave(program, MainPosition{{7, 8, 9, 10}, 1}));
     EXPECT_EQ(LoadMainPosition(folder.path()).window.left, 7);
-}
-
-TEST(MainScreen, FindsTheButtonUnderAPoint) {
-    const auto command_at = [](int x, int y, int width, int height) {
-        const auto* const button = button_at({x, y}, width, height);
-        return button ? button->command : 0;
-    };
-    const std::pair<int, std::vector<std::pair<int, int>>> rows[] = {
-        {76, {{86, 40003}, {186, 40004}, {386, 40005}, {486, 40006}}},
-        {180, {{86, 40007}, {166, 40008}, {246, 40021}, {326, 40011}, {406, 40014}, {486, 40041}}},
-        {260, {{86, 40012}, {166, 40013}, {246, 40022}, {326, 40032}, {406, 40034}, {486, 40040}}},
-        {360, {{86, 40015}, {166, 40016}, {246, 40017}, {326, 40018}, {406, 40019}, {486, 40020}}}};
-    for (const auto& [y, buttons] : rows)
-        for (const auto& [x, command] : buttons) {
-            EXPECT_EQ(command_at(x, y, 300, 200), command) << "a small area cuts the frame off";
-            EXPECT_EQ(command_at(x + 64 + 50, y + 64 + 10, 741, 501), command) << "half pixels are cut off";
-            EXPECT_EQ(command_at(x + 65, y, 640, 480) + command_at(x, y + 65, 640, 480), 0) << command;
-        }
-    EXPECT_EQ(button_bitmap("/b/", art_scheme(3), main_screen_buttons[9]), "/b/art/cb12_3.bmp");
-    EXPECT_EQ(background_bitmap("/b/", art_scheme(5)), "/b/art/KVBack.bmp");
 }
 
 // Its rows begin right behind a header of `length` bytes.

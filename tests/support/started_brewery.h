@@ -39,8 +39,9 @@ struct Brewery {
     void draw_art() const {
         const QImage picture(65, 65, QImage::Format_RGB888);
         std::filesystem::create_directory(folder.path() + "art");
-        for (const auto& button : main_screen_buttons)
-            picture.save(QString::fromStdString(button_bitmap(folder.path(), art_schemes[0], button)));
+        for (const auto& button : main_screen_buttons())
+            picture.save(
+                QString::fromStdString(button_bitmap(folder.path(), art_schemes[0], button.picture)));
         picture.save(QString::fromStdString(background_bitmap(folder.path(), art_schemes[0])));
     }
 

@@ -40,10 +40,9 @@ QKeySequence::StandardKey key_of(int command) {
 
 } // namespace
 
-RecipeWindow::RecipeWindow(const WindowPorts& ports, QWidget* origin)
-    : ToolWindow(window_info("RECIPEDIALOG"), 0, Opener::main, origin,
-                 {ports.program.tool_positions, ports.program.settings}),
-      ports_(ports),
+RecipeWindow::RecipeWindow(const WindowPorts& ports, const WindowInfo& info, QWidget* origin)
+    : ToolWindow(info, 0, Opener::main, origin, {ports.program.tool_positions, ports.program.settings}),
+      ports_(ports), caption_(windowTitle()),
       program_(ports.program), editor_{open_recipe(program_), {}, {}}, subject_{editor_, program_.color_table,
                                                                                 actions()},
       panel_(subject_, program_.settings, this) {
@@ -137,7 +136,7 @@ void RecipeWindow::reopen() {
     show_everything();
 }
 
-void RecipeWindow::tell_method() {
+void RecipeWindow::tell_once_shown() {
     if (!program_.recipe_file.loaded_from_file) return;
     if (const auto warning = method_check_on_load(program_.document, program_.settings))
         ports_.prompts.tell({.text = *warning, .icon = Icon::warning});
@@ -173,7 +172,7 @@ void RecipeWindow::open_another() {
     close_pages();
     reopen();
     keep_work();
-    tell_method();
+    tell_once_shown();
 }
 
 bool RecipeWindow::save_recipe(SaveAs save_as) {
@@ -233,12 +232,11 @@ void RecipeWindow::show_everything() {
 }
 
 void RecipeWindow::show_file_name() {
-    const auto caption = string_of(window_info("RECIPEDIALOG").captions[0]);
     const auto& path = program_.recipe_file.path;
     const auto file = QFileInfo(QFile::decodeName(QByteArray::fromStdString(path))).fileName();
     const bool modified = is_modified(program_.document, saved_, program_.recipe_file);
     const auto before = file + (modified ? QStringLiteral("*") : QString());
-    setWindowTitle(before.isEmpty() ? caption : before + QStringLiteral(" - ") + caption);
+    setWindowTitle(before.isEmpty() ? caption_ : before + QStringLiteral(" - ") + caption_);
 }
 
 void RecipeWindow::keep_work() {

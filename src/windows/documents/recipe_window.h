@@ -20,12 +20,12 @@ namespace wortlex {
 class RecipeWindow : public ToolWindow {
 public:
     /// On the live document, which the program's `recipe_file` tells the origin of.
-    RecipeWindow(const WindowPorts& ports, QWidget* origin);
+    RecipeWindow(const WindowPorts& ports, const WindowInfo& info, QWidget* origin);
 
     /// Shows the live document anew, as after another one was opened.
     void reopen();
-    /// What is left to tell once the window stands: a recipe of the other efficiency method.
-    void tell_method();
+    /// A recipe of the other efficiency method.
+    void tell_once_shown() override;
     ~RecipeWindow() override;
 
 protected:
@@ -63,6 +63,7 @@ private:
     void close_pages();
 
     WindowPorts ports_;
+    QString caption_;
     Program& program_;
     RecipeEditor editor_;
     DocumentSnapshot saved_;

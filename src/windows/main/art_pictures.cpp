@@ -67,16 +67,17 @@ QPixmap about_picture(const std::string& data_folder, double device_scale) {
     return picture;
 }
 
-ArtPictures load_art(const std::string& data_folder, const ArtScheme& scheme, double device_scale) {
+ArtPictures load_art(const std::string& data_folder, const ArtScheme& scheme,
+                     std::span<const MainScreenButton> buttons, double device_scale) {
     ArtPictures pictures;
     pictures.background =
         load_picture(background_bitmap(data_folder, scheme),
                      scheme.background.substr(0, scheme.background.find('.')), device_scale, pictures);
-    for (std::size_t i = 0; i < main_screen_buttons.size(); ++i) {
-        const auto& button = main_screen_buttons[i];
-        const auto name = std::string(button.bitmap).append(scheme.suffix);
-        pictures.buttons[i] =
-            load_picture(button_bitmap(data_folder, scheme, button), name, device_scale, pictures);
+    for (const auto& button : buttons) {
+        const auto& told = button.picture;
+        const auto name = std::string(told.bitmap).append(scheme.suffix);
+        pictures.buttons.push_back(
+            load_picture(button_bitmap(data_folder, scheme, told), name, device_scale, pictures));
     }
     return pictures;
 }

@@ -1,12 +1,10 @@
 // The main window: its menu, its picture, and where commands become windows.
 #pragma once
 
-#include "desktop/system_ports.h"
-#include "desktop/tool_window.h"
-#include "jpeg/jpeg_pictures.h"
 #include "program/program.h"
 #include "program/window_ports.h"
 #include "windows/main/picture_board.h"
+#include "windows/main/tools.h"
 
 #include <QMainWindow>
 
@@ -30,23 +28,18 @@ protected:
 
 private:
     void carry_out_commands();
-    void carry_out_databases();
-    void carry_out_settings();
     void add_menu();
     void fill_recent(QMenu& menu);
     void put();
-    bool wants(DocumentKind kind);
-    void show_recipe();
-    void show_strike_calculator();
-    /// Shows a new tool window and keeps the books of it until it closes.
-    void show_tool(ToolWindow& window, int command, int closing_notification);
+    void start(const Tool& tool);
+    /// Shows the tool's new window and keeps the books of it until it closes.
+    void show_window(const Tool& tool);
+    /// On a document that has been opened.
+    void show_document(DocumentKind kind);
 
     WindowPorts ports_;
     Program& program_;
     Prompts& prompts_;
-    Files& files_;
-    JpegPictures pictures_;
-    SystemClock clock_;
     CommandTable commands_;
     PictureBoard* board_;
 };

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "desktop/tool_window.h"
-#include "program/tools.h"
+#include "program/open_tools.h"
 
 #include <QPointer>
 

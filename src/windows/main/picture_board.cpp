@@ -15,7 +15,7 @@ constexpr double asleep = 0.35;  // of a button whose command is not to be had
 
 } // namespace
 
-PictureButton::PictureButton(const MainScreenButton& told, QWidget* parent) : QAbstractButton(parent) {
+PictureButton::PictureButton(const ButtonPicture& told, QWidget* parent) : QAbstractButton(parent) {
     setObjectName(string_of(told.bitmap));
     setAccessibleName(string_of(told.name));
     setToolTip(string_of(told.name));
@@ -34,25 +34,26 @@ void PictureButton::paintEvent(QPaintEvent*) {
     painter.drawPixmap(0, 0, picture_);
 }
 
-PictureBoard::PictureBoard(const std::string& data_folder, const ArtScheme& scheme, CommandTable& commands,
-                           Prompts& prompts, QWidget* parent)
-    : QWidget(parent), data_folder_(data_folder), scheme_(scheme), commands_(commands), prompts_(prompts) {
+PictureBoard::PictureBoard(const std::string& data_folder, const ArtScheme& scheme,
+                           std::vector<MainScreenButton> told, CommandTable& commands, Prompts& prompts,
+                           QWidget* parent)
+    : QWidget(parent), data_folder_(data_folder), scheme_(scheme), told_(std::move(told)),
+      commands_(commands), prompts_(prompts) {
     setAttribute(Qt::WA_OpaquePaintEvent);
-    for (std::size_t i = 0; i < buttons_.size(); ++i) {
-        const auto& told = main_screen_buttons[i];
-        buttons_[i] = new PictureButton(told, this);
-        connect(buttons_[i], &QAbstractButton::clicked, this,
-                [this, command = told.command] { commands_.start(command); });
+    for (const auto& button : told_) {
+        buttons_.push_back(new PictureButton(button.picture, this));
+        connect(buttons_.back(), &QAbstractButton::clicked, this,
+                [this, command = button.command] { commands_.start(command); });
     }
 }
 
 void PictureBoard::show_commands() {
     for (std::size_t i = 0; i < buttons_.size(); ++i)
-        buttons_[i]->setEnabled(commands_.is_built(main_screen_buttons[i].command));
+        buttons_[i]->setEnabled(commands_.is_built(told_[i].command));
 }
 
 void PictureBoard::load(double device_scale) {
-    pictures_ = load_art(data_folder_, scheme_, device_scale);
+    pictures_ = load_art(data_folder_, scheme_, told_, device_scale);
     loaded_scale_ = device_scale;
     for (std::size_t i = 0; i < buttons_.size(); ++i) {
         buttons_[i]->set_picture(pictures_.buttons[i]);
@@ -80,7 +81,7 @@ void PictureBoard::showEvent(QShowEvent* event) {
 void PictureBoard::resizeEvent(QResizeEvent*) {
     const auto origin = main_screen_origin(width(), height());
     for (std::size_t i = 0; i < buttons_.size(); ++i)
-        buttons_[i]->move(origin.x + main_screen_buttons[i].at.x, origin.y + main_screen_buttons[i].at.y);
+        buttons_[i]->move(origin.x + told_[i].picture.at.x, origin.y + told_[i].picture.at.y);
 }
 
 void PictureBoard::paintEvent(QPaintEvent*) {
@@ -101,7 +102,7 @@ void PictureBoard::sharpen_later() {
 
 void PictureBoard::mousePressEvent(QMouseEvent* event) {
     if (event->button() != Qt::LeftButton) return;
-    const auto* const told = button_at({event->pos().x(), event->pos().y()}, width(), height());
+    const auto* const told = button_at(told_, {event->pos().x(), event->pos().y()}, width(), height());
     if (told != nullptr) commands_.start(told->command);
 }
 
@@ -112,7 +113,7 @@ void PictureBoard::draw_titles(QPainter& painter) const {
     painter.setFont(font);
     const auto origin = main_screen_origin(width(), height());
     for (std::size_t i = 0; i < buttons_.size(); ++i) {
-        const auto& told = main_screen_buttons[i];
+        const auto& told = told_[i].picture;
         const QRect place(origin.x + told.at.x + (button_side - title_width) / 2,
                           origin.y + told.at.y + button_side, title_width, title_height);
         const auto text = string_of(told.title);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "base/ports/prompts.h"
+#include "program/commands.h"
 #include "program/main_screen.h"
 
 #include <QAbstractButton>
@@ -9,20 +10,22 @@
 #include <QPixmap>
 
 #include <set>
+#include <vector>
 
 namespace wortlex {
 
 /// The art files of one scheme as pictures, and what was wrong with those that could not be read.
 struct ArtPictures {
     QPixmap background;
-    std::array<QPixmap, main_screen_buttons.size()> buttons;
+    std::vector<QPixmap> buttons;      ///< in the order of theirs
     std::set<std::string_view> faults; ///< each told once, however many files share it
     std::set<std::string_view> undrawable;
 };
 
 /// On a screen finer than the files, our own pictures are drawn anew from their vector sources; a picture
 /// that the brewer put there himself is shown as it is.
-ArtPictures load_art(const std::string& data_folder, const ArtScheme& scheme, double device_scale);
+ArtPictures load_art(const std::string& data_folder, const ArtScheme& scheme,
+                     std::span<const MainScreenButton> buttons, double device_scale);
 
 /// The picture of the about box, in the same way; a file that cannot be read is drawn from its source.
 QPixmap about_picture(const std::string& data_folder, double device_scale);
@@ -30,7 +33,7 @@ QPixmap about_picture(const std::string& data_folder, double device_scale);
 /// A button that is a picture. It has a name for assistive tools; keyboards reach its command in the menu.
 class PictureButton : public QAbstractButton {
 public:
-    PictureButton(const MainScreenButton& told, QWidget* parent);
+    PictureButton(const ButtonPicture& told, QWidget* parent);
     void set_picture(const QPixmap& picture);
 
 protected:
@@ -45,8 +48,8 @@ private:
 
 class PictureBoard : public QWidget {
 public:
-    PictureBoard(const std::string& data_folder, const ArtScheme& scheme, CommandTable& commands,
-                 Prompts& prompts, QWidget* parent);
+    PictureBoard(const std::string& data_folder, const ArtScheme& scheme, std::vector<MainScreenButton> told,
+                 CommandTable& commands, Prompts& prompts, QWidget* parent);
     QSize sizeHint() const override { return {main_screen_frame.width, main_screen_frame.height}; }
     /// Disables the buttons of commands that nobody carries out.
     void show_commands();
@@ -65,11 +68,12 @@ private:
 
     const std::string& data_folder_;
     const ArtScheme& scheme_;
+    std::vector<MainScreenButton> told_;
     CommandTable& commands_;
     Prompts& prompts_;
     ArtPictures pictures_;
     double loaded_scale_ = 1; ///< of the pictures, or of those on their way
-    std::array<PictureButton*, main_screen_buttons.size()> buttons_{};
+    std::vector<PictureButton*> buttons_;
 };
 
 } // namespace wortlex

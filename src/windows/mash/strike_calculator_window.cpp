@@ -26,9 +26,9 @@ Form made_form(const WindowPorts& ports) {
 
 } // namespace
 
-StrikeCalculatorWindow::StrikeCalculatorWindow(const WindowPorts& ports, QWidget* origin)
-    : ToolWindow(window_info("WATERCALCDIALOG2"), 0, Opener::main, origin,
-                 {ports.program.tool_positions, ports.program.settings}),
+StrikeCalculatorWindow::StrikeCalculatorWindow(const WindowPorts& ports, const WindowInfo& info,
+                                               QWidget* origin)
+    : ToolWindow(info, 0, Opener::main, origin, {ports.program.tool_positions, ports.program.settings}),
       form_(made_form(ports)), widgets_(form_, ports.program.settings, *this) {
     lay_out_rows();
     connect(new QShortcut(QKeySequence::Cancel, this), &QShortcut::activated, this, &QWidget::close);

@@ -11,7 +11,7 @@ namespace wortlex {
 /// Its values last for the run.
 class StrikeCalculatorWindow : public ToolWindow {
 public:
-    StrikeCalculatorWindow(const WindowPorts& ports, QWidget* origin);
+    StrikeCalculatorWindow(const WindowPorts& ports, const WindowInfo& info, QWidget* origin);
 
 private:
     void lay_out_rows();

@@ -26,13 +26,13 @@ TEST(MainWindow, DisablesWhatIsNotBuilt) {
     MainWindow window(brewery.ports());
     window.show();
     int enabled = 0;
-    for (const auto& button : main_screen_buttons) {
-        auto* const picture = window.findChild<QAbstractButton*>(QString::fromUtf8(button.bitmap.data(), 4));
+    for (const auto& button : main_screen_buttons()) {
+        auto* const picture = window.findChild<QAbstractButton*>(QString::fromUtf8(button.picture.bitmap.data(), 4));
         const bool is_built = window.commands().is_built(button.command);
-        EXPECT_EQ(picture->isEnabled(), is_built) << button.name;
+        EXPECT_EQ(picture->isEnabled(), is_built) << button.picture.name;
         for (const auto* const action :
              window.menuBar()->findChildren<QAction*>(QString::number(button.command)))
-            EXPECT_EQ(action->isEnabled(), is_built) << button.name;
+            EXPECT_EQ(action->isEnabled(), is_built) << button.picture.name;
         EXPECT_FALSE(picture->accessibleName().isEmpty());
         enabled += picture->isEnabled();
     }
