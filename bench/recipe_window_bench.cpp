@@ -31,9 +31,9 @@ struct Brewery {
     Brewery() {
         program.settings = settings_from(image);
         program.data_folder = "/nonexistent/"; // the unsaved work of a measurement is not worth keeping
-        program.document = sample_document(lines, program.settings);
+        program.document.recipe = sample_document(lines, program.settings);
         program.color_table = built_in_color_table();
-        program.recipe_file.loaded_from_file = true;
+        program.document.file.loaded_from_file = true;
     }
     WindowPorts ports() { return {program, prompts, files, pages, clipboard}; }
 };

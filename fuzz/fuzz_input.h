@@ -25,13 +25,14 @@ inline Program default_program() {
 
 /// Works a loaded document out under every method, base and hop formula, and reports on it.
 inline void work_out(Program& program, DocumentKind kind, unsigned variant) {
+    program.document.kind = kind;
     auto& settings = program.settings;
     settings.efficiency_mode = static_cast<EfficiencyMode>(variant % 3);
     settings.gravity_base = static_cast<GravityBase>(variant / 3 % 2);
     settings.HopFormula = static_cast<HopFormulaCode>(variant / 6 % 4);
     settings.yield_type = static_cast<YieldType>(variant / 24 % 4);
     settings.wort_equals_batch = variant % 2 == 0;
-    const auto evaluation = evaluate(program, "input", kind, LoadResult::loaded);
+    const auto evaluation = evaluate(program, "input", LoadResult::loaded);
     promise(json_line(program, evaluation).ends_with('}'));
     promise(!summary(program, evaluation).empty());
 }

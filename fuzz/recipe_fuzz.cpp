@@ -4,13 +4,13 @@ using namespace wortlex;
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     auto program = default_program();
-    const auto before = program.document;
-    const auto load = read_recipe(fuzz_bytes(data, size), program.document, program.settings);
+    const auto before = program.document.recipe;
+    const auto load = read_recipe(fuzz_bytes(data, size), program.document.recipe, program.settings);
     if (load == LoadResult::damaged) {
-        promise(program.document == before);
+        promise(program.document.recipe == before);
         return 0;
     }
-    const auto& document = program.document;
+    const auto& document = program.document.recipe;
     const auto file = recipe_bytes(document);
     promise(file.size() ==
             25093 + 635 * document.hops.size() + 529 * document.malts.size() + 589 * document.extras.size());

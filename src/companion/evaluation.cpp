@@ -2,16 +2,15 @@
 
 namespace wortlex {
 
-Evaluation evaluate(Program& program, const std::string& path, DocumentKind kind, LoadResult load) {
-    Evaluation evaluation{path, kind, load, {}, {}, {}};
+Evaluation evaluate(Program& program, const std::string& path, LoadResult load) {
+    Evaluation evaluation{path, load, {}, {}, {}};
     const auto& settings = program.settings;
-    const bool is_session = kind == DocumentKind::session;
-    recalculate_opened(is_session ? open_session(program) : open_recipe(program));
-    const float rate = is_session ? program.session.water_needs.evaporation_rate : evaporation_rate(program);
-    evaluation.pre_boil = raw_pre_boil(program.document, rate, settings);
-    if (is_session) {
-        evaluation.fermentation = update_attenuation(program.session, settings);
-        evaluation.efficiency = recorded_efficiency(program.document, program.session, settings);
+    recalculate_opened(live_document(program));
+    const auto& document = program.document;
+    evaluation.pre_boil = raw_pre_boil(document.recipe, evaporation_rate(program), settings);
+    if (document.kind == DocumentKind::session) {
+        evaluation.fermentation = update_attenuation(document.session, settings);
+        evaluation.efficiency = recorded_efficiency(document.recipe, document.session, settings);
     }
     return evaluation;
 }

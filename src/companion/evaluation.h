@@ -7,7 +7,6 @@ namespace wortlex {
 
 struct Evaluation {
     std::string file;
-    DocumentKind kind{};
     LoadResult load = LoadResult::not_found;
     PreBoil pre_boil;
     FermentationFigures fermentation; ///< of a session, as the next
@@ -15,6 +14,6 @@ struct Evaluation {
 };
 
 /// Works the live document out.
-Evaluation evaluate(Program& program, const std::string& path, DocumentKind kind, LoadResult load);
+Evaluation evaluate(Program& program, const std::string& path, LoadResult load);
 
 } // namespace wortlex

@@ -13,24 +13,22 @@ FullReports::FullReports(Program& program)
         color_table_ = built_in_color_table();
 }
 
-DocumentReport FullReports::report(DocumentKind kind) const {
-    const bool is_session = kind == DocumentKind::session;
-    const auto open = is_session ? open_session(program_) : open_recipe(program_);
+DocumentReport FullReports::report() const {
+    const bool is_session = program_.document.kind == DocumentKind::session;
+    const auto open = live_document(program_);
     const auto view = default_report_view(program_.settings);
-    const float rate =
-        is_session ? program_.session.water_needs.evaporation_rate : evaporation_rate(program_);
-    return document_report({open, view, color_table_, rate},
+    return document_report({open, view, color_table_, evaporation_rate(program_)},
                            is_session ? session_sections_ : recipe_sections_);
 }
 
-TextSink FullReports::text(DocumentKind kind) const {
+TextSink FullReports::text() const {
     TextSink sink;
-    write_text(report(kind), sink);
+    write_text(report(), sink);
     return sink;
 }
 
-HtmlWriter FullReports::html(DocumentKind kind) const {
-    return write_html(report(kind), theme_);
+HtmlWriter FullReports::html() const {
+    return write_html(report(), theme_);
 }
 
 } // namespace wortlex

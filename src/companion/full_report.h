@@ -12,11 +12,11 @@ public:
     explicit FullReports(Program& program);
 
     /// The live document, which has been worked out. Of a session it is the recipe's part.
-    TextSink text(DocumentKind kind) const;
-    HtmlWriter html(DocumentKind kind) const;
+    TextSink text() const;
+    HtmlWriter html() const;
 
 private:
-    DocumentReport report(DocumentKind kind) const;
+    DocumentReport report() const;
 
     Program& program_;
     PrintSelection recipe_sections_;

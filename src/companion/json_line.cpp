@@ -26,8 +26,8 @@ std::string_view word(RecipeKind kind) {
 }
 
 void recipe_figures(JsonWriter& json, const Program& program) {
-    const auto& document = program.document;
-    const auto& figures = program.figures;
+    const auto& document = program.document.recipe;
+    const auto& figures = program.document.figures;
     const float sg = hop_gravity(document);
     json.number("batch_size", document.batch_size)
         .number("wort_size", document.wort_size)
@@ -49,15 +49,16 @@ void recipe_figures(JsonWriter& json, const Program& program) {
 }
 
 void malt(JsonWriter& json, const Program& program, std::size_t i) {
-    const auto& line = program.document.malts[i];
-    const auto& figures = program.figures.lines[i];
-    const ExtractTotals totals{program.document.og_points, program.figures.total_extract_pounds};
+    const auto& line = program.document.recipe.malts[i];
+    const auto& figures = program.document.figures.lines[i];
+    const ExtractTotals totals{program.document.recipe.og_points,
+                               program.document.figures.total_extract_pounds};
     const PotentialTraits traits{line.record.moisture, line.record.coarse_yield, is_mashed(line.record)};
     json.begin_object();
     text(json, "name", line.record.name);
     json.number("amount", line.amount)
         .number("points", line.points)
-        .number("percent", double{line.amount} / program.figures.total_grain * 100)
+        .number("percent", double{line.amount} / program.document.figures.total_grain * 100)
         .number("sg", figures.line_sg)
         .number("extract", figures.line_extract)
         .number("potential_shown", potential_to_shown(line.record.potential, traits, program.settings))
@@ -90,8 +91,9 @@ void steps(JsonWriter& json, const ComplexMash& mash) {
 }
 
 // A recipe has no infusions of its own: they are worked out on the brew day.
-void infusions(JsonWriter& json, const Program& program, DocumentKind kind) {
-    const auto infused = kind == DocumentKind::session ? program.session.infusions : InfusionExtras{};
+void infusions(JsonWriter& json, const LiveDocument& document) {
+    const bool is_session = document.kind == DocumentKind::session;
+    const auto infused = is_session ? document.session.infusions : InfusionExtras{};
     json.begin_object("infusions")
         .number("protein", infused.protein.amount)
         .number("intermediate", infused.intermediate.amount)
@@ -100,16 +102,16 @@ void infusions(JsonWriter& json, const Program& program, DocumentKind kind) {
         .end_object();
 }
 
-void mash(JsonWriter& json, const Program& program, DocumentKind kind) {
-    const bool is_complex = has_complex_schedule(program.document);
+void mash(JsonWriter& json, const LiveDocument& document) {
+    const bool is_complex = has_complex_schedule(document.recipe);
     json.begin_object("mash")
         .string("kind", is_complex ? "complex" : "simple")
-        .number("water", program.figures.mash.quarts)
-        .number("volume", program.figures.mash.gallons);
+        .number("water", document.figures.mash.quarts)
+        .number("volume", document.figures.mash.gallons);
     if (is_complex) {
-        steps(json, program.document.mash);
+        steps(json, document.recipe.mash);
     } else {
-        infusions(json, program, kind);
+        infusions(json, document);
     }
     json.end_object();
 }
@@ -117,8 +119,8 @@ void mash(JsonWriter& json, const Program& program, DocumentKind kind) {
 void session_figures(JsonWriter& json, const Program& program, const Evaluation& evaluation) {
     const auto& alcohol = evaluation.fermentation;
     const auto& efficiency = evaluation.efficiency;
-    const auto& needs = program.session.water_needs;
-    const auto& water = program.water;
+    const auto& needs = program.document.session.water_needs;
+    const auto& water = program.document.water;
     json.begin_object("alcohol")
         .number("abw", alcohol.alcohol_by_weight)
         .number("abv", alcohol.alcohol_by_volume)
@@ -149,22 +151,22 @@ void session_figures(JsonWriter& json, const Program& program, const Evaluation&
 std::string json_line(const Program& program, const Evaluation& evaluation) {
     JsonWriter json;
     json.begin_object().string("file", evaluation.file);
-    text(json, "title", program.document.title);
-    json.string("kind", word(program.document.recipe_kind))
-        .string("document", evaluation.kind == DocumentKind::session ? "session" : "recipe")
+    text(json, "title", program.document.recipe.title);
+    json.string("kind", word(program.document.recipe.recipe_kind))
+        .string("document", document_traits(program.document.kind).word)
         .truth("incomplete", evaluation.load == LoadResult::incomplete);
     recipe_figures(json, program);
     json.begin_list("malts");
-    for (std::size_t i = 0; i < program.document.malts.size(); ++i) malt(json, program, i);
+    for (std::size_t i = 0; i < program.document.recipe.malts.size(); ++i) malt(json, program, i);
     json.end_list().begin_list("hops");
-    for (const auto& line : program.document.hops) hop(json, line);
+    for (const auto& line : program.document.recipe.hops) hop(json, line);
     json.end_list();
     json.begin_object("pre_boil")
         .number("volume", evaluation.pre_boil.volume)
         .number("points", evaluation.pre_boil.points)
         .end_object();
-    mash(json, program, evaluation.kind);
-    if (evaluation.kind == DocumentKind::session) session_figures(json, program, evaluation);
+    mash(json, program.document);
+    if (program.document.kind == DocumentKind::session) session_figures(json, program, evaluation);
     json.end_object();
     return json.text();
 }

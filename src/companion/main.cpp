@@ -107,12 +107,10 @@ struct Reporter {
     std::set<std::string> written{};
 };
 
-bool save_as(Reporter& reporter, const std::string& path, DocumentKind kind) {
-    auto& program = reporter.program;
+bool save_as(Reporter& reporter, const std::string& path) {
+    auto image = image_of(live_document(reporter.program));
     reporter.prompts.subject = path;
-    return kind == DocumentKind::recipe
-               ? save_recipe(path, program.document, reporter.prompts)
-               : save_session(path, program.document, program.session, reporter.prompts);
+    return save_document(path, image, reporter.prompts);
 }
 
 // A name for each input; those of the same name are numbered.
@@ -124,10 +122,10 @@ std::string output_path(Reporter& reporter, const std::string& file, std::string
     return path;
 }
 
-bool report_whole(Reporter& reporter, const std::string& file, DocumentKind kind) {
+bool report_whole(Reporter& reporter, const std::string& file) {
     const bool is_text = reporter.options.form == Form::text;
-    const auto text = is_text ? reporter.full->text(kind) : TextSink();
-    const auto html = is_text ? std::optional<HtmlWriter>() : reporter.full->html(kind);
+    const auto text = is_text ? reporter.full->text() : TextSink();
+    const auto html = is_text ? std::optional<HtmlWriter>() : reporter.full->html();
     if (!reporter.options.output) {
         print(stdout, is_text ? text.text() : html->page());
         return true;
@@ -142,15 +140,15 @@ bool report_file(Reporter& reporter, const std::string& file) {
     auto& program = reporter.program;
     const auto kind = document_kind(file);
     if (!kind) {
-        complain(file, "is neither a recipe (.rec) nor a brewing session (.brw)");
+        complain(file, is_no_document);
         return false;
     }
     const auto load = load_document(program, file, *kind);
     if (load != LoadResult::loaded) complain(file, load_fault(load));
-    if (load == LoadResult::not_found || load == LoadResult::damaged) return false;
-    if (reporter.options.save_as) return save_as(reporter, *reporter.options.save_as, *kind);
-    const auto evaluation = evaluate(program, file, *kind, load);
-    if (is_whole_report(reporter.options.form)) return report_whole(reporter, file, *kind);
+    if (!is_sound(load)) return false;
+    if (reporter.options.save_as) return save_as(reporter, *reporter.options.save_as);
+    const auto evaluation = evaluate(program, file, load);
+    if (is_whole_report(reporter.options.form)) return report_whole(reporter, file);
     const bool is_json = reporter.options.form == Form::json;
     print(stdout, (is_json ? json_line(program, evaluation) : summary(program, evaluation)) + "\n");
     return true;

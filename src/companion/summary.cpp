@@ -78,11 +78,12 @@ std::string brew_date(const SessionDocument& session) {
 }
 
 std::string heading(const Program& program, const Evaluation& evaluation) {
-    const auto& document = program.document;
+    const auto& document = program.document.recipe;
     const auto& settings = program.settings;
     std::string out = utf8_from_windows1252(document.title.view());
-    out += evaluation.kind == DocumentKind::session ? " - Brewing Session" + brew_date(program.session)
-                                                    : " - Recipe";
+    out += program.document.kind == DocumentKind::session
+               ? " - Brewing Session" + brew_date(program.document.session)
+               : " - Recipe";
     out += "\n";
     out += "  " + evaluation.file + "\n  " + std::string(long_kind_word(document.recipe_kind));
     if (!document.style.name.empty()) out += ", " + utf8_from_windows1252(document.style.name.view());
@@ -91,7 +92,7 @@ std::string heading(const Program& program, const Evaluation& evaluation) {
            " min   Efficiency " + fixed(document.efficiency * 100.0, 0) + " %\n";
     out += "  OG " + gravity(document.og_points, settings) + "   IBU " + fixed(document.total_ibu, 1) + " (" +
            std::string(formula_word(settings.HopFormula)) + ")   Colour " +
-           fixed(to_shown_colour(program.figures.colour.srm, settings), 1) + " " +
+           fixed(to_shown_colour(program.document.figures.colour.srm, settings), 1) + " " +
            std::string(words(settings).colour) + "\n";
     return out +
            "  Before the boil, by its rate of evaporation: " + volume(evaluation.pre_boil.volume, settings) +
@@ -102,15 +103,16 @@ std::string malt_list(const Program& program) {
     const auto& settings = program.settings;
     std::string out = "\n  " + column("Malts", name_width) + "     " + std::string(words(settings).grain) +
                       "      %  points\n";
-    for (const auto& line : program.document.malts) {
-        const double percent =
-            program.figures.total_grain > 0 ? double{line.amount} / program.figures.total_grain * 100 : 0.0;
+    for (const auto& line : program.document.recipe.malts) {
+        const double percent = program.document.figures.total_grain > 0
+                                   ? double{line.amount} / program.document.figures.total_grain * 100
+                                   : 0.0;
         out += "  " + column(line.record.name.view(), name_width) +
                figure(grain_to_shown(line.amount, settings), 2, 7) + figure(percent, 1, 7) +
                figure(line.points, 1, 8) + "\n";
     }
     return out + "  " + column("Total", name_width) +
-           figure(grain_to_shown(program.figures.total_grain, settings), 2, 7) + "\n";
+           figure(grain_to_shown(program.document.figures.total_grain, settings), 2, 7) + "\n";
 }
 
 std::string hop_list(const Program& program) {
@@ -120,17 +122,17 @@ std::string hop_list(const Program& program) {
     constexpr std::size_t form_width = 8;
     std::string out = "\n  " + column("Hops", name_width - form_width) + column("Form", form_width) + unit +
                       "  alpha   min   IBU\n";
-    for (const auto& line : program.document.hops) {
+    for (const auto& line : program.document.recipe.hops) {
         out += "  " + column(line.record.name.view(), name_width - form_width) +
                column(form_word(form(line.record)), form_width) +
                figure(hop_to_shown(line.amount, settings), 2, 7) + figure(line.alpha, 1, 7) + " " +
-               time_word(line, program.document.boil_minutes) + figure(line.ibu, 1, 6) + "\n";
+               time_word(line, program.document.recipe.boil_minutes) + figure(line.ibu, 1, 6) + "\n";
     }
     return out;
 }
 
 std::string other_ingredients(const Program& program) {
-    const auto& document = program.document;
+    const auto& document = program.document.recipe;
     std::string out;
     for (const auto& line : document.extras) {
         constexpr std::array<std::string_view, 7> units = {"oz", "g", "lb", "tsp", "tbsp", "cups", "units"};
@@ -189,24 +191,24 @@ std::string steps(const ComplexMash& mash, const Settings& settings) {
     return out;
 }
 
-std::string mash_schedule(const Program& program, const Evaluation& evaluation) {
+std::string mash_schedule(const Program& program) {
     const auto& settings = program.settings;
-    if (!(program.figures.mash_grain > 0)) return {};
-    const bool is_complex = has_complex_schedule(program.document);
-    const auto& mash = program.figures.mash;
-    const bool is_session = evaluation.kind == DocumentKind::session;
-    const auto& infusions = is_session ? program.session.infusions : InfusionExtras{};
+    if (!(program.document.figures.mash_grain > 0)) return {};
+    const bool is_complex = has_complex_schedule(program.document.recipe);
+    const auto& mash = program.document.figures.mash;
+    const bool is_session = program.document.kind == DocumentKind::session;
+    const auto& infusions = is_session ? program.document.session.infusions : InfusionExtras{};
     return "\n  Mash: water " + quarts(mash.quarts, settings) + ", volume " + volume(mash.gallons, settings) +
            "\n" +
-           (is_complex ? steps(program.document.mash, settings)
-                       : rests(program.document.simple_mash, infusions, settings));
+           (is_complex ? steps(program.document.recipe.mash, settings)
+                       : rests(program.document.recipe.simple_mash, infusions, settings));
 }
 
 std::string brew_day(const Program& program, const Evaluation& evaluation) {
     const auto& settings = program.settings;
-    const auto& session = program.session;
+    const auto& session = program.document.session;
     const auto& alcohol = evaluation.fermentation;
-    const auto& water = program.water;
+    const auto& water = program.document.water;
     const auto points = [](float sg) { return narrow((sg - 1.0) * 1000); };
     return "\n  Measured OG " + gravity(points(session.actual_og), settings) + ", FG " +
            gravity(points(session.actual_fg), settings) + "\n  Alcohol " +
@@ -223,8 +225,8 @@ std::string brew_day(const Program& program, const Evaluation& evaluation) {
 
 std::string summary(const Program& program, const Evaluation& evaluation) {
     auto page = heading(program, evaluation) + malt_list(program) + hop_list(program) +
-                other_ingredients(program) + mash_schedule(program, evaluation);
-    if (evaluation.kind == DocumentKind::session) page += brew_day(program, evaluation);
+                other_ingredients(program) + mash_schedule(program);
+    if (program.document.kind == DocumentKind::session) page += brew_day(program, evaluation);
     return page;
 }
 

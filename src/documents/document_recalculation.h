@@ -5,6 +5,7 @@
 #include "brewing/water_balance.h"
 #include "documents/figures.h"
 #include "records/documents/session_document.h"
+#include "settings/system_files.h"
 
 namespace wortlex {
 
@@ -16,6 +17,10 @@ struct OpenDocument {
     SessionDocument* session = nullptr;
     WaterBalance* water = nullptr; ///< of the session
 };
+
+inline DocumentKind kind_of(const OpenDocument& open) {
+    return open.session != nullptr ? DocumentKind::session : DocumentKind::recipe;
+}
 
 /// What the editing window remembers between changes.
 struct RecipeLocks {

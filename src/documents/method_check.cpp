@@ -1,5 +1,7 @@
 #include "documents/method_check.h"
 
+#include "records/documents/document_traits.h"
+
 namespace wortlex {
 namespace {
 
@@ -21,11 +23,6 @@ bool is_of_method_2(const BrewDocument& document) {
     return document.file_efficiency_mode >= first_of_method_2;
 }
 
-std::string_view word(MethodSubject subject) {
-    return subject == MethodSubject::session ? "The brewing session you are about to "
-                                             : "The recipe you are about to ";
-}
-
 std::string difference(const std::string& subject, const BrewDocument& document) {
     const auto its = is_of_method_2(document) ? by_weight : by_maximum;
     const auto ours = is_of_method_2(document) ? by_maximum : by_weight;
@@ -43,10 +40,11 @@ bool has_other_method(const BrewDocument& document, const Settings& settings) {
 }
 
 std::optional<std::string> method_check_on_load(const BrewDocument& document, const Settings& settings,
-                                                MethodSubject subject) {
+                                                DocumentKind kind) {
     if (!has_other_method(document, settings)) return std::nullopt;
-    return difference(std::string(word(subject)) + "load", document) + std::string(of_loading) +
-           "\n\nThe recipe was created with Method #" + (is_of_method_2(document) ? "2" : "1");
+    return difference(std::string(document_traits(kind).about_to) + "load", document) +
+           std::string(of_loading) + "\n\nThe recipe was created with Method #" +
+           (is_of_method_2(document) ? "2" : "1");
 }
 
 std::optional<std::string> method_check_on_pick(const BrewDocument& document, const Settings& settings) {
@@ -55,9 +53,10 @@ std::optional<std::string> method_check_on_pick(const BrewDocument& document, co
 }
 
 std::optional<std::string> method_check_on_save(const BrewDocument& document, const Settings& settings,
-                                                MethodSubject subject) {
+                                                DocumentKind kind) {
     if (!has_other_method(document, settings)) return std::nullopt;
-    return difference(std::string(word(subject)) + "save", document) + std::string(of_saving);
+    return difference(std::string(document_traits(kind).about_to) + "save", document) +
+           std::string(of_saving);
 }
 
 } // namespace wortlex

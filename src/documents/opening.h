@@ -14,7 +14,7 @@ void recalculate_opened(const OpenDocument& open);
 struct OpenedRecipe {
     RecipeLocks locks;
     bool show_potential = true; ///< the malt list shows potentials, not contributions
-    DocumentSnapshot saved;
+    DocumentImage saved;        ///< what a save is asked against
 };
 
 /// Everything that happens as the recipe window opens. A new recipe takes the efficiency of the settings.

@@ -1,10 +1,11 @@
 #include "documents/snapshot.h"
 
 #include "documents/recipe_gravity.h"
-#include "records/documents/document_files.h"
+#include "records/documents/document_traits.h"
 
 #include <algorithm>
 #include <tuple>
+#include <utility>
 
 namespace wortlex {
 namespace {
@@ -30,36 +31,68 @@ auto figures_of(const BrewDocument& d) {
                     d.notes, d.awards, d.reserved_text);
 }
 
+bool same_session(const SessionDocument* session, const DocumentImage& image) {
+    return session == nullptr ? !image.session : image.session == *session;
+}
+
+bool same_values(const OpenDocument& open, const DocumentImage& image) {
+    return open.document == image.recipe && same_session(open.session, image);
+}
+
+// What holds something that is no number is not even equal to itself.
+template <class Record>
+bool equals_itself(const Record& record) {
+    const auto& itself = record;
+    return record == itself;
+}
+
+bool differs(const OpenDocument& open, const DocumentImage& image, SnapshotScope scope) {
+    const auto &document = open.document, &saved = image.recipe;
+    if (figures_of(document) != figures_of(saved)) return true;
+    if (scope == SnapshotScope::with_schedule && !same_schedule(document, saved)) return true;
+    if (!same_session(open.session, image)) return true;
+    return !(same_lines(document.hops, saved.hops) && same_lines(document.malts, saved.malts) &&
+             same_lines(document.extras, saved.extras));
+}
+
 } // namespace
 
-DocumentSnapshot snapshot_document(const OpenDocument& open, SnapshotScope scope) {
+DocumentImage image_of(const OpenDocument& open) {
+    DocumentImage image{.recipe = open.document};
+    if (open.session != nullptr) image.session = *open.session;
+    return image;
+}
+
+// Values first: only what is no number has to be compared by its bytes, which are dear to make.
+bool is_same(const OpenDocument& open, const DocumentImage& image) {
+    if (same_values(open, image)) return true;
+    return !equals_itself(image) && document_bytes(image_of(open)) == document_bytes(image);
+}
+
+void put_image(DocumentImage image, const OpenDocument& open) {
+    open.document = std::move(image.recipe);
+    if (open.session != nullptr && image.session) *open.session = *image.session;
+}
+
+DocumentImage snapshot_document(const OpenDocument& open, SnapshotScope scope) {
     if (scope == SnapshotScope::with_schedule) {
         total_grain_update(open.document, open.figures);
         mash_refresh(open);
     }
-    return {open.document, scope};
+    return image_of(open);
 }
 
-void restore_snapshot(const DocumentSnapshot& snapshot, const OpenDocument& open) {
-    auto restored = snapshot.document;
-    if (snapshot.scope == SnapshotScope::without_schedule) keep_schedule(restored, open.document);
+void restore_snapshot(const DocumentImage& image, const OpenDocument& open, SnapshotScope scope) {
+    auto restored = image.recipe;
+    if (scope == SnapshotScope::without_schedule) keep_schedule(restored, open.document);
     restored.file_efficiency_mode = open.document.file_efficiency_mode;
     open.document = std::move(restored);
     total_grain_update(open.document, open.figures);
     mash_refresh(open);
 }
 
-bool document_changed(const BrewDocument& document, const DocumentSnapshot& snapshot) {
-    const auto& saved = snapshot.document;
-    if (recipe_bytes(document) == recipe_bytes(saved)) return false; // also with what is no number in it
-    if (figures_of(document) != figures_of(saved)) return true;
-    if (snapshot.scope == SnapshotScope::with_schedule && !same_schedule(document, saved)) return true;
-    return !(same_lines(document.hops, saved.hops) && same_lines(document.malts, saved.malts) &&
-             same_lines(document.extras, saved.extras));
-}
-
-bool session_changed(const SessionDocument& session, const SessionDocument& saved) {
-    return session != saved;
+bool document_changed(const OpenDocument& open, const DocumentImage& image, SnapshotScope scope) {
+    return differs(open, image, scope) && !is_same(open, image);
 }
 
 } // namespace wortlex

@@ -2,19 +2,15 @@
 #pragma once
 
 #include "base/ports/desk.h"
-#include "documents/work/recipe_saving.h"
+#include "documents/live_document.h"
 #include "program/open_tools.h"
-#include "records/documents/document_files.h"
-#include "settings/system_files.h"
 
 namespace wortlex {
 
 struct Program;
 
-DocumentFile& document_file(Program& program, DocumentKind kind);
-
-/// The kind of document that a file name stands for by its ending, or nothing.
-std::optional<DocumentKind> document_kind(std::string_view path);
+/// The command that opens a document of that kind.
+int open_command(DocumentKind kind);
 
 /// What became of the wish for a document window. There is one at most.
 enum class Wanted {

@@ -42,21 +42,23 @@ TextSink text_of(const DocumentReport& report) {
 }
 
 void print(const WindowPorts& ports, const DocumentReport& report, const std::string& title) {
-    ports.pages.show({.document_name = title.empty() ? "Wortlex Recipe" : title,
+    const auto& traits = document_traits(ports.program.document.kind);
+    ports.pages.show({.document_name = title.empty() ? std::string(traits.printed_name) : title,
                       .printer_scale = ports.program.settings.printer_scale,
                       .run = [&report](PageContext& page) { write_print(report, page); }});
 }
 
 } // namespace
 
-void export_recipe(const WindowPorts& ports, const RecipeView& view) {
+void export_document(const WindowPorts& ports, const RecipeView& view) {
     auto& program = ports.program;
-    const auto open = open_recipe(program);
+    const auto open = live_document(program);
+    const auto& selection = print_selection(program);
     const auto report =
-        document_report({open, view, program.color_table, evaporation_rate(program)}, program.recipe_print);
-    const auto title = line_text(program.document.title);
+        document_report({open, view, program.color_table, evaporation_rate(program)}, selection);
+    const auto title = line_text(program.document.recipe.title);
     const auto name = recipe_file_name(title, ReportOutput::report);
-    switch (report_form(program.recipe_print)) {
+    switch (report_form(selection)) {
     case ReportForm::print:
         return print(ports, report, title);
     case ReportForm::clipboard:
@@ -71,11 +73,11 @@ void export_recipe(const WindowPorts& ports, const RecipeView& view) {
     }
 }
 
-void save_as_default(const PrintSelection& selection, const std::string& data_folder, Prompts& prompts) {
-    const Message question{.text = "Really save these settings as the recipe formulation print defaults?",
-                           .icon = Icon::question};
+void save_as_default(DocumentKind kind, const PrintSelection& selection, const std::string& data_folder,
+                     Prompts& prompts) {
+    const Message question{.text = document_traits(kind).save_selection, .icon = Icon::question};
     if (prompts.ask_yes_no(question) != Answer::yes) return;
-    if (!SavePrintSelection(data_folder, DocumentKind::recipe, selection))
+    if (!SavePrintSelection(data_folder, kind, selection))
         prompts.tell({.text = "The print defaults could not be written. Is the disk full, or the folder "
                               "read-only?",
                       .icon = Icon::error});

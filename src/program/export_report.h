@@ -7,11 +7,12 @@
 
 namespace wortlex {
 
-/// Gives the report of the live recipe the form that `program.recipe_print` asks for. Its lists show what
-/// `view` does. A file is asked for its name; who leaves the dialog gets nothing.
-void export_recipe(const WindowPorts& ports, const RecipeView& view);
+/// Gives the report of the live document the form that the selection of its kind asks for. Its lists show
+/// what `view` does. A file is asked for its name; who leaves the dialog gets nothing.
+void export_document(const WindowPorts& ports, const RecipeView& view);
 
-/// Asks, and makes the recipe's selection that of the next start.
-void save_as_default(const PrintSelection& selection, const std::string& data_folder, Prompts& prompts);
+/// Asks, and makes the selection for that kind of document that of the next start.
+void save_as_default(DocumentKind kind, const PrintSelection& selection, const std::string& data_folder,
+                     Prompts& prompts);
 
 } // namespace wortlex

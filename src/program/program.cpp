@@ -21,12 +21,18 @@ std::string working_folder() {
     return native_folder(std::filesystem::current_path(error).string());
 }
 
-OpenDocument open_recipe(Program& program) {
-    return {program.document, program.figures, program.settings};
+float evaporation_rate(const Program& program) {
+    const auto& document = program.document;
+    const bool is_session = document.kind == DocumentKind::session;
+    return is_session ? document.session.water_needs.evaporation_rate : program.water_usage.evaporation_rate;
 }
 
-OpenDocument open_session(Program& program) {
-    return {program.document, program.figures, program.settings, &program.session, &program.water};
+OpenDocument live_document(Program& program) {
+    return view_of(program.document, program.settings);
+}
+
+PrintSelection& print_selection(Program& program) {
+    return program.document.kind == DocumentKind::session ? program.session_print : program.recipe_print;
 }
 
 } // namespace wortlex

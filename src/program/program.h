@@ -5,6 +5,7 @@
 #include "brewing/beer_colour.h"
 #include "calculators/hop_memory.h"
 #include "databases/ingredient_list.h"
+#include "documents/live_document.h"
 #include "documents/opening.h"
 #include "documents/session_figures.h"
 #include "mash/strike_calculator.h"
@@ -45,13 +46,7 @@ struct Program {
     HtmlTheme html_theme;   ///< of exported pages
     WaterNeeds water_usage; ///< the brewer's usual figures
 
-    BrewDocument document; ///< the one live recipe, also under a session
-    RecipeFigures figures;
-    SessionDocument session;
-    WaterBalance water;        ///< of the session
-    float water_to_grain = 0;  ///< of the simple mash, quarts per pound; 0 for a loaded document
-    DocumentFile recipe_file;  ///< where the live document comes from,
-    DocumentFile session_file; ///< by the window that works on it
+    LiveDocument document; ///< the one there is
     RecentDocuments recent_documents;
 
     Database<WaterRecord> water_database; ///< the one that stays in memory
@@ -73,13 +68,13 @@ bool start_core(Program& program, const std::string& data_folder, Prompts& promp
 /// The working directory with a slash: where all data files are.
 std::string working_folder();
 
-/// Percent or gallons per hour, by the settings, where there is no session to ask.
-inline float evaporation_rate(const Program& program) {
-    return program.water_usage.evaporation_rate;
-}
+/// Percent or gallons per hour, by the settings: the session's own, or for a recipe the usual one.
+float evaporation_rate(const Program& program);
 
-/// The live recipe, or the live session, ready to be worked on.
-OpenDocument open_recipe(Program& program);
-OpenDocument open_session(Program& program);
+/// The live document ready to be worked on.
+OpenDocument live_document(Program& program);
+
+/// What is wanted of the live document's report.
+PrintSelection& print_selection(Program& program);
 
 } // namespace wortlex

@@ -1,30 +1,33 @@
 // Unsaved work, kept in the data folder while a document is open, for a run that breaks off.
 #pragma once
 
-#include "program/documents.h"
+#include "documents/live_document.h"
 
 namespace wortlex {
 
+struct Program;
+
 /// What a broken run left.
 struct RecoveredWork {
-    std::string path; ///< of the file that it was opened from; empty for a new recipe
+    DocumentKind kind = DocumentKind::recipe;
+    std::string path; ///< of the file that it was opened from; empty for a new document
     std::optional<FileStamp> stamp;
-    Bytes recipe;
+    Bytes document; ///< as its file would have them
 };
 
-/// Keeps the live recipe beside the settings. The recipe itself is not touched: it is not marked as saved. A
-/// folder that cannot be written to keeps nothing; answers whether it did.
-bool KeepWork(const Program& program);
+/// Keeps a document beside the settings: as it is now, and where it came from. A folder that cannot be
+/// written to keeps nothing; answers whether it did.
+bool KeepWork(const std::string& data_folder, const DocumentImage& image, const DocumentFile& file);
 /// There is nothing to lose any more.
 void DropWork(const std::string& data_folder);
 /// Nothing too if what is there is no such file.
 std::optional<RecoveredWork> FindWork(const std::string& data_folder);
 
-/// Makes it the live recipe, as yet unsaved; false if it cannot be read, and all stays as it was.
-bool restore_work(Program& program, const RecoveredWork& work);
+/// Makes it the live document, as yet unsaved; false if it cannot be read, and all stays as it was.
+bool restore_work(LiveDocument& live, const RecoveredWork& work, const Settings& settings);
 
-/// Offers what a broken run left: it becomes the live recipe, is discarded or is put aside until the next
-/// start. True if it is the live recipe now.
+/// Offers what a broken run left: it becomes the live document, is discarded or is put aside until the next
+/// start. True if it is the live document now.
 bool offer_work(Program& program, Prompts& prompts);
 
 } // namespace wortlex

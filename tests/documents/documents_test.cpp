@@ -340,9 +340,9 @@ TEST(Opening, OfARecipeTakesItsSnapshotAndANewOneTheUsualEfficiency) {
         const auto loaded = open_recipe_window(b.recipe(), true);
         EXPECT_EQ((std::pair{loaded.locks.locked_efficiency, loaded.show_potential}),
                   (std::pair{0.75F, potentials}));
-        EXPECT_FALSE(document_changed(b.document, loaded.saved)) << "opening is no change";
+        EXPECT_FALSE(document_changed(b.recipe(), loaded.saved)) << "opening is no change";
         b.document.mash.step_count = 1;
-        EXPECT_TRUE(document_changed(b.document, loaded.saved)) << "the schedule belongs to the image";
+        EXPECT_TRUE(document_changed(b.recipe(), loaded.saved)) << "the schedule belongs to the image";
         EXPECT_EQ(open_recipe_window(b.recipe(), false).locks.locked_efficiency, 0.6F);
         EXPECT_EQ(b.document.efficiency, 0.6F);
     }
@@ -353,15 +353,16 @@ TEST(Opening, OfANewSessionStartsFromTheUsualWater) {
     b.settings.batch_size = b.settings.wort_size = 11;
     WaterNeeds usual;
     std::tie(usual.sparge, usual.boil_minutes, usual.grain) = std::tuple{4.0F, 90.0F, 12.0F};
-    const auto log_before = b.session;
+    const auto before = image_of(b.brew_day());
     start_session(b.brew_day(), usual);
     EXPECT_TRUE(b.document.malts.empty() && !has_complex_schedule(b.document));
     EXPECT_EQ((std::pair{b.document.batch_size, b.document.wort_size}), (std::pair{5.0F, 5.0F}));
     const auto& needs = b.session.water_needs;
     expect_figures(std::array{needs.sparge, needs.boil_minutes, needs.grain, b.water.needed}, {4, 60, 0, 4},
                    "seeded from the empty recipe");
-    EXPECT_TRUE(session_changed(b.session, log_before));
-    EXPECT_FALSE(session_changed(b.session, SessionDocument(b.session)));
+    b.document = before.recipe;
+    EXPECT_TRUE(document_changed(b.brew_day(), before)) << "by its log alone";
+    EXPECT_FALSE(document_changed(b.brew_day(), image_of(b.brew_day())));
 }
 
 TEST(Snapshot, TellsWhetherThereIsAnythingToSave) {
@@ -369,9 +370,9 @@ TEST(Snapshot, TellsWhetherThereIsAnythingToSave) {
     const auto changed_with_and_without_schedule = +[](void (*edit)(BrewDocument&)) {
         Brewery b;
         const auto saved = snapshot_document(b.recipe(), SnapshotScope::with_schedule);
-        const auto without = snapshot_document(b.recipe(), SnapshotScope::without_schedule);
         edit(b.document);
-        return std::pair{document_changed(b.document, saved), document_changed(b.document, without)};
+        return std::pair{document_changed(b.recipe(), saved),
+                         document_changed(b.recipe(), saved, SnapshotScope::without_schedule)};
     };
     // clang-format off
     expect_exactly(changed_with_and_without_schedule, {
@@ -398,10 +399,10 @@ TEST(Snapshot, RestoreBringsBackTheImageAndItsFigures) {
         b.document.mash.step_count = 1;
         b.document.mash.steps[0].start_temperature = 150;
         b.figures.total_grain = 77;
-        restore_snapshot(saved, b.recipe());
+        restore_snapshot(saved, b.recipe(), scope);
         b.expect({usual_og, usual_ibu, 0, 9, 8}, "restored");
         EXPECT_EQ(b.document.mash.step_count, with_schedule ? 0 : 1) << "a schedule not taken stays";
-        EXPECT_FALSE(document_changed(b.document, saved));
+        EXPECT_FALSE(document_changed(b.recipe(), saved, scope));
     }
 }
 

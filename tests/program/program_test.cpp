@@ -191,42 +191,45 @@ TEST_F(Documents, ComeFromTheFileThatIsChosen) {
     set_folder(program.folders, FolderKind::recipes, "/away");
     ScriptedFiles files({std::nullopt, pale});
     EXPECT_FALSE(choose_and_open(program, DocumentKind::recipe, files, prompts));
-    EXPECT_TRUE(program.document.title.empty() && program.water_to_grain == 1.0F);
+    EXPECT_TRUE(program.document.recipe.title.empty() && program.document.water_to_grain == 1.0F);
     EXPECT_TRUE(choose_and_open(program, DocumentKind::recipe, files, prompts));
     EXPECT_EQ(files.offers[1], "open Recipe File (*.rec)|*.rec /away/  rec");
-    EXPECT_TRUE(program.document.title.view() == "Pale" && program.water_to_grain == 0.0F);
-    EXPECT_TRUE(program.recipe_file.path == pale && program.recipe_file.loaded_from_file);
+    EXPECT_TRUE(program.document.recipe.title.view() == "Pale" && program.document.water_to_grain == 0.0F);
+    EXPECT_TRUE(program.document.file.path == pale && program.document.file.loaded_from_file);
     EXPECT_EQ(folder_path(program.folders, FolderKind::recipes), folder.path());
 }
 
 TEST_F(Documents, StayWhereAFileCannotBeOpened) {
     ASSERT_TRUE(open_document_file(program, pale, prompts));
-    const auto before = program.document;
+    const auto before = program.document.recipe;
     auto damaged = *read_file(pale);
     damaged[88] = std::byte{0xFF}; // a negative number of hops
     save_atomically(folder / "damaged.rec", damaged);
     expect_fault("none.brw", "File Not Found!");
     expect_fault("damaged.rec", "damaged.rec is damaged or is no Wortlex document; it was not opened.");
     expect_fault("notes.txt", "notes.txt is neither a recipe (.rec) nor a brewing session (.brw).");
-    EXPECT_TRUE(program.document == before && program.recipe_file.path == pale);
+    EXPECT_TRUE(program.document.recipe == before && program.document.file.path == pale);
     EXPECT_THAT(LoadRecent(folder.path()), ElementsAre(pale));
     save_atomically(folder / "short.rec", *read_file(pale, 5000));
     expect_fault("short.rec", "short.rec ended early; what is missing was left empty.", Icon::warning);
-    EXPECT_TRUE(program.recipe_file.incomplete);
+    EXPECT_TRUE(program.document.file.incomplete);
 }
 
 TEST_F(Documents, WarnOfTheOtherEfficiencyMethod) {
     using enum EfficiencyMode;
     const auto check = [&](std::uint8_t of_file, EfficiencyMode ours) {
-        program.document.file_efficiency_mode = of_file;
+        program.document.recipe.file_efficiency_mode = of_file;
         program.settings.efficiency_mode = ours;
-        return method_check_on_load(program.document, program.settings).value_or("");
+        return method_check_on_load(program.document.recipe, program.settings, DocumentKind::recipe)
+            .value_or("");
     };
     EXPECT_EQ(check(1, method_1) + check(0, method_1_yield) + check(2, method_2), "");
     EXPECT_THAT(check(2, method_1_yield),
                 testing::MatchesRegex("The recipe you are about to load was (.|\n)*potential. than your "
                                       "current system .by maximum potential of grain.[.](.|\n)*Method #2"));
     EXPECT_THAT(check(0, method_2), testing::EndsWith("Method #1"));
+    EXPECT_THAT(*method_check_on_save(program.document.recipe, program.settings, DocumentKind::session),
+                testing::StartsWith("The brewing session you are about to save was created using"));
 }
 
 TEST_F(Documents, AreRememberedNewestFirst) {

@@ -1,3 +1,5 @@
+#include "documents/opening.h"
+#include "documents/work/document_saving.h"
 #include "program/export_report.h"
 #include "program/recovery.h"
 #include "program/start.h"
@@ -22,9 +24,12 @@ struct Kitchen {
     Kitchen() {
         SaveSystemFiles(folder.path(), {WriteDefaultSettings(), {}, true});
         EXPECT_TRUE(start_core(program, folder.path(), prompts));
-        program.document.title.assign("Alt");
-        program.document.file_efficiency_mode = 2;
-        program.document.mash_flags = 1;
+        program.document.recipe.title.assign("Alt");
+        program.document.recipe.file_efficiency_mode = 2;
+        program.document.recipe.mash_flags = 1;
+    }
+    bool keep() {
+        return KeepWork(program.data_folder, image_of(live_document(program)), program.document.file);
     }
 };
 
@@ -35,29 +40,106 @@ constexpr const char* question_about_file =
 TEST(Recovery, BringsBackWhatABrokenRunLeft) {
     Kitchen run;
     std::ofstream(run.folder / "Alt.rec") << "old";
-    run.program.recipe_file = {
+    run.program.document.file = {
         .path = run.folder / "Alt.rec", .loaded_from_file = true, .stamp = stamp_of(run.folder / "Alt.rec")};
-    ASSERT_TRUE(KeepWork(run.program));
-    EXPECT_EQ(run.program.document.mash_flags, 1) << "keeping is not saving";
-    const auto kept = run.program.recipe_file.stamp;
+    ASSERT_TRUE(run.keep());
+    EXPECT_EQ(run.program.document.recipe.mash_flags, 1) << "keeping is not saving";
+    const auto kept = run.program.document.file.stamp;
 
     new_recipe(run.program);
     run.prompts.expect("yes/no/cancel", question_about_file, Answer::yes, Icon::question);
     EXPECT_TRUE(offer_work(run.program, run.prompts));
-    EXPECT_EQ(run.program.document.title.view(), "Alt");
-    EXPECT_EQ(run.program.document.file_efficiency_mode, 2);
-    EXPECT_EQ(run.program.document.mash_flags, 1);
-    EXPECT_TRUE(run.program.recipe_file.recovered);
-    EXPECT_EQ(run.program.recipe_file.path, run.folder / "Alt.rec");
-    EXPECT_EQ(run.program.recipe_file.stamp, kept);
+    EXPECT_EQ(run.program.document.recipe.title.view(), "Alt");
+    EXPECT_EQ(run.program.document.recipe.file_efficiency_mode, 2);
+    EXPECT_EQ(run.program.document.recipe.mash_flags, 1);
+    EXPECT_TRUE(run.program.document.file.recovered);
+    EXPECT_EQ(run.program.document.file.path, run.folder / "Alt.rec");
+    EXPECT_EQ(run.program.document.file.stamp, kept);
 
     run.prompts.expect("yes/no/cancel", question_about_file, Answer::cancel, Icon::question);
     EXPECT_FALSE(offer_work(run.program, run.prompts));
-    KeepWork(run.program);
+    run.keep();
     DropWork(run.folder.path()); // a recipe was opened and left meanwhile
     run.prompts.expect("yes/no/cancel", question_about_file, Answer::no, Icon::question);
     EXPECT_FALSE(offer_work(run.program, run.prompts));
     EXPECT_FALSE(offer_work(run.program, run.prompts)) << "discarded: nothing more to ask";
+}
+
+// A session that was saved, opened again and is under work.
+struct BrewDay : Kitchen {
+    LiveDocument& live = program.document;
+    std::string path = folder / "Alt.brw";
+    RecipeEditor editor{opened(), {}, {}};
+    DocumentImage saved;
+
+    BrewDay() {
+        recalculate_opened(editor.open);
+        start_editing(editor, {});
+        saved = snapshot_document(editor.open, SnapshotScope::with_schedule);
+    }
+    OpenDocument opened() {
+        new_session(program);
+        live.recipe.title.assign("Alt");
+        live.recipe.malts.resize(2);
+        live.session.head_brewer.assign("Ada");
+        auto image = image_of(live_document(program));
+        EXPECT_TRUE(save_document(path, image, prompts));
+        new_recipe(program);
+        EXPECT_TRUE(open_document_file(program, path, prompts));
+        return live_document(program);
+    }
+    void name_brewer(const char* name) {
+        edit(editor, "Brewer", [&] { live.session.head_brewer.assign(name); });
+    }
+    bool is_modified() const { return wortlex::is_modified(editor.open, saved, live.file); }
+};
+
+TEST(BrewDay, TakesBackWhatItsLogAndWaterWere) {
+    BrewDay day;
+    const auto before = image_of(day.editor.open);
+    const float needed = day.live.water.needed;
+    EXPECT_FALSE(day.is_modified());
+    day.name_brewer("Bo");
+    edit(day.editor, "Top Up", [&] {
+        day.live.session.water_needs.top_up += 1;
+        refresh_water(day.editor.open);
+    });
+    EXPECT_EQ(day.live.water.needed, needed + 1);
+    undo(day.editor);
+    EXPECT_EQ(day.live.water.needed, needed);
+    EXPECT_TRUE(day.is_modified()) << "the brewer's name";
+    undo(day.editor);
+    EXPECT_TRUE(image_of(day.editor.open) == before && !day.is_modified());
+    redo(day.editor);
+    EXPECT_EQ(day.live.session.head_brewer.view(), "Bo");
+}
+
+TEST(BrewDay, IsSavedAndRecoveredAsASession) {
+    BrewDay day;
+    ScriptedFiles files({day.folder / "Copy.brw"});
+    DocumentSaving saving{day.editor, day.live.file, day.saved, files, day.prompts, "sessions/"};
+    day.name_brewer("Bo");
+    day.prompts.expect("yes/no/cancel",
+                       "The current brew session entry has been modified!\nDo you want to save the changes?",
+                       Answer::yes, Icon::question);
+    EXPECT_TRUE(may_leave(saving) && !day.is_modified());
+    EXPECT_EQ(*read_file(day.path), session_bytes(day.live.recipe, day.live.session));
+    EXPECT_TRUE(save(saving, SaveAs::yes));
+    const auto folder = std::filesystem::path(day.path).parent_path().string();
+    EXPECT_THAT(files.offers,
+                testing::ElementsAre("save Brew File (*.brw)|*.brw " + folder + " Alt.brw brw"));
+    day.name_brewer("Cy");
+    ASSERT_TRUE(day.keep());
+    new_recipe(day.program);
+    day.live.session = {};
+    day.prompts.expect("yes/no/cancel",
+                       "Wortlex ended before your work on Copy.brw was saved.\nDo you want to open it as it "
+                       "was? No discards it, Cancel asks again at the next start.",
+                       Answer::yes, Icon::question);
+    EXPECT_TRUE(offer_work(day.program, day.prompts));
+    EXPECT_EQ(live_document(day.program).session, &day.live.session);
+    EXPECT_EQ(day.live.session.head_brewer.view(), "Cy");
+    EXPECT_TRUE(day.live.file.recovered && day.live.file.path == day.folder / "Copy.brw");
 }
 
 TEST(Recovery, ClearsAwayOnlyWhatKilledSavesLeft) {
@@ -74,11 +156,12 @@ TEST(Recovery, ClearsAwayOnlyWhatKilledSavesLeft) {
 TEST(Recovery, TrustsNoFile) {
     Kitchen run;
     const auto path = run.folder / "WlxWork.rcv";
-    KeepWork(run.program);
+    run.keep();
     const auto whole = *read_file(path);
     for (std::size_t length = 0; length < whole.size(); length += length < 200 ? 1 : 997) {
         save_atomically(path, ByteView(whole).first(length));
-        if (const auto work = FindWork(run.folder.path())) restore_work(run.program, *work);
+        if (const auto work = FindWork(run.folder.path()))
+            restore_work(run.program.document, *work, run.program.settings);
     }
     std::ofstream(path) << "Wortlex unsaved recipe 1\nx.rec\n9 junk";
     EXPECT_EQ(FindWork(run.folder.path()), std::nullopt);
@@ -94,7 +177,7 @@ struct Exports : Kitchen {
     std::vector<std::string> send(ReportForm form, std::deque<std::optional<std::string>> paths = {}) {
         set_report_form(program.recipe_print, form);
         ScriptedFiles files(std::move(paths));
-        export_recipe({program, prompts, files, pages, clipboard}, {});
+        export_document({program, prompts, files, pages, clipboard}, {});
         return files.offers;
     }
     static std::string content(const std::string& path) {
@@ -105,7 +188,7 @@ struct Exports : Kitchen {
 
 TEST(ExportReport, ReachesPaperFilesAndClipboard) {
     Exports exports;
-    exports.program.document.title.assign("What is it? 1/2");
+    exports.program.document.recipe.title.assign("What is it? 1/2");
     const auto text = exports.folder / "a.txt";
     const auto html = exports.folder / "a.html";
     EXPECT_THAT(exports.send(ReportForm::text_file, {text}),
@@ -137,7 +220,7 @@ TEST(PrintOptions, KeepTheOutputInItsFlags) {
     Kitchen run;
     run.prompts.expect("yes/no", "Really save these settings as the recipe formulation print defaults?",
                        Answer::yes, Icon::question);
-    save_as_default(selection, run.folder.path(), run.prompts);
+    save_as_default(DocumentKind::recipe, selection, run.folder.path(), run.prompts);
     EXPECT_EQ(LoadPrintSelection(run.folder.path(), DocumentKind::recipe, 0.5F), selection);
 }
 

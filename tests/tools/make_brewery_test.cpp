@@ -91,7 +91,7 @@ Program load_sample(const std::string& file) {
 TEST(MakeBrewery, samples_are_within_their_style) {
     EXPECT_GE(sample_files().size(), 12U);
     for (const auto& file : sample_files()) {
-        const auto document = load_sample(file).document;
+        const auto document = load_sample(file).document.recipe;
         const auto& style = document.style;
         const auto check = [&](float x, float a, float b) { EXPECT_EQ(x, std::clamp(x, a, b)) << file; };
         check(document.og_points / 1000 + 1, style.min_og, style.max_og);
@@ -102,17 +102,17 @@ TEST(MakeBrewery, samples_are_within_their_style) {
 }
 
 TEST(MakeBrewery, documents_hold_what_their_sources_say) {
-    const auto bitter = load_sample("Recipes/Ploughman's Best Bitter.rec").document;
+    const auto bitter = load_sample("Recipes/Ploughman's Best Bitter.rec").document.recipe;
     // Pounds x points of potential at 75 % in 5 gallons.
     EXPECT_NEAR(bitter.og_points, (7.25 * 37.7 + 0.6 * 31.9 + 0.25 * 33.5) * 0.75 / 5, 0.01);
     EXPECT_EQ(bitter.target_ibu, 32); // half-way from 25 to 40, cut
     EXPECT_THAT(std::string(bitter.notes.view()), testing::HasSubstr("on its own.\r\nRouse the yeast"));
-    const auto hops = load_sample("Recipes/Saltmarsh IPA.rec").document.hops; // boils 75 minutes
+    const auto hops = load_sample("Recipes/Saltmarsh IPA.rec").document.recipe.hops; // boils 75 minutes
     EXPECT_EQ(std::tuple(hops[0].boil_time, hops[0].alpha, hops[4].boil_time), std::tuple(76, 12.6F, -5));
-    const auto pull = load_sample("Recipes/Zlata Koruna Pilsner.rec").document.mash.used_steps()[1];
+    const auto pull = load_sample("Recipes/Zlata Koruna Pilsner.rec").document.recipe.mash.used_steps()[1];
     EXPECT_EQ(std::tuple(pull.heat_type, pull.stop_temperature, pull.rest_minutes, pull.ratio),
               std::tuple(StepHeat::decoction, 150, 45, 0.65F));
-    const auto session = load_sample("Sessions/Front Porch Pale Ale, Second Brewing.brw").session;
+    const auto session = load_sample("Sessions/Front Porch Pale Ale, Second Brewing.brw").document.session;
     EXPECT_EQ(std::tuple(session.brew_day, session.brew_month, session.brew_year), std::tuple(20, 4, 2024));
     EXPECT_THAT(std::string(session.session_notes[2].view()), testing::HasSubstr("dry finish.\r\nClear"));
 }

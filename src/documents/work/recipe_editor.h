@@ -1,7 +1,7 @@
 // The work on a recipe: what each edit changes, in its order, and what it leaves to be undone.
 #pragma once
 
-#include "documents/work/recipe_history.h"
+#include "documents/work/document_history.h"
 #include "documents/work/recipe_view.h"
 
 #include <functional>
@@ -17,11 +17,12 @@ struct AmountsAtStart {
     std::vector<float> malts, hops, extras;
 };
 
-/// The live recipe under work. The window shows it, the functions below and beside this file change it.
+/// The live document under work, of either kind: both hold a recipe. The window shows it, the functions below
+/// and beside this file change it.
 struct RecipeEditor {
     OpenDocument open;
     RecipeView view;
-    RecipeHistory history;
+    DocumentHistory history;
     std::optional<AmountsAtStart> at_start = std::nullopt; ///< of the edit under way
     std::function<void()> changed = nullptr;               ///< told after each change, also one taken back
 };

@@ -32,18 +32,17 @@ std::optional<MaltUse> edit_malt_line(const WindowPorts& ports, const MaltUse& l
     return copy;
 }
 
-std::optional<HopUse> edit_hop_line(const WindowPorts& ports, const HopUse& line, Opener opener,
-                                    QWidget* owner) {
-    const auto& settings = ports.program.settings;
+std::optional<HopUse> edit_hop_line(const WindowPorts& ports, const OpenDocument& open, const HopUse& line,
+                                    Opener opener, QWidget* owner) {
     auto copy = line;
     Form form;
-    hop_amount_form(form, copy, open_recipe(ports.program), ports.prompts);
-    const bool in_home_units = settings.display_home_bittering != 0;
+    hop_amount_form(form, copy, open, ports.prompts);
+    const bool in_home_units = open.settings.display_home_bittering != 0;
     FormDialog dialog(
         form,
         {.template_name = in_home_units ? "HOPSHORTEDITDIALOG1" : "HOPSHORTEDITDIALOG", .opener = opener},
         places(ports), owner);
-    dialog.widgets().field(first_hop_field(settings)).setFocus();
+    dialog.widgets().field(first_hop_field(open.settings)).setFocus();
     if (dialog.exec() != QDialog::Accepted) return std::nullopt;
     return copy;
 }
@@ -67,20 +66,21 @@ std::optional<HopUse> lose_hop_alpha(const WindowPorts& ports, const HopUse& lin
     return copy;
 }
 
-void show_malt_contribution(const WindowPorts& ports, std::size_t line, Opener opener, QWidget* owner) {
+void show_malt_contribution(const WindowPorts& ports, const OpenDocument& open, std::size_t line,
+                            Opener opener, QWidget* owner) {
     Form form;
-    malt_contribution_form(form, open_recipe(ports.program), line);
+    malt_contribution_form(form, open, line);
     run_dialog(form, {.template_name = "GRAINLISTDETAIL", .opener = opener, .has_cancel = false},
                places(ports), owner);
 }
 
-void show_pre_boil(const WindowPorts& ports, QWidget* owner) {
-    const auto& program = ports.program;
-    const auto print = [&ports, &program] {
-        ports.pages.show(pre_boil_printout(program.document, evaporation_rate(program), program.settings));
+void show_pre_boil(const WindowPorts& ports, const OpenDocument& open, QWidget* owner) {
+    const float rate = evaporation_rate(ports.program);
+    const auto print = [&ports, &open, rate] {
+        ports.pages.show(pre_boil_printout(open.document, rate, open.settings));
     };
     Form form;
-    pre_boil_form(form, program.document, evaporation_rate(program), program.settings);
+    pre_boil_form(form, open.document, rate, open.settings);
     pre_boil_buttons(form, {.print = print, .help = nullptr});
     run_dialog(form, {.template_name = "PREBOILDIALOG", .opener = Opener::recipe, .has_cancel = false},
                places(ports), owner);

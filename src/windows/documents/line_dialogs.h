@@ -12,11 +12,11 @@
 namespace wortlex {
 
 /// Each answers the changed copy after OK, and nothing after Cancel. The hop dialog shows the bitterness that
-/// the line would have in the live document.
+/// the line would have in the document.
 std::optional<MaltUse> edit_malt_line(const WindowPorts& ports, const MaltUse& line, Opener opener,
                                       QWidget* owner);
-std::optional<HopUse> edit_hop_line(const WindowPorts& ports, const HopUse& line, Opener opener,
-                                    QWidget* owner);
+std::optional<HopUse> edit_hop_line(const WindowPorts& ports, const OpenDocument& open, const HopUse& line,
+                                    Opener opener, QWidget* owner);
 std::optional<ExtraUse> edit_extra_line(const WindowPorts& ports, const ExtraUse& line, Opener opener,
                                         QWidget* owner);
 
@@ -25,11 +25,12 @@ std::optional<ExtraUse> edit_extra_line(const WindowPorts& ports, const ExtraUse
 std::optional<HopUse> lose_hop_alpha(const WindowPorts& ports, const HopUse& line, Opener opener,
                                      QWidget* owner);
 
-/// What one malt line of the live document gives to gravity and colour. The line must be there, and the
+/// What one malt line of the document gives to gravity and colour. The line must be there, and the
 /// document's figures up to date.
-void show_malt_contribution(const WindowPorts& ports, std::size_t line, Opener opener, QWidget* owner);
+void show_malt_contribution(const WindowPorts& ports, const OpenDocument& open, std::size_t line,
+                            Opener opener, QWidget* owner);
 
-/// The kettle of the live recipe before its boil.
-void show_pre_boil(const WindowPorts& ports, QWidget* owner);
+/// The kettle of the recipe before its boil.
+void show_pre_boil(const WindowPorts& ports, const OpenDocument& open, QWidget* owner);
 
 } // namespace wortlex

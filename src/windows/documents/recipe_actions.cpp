@@ -25,20 +25,27 @@ void add_malt_actions(RecipeActions& actions, const Side& side) {
     };
     actions.malt_contribution = [side] {
         if (const auto line = selected_malt(side.editor))
-            show_malt_contribution(side.ports, *line, side.opener, side.owner);
+            show_malt_contribution(side.ports, side.editor.open, *line, side.opener, side.owner);
     };
 }
 
 // One of the dialogs that hand a hop line back changed.
-using HopDialog = std::optional<HopUse> (*)(const WindowPorts&, const HopUse&, Opener, QWidget*);
+using HopDialog = std::optional<HopUse> (*)(const Side&, const HopUse&);
+
+std::optional<HopUse> edit_hop(const Side& side, const HopUse& hop) {
+    return edit_hop_line(side.ports, side.editor.open, hop, side.opener, side.owner);
+}
+
+std::optional<HopUse> lose_alpha(const Side& side, const HopUse& hop) {
+    return lose_hop_alpha(side.ports, hop, side.opener, side.owner);
+}
 
 std::function<void()> change_by(HopDialog dialog, const Side& side) {
     return [side, dialog] {
         const auto line = selected_hop(side.editor);
         if (!line) return;
         const auto& hop = side.editor.open.document.hops[*line];
-        if (const auto changed = dialog(side.ports, hop, side.opener, side.owner))
-            replace_hop(side.editor, *changed);
+        if (const auto changed = dialog(side, hop)) replace_hop(side.editor, *changed);
     };
 }
 
@@ -51,13 +58,13 @@ RecipeActions line_actions(RecipeEditor& editor, const WindowPorts& ports, Opene
         if (const auto style = pick_style(side.ports, side.opener, side.owner))
             set_style(side.editor, *style);
     };
-    actions.pre_boil = [side] { show_pre_boil(side.ports, side.owner); };
+    actions.pre_boil = [side] { show_pre_boil(side.ports, side.editor.open, side.owner); };
     add_malt_actions(actions, side);
     actions.new_hop = [side] {
         if (const auto hop = pick_hop(side.ports, side.opener, side.owner)) add_hop(side.editor, *hop);
     };
-    actions.edit_hop = change_by(edit_hop_line, side);
-    actions.lose_alpha = change_by(lose_hop_alpha, side);
+    actions.edit_hop = change_by(edit_hop, side);
+    actions.lose_alpha = change_by(lose_alpha, side);
     return actions;
 }
 

@@ -7,6 +7,7 @@
 #include "program/export_report.h"
 #include "program/recovery.h"
 #include "windows/documents/recipe_actions.h"
+#include "windows/documents/simple_mash_printout.h"
 #include "windows/reports/print_options_window.h"
 
 #include <QAbstractSpinBox>
@@ -42,9 +43,10 @@ QKeySequence::StandardKey key_of(int command) {
 
 RecipeWindow::RecipeWindow(const WindowPorts& ports, const WindowInfo& info, QWidget* origin)
     : ToolWindow(info, 0, Opener::main, origin, {ports.program.tool_positions, ports.program.settings}),
-      ports_(ports), caption_(windowTitle()),
-      program_(ports.program), editor_{open_recipe(program_), {}, {}}, subject_{editor_, program_.color_table,
-                                                                                actions()},
+      ports_(ports), caption_(windowTitle()), program_(ports.program),
+      document_(program_.document), editor_{live_document(program_), {}, {}}, subject_{editor_,
+                                                                                       program_.color_table,
+                                                                                       actions()},
       panel_(subject_, program_.settings, this) {
     editor_.changed = [this] { show_changes(); };
     auto* const layout = new QVBoxLayout(this);
@@ -125,7 +127,7 @@ bool RecipeWindow::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void RecipeWindow::reopen() {
-    const auto& file = program_.recipe_file;
+    const auto& file = document_.file;
     auto opened = open_recipe_window(editor_.open, file.loaded_from_file || file.recovered);
     start_editing(editor_, {.locks = opened.locks,
                             .show_potential = opened.show_potential,
@@ -137,14 +139,14 @@ void RecipeWindow::reopen() {
 }
 
 void RecipeWindow::tell_once_shown() {
-    if (!program_.recipe_file.loaded_from_file) return;
-    if (const auto warning = method_check_on_load(program_.document, program_.settings))
+    if (!document_.file.loaded_from_file) return;
+    if (const auto warning = method_check_on_load(editor_.open.document, program_.settings, document_.kind))
         ports_.prompts.tell({.text = *warning, .icon = Icon::warning});
 }
 
-RecipeSaving RecipeWindow::saving() {
-    return {editor_,      program_.recipe_file, saved_,
-            ports_.files, ports_.prompts,       folder_path(program_.folders, FolderKind::recipes)};
+DocumentSaving RecipeWindow::saving() {
+    return {editor_,      document_.file, saved_,
+            ports_.files, ports_.prompts, folder_path(program_.folders, FolderKind::recipes)};
 }
 
 bool RecipeWindow::may_leave_recipe() {
@@ -177,9 +179,9 @@ void RecipeWindow::open_another() {
 
 bool RecipeWindow::save_recipe(SaveAs save_as) {
     auto current = saving();
-    const auto before = program_.recipe_file.path;
+    const auto before = document_.file.path;
     const bool saved = save(current, save_as);
-    const auto& path = program_.recipe_file.path;
+    const auto& path = document_.file.path;
     if (saved && path != before) {
         follow_user(program_.folders, FolderKind::recipes, path);
         remember_document(program_, path);
@@ -190,7 +192,7 @@ bool RecipeWindow::save_recipe(SaveAs save_as) {
 }
 
 void RecipeWindow::print() {
-    if (choose_print_options(ports_, this)) export_recipe(ports_, editor_.view);
+    if (choose_print_options(ports_, this)) export_document(ports_, editor_.view);
 }
 
 bool RecipeWindow::may_close() {
@@ -208,7 +210,7 @@ void RecipeWindow::travel(bool (*step)(RecipeEditor&)) {
 
 void RecipeWindow::show_changes() {
     show_file_name();
-    if (!swatch_.isNull()) swatch_->set_colour(program_.figures.colour.srm);
+    if (!swatch_.isNull()) swatch_->set_colour(document_.figures.colour.srm);
     for (const auto& page : {yeast_and_water_, extras_})
         if (!page.isNull()) page->refresh();
     tell_grain();
@@ -221,7 +223,7 @@ void RecipeWindow::show_changes() {
 }
 
 void RecipeWindow::tell_grain() {
-    const float grain = program_.figures.mash_grain;
+    const float grain = document_.figures.mash_grain;
     if (!mash_.isNull() && grain != told_grain_) mash_->grain_changed();
     told_grain_ = grain;
 }
@@ -232,23 +234,23 @@ void RecipeWindow::show_everything() {
 }
 
 void RecipeWindow::show_file_name() {
-    const auto& path = program_.recipe_file.path;
+    const auto& path = document_.file.path;
     const auto file = QFileInfo(QFile::decodeName(QByteArray::fromStdString(path))).fileName();
-    const bool modified = is_modified(program_.document, saved_, program_.recipe_file);
+    const bool modified = is_modified(editor_.open, saved_, document_.file);
     const auto before = file + (modified ? QStringLiteral("*") : QString());
     setWindowTitle(before.isEmpty() ? caption_ : before + QStringLiteral(" - ") + caption_);
 }
 
 void RecipeWindow::keep_work() {
-    if (is_modified(program_.document, saved_, program_.recipe_file))
-        KeepWork(program_);
+    if (is_modified(editor_.open, saved_, document_.file))
+        KeepWork(program_.data_folder, image_of(editor_.open), document_.file);
     else
         DropWork(program_.data_folder);
 }
 
 void RecipeWindow::show_colour() {
     if (swatch_.isNull())
-        swatch_ = new ColorSwatchWindow(program_, program_.figures.colour.srm, Opener::recipe, this);
+        swatch_ = new ColorSwatchWindow(program_, document_.figures.colour.srm, Opener::recipe, this);
     bring_forward(*swatch_);
 }
 
@@ -283,21 +285,25 @@ void RecipeWindow::show_extras() {
 
 void RecipeWindow::show_mash() {
     if (mash_.isNull()) {
-        told_grain_ = program_.figures.mash_grain;
-        const auto work = open_simple_mash(program_.document.simple_mash, program_.water_to_grain,
+        told_grain_ = document_.figures.mash_grain;
+        const auto work = open_simple_mash(document_.recipe.simple_mash, document_.water_to_grain,
                                            told_grain_, program_.settings);
-        mash_ = new SimpleMashWindow(program_, work,
-                                     {.mash_grain = [this] { return program_.figures.mash_grain; },
-                                      .accepted =
-                                          [this](const SimpleMash& mash) {
-                                              set_simple_mash(editor_, mash);
-                                              panel_.refresh();
-                                          },
-                                      .revert_to_complex = nullptr,
-                                      .pages = &ports_.pages},
-                                     this);
+        mash_ = new SimpleMashWindow(
+            work, program_.settings,
+            {.mash_grain = [this] { return document_.figures.mash_grain; },
+             .accepted =
+                 [this](const SimpleMash& mash) {
+                     set_simple_mash(editor_, mash);
+                     panel_.refresh();
+                 },
+             .revert_to_complex = nullptr,
+             .print =
+                 [this](const SimpleMashWork& planned) {
+                     ports_.pages.show(simple_mash_printout(editor_.open, program_.color_table, planned));
+                 }},
+            program_.tool_positions, this);
         // From now on the water itself tells the ratio: worked out from a ratio again it would drift.
-        program_.water_to_grain = 0;
+        document_.water_to_grain = 0;
     }
     bring_forward(*mash_);
 }

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "desktop/tool_window.h"
-#include "documents/work/recipe_saving.h"
+#include "documents/work/document_saving.h"
 #include "program/program.h"
 #include "program/window_ports.h"
 #include "windows/calculators/color_swatch_window.h"
@@ -19,7 +19,7 @@ namespace wortlex {
 
 class RecipeWindow : public ToolWindow {
 public:
-    /// On the live document, which the program's `recipe_file` tells the origin of.
+    /// On the live document, which knows where it comes from.
     RecipeWindow(const WindowPorts& ports, const WindowInfo& info, QWidget* origin);
 
     /// Shows the live document anew, as after another one was opened.
@@ -44,7 +44,7 @@ private:
     void start_new();
     void open_another();
     bool save_recipe(SaveAs save_as);
-    RecipeSaving saving();
+    DocumentSaving saving();
     void print();
 
     void travel(bool (*step)(RecipeEditor&));
@@ -65,8 +65,9 @@ private:
     WindowPorts ports_;
     QString caption_;
     Program& program_;
+    LiveDocument& document_;
     RecipeEditor editor_;
-    DocumentSnapshot saved_;
+    DocumentImage saved_;
     RecipeSubject subject_;
     RecipePanel panel_;
     QAction* undo_ = nullptr;

@@ -21,19 +21,19 @@ DocumentReport mash_report(const ReportSource& source) {
 } // namespace
 
 // The rows of the full report, on a copy of the recipe that has the schedule under work.
-PrintRequest simple_mash_printout(const Program& program, const SimpleMashWork& work) {
-    const auto& settings = program.settings;
-    auto document = program.document;
-    auto figures = program.figures;
+PrintRequest simple_mash_printout(const OpenDocument& open, const ColorTable& colours,
+                                  const SimpleMashWork& work) {
+    const auto& settings = open.settings;
+    auto document = open.document;
+    auto figures = open.figures;
     document.simple_mash = work.mash;
     figures.mash_grain = work.grain;
     figures.mash.gallons = TotalMashVolume(work.grain, work.mash.dough_in_water, settings.grain_water_volume);
     const auto view = default_report_view(settings);
-    const OpenDocument open{document, figures, settings};
-    return {title, settings.printer_scale,
-            [report = mash_report({open, view, program.color_table})](PageContext& page) {
-                write_print(report, page);
-            }};
+    const OpenDocument planned{document, figures, settings};
+    return {
+        title, settings.printer_scale,
+        [report = mash_report({planned, view, colours})](PageContext& page) { write_print(report, page); }};
 }
 
 } // namespace wortlex

@@ -1,12 +1,15 @@
 // The page of a simple mash schedule.
 #pragma once
 
+#include "brewing/beer_colour.h"
+#include "documents/document_recalculation.h"
 #include "mash/simple_mash_form.h"
-#include "program/program.h"
+#include "page/page.h"
 
 namespace wortlex {
 
-/// The schedule under work, of the live recipe.
-PrintRequest simple_mash_printout(const Program& program, const SimpleMashWork& work);
+/// The schedule under work, of the recipe.
+PrintRequest simple_mash_printout(const OpenDocument& open, const ColorTable& colours,
+                                  const SimpleMashWork& work);
 
 } // namespace wortlex

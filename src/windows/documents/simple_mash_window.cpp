@@ -1,7 +1,5 @@
 #include "windows/documents/simple_mash_window.h"
 
-#include "windows/documents/simple_mash_printout.h"
-
 #include <QDialogButtonBox>
 #include <QShortcut>
 #include <QVBoxLayout>
@@ -20,15 +18,14 @@ Form made_form(SimpleMashWork& work, const Settings& settings, SimpleMashActions
 
 } // namespace
 
-SimpleMashWindow::SimpleMashWindow(Program& program, const SimpleMashWork& work, SimpleMashCalls calls,
-                                   QWidget* origin)
-    : ToolWindow(window_info("MASHENTRYDIALOG"), 0, Opener::recipe, origin,
-                 {program.tool_positions, program.settings}),
+SimpleMashWindow::SimpleMashWindow(const SimpleMashWork& work, const Settings& settings,
+                                   SimpleMashCalls calls, ToolPositions& positions, QWidget* origin)
+    : ToolWindow(window_info("MASHENTRYDIALOG"), 0, Opener::recipe, origin, {positions, settings}),
       calls_(std::move(calls)), work_(work),
-      form_(made_form(
-          work_, program.settings,
-          {.revert = revert_action(), .graph = nullptr, .print = print_action(program), .help = nullptr})),
-      widgets_(form_, program.settings, *this) {
+      form_(
+          made_form(work_, settings,
+                    {.revert = revert_action(), .graph = nullptr, .print = print_action(), .help = nullptr})),
+      widgets_(form_, settings, *this) {
     auto* const layout = new QVBoxLayout(this);
     layout->addLayout(lay_out(form_, widgets_));
     auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
@@ -55,9 +52,9 @@ std::function<void()> SimpleMashWindow::revert_action() {
     };
 }
 
-std::function<void()> SimpleMashWindow::print_action(const Program& program) {
-    if (calls_.pages == nullptr) return nullptr;
-    return [this, &program] { calls_.pages->show(simple_mash_printout(program, work_)); };
+std::function<void()> SimpleMashWindow::print_action() {
+    if (!calls_.print) return nullptr;
+    return [this] { calls_.print(work_); };
 }
 
 void SimpleMashWindow::accept() {

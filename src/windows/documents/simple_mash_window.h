@@ -4,8 +4,6 @@
 #include "desktop/form_widgets.h"
 #include "desktop/tool_window.h"
 #include "mash/simple_mash_form.h"
-#include "page/page.h"
-#include "program/program.h"
 
 #include <functional>
 
@@ -18,14 +16,15 @@ struct SimpleMashCalls {
     std::function<void(const SimpleMash& mash)> accepted;
     /// After that, where the complex schedule is to come into force; empty: it cannot.
     std::function<void()> revert_to_complex;
-    PageDesk* pages = nullptr; ///< null: it cannot be printed
+    std::function<void(const SimpleMashWork& work)> print; ///< empty: it cannot be printed
 };
 
 /// A page of a document window: modeless, on a working copy. Closing it in any other way than with OK leaves
 /// the document as it was.
 class SimpleMashWindow : public ToolWindow {
 public:
-    SimpleMashWindow(Program& program, const SimpleMashWork& work, SimpleMashCalls calls, QWidget* origin);
+    SimpleMashWindow(const SimpleMashWork& work, const Settings& settings, SimpleMashCalls calls,
+                     ToolPositions& positions, QWidget* origin);
 
     /// The grain bill has changed: takes the new weight, and the water by the ratio.
     void grain_changed();
@@ -33,7 +32,7 @@ public:
 private:
     void accept();
     std::function<void()> revert_action();
-    std::function<void()> print_action(const Program& program);
+    std::function<void()> print_action();
 
     SimpleMashCalls calls_;
     SimpleMashWork work_;

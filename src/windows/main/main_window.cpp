@@ -23,10 +23,6 @@ std::optional<std::string> dragged_document(const QMimeData& dragged) {
     return document_kind(path) ? std::optional(std::move(path)) : std::nullopt;
 }
 
-int command_of(DocumentKind kind) {
-    return kind == DocumentKind::recipe ? command::open_recipe : command::open_session;
-}
-
 } // namespace
 
 MainWindow::MainWindow(const WindowPorts& ports)
@@ -78,7 +74,7 @@ void MainWindow::fill_recent(QMenu& menu) {
         auto* const action =
             menu.addAction(QLatin1Char('&') + QString::number(i + 1) + QLatin1Char(' ') + name);
         const auto kind = document_kind(recent[i]);
-        action->setEnabled(kind && commands_.is_built(command_of(*kind)));
+        action->setEnabled(kind && commands_.is_built(open_command(*kind)));
         action->setToolTip(QFile::decodeName(QByteArray::fromStdString(recent[i])));
         connect(action, &QAction::triggered, this, [this, path = recent[i]] { open_file(path); });
     }
@@ -101,12 +97,12 @@ void MainWindow::offer_unsaved_work() {
 
 void MainWindow::open_file(const std::string& path) {
     const auto kind = document_kind(path);
-    if (kind && !commands_.is_built(command_of(*kind))) return;
+    if (kind && !commands_.is_built(open_command(*kind))) return;
     if (open_document_file(program_, path, prompts_)) show_document(*kind);
 }
 
 void MainWindow::show_document(DocumentKind kind) {
-    show_window(tool_of(command_of(kind)));
+    show_window(tool_of(open_command(kind)));
 }
 
 void MainWindow::show_window(const Tool& tool) {
@@ -130,7 +126,7 @@ void MainWindow::closeEvent(QCloseEvent* event) {
 
 void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
     const auto path = dragged_document(*event->mimeData());
-    if (path && commands_.is_built(command_of(*document_kind(*path)))) event->acceptProposedAction();
+    if (path && commands_.is_built(open_command(*document_kind(*path)))) event->acceptProposedAction();
 }
 
 void MainWindow::dropEvent(QDropEvent* event) {

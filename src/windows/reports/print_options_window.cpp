@@ -15,10 +15,11 @@ bool choose_print_options(const WindowPorts& ports, QWidget* owner) {
     auto selection = program.recipe_print;
     Form form;
     recipe_print_form(
-        form, selection, has_mashable_grain(program.document),
+        form, selection, has_mashable_grain(program.document.recipe),
         {.html_themes =
              [&] { edit_html_theme(program, ports.files, ports.prompts, QApplication::activeModalWidget()); },
-         .save_as_default = [&] { save_as_default(selection, program.data_folder, ports.prompts); },
+         .save_as_default =
+             [&] { save_as_default(DocumentKind::recipe, selection, program.data_folder, ports.prompts); },
          .help = nullptr});
     form.commit_copy(selection, program.recipe_print);
     return run_dialog(form, {.template_name = "RECIPEPREPRINTDIALOG"},

@@ -218,7 +218,7 @@ TEST(RecipeEditor, ListsSortByTheClickedColumnThenTheOthers) {
     EXPECT_FALSE(work.editor.view.hops_descending[2]) << "nothing to sort: the click does not count";
 }
 
-TEST(RecipeHistory, TypingMakesOneStep) {
+TEST(DocumentHistory, TypingMakesOneStep) {
     Work work;
     const auto original = work.document;
     work.type("title", "Bitter");
@@ -240,7 +240,7 @@ TEST(RecipeHistory, TypingMakesOneStep) {
     EXPECT_EQ(work.editor.history.to_undo(), "") << "nothing has changed";
 }
 
-TEST(RecipeHistory, PagesAreOneStepAndSavesAreNone) {
+TEST(DocumentHistory, PagesAreOneStepAndSavesAreNone) {
     Work work;
     delete_extra(work.editor);
     work.document.notes.assign("Lagered.");
@@ -262,7 +262,7 @@ TEST(RecipeHistory, PagesAreOneStepAndSavesAreNone) {
     EXPECT_EQ(work.document.notes.view(), "Half typed") << "undo takes back the step alone";
 }
 
-TEST(RecipeHistory, LeavesALineSelectedAndSeesNoChangeInNonsense) {
+TEST(DocumentHistory, LeavesALineSelectedAndSeesNoChangeInNonsense) {
     Work work;
     work.editor.view.selected_malt = 1;
     add_malt(work.editor, {});
@@ -274,7 +274,7 @@ TEST(RecipeHistory, LeavesALineSelectedAndSeesNoChangeInNonsense) {
     const auto saved = snapshot_document(work.editor.open, SnapshotScope::with_schedule);
     edit(work.editor, "Nothing", [] {});
     EXPECT_EQ(work.editor.history.to_undo(), "");
-    EXPECT_FALSE(document_changed(work.document, saved));
+    EXPECT_FALSE(document_changed(work.editor.open, saved));
 }
 
 TEST(RecipePages, CancelPutsBackWhatThePageFound) {

@@ -46,16 +46,20 @@ TEST(SimpleMashPrint, TellsTheScheduleUnderWork) {
     settings.temperature_units = TemperatureUnits::fahrenheit;
     settings.grain_water_volume = 1.32F;
     settings.printer_scale = 0.75F;
-    program.document.title.assign("Stout");
-    program.document.simple_mash.dough_in_water = 99;
+    program.document.recipe.title.assign("Stout");
+    program.document.recipe.simple_mash.dough_in_water = 99;
     SimpleMashWork work{.mash = {}, .ratio = 1.2F, .grain = 10};
     work.mash.mash_kind = MashKind::single_step;
     work.mash.dough_in_water = 12;
     work.mash.saccharification = {.temperature = 155, .minutes = 60};
     RecordingPageDesk desk;
+    const auto print = [&](const SimpleMashWork& planned) {
+        desk.show(simple_mash_printout(live_document(program), program.color_table, planned));
+    };
     SimpleMashWindow window(
-        program, work,
-        {.mash_grain = nullptr, .accepted = nullptr, .revert_to_complex = nullptr, .pages = &desk}, nullptr);
+        work, settings,
+        {.mash_grain = nullptr, .accepted = nullptr, .revert_to_complex = nullptr, .print = print},
+        program.tool_positions, nullptr);
     print_button(window).click();
     std::vector<std::string> lines;
     for (const auto& text : texts_on(desk.jobs.front(), 0)) lines.push_back(text.substr(text.find(' ') + 1));
@@ -64,7 +68,7 @@ TEST(SimpleMashPrint, TellsTheScheduleUnderWork) {
                                      "Water Qts:\t12.00 - Before Additional Infusions",
                                      "Saccharification Rest Temp:\t155\tTime:\t60",
                                      "Total Mash Volume Gal:\t3.80 - After Additioanl Infusions"}));
-    EXPECT_EQ(program.document.simple_mash.dough_in_water, 99) << "the document has not taken it over";
+    EXPECT_EQ(program.document.recipe.simple_mash.dough_in_water, 99) << "the document has not taken it over";
 }
 
 } // namespace

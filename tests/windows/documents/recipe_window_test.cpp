@@ -216,9 +216,9 @@ TEST(RecipeWindow, StaysWhileADialogIsOpenOverAPage) {
 
 TEST(RecipeWindow, ShowsRecoveredWorkAsItWas) {
     Kitchen kitchen;
-    kitchen.program.document.efficiency = 0.6F;
+    kitchen.program.document.recipe.efficiency = 0.6F;
     KeepWork(kitchen.program);
-    kitchen.program.document.efficiency = 0.9F;
+    kitchen.program.document.recipe.efficiency = 0.9F;
     kitchen.prompts.expect(
         "yes/no/cancel",
         "Wortlex ended before your work on a new recipe was saved.\nDo you want to open it "

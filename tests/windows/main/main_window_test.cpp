@@ -59,7 +59,7 @@ TEST(MainWindow, OpensARecipeOnceAndShowsItsFigures) {
     QTest::keyClick(recipe->findChild<QLineEdit*>("title"), Qt::Key_Return);
     EXPECT_TRUE(recipe->isVisible()) << "neither Esc nor Enter closes a document";
     window.commands().start(command::new_recipe); // a second request only brings it forward
-    EXPECT_EQ(brewery.program.document.title.view(), "Mild");
+    EXPECT_EQ(brewery.program.document.recipe.title.view(), "Mild");
     EXPECT_EQ(brewery.program.recent_documents, RecentDocuments{path});
     QTest::mouseClick(recipe->findChild<QPushButton*>("ok"), Qt::LeftButton);
     EXPECT_FALSE(any_open(brewery.program.tools));
@@ -101,7 +101,7 @@ TEST(MainWindow, TellsOfDamagedAndCutFilesAndKeepsTheOpenOne) {
                                 Icon::warning);
     window.open_file(brewery.folder.path() + "cut.rec");
     ASSERT_NE(open_recipe_window(), nullptr);
-    EXPECT_TRUE(brewery.program.recipe_file.incomplete);
+    EXPECT_TRUE(brewery.program.document.file.incomplete);
     EXPECT_TRUE(window.close());
     EXPECT_FALSE(any_open(brewery.program.tools));
     EXPECT_TRUE(std::filesystem::exists(brewery.folder.path() + "WlxWin.pos"));

@@ -30,10 +30,11 @@ struct Page {
                                   [this](const SimpleMash& taken) {
                                       heard.push_back(formatted("%0.2f", taken.dough_in_water));
                                   },
-                              .revert_to_complex = nullptr};
+                              .revert_to_complex = nullptr,
+                              .print = nullptr};
         if (has_complex) calls.revert_to_complex = [this] { heard.emplace_back("complex"); };
-        auto* const window =
-            new SimpleMashWindow(program, open_simple_mash(mash, 0, grain, program.settings), calls, nullptr);
+        auto* const window = new SimpleMashWindow(open_simple_mash(mash, 0, grain, program.settings),
+                                                  program.settings, calls, program.tool_positions, nullptr);
         window->closed = [this] { heard.emplace_back("closed"); };
         bring_forward(*window);
         EXPECT_TRUE(QTest::qWaitForWindowActive(window));

@@ -1,5 +1,5 @@
 #include "documents/brewing.h"
-#include "documents/work/recipe_saving.h"
+#include "documents/work/document_saving.h"
 #include "records/documents/document_files.h"
 #include "support/desk.h"
 #include "support/temporary_folder.h"
@@ -22,7 +22,7 @@ struct SavingDesk {
     RecipeFigures figures;
     RecipeEditor editor{{document, figures, settings}, {}, {}};
     DocumentFile file;
-    DocumentSnapshot saved;
+    DocumentImage saved;
     ScriptedPrompts prompts;
 
     SavingDesk() {
@@ -43,13 +43,13 @@ struct SavingDesk {
         auto saving = with(files);
         return may_leave(saving);
     }
-    RecipeSaving with(Files& files) { return {editor, file, saved, files, prompts, "recipes/"}; }
-    bool modified() const { return is_modified(document, saved, file); }
+    DocumentSaving with(Files& files) { return {editor, file, saved, files, prompts, "recipes/"}; }
+    bool modified() const { return is_modified(editor.open, saved, file); }
 
     std::vector<std::string> offers;
 };
 
-TEST(RecipeSaving, ANewRecipeIsOfferedItsTitle) {
+TEST(DocumentSaving, ANewRecipeIsOfferedItsTitle) {
     SavingDesk desk;
     set_title(desk.editor, "Best Bitter 1.2");
     EXPECT_TRUE(desk.modified());
@@ -66,7 +66,7 @@ TEST(RecipeSaving, ANewRecipeIsOfferedItsTitle) {
     EXPECT_EQ(desk.file.path, desk.path("Copy.rec"));
 }
 
-TEST(RecipeSaving, LeavingTheDialogSavesNothing) {
+TEST(DocumentSaving, LeavingTheDialogSavesNothing) {
     SavingDesk desk;
     EXPECT_FALSE(desk.save({std::nullopt}));
     EXPECT_EQ(desk.document.title.view(), "") << "a title taken for a path goes with it";
@@ -84,7 +84,7 @@ TEST(RecipeSaving, LeavingTheDialogSavesNothing) {
     EXPECT_FALSE(desk.save({std::nullopt})) << "and over a file that had ended early";
 }
 
-TEST(RecipeSaving, TitlesMustMakeFileNames) {
+TEST(DocumentSaving, TitlesMustMakeFileNames) {
     SavingDesk desk;
     set_title(desk.editor, "Half/Half");
     desk.prompts.expect("tell",
@@ -95,7 +95,7 @@ TEST(RecipeSaving, TitlesMustMakeFileNames) {
     EXPECT_FALSE(desk.save({}));
 }
 
-TEST(RecipeSaving, TheMethodIsSettledFirst) {
+TEST(DocumentSaving, TheMethodIsSettledFirst) {
     SavingDesk desk;
     desk.document.file_efficiency_mode = 2;
     const std::string question =
@@ -113,7 +113,7 @@ TEST(RecipeSaving, TheMethodIsSettledFirst) {
     EXPECT_FALSE(desk.modified()) << "the mark of a save is no change";
 }
 
-TEST(RecipeSaving, AFileOfAnotherHandIsNotOverwritten) {
+TEST(DocumentSaving, AFileOfAnotherHandIsNotOverwritten) {
     SavingDesk desk;
     ASSERT_TRUE(desk.save({desk.path("Mild.rec")}));
     std::ofstream(desk.path("Mild.rec"), std::ios::app) << "more";
@@ -129,7 +129,7 @@ TEST(RecipeSaving, AFileOfAnotherHandIsNotOverwritten) {
     EXPECT_TRUE(desk.save({})) << "a file that is gone is written again";
 }
 
-TEST(RecipeSaving, NothingIsLeftUnsavedUnasked) {
+TEST(DocumentSaving, NothingIsLeftUnsavedUnasked) {
     SavingDesk desk;
     EXPECT_TRUE(desk.leave()) << "nothing has changed";
     set_title(desk.editor, "Porter");

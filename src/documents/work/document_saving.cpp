@@ -1,8 +1,7 @@
-#include "documents/work/recipe_saving.h"
+#include "documents/work/document_saving.h"
 
 #include "base/windows1252.h"
 #include "documents/method_check.h"
-#include "records/documents/document_files.h"
 
 #include <filesystem>
 
@@ -11,10 +10,10 @@ namespace {
 
 constexpr std::string_view forbidden_in_titles = ":\\/|*";
 
-void settle_method(BrewDocument& document, const Settings& settings, Prompts& prompts) {
-    const auto question = method_check_on_save(document, settings);
+void settle_method(const OpenDocument& open, Prompts& prompts) {
+    const auto question = method_check_on_save(open.document, open.settings, kind_of(open));
     if (question && prompts.ask_yes_no({.text = *question, .icon = Icon::question}) == Answer::yes)
-        document.file_efficiency_mode = static_cast<std::uint8_t>(settings.efficiency_mode);
+        open.document.file_efficiency_mode = static_cast<std::uint8_t>(open.settings.efficiency_mode);
 }
 
 bool has_file_title(const BrewDocument& document, Prompts& prompts) {
@@ -27,21 +26,23 @@ bool has_file_title(const BrewDocument& document, Prompts& prompts) {
     return false;
 }
 
-bool has_name(const RecipeSaving& saving) {
+bool has_name(const DocumentSaving& saving) {
     return saving.file.loaded_from_file && !saving.file.incomplete &&
            !saving.editor.open.document.title.empty();
 }
 
-FileChoice choice_of(const RecipeSaving& saving, const std::string& suggestion) {
+FileChoice choice_of(const DocumentSaving& saving, const std::string& suggestion) {
     const std::filesystem::path path(suggestion);
     const auto folder = path.has_parent_path() ? path.parent_path().string() : saving.folder;
     auto name = path.filename().string();
-    if (!name.empty() && path.extension() != ".rec") name += ".rec";
-    return {"Recipe File (*.rec)|*.rec", folder, std::move(name), "rec"};
+    const auto& traits = document_traits(kind_of(saving.editor.open));
+    const auto ending = std::string(".").append(traits.extension);
+    if (!name.empty() && path.extension() != ending) name += ending;
+    return {traits.filter, folder, std::move(name), traits.extension};
 }
 
-// A new recipe is offered its title for a name. Who then leaves the dialog has neither.
-std::optional<std::string> ask_name(RecipeSaving& saving) {
+// A new document is offered its title for a name. Who then leaves the dialog has neither.
+std::optional<std::string> ask_name(DocumentSaving& saving) {
     auto& document = saving.editor.open.document;
     const auto title = utf8_from_windows1252(document.title.view());
     const bool takes_title = saving.file.path.empty() && !title.empty();
@@ -51,7 +52,7 @@ std::optional<std::string> ask_name(RecipeSaving& saving) {
 }
 
 // Nobody loses what another program wrote into the file meanwhile, unless he says so.
-bool may_overwrite(const RecipeSaving& saving, const std::string& path) {
+bool may_overwrite(const DocumentSaving& saving, const std::string& path) {
     const auto& stamp = saving.file.stamp;
     const auto now = stamp_of(path);
     if (path != saving.file.path || !stamp || !now || *now == *stamp) return true;
@@ -61,10 +62,12 @@ bool may_overwrite(const RecipeSaving& saving, const std::string& path) {
     return saving.prompts.ask_yes_no({.text = text, .icon = Icon::warning}) == Answer::yes;
 }
 
-bool write(RecipeSaving& saving, const std::string& path) {
+bool write(DocumentSaving& saving, const std::string& path) {
     auto& editor = saving.editor;
     if (!may_overwrite(saving, path)) return false;
-    if (!save_recipe(path, editor.open.document, saving.prompts)) return false;
+    auto image = image_of(editor.open);
+    if (!save_document(path, image, saving.prompts)) return false;
+    editor.open.document.mash_flags = image.recipe.mash_flags;
     end_edit(editor);
     saving.file = {.path = path, .loaded_from_file = true, .stamp = stamp_of(path)};
     saving.saved = snapshot_document(editor.open, SnapshotScope::with_schedule);
@@ -73,24 +76,23 @@ bool write(RecipeSaving& saving, const std::string& path) {
 
 } // namespace
 
-bool is_modified(const BrewDocument& document, const DocumentSnapshot& saved, const DocumentFile& file) {
-    return file.recovered || document_changed(document, saved);
+bool is_modified(const OpenDocument& open, const DocumentImage& saved, const DocumentFile& file) {
+    return file.recovered || document_changed(open, saved);
 }
 
-bool save(RecipeSaving& saving, SaveAs save_as) {
-    auto& document = saving.editor.open.document;
-    settle_method(document, saving.editor.open.settings, saving.prompts);
-    if (!has_file_title(document, saving.prompts)) return false;
+bool save(DocumentSaving& saving, SaveAs save_as) {
+    settle_method(saving.editor.open, saving.prompts);
+    if (!has_file_title(saving.editor.open.document, saving.prompts)) return false;
     if (save_as == SaveAs::no && has_name(saving)) return write(saving, saving.file.path);
     const auto path = ask_name(saving);
     return path && write(saving, *path);
 }
 
-bool may_leave(RecipeSaving& saving) {
-    if (!is_modified(saving.editor.open.document, saving.saved, saving.file)) return true;
+bool may_leave(DocumentSaving& saving) {
+    const auto& open = saving.editor.open;
+    if (!is_modified(open, saving.saved, saving.file)) return true;
     const auto answer = saving.prompts.ask_yes_no_cancel(
-        {.text = "The current recipe has been modified!\nDo you want to save the changes?",
-         .icon = Icon::question});
+        {.text = document_traits(kind_of(open)).modified, .icon = Icon::question});
     if (answer == Answer::cancel) return false;
     return answer == Answer::no || save(saving, SaveAs::no);
 }

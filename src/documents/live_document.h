@@ -1,0 +1,42 @@
+// The document that is worked on, of which there is exactly one, and where it comes from.
+#pragma once
+
+#include "base/files.h"
+#include "documents/document_recalculation.h"
+#include "records/documents/document_traits.h"
+
+namespace wortlex {
+
+/// Where a document comes from and where a save goes.
+struct DocumentFile {
+    std::string path; ///< empty for a new one
+    bool loaded_from_file = false;
+    bool incomplete = false; ///< the file had ended early: a save asks for a name first
+    bool recovered = false;  ///< unsaved work of a run that broke off: to be saved, whatever it looks like
+    std::optional<FileStamp> stamp = std::nullopt; ///< of the file as it was read or written last
+};
+
+struct LiveDocument {
+    DocumentKind kind = DocumentKind::recipe;
+    BrewDocument recipe;     ///< also under a session
+    SessionDocument session; ///< of a session, as the water
+    RecipeFigures figures;
+    WaterBalance water;
+    float water_to_grain = 0; ///< of the simple mash, quarts per pound; 0 for a loaded document
+    DocumentFile file;
+};
+
+/// The document ready to be worked on, by its kind.
+OpenDocument view_of(LiveDocument& live, const Settings& settings);
+
+/// Makes it an empty one without a file. A session starts from the brewer's usual water figures.
+void start_recipe(LiveDocument& live, const Settings& settings);
+void start_session(LiveDocument& live, const WaterNeeds& usual, const Settings& settings);
+
+/// Reads a file's bytes into it. A damaged file leaves everything as it was.
+LoadResult read_into(LiveDocument& live, DocumentKind kind, ByteView file, const Settings& settings);
+
+/// Whether there is a document after a load, however incomplete.
+bool is_sound(LoadResult result);
+
+} // namespace wortlex

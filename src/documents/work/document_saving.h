@@ -1,0 +1,34 @@
+// The rules and questions of a save, for documents of either kind.
+#pragma once
+
+#include "base/ports/desk.h"
+#include "base/ports/prompts.h"
+#include "documents/live_document.h"
+#include "documents/snapshot.h"
+#include "documents/work/recipe_editor.h"
+
+namespace wortlex {
+
+/// A document under work, what it was when last saved, and whom a save asks.
+struct DocumentSaving {
+    RecipeEditor& editor;
+    DocumentFile& file;
+    DocumentImage& saved;
+    Files& files;
+    Prompts& prompts;
+    std::string folder; ///< of its kind, for one that has no file yet
+};
+
+/// Whether there is anything to save.
+bool is_modified(const OpenDocument& open, const DocumentImage& saved, const DocumentFile& file);
+
+enum class SaveAs { no, yes };
+
+/// Settles the efficiency method, looks at the title, asks for a file name where there is none, and saves;
+/// then the document as it is counts as saved. False if the user left it or the file could not be written.
+bool save(DocumentSaving& saving, SaveAs save_as);
+
+/// Before the document is left for another one: true if nothing is to be saved, or has been, or shall not be.
+bool may_leave(DocumentSaving& saving);
+
+} // namespace wortlex
