@@ -20,7 +20,7 @@ struct HopRecord {
     float humulene = 0;
     float caryophyllene = 0;
     HopUsage usage{};
-    std::uint8_t storage_and_form = 0; ///< two nibbles; see `storage_class`, `form`
+    std::uint8_t storage_and_form = 0; ///< low nibble `StorageClass`, high nibble `HopForm`
     float storage_factor = 0;          ///< percent of alpha lost in 6 months at 20 degrees C
     Text<155> tastes;
     Text<55> origin;
