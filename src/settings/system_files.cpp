@@ -2,6 +2,7 @@
 
 #include "base/files.h"
 
+#include <cmath>
 #include <string_view>
 
 namespace wortlex {
@@ -198,6 +199,7 @@ bool SaveReminders(const std::string& data_folder, const ReminderFlags& reminder
 PrintSelection LoadPrintSelection(const std::string& data_folder, DocumentKind kind, float printer_scale) {
     auto selection = whole_print(kind, printer_scale);
     load(data_folder, print_file(kind), selection, print_selection_layout);
+    if (!std::isfinite(selection.scale)) selection.scale = printer_scale;
     auto& html = selection[PrintOption::html_file];
     auto& clipboard = selection[PrintOption::clipboard];
     if (html != 0 && clipboard != 0) html = clipboard = 0;

@@ -1,5 +1,7 @@
 #include "settings/system_settings.h"
 
+#include <cmath>
+
 namespace wortlex {
 namespace {
 
@@ -8,11 +10,57 @@ void if_zero(std::int32_t& value, std::int32_t usual) {
 }
 
 void if_zero(float& value, float usual) {
-    if (value == 0) value = usual;
+    if (value == 0 || !std::isfinite(value)) value = usual;
 }
 
 void if_not_positive(float& value, float usual) {
-    if (value <= 0) value = usual;
+    if (value <= 0 || !std::isfinite(value)) value = usual;
+}
+
+template <class Code>
+void if_unknown(Code& code, Code first, Code last, Code usual) {
+    if (code < first || code > last) code = usual;
+}
+
+void repair_codes(SystemSettings& image, const SystemSettings& usual) {
+    // clang-format off
+    const auto known = [&](auto SystemSettings::*code, auto last) {
+        if_unknown(image.*code, decltype(last){}, last, usual.*code);
+    };
+    // clang-format on
+    known(&SystemSettings::HopFormula, HopFormulaCode::Generic);
+    known(&SystemSettings::color_formula, ColorFormula::Daniels);
+    known(&SystemSettings::default_schedule, ScheduleKind::complex);
+    known(&SystemSettings::new_session_date, NewSessionDate::tomorrow);
+    for (const auto units : {&SystemSettings::volume_units, &SystemSettings::hop_weight_units,
+                             &SystemSettings::weight_units, &SystemSettings::pressure_units})
+        known(units, Units::american);
+    known(&SystemSettings::system_mode, SystemMode::pro_brewer);
+    known(&SystemSettings::style_book, StyleBook::bjcp);
+    known(&SystemSettings::date_format, DateFormat::day_name_year);
+    known(&SystemSettings::color_units, ColorUnits::ebc_traditional);
+    known(&SystemSettings::potential_display, PotentialDisplay::percent_yield);
+    known(&SystemSettings::temperature_units, TemperatureUnits::fahrenheit);
+    known(&SystemSettings::bittering_unit, BitteringUnit::hbu);
+    known(&SystemSettings::efficiency_method_setting, EfficiencyMethod::method_2);
+    known(&SystemSettings::extract_display, ExtractDisplay::percent);
+    known(&SystemSettings::gravity_base, GravityBase::mass);
+    known(&SystemSettings::yield_type, YieldType::coarse_as_is);
+    known(&SystemSettings::spike_line, SpikeLine::solid);
+    if_unknown(image.spike_thickness, SpikeThickness::thin, SpikeThickness::thick, usual.spike_thickness);
+    if_unknown<std::uint8_t>(image.art_scheme, 0, 4, usual.art_scheme);
+    for (const auto precision : {&SystemSettings::sg_precision, &SystemSettings::plato_precision})
+        known(precision, std::uint32_t{2});
+}
+
+// The figures that may be zero or less.
+void repair_figures(SystemSettings& image, const SystemSettings& usual) {
+    for (const auto figure :
+         {&SystemSettings::efficiency, &SystemSettings::tun_thermal_mass,
+          &SystemSettings::hydrometer_calibration, &SystemSettings::hop_storage_temperature,
+          &SystemSettings::plug_increase, &SystemSettings::pellet_increase, &SystemSettings::brix_correction,
+          &SystemSettings::water_zeiss, &SystemSettings::water_brix, &SystemSettings::water_ri})
+        if (!std::isfinite(image.*figure)) image.*figure = usual.*figure;
 }
 
 } // namespace
@@ -64,6 +112,9 @@ SystemSettings WriteDefaultSettings() {
 }
 
 void repair(SystemSettings& image) {
+    const auto usual = WriteDefaultSettings();
+    repair_codes(image, usual);
+    repair_figures(image, usual);
     if_zero(image.cooling_shrink, 0.04F);
     if_not_positive(image.sucrose_value, 46.21F);
     if_not_positive(image.reference_plato, 8.0F);
@@ -73,7 +124,6 @@ void repair(SystemSettings& image) {
 
     if_zero(image.jpg_quality, 100);
     if (image.jpg_quality < 20) image.jpg_quality = 20;
-    if (image.spike_thickness == SpikeThickness{}) image.spike_thickness = SpikeThickness::thin;
     if_zero(image.malt_heat_capacity, 400);
     if_zero(image.thick_decoction, 650);
     if_zero(image.medium_decoction, 1000);

@@ -158,7 +158,7 @@ inline bool is_pro(const SystemSettings& image) {
 SystemSettings WriteDefaultSettings();
 
 /// Puts usable values in place of those that a damaged or older file may hold: zero or negative sizes,
-/// factors and ratios.
+/// factors and ratios, codes that are none, figures that are no number.
 void repair(SystemSettings& image);
 
 } // namespace wortlex

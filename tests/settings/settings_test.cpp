@@ -49,6 +49,8 @@ constexpr Placed<float> defaults = {{1400, 0.85F}, {1408, 60.0F}, {1412, 0.5F}, 
 constexpr Placed<float> usual = {{1412, 1.0F}, {1416, 1.0F}, {1420, 1.0F}, {1424, 5.0F}, {1428, 5.0F},
     {1432, 1.0F}, {1436, 1.0F}, {1444, 0.2F}, {1476, 1.0F}, {1480, 46.21F}, {1484, 8.0F}, {1488, 80.0F},
     {1492, 2.0F}};
+constexpr float no_figure = std::numeric_limits<float>::quiet_NaN();
+constexpr float infinite = std::numeric_limits<float>::infinity();
 constexpr Placed<float> usual_for_zero = {{1456, 0.04F}, {1496, 1.32F}};
 constexpr Placed<std::int32_t> whole_for_zero = {{1344, 100}, {1348, 1}, {1372, 400}, {1380, 650},
     {1384, 1000}, {1388, 1500}, {1396, 255}};
@@ -83,11 +85,11 @@ void expect_repair(std::size_t at, Value bad, Value good) {
 
 TEST(SystemSettings, UnusableNumbersAreRepaired) {
     for (const auto& [at, good] : usual) {
-        for (const float bad : {0.0F, -0.0F, -3.0F}) expect_repair(at, bad, good);
+        for (const float bad : {0.0F, -0.0F, -3.0F, no_figure, infinite}) expect_repair(at, bad, good);
         expect_repair(at, 0.001F, 0.001F);
     }
     for (const auto& [at, good] : usual_for_zero) {
-        expect_repair(at, 0.0F, good);
+        for (const float bad : {0.0F, no_figure}) expect_repair(at, bad, good);
         expect_repair(at, -1.0F, -1.0F);
     }
     for (const auto& [at, good] : whole_for_zero) expect_repair(at, 0, good);
@@ -96,6 +98,20 @@ TEST(SystemSettings, UnusableNumbersAreRepaired) {
     expect_repair<std::int32_t>(1372, -5, -5);
     for (const std::size_t untouched : {1404, 1408, 1440, 1448, 1452, 1460, 1464, 1468, 1472})
         expect_repair(untouched, 0.0F, 0.0F);
+    for (const auto& [at, good] : {std::pair<std::size_t, float>{1400, 0.85F}, {1404, 0.0F}, {1440, 60.0F}})
+        expect_repair(at, no_figure, good);
+    for (const auto& [at, last, good] : {std::tuple<std::size_t, int, int>{1275, 3, 0},
+                                         {1276, 2, 0},
+                                         {1280, 1, 1},
+                                         {1281, 4, 0},
+                                         {1290, 2, 0},
+                                         {1291, 4, 0},
+                                         {1292, 1, 1}}) {
+        expect_repair(at, static_cast<std::uint8_t>(last), static_cast<std::uint8_t>(last));
+        expect_repair(at, static_cast<std::uint8_t>(last + 1), static_cast<std::uint8_t>(good));
+    }
+    for (const std::size_t code : {1304, 1308, 1316, 1328, 1332, 1352}) expect_repair(code, -1, 0);
+    expect_repair(1348, 3, 1);
     auto image = WriteDefaultSettings();
     image.batch_size = 7;
     image.wort_size = 0;
