@@ -6,6 +6,8 @@
 namespace wortlex {
 
 struct HopMemory {
+    float wort_volume = 0; ///< gallons, as is the batch; 0: not set yet
+    float batch_volume = 0;
     float sg = 1.04F;
     int boil_minutes = 60;
     bool is_first_wort = false;

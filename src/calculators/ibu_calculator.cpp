@@ -19,13 +19,23 @@ float weight_for(HopCalculator& calculator, float units) {
     return narrow(std::max(units, 0.0F) / double{calculator.start_alpha});
 }
 
+struct Kettle {
+    float wort, batch; // gallons
+};
+
+Kettle kettle_of(const HopMemory& memory, const Settings& settings) {
+    if (memory.batch_volume > 0) return {memory.wort_volume, memory.batch_volume};
+    return {settings.wort_size, std::max(settings.batch_size, settings.wort_size)};
+}
+
 } // namespace
 
 HopCalculator start_calculator(const HopUse& hop, const HopMemory& memory, const Settings& settings) {
+    const auto kettle = kettle_of(memory, settings);
     HopCalculator calculator{.start_alpha = hop.alpha,
                              .adjusted_alpha = hop.alpha,
-                             .wort_volume = settings.wort_size,
-                             .batch_volume = std::max(settings.batch_size, settings.wort_size),
+                             .wort_volume = kettle.wort,
+                             .batch_volume = kettle.batch,
                              .sg = memory.sg,
                              .boil_minutes = memory.boil_minutes,
                              .form = form(hop.record),
@@ -39,6 +49,8 @@ HopCalculator start_calculator(const HopUse& hop, const HopMemory& memory, const
 }
 
 void remember_calculator(const HopCalculator& calculator, HopMemory& memory) {
+    memory.wort_volume = calculator.wort_volume;
+    memory.batch_volume = calculator.batch_volume;
     memory.sg = calculator.sg;
     memory.boil_minutes = calculator.boil_minutes;
     memory.is_first_wort = calculator.is_first_wort;

@@ -7,10 +7,11 @@
 
 namespace wortlex {
 
-/// An ounce of the hop, a pound in a brewery, in the usual batch; SG, time and flags as last left.
+/// An ounce of the hop, a pound in a brewery; kettle, SG, time and flags as last left, the first time in the
+/// usual batch.
 HopCalculator start_calculator(const HopUse& hop, const HopMemory& memory, const Settings& settings);
 
-/// Keeps SG, time and flags for the next opening.
+/// Keeps kettle, SG, time and flags for the next opening.
 void remember_calculator(const HopCalculator& calculator, HopMemory& memory);
 
 /// Takes a hop's alpha before and after storage, both percent.
@@ -24,8 +25,7 @@ inline constexpr float least_volume = 1, most_volume = 10000;
 inline constexpr float least_sg = 1, most_sg = 2;
 } // namespace calculator_range
 
-/// The edits of the fields, each with what follows from it. A step of an arrow may end outside the range; it
-/// is brought back.
+/// The edits of the fields, each with what follows from it.
 void set_ounces(HopCalculator& calculator, float ounces, const Settings& settings);
 void set_grams(HopCalculator& calculator, float grams, const Settings& settings);
 /// Drops a storage loss figured before, as the next two do.
@@ -33,7 +33,8 @@ void set_start_alpha(HopCalculator& calculator, float alpha, const Settings& set
 /// Set the weight. An alpha of 0 gives an infinite one.
 void set_hbu(HopCalculator& calculator, float units, const Settings& settings);
 void set_mbu(HopCalculator& calculator, float units, const Settings& settings);
-/// No more is boiled than the batch takes: each of the two pulls the other along. Gallons.
+/// No more is boiled than the batch takes: each of the two pulls the other along. Gallons; while one is typed
+/// digit by digit, the other is to be put back first to what it was at the start.
 void set_wort(HopCalculator& calculator, float gallons, const Settings& settings);
 void set_batch(HopCalculator& calculator, float gallons, const Settings& settings);
 void set_sg(HopCalculator& calculator, float sg, const Settings& settings);

@@ -3,6 +3,7 @@
 #include "base/number.h"
 #include "measures/units.h"
 
+#include <memory>
 #include <utility>
 
 namespace wortlex {
@@ -86,16 +87,35 @@ void volume_row(Rows& rows, const char* key, const char* label, Binding<float> g
         .outside(Outside::clamp);
 }
 
-void wort_rows(Rows& rows, HopCalculator& calculator, const Settings& settings) {
-    const auto bound = [&](auto set, std::function<float()> get) {
-        return edited_by<float>(set, std::move(get), calculator, settings);
+// The volume that is being edited, and what the one that follows it was before.
+struct VolumeEdit {
+    float HopCalculator::*volume = nullptr;
+    float follower_before = 0;
+};
+
+// Only the last number typed counts: what follows starts each time from where it was as the edit began.
+void volume_rows(Form& form, HopCalculator& calculator, const Settings& settings) {
+    const auto edit = std::make_shared<VolumeEdit>();
+    const auto edited = [&, edit](float HopCalculator::*volume, float HopCalculator::*follower, auto set) {
+        return Binding<float>{[&calculator, volume] { return calculator.*volume; },
+                              [&calculator, &settings, edit, volume, follower, set](float gallons) {
+                                  if (edit->volume != volume) *edit = {volume, calculator.*follower};
+                                  calculator.*follower = edit->follower_before;
+                                  set(calculator, gallons, settings);
+                              }};
     };
-    volume_row(rows, "wort_volume",
-               "&Amount of Wort Boiled:", bound(set_wort, [&calculator] { return calculator.wort_volume; }),
+    constexpr auto wort = &HopCalculator::wort_volume, batch = &HopCalculator::batch_volume;
+    volume_row(form.rows(), "wort_volume", "&Amount of Wort Boiled:", edited(wort, batch, set_wort),
                settings);
-    volume_row(rows, "batch_volume",
-               "Batch Si&ze:", bound(set_batch, [&calculator] { return calculator.batch_volume; }), settings);
-    rows.sg("sg", bound(set_sg, [&calculator] { return calculator.sg; }), settings)
+    volume_row(form.rows(), "batch_volume", "Batch Si&ze:", edited(batch, wort, set_batch), settings);
+    form.on_leave([edit] { *edit = {}; });
+}
+
+void wort_rows(Rows& rows, HopCalculator& calculator, const Settings& settings) {
+    rows.sg("sg",
+            edited_by<float>(
+                set_sg, [&calculator] { return calculator.sg; }, calculator, settings),
+            settings)
         .label([&settings] {
             return settings.HopFormula == HopFormulaCode::Tinseth ? "Average &Wort SG:" : "&Wort SG:";
         })
@@ -164,7 +184,9 @@ void ibu_calculator_form(Form& form, HopCalculator& calculator, const Settings& 
     hop_rows(hop, calculator, settings, std::move(hop_name));
     hop.button("figure_time_loss", "Figure &Time Loss", std::move(actions.figure_time_loss));
     form.next_column();
-    wort_rows(form.group("Wort"), calculator, settings);
+    auto& wort = form.group("Wort");
+    volume_rows(form, calculator, settings);
+    wort_rows(wort, calculator, settings);
     auto& result = form.group("Bitterness");
     result_rows(result, calculator, settings);
     result.button("choose_formula", "&Calculation Type", std::move(actions.choose_formula));

@@ -180,12 +180,15 @@ TEST(IbuCalculator, StartsWithAnOunceOrAPound) {
     EXPECT_NEAR(calculator.ibu, 22.386 * 5 / 6, 1e-4);
     set_sg(calculator, 1.05F, settings);
     calculator.boil_minutes = 30;
+    set_batch(calculator, 8, settings);
+    set_wort(calculator, 7, settings);
     set_mash_hop(calculator, true, settings);
     remember_calculator(calculator, memory);
     settings.system_mode = SystemMode::pro_brewer;
     calculator = start_calculator(hop(5, 0, 0), memory, settings);
     EXPECT_EQ((std::tuple{calculator.ounces, calculator.sg, calculator.boil_minutes, calculator.is_mash_hop}),
               (std::tuple{16.0F, 1.05F, 30, true}));
+    EXPECT_EQ(std::pair(calculator.wort_volume, calculator.batch_volume), std::pair(7.0F, 8.0F));
 }
 
 TEST(IbuCalculator, WeightUnitsAndIbuFollowEachOther) {
@@ -228,6 +231,10 @@ TEST(IbuCalculator, VolumesPullAndFlagsExcludeEachOther) {
               std::pair(8.0F, std::string("1.25")));
     type(open.form, "batch_volume", "5");
     EXPECT_EQ(calculator.wort_volume, 5);
+    open.form.leave();
+    for (const auto* const typed : {"1", "10"}) type(open.form, "batch_volume", typed);
+    EXPECT_EQ(calculator.wort_volume, 5) << "1 was but the way to 10";
+    type(open.form, "batch_volume", "5");
     const auto flag = [&](const char* key) {
         open.form.check(dynamic_cast<CheckRow&>(open.form.row(key)), true);
     };
