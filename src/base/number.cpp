@@ -60,10 +60,13 @@ Place take_place(std::string_view& pattern) {
 }
 
 std::string fill(const Place& place, double value) {
-    auto text = place.kind == 'd' ? std::to_string(truncate(value)) : fixed(value, place.decimals);
+    const bool is_number = std::isfinite(value);
+    const bool zeros = place.zeros && is_number;
+    auto text =
+        place.kind == 'd' && is_number ? std::to_string(truncate(value)) : fixed(value, place.decimals);
     if (text.size() >= place.width) return text;
-    const bool after_sign = place.zeros && text.starts_with('-');
-    text.insert(after_sign ? 1 : 0, place.width - text.size(), place.zeros ? '0' : ' ');
+    const bool after_sign = zeros && text.starts_with('-');
+    text.insert(after_sign ? 1 : 0, place.width - text.size(), zeros ? '0' : ' ');
     return text;
 }
 
@@ -80,6 +83,7 @@ std::optional<Number> parse_all(std::string_view text) {
 } // namespace
 
 std::string fixed(double value, int decimals) {
+    if (!std::isfinite(value)) return std::string(no_number);
     return print(value, std::chars_format::fixed, decimals);
 }
 

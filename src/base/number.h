@@ -22,7 +22,10 @@ constexpr std::int32_t truncate(double x) {
     return x > below && x < above ? static_cast<std::int32_t>(x) : std::numeric_limits<std::int32_t>::min();
 }
 
-/// `value` with exactly `decimals` digits behind the point, 40 at the most.
+/// What is shown for a figure that is no number, infinity included.
+inline constexpr std::string_view no_number = "--";
+
+/// `value` with exactly `decimals` digits behind the point, 40 at the most; `no_number` where it is none.
 std::string fixed(double value, int decimals);
 
 /// `value` in at most `digits` significant digits, with an exponent where that is shorter.
@@ -36,9 +39,8 @@ std::optional<double> parse_number(std::string_view text);
 double leading_number(std::string_view text);
 
 /// Prints by a pattern with one place for the number: "%d" or "%f" with a width, leading zeros ("%06.1f")
-/// and, for
-/// "%f", decimals; "%%" is a percent sign. "%d" cuts off what is behind the point. The rest of the pattern
-/// stands as it is.
+/// and, for "%f", decimals; "%%" is a percent sign. "%d" cuts off what is behind the point; what is no number
+/// shows `no_number` in the width. The rest of the pattern stands as it is.
 std::string formatted(std::string_view pattern, double value);
 
 /// Likewise a whole number.

@@ -21,6 +21,13 @@ public:
     virtual bool is_number() const { return true; }
     virtual bool is_multi_line() const { return false; }
 
+    /// What may be typed, in the unit shown: "1 to 100"; empty where anything may.
+    virtual std::string range_words() const { return ""; }
+    /// Whether a typed text is a number beyond that range.
+    virtual bool is_outside(const std::string& /*text*/) const { return false; }
+    /// Brings a value that has come to lie beyond its range back to the limit.
+    virtual void hold() const {}
+
     std::string text_when_disabled;   ///< empty: the value stays
     int columns = 9;                  ///< the width to aim at, in digits
     Live<std::string> unit_text = ""; ///< stands behind the field
@@ -44,13 +51,18 @@ public:
     }
 };
 
-/// What happens to a number typed outside its range.
+/// What happens to a number typed outside its range. A step of the arrows ends at the limit in any case.
 enum class Outside {
-    ignore,  ///< the value stays, and the text too
-    clamp,   ///< the value is brought into range at once, the text when the field is left
-    rewrite, ///< both at once
-    hold     ///< as `clamp`, and a step of the arrows ends at the limit too
+    ignore, ///< the value stays, and the text too
+    clamp,  ///< the value is brought into range at once, the text when the field is left
+    hold = clamp,
+    rewrite ///< both at once
 };
+
+/// Makes a decimal comma in a number's field a point, before the rule of the field sees it. A second mark is
+/// thrown out as it is typed; a text that comes with several is refused as a whole, for it is not guessed
+/// which of them marks the thousands. Whether the text can be read.
+bool read_decimal_mark(const EntryRow& row, TextField& field);
 
 /// A number, edited in the unit in which it is shown. Ranges and steps are in that unit.
 class NumberRow : public EntryOptions<NumberRow> {
@@ -76,10 +88,15 @@ public:
     bool typed(TextField& field) override;
     bool spun(TextField& field, Spin direction) override;
     bool has_arrows() const override { return step_.has_value(); }
+    std::string range_words() const override;
+    bool is_outside(const std::string& text) const override;
+    void hold() const override;
 
 private:
     float shown() const;
-    void store(float shown_value, float before);
+    /// Whether there was anything to store: another number.
+    bool store(float shown_value, float before) const;
+    bool step(TextField& field, float& value, const SpinRange& range, Spin direction) const;
     bool type_into(TextField& field, float& value, const Range& range) const;
 
     Binding<float> value_;
@@ -111,6 +128,9 @@ public:
     bool typed(TextField& field) override;
     bool spun(TextField& field, Spin direction) override;
     bool has_arrows() const override { return step_ > 0; }
+    std::string range_words() const override;
+    bool is_outside(const std::string& text) const override;
+    void hold() const override;
 
 private:
     bool store(std::int32_t value, bool has_changed) const;

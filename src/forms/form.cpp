@@ -125,6 +125,7 @@ bool Form::finish(Row& row, bool has_changed, const Row* being_typed) {
 }
 
 bool Form::type(EntryRow& row, TextField& field) {
+    if (row.is_number() && !read_decimal_mark(row, field)) return false;
     return finish(row, row.typed(field), &row);
 }
 
@@ -156,7 +157,12 @@ void Form::leave() const {
     for (const auto& hook : leave_hooks_) hook();
 }
 
+// What was edited may have come to lie beyond a range that changed after it.
 void Form::accept() const {
+    for_each([](Row& row) {
+        const auto* const entry = dynamic_cast<EntryRow*>(&row);
+        if (entry != nullptr && entry->edited && entry->is_enabled()) entry->hold();
+    });
     for (const auto& hook : accept_hooks_) hook();
 }
 

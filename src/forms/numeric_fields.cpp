@@ -77,10 +77,6 @@ bool spin(TextField& field, float& value, const SpinRange& range, int length, Sp
     return true;
 }
 
-std::int32_t highest_temperature(TemperatureUnits units) {
-    return units == TemperatureUnits::fahrenheit ? 221 : 105;
-}
-
 std::string old_temperature(TemperatureUnits units, std::int32_t value) {
     if (units == TemperatureUnits::fahrenheit) return formatted("%d", value);
     return formatted("%d", (value - 32.0) / 1.8 + 0.5);
@@ -135,6 +131,10 @@ bool typed_int(TextField& field, std::int32_t& value, std::int32_t low, std::int
     if (whole < low || whole > high || whole == value) return false;
     value = whole;
     return true;
+}
+
+std::int32_t highest_temperature(TemperatureUnits units) {
+    return units == TemperatureUnits::fahrenheit ? 221 : 105;
 }
 
 bool typed_temperature(TemperatureUnits units, TextField& field, std::int32_t& value, int length) {

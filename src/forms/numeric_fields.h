@@ -46,7 +46,10 @@ bool typed_sg(TextField& field, float& value, const Range& range, int length, co
 bool typed_plato(TextField& field, float& value, const Range& range, int length, const Settings& settings);
 bool typed_int(TextField& field, std::int32_t& value, std::int32_t low, std::int32_t high, int length);
 
-/// Whole degrees of the unit shown, 0 to 221 F or 105 C. Alone of the family it pulls a number back into its
+/// 221 F or 105 C.
+std::int32_t highest_temperature(TemperatureUnits units);
+
+/// Whole degrees of the unit shown, 0 to the highest. Alone of the family it pulls a number back into its
 /// range and rewrites the field.
 bool typed_temperature(TemperatureUnits units, TextField& field, std::int32_t& value, int length);
 

@@ -10,18 +10,19 @@
 namespace wortlex {
 
 /// `x` cut to `digits` decimals, 1 to 6, after a nudge of 0.12 units of the last one. Any other number
-/// of digits returns `x` unchanged.
+/// of digits returns `x` unchanged, and what is no number stays none.
 inline float trunc_to_precision(float x, int digits) {
     constexpr std::array nudges = {0.012, 0.0012, 0.00012, 0.000012, 0.0000012, 0.00000012};
     constexpr std::array scales = {10.0, 100.0, 1000.0, 10000.0, 100000.0, 1000000.0};
-    if (digits < 1 || digits > 6) return x;
+    if (digits < 1 || digits > 6 || !std::isfinite(x)) return x;
     const auto place = static_cast<std::size_t>(digits - 1);
     return narrow(truncate((x + nudges[place]) * scales[place]) / scales[place]);
 }
 
-/// `x` cut to five decimals after a nudge of 0.9 units of the last one; not stored back to 32 bits.
+/// `x` cut to five decimals after a nudge of 0.9 units of the last one; not stored back to 32 bits. No number
+/// stays none, likewise.
 inline double trunc_5(float x) {
-    return truncate((x + 0.000009) * 100000) / 100000.0;
+    return std::isfinite(x) ? truncate((x + 0.000009) * 100000) / 100000.0 : double{x};
 }
 
 /// `x` cut to two decimals; the nudge is larger from 1.0 on.

@@ -71,6 +71,69 @@ TEST(NumberRow, OutsideItsRangeFollowsItsRule) {
     }
 }
 
+TEST(NumberRow, AStepNeverLeavesTheRange) {
+    const auto no_number = std::numeric_limits<float>::quiet_NaN();
+    struct Case {
+        float before;
+        Spin direction;
+        float after;
+    };
+    for (const auto& c : {Case{1.2F, Spin::down, 1}, Case{9.75F, Spin::up, 10}, Case{10, Spin::up, 10},
+                          Case{14, Spin::down, 13.5F}, Case{no_number, Spin::up, 1.5F}}) {
+        float value = c.before;
+        Form form;
+        auto& row = form.rows().number("number", value).range(1, 10).step(0.5F);
+        PlainField field(field_text(form, "number"));
+        form.spin(row, field, c.direction);
+        EXPECT_EQ(value, c.after) << "from " << c.before;
+        EXPECT_EQ(field.content, fixed(value, 2));
+    }
+    std::int32_t minutes = 7;
+    Form form;
+    auto& row = form.rows().integer("minutes", minutes).typed(5, 500).spun(1, 500, 5);
+    for (const auto* const shown : {"2", "1", "1"}) {
+        PlainField field(field_text(form, "minutes"));
+        form.spin(row, field, Spin::down);
+        EXPECT_EQ(field.content, shown);
+    }
+}
+
+TEST(NumberRow, ReadsACommaAsAPointAndGuessesNoThousands) {
+    for (const auto& [text, left, value] : {std::tuple{"4,5", "4.5", 4.5F},
+                                            {"1,234", "1.234", 1.234F},
+                                            {"1,2.", "1.2", 1.2F},
+                                            {"1,234.5", "3.00", 3.0F},
+                                            {"1.234,5", "3.00", 3.0F},
+                                            {"1,2,3", "3.00", 3.0F}}) {
+        float number = 3;
+        Text<20> name;
+        Form form;
+        form.rows().number("number", number).range(0, 5000);
+        form.rows().text("name", name);
+        PlainField field;
+        type(form, "number", field, text);
+        EXPECT_EQ(std::pair(number, field.content), std::pair(value, std::string(left))) << text;
+        type(form, "name", field, text);
+        EXPECT_EQ(name.view(), text) << "words keep their commas";
+    }
+}
+
+TEST(NumberRow, TellsItsRangeInTheUnitShown) {
+    float size = 5, sum = 0, change = 0;
+    std::int32_t degrees = 70;
+    Form form;
+    auto& litres =
+        form.rows().number("size", size).shown_as(to_litres, to_gallons).range(1, 100000).format("%0.1f");
+    EXPECT_EQ(litres.range_words(), "1 to 100000");
+    EXPECT_TRUE(litres.is_outside("0.5") && litres.is_outside("100001"));
+    EXPECT_FALSE(litres.is_outside("1") || litres.is_outside("") || litres.is_outside("."));
+    EXPECT_EQ(form.rows().number("sum", sum).range_words(), "");
+    EXPECT_EQ(form.rows().signed_number("change", change).range(-17.77F, 0.05F).range_words(),
+              "-17.77 to 0.05");
+    EXPECT_EQ(form.rows().temperature("degrees", degrees, TemperatureUnits::celsius).range_words(),
+              "0 to 105");
+}
+
 TEST(NumberRow, KeepsToItsScale) {
     Settings settings;
     settings.sg_precision = 1;
@@ -168,8 +231,9 @@ TEST(Form, CommitsAndRestores) {
     EXPECT_EQ(original.a, 1);
     form.cancel();
     EXPECT_EQ(std::pair(live.a, original.a), std::pair(1.0F, 1.0F));
+    live.a = copy.a = 12;
     form.accept();
-    EXPECT_EQ(original.a, 3);
+    EXPECT_EQ(original.a, 9) << "OK keeps what was edited in its range";
 }
 
 } // namespace

@@ -106,7 +106,8 @@ TEST(Show, PrintsByThePatternOfTheField) {
     // clang-format off
     for (const auto& [pattern, value, text] : {std::tuple{"%7.3f", 1.5, "  1.500"}, {"%3d", 7.9, "  7"},
          {"%02d", 5.0, "05"}, {"%06.1f", -2.25, "-002.2"}, {"%0.0f%%", 75.0, "75%"},
-         {"at %0.1f F", 68.0, "at 68.0 F"}})
+         {"at %0.1f F", 68.0, "at 68.0 F"}, {"%6.1f", NAN, "    --"}, {"%03d", NAN, " --"},
+         {"%0.2f", INFINITY, "--"}})
         // clang-format on
         EXPECT_EQ(formatted(pattern, value), text);
 }

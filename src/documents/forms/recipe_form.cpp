@@ -78,8 +78,7 @@ NumberRow& size_row(Rows& rows, std::string key, Binding<float> gallons, const S
                   [&settings](float shown) { return from_shown_volume(shown, settings); })
         .range(1.0F, 100000.0F)
         .step(0.5F)
-        .format("%0.1f")
-        .outside(Outside::clamp);
+        .format("%0.1f");
 }
 
 void batch_row(Rows& rows, RecipeEditor& editor) {

@@ -1,0 +1,105 @@
+#include "forms/ranges.h"
+
+#include <algorithm>
+
+namespace wortlex {
+
+IntegerRow::IntegerRow(std::string row_key, Binding<std::int32_t> value)
+    : EntryOptions(std::move(row_key), ColorArea::entries), value_(std::move(value)), typed_low_(-any_whole),
+      typed_high_(any_whole), spun_low_(-any_whole), spun_high_(any_whole) {}
+
+IntegerRow& IntegerRow::typed(Live<std::int32_t> low, Live<std::int32_t> high) {
+    typed_low_ = std::move(low);
+    typed_high_ = std::move(high);
+    return *this;
+}
+
+IntegerRow& IntegerRow::spun(Live<std::int32_t> low, Live<std::int32_t> high, std::int32_t step) {
+    spun_low_ = std::move(low);
+    spun_high_ = std::move(high);
+    step_ = step;
+    return *this;
+}
+
+IntegerRow& IntegerRow::range(Live<std::int32_t> low, Live<std::int32_t> high) {
+    spun_low_ = low;
+    spun_high_ = high;
+    return typed(std::move(low), std::move(high));
+}
+
+IntegerRow& IntegerRow::step(std::int32_t by) {
+    step_ = by;
+    return *this;
+}
+
+IntegerRow& IntegerRow::outside(Outside rule) {
+    outside_ = rule;
+    return *this;
+}
+
+IntegerRow& IntegerRow::format(std::string pattern) {
+    pattern_ = std::move(pattern);
+    return *this;
+}
+
+IntegerRow& IntegerRow::temperature(TemperatureUnits units) {
+    units_ = units;
+    step_ = 1;
+    return *this;
+}
+
+bool IntegerRow::store(std::int32_t value, bool has_changed) const {
+    if (has_changed) value_.set(value);
+    return has_changed;
+}
+
+void IntegerRow::show(TextField& field) const {
+    show_int(field, value_.get(), pattern_);
+}
+
+bool IntegerRow::typed(TextField& field) {
+    const auto before = value_.get();
+    auto value = before;
+    if (units_) return store(value, typed_temperature(*units_, field, value, number_length));
+    if (outside_ == Outside::ignore)
+        return store(value, typed_int(field, value, typed_low_(), typed_high_(), number_length));
+    if (field.text().empty() && (typed_low_() > 0 || typed_high_() < 0)) return false; // no number yet
+    typed_int(field, value, -any_whole, any_whole, number_length);
+    const auto held = std::clamp(value, typed_low_(), typed_high_());
+    const bool has_changed = store(held, held != before);
+    if (held != value && outside_ == Outside::rewrite) show(field);
+    return has_changed;
+}
+
+bool IntegerRow::spun(TextField& field, Spin direction) {
+    if (step_ <= 0) return false;
+    const auto before = value_.get();
+    auto value = before;
+    if (units_) return store(value, spin_temperature(*units_, field, value, number_length, direction));
+    const SpinRange range{static_cast<float>(spun_low_()), static_cast<float>(spun_high_()),
+                          static_cast<float>(step_)};
+    spin_int(field, value, range, number_length, direction, pattern_);
+    const auto held = std::clamp(value, std::min(spun_low_(), before), std::max(spun_high_(), before));
+    const bool is_stored = store(held, held != before);
+    if (held != value) show(field);
+    return is_stored;
+}
+
+std::string IntegerRow::range_words() const {
+    if (units_) return range_in_words(0, highest_temperature(*units_), any_whole);
+    return range_in_words(typed_low_(), typed_high_(), any_whole);
+}
+
+bool IntegerRow::is_outside(const std::string& text) const {
+    return !units_ && lies_outside(text, typed_low_(), typed_high_());
+}
+
+void IntegerRow::hold() const {
+    if (units_) return; // its fields never leave their range
+    const auto before = value_.get();
+    const auto held =
+        std::clamp(before, std::min(typed_low_(), spun_low_()), std::max(typed_high_(), spun_high_()));
+    store(held, held != before);
+}
+
+} // namespace wortlex

@@ -1,0 +1,47 @@
+#include "forms/ranges.h"
+
+#include "base/number.h"
+
+#include <algorithm>
+
+namespace wortlex {
+namespace {
+
+// A limit as short as can be.
+std::string limit(double value) {
+    constexpr int digits = 7;
+    return significant(value, digits);
+}
+
+} // namespace
+
+std::string range_in_words(double low, double high, double everything) {
+    if (low <= -everything && high >= everything) return "";
+    if (high >= everything) return limit(low) + " or more";
+    return low <= -everything ? limit(high) + " or less" : limit(low) + " to " + limit(high);
+}
+
+bool lies_outside(const std::string& text, double low, double high) {
+    if (text.find_first_of("0123456789") == std::string::npos) return false; // no number yet
+    const float number = narrow(leading_number(text));
+    return number < low || number > high;
+}
+
+bool read_decimal_mark(const EntryRow& row, TextField& field) {
+    const auto typed = field.text();
+    auto text = typed;
+    std::replace(text.begin(), text.end(), ',', '.');
+    const auto marks = std::count(text.begin(), text.end(), '.');
+    if (marks > 2 || (marks == 2 && !text.ends_with('.'))) {
+        row.show(field);
+        return false;
+    }
+    if (marks == 2) text.pop_back();
+    if (text == typed) return true;
+    const int caret = field.caret();
+    field.set_text(text);
+    field.set_caret(std::min(caret, static_cast<int>(text.size())));
+    return true;
+}
+
+} // namespace wortlex

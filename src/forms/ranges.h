@@ -1,0 +1,20 @@
+// How the number rows read and tell their ranges.
+#pragma once
+
+#include "forms/entry_rows.h"
+
+#include <limits>
+
+namespace wortlex {
+
+inline constexpr float anything = std::numeric_limits<float>::max();
+inline constexpr std::int32_t any_whole = std::numeric_limits<std::int32_t>::max();
+inline constexpr int number_length = 12; ///< characters that a field is read to
+
+/// "1 to 100"; `everything` is what limits a field that has no limit.
+std::string range_in_words(double low, double high, double everything);
+
+/// Whether `text` is a number, and beyond the limits.
+bool lies_outside(const std::string& text, double low, double high);
+
+} // namespace wortlex
