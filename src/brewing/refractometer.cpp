@@ -7,15 +7,12 @@
 #include <optional>
 
 namespace wortlex {
+namespace {
 
-float net_zeiss_from_brix(float brix, const Settings& settings) {
-    const float net_brix = narrow(double{brix} - settings.water_brix);
-    if (net_brix < 0.002) return 0;
-    const float ri = narrow(double{net_brix} * net_brix * 5.5752e-6 + (net_brix * 0.0014323 + 1.333));
-    return narrow(double{ri} * ri * 3485.0 + (2749.3 - ri * 6708.0));
-}
+constexpr float reading_where_none_fits = 8.0F;
 
-AlcoholFigures alcohol_from_reading(float sg, float net_zeiss) {
+// All but the alcohol by volume, which the search has no need of.
+AlcoholFigures extracts_from_reading(float sg, float net_zeiss) {
     AlcoholFigures figures;
     figures.net_zeiss = net_zeiss;
     const float s = narrow((sg - 1.0) * 100);
@@ -24,30 +21,59 @@ AlcoholFigures alcohol_from_reading(float sg, float net_zeiss) {
     const double a = figures.by_weight;
     figures.original_extract = narrow((a * 2.0665 + figures.real_extract) * 100 / (a * 1.0665 + 100));
     if (figures.by_weight < 0) figures.by_weight = figures.original_extract = 0;
-    figures.by_volume = alcohol_by_volume(figures.by_weight, sg);
     return figures;
 }
 
-AlcoholFigures implied_alcohol(float og_plato, float fg_plato, const Settings& settings) {
+// Steps up from water to where `plato_at` a Brix reading lies closest to `goal`.
+template <class PlatoAt>
+float fitting_reading(float goal, const Settings& settings, PlatoAt plato_at) {
     constexpr int most_steps = 100000;
     constexpr double step = 0.001, tolerance = 0.005;
-    const float sg = plato_to_sg(fg_plato);
-    const auto figures_at = [&](float brix) {
-        return alcohol_from_reading(sg, net_zeiss_from_brix(brix, settings));
-    };
     float brix = settings.water_brix;
     std::optional<float> last_difference;
     for (int count = 0; count < most_steps; ++count) {
-        const auto figures = figures_at(brix);
-        const float difference = narrow(std::abs(double{figures.original_extract} - og_plato));
+        const float difference = narrow(std::abs(double{plato_at(brix)} - goal));
         if (difference <= tolerance) {
             // Past the best fit: the step before it was the one.
-            if (last_difference && difference > *last_difference) return figures_at(narrow(brix - step));
+            if (last_difference && difference > *last_difference) return narrow(brix - step);
             last_difference = difference;
         }
         brix = narrow(brix + step);
     }
-    return figures_at(8.0F);
+    return reading_where_none_fits;
+}
+
+} // namespace
+
+AlcoholFigures alcohol_from_reading(float sg, float net_zeiss) {
+    auto figures = extracts_from_reading(sg, net_zeiss);
+    figures.by_volume = alcohol_by_volume(figures.by_weight, sg);
+    return figures;
+}
+
+float current_gravity(float original_plato, float net_zeiss) {
+    const double p = original_plato, z = net_zeiss;
+    const double part = 1e9 * -1.83696 + 1e9 * 2.00689 * p - 1e9 * 1.34799 * z + 1e6 * 5.7399 * p * z;
+    const double whole = 1e9 * -8.86894 + 1e7 * 5.91694 * p;
+    return narrow(part / whole / 100 + 1);
+}
+
+float implied_reading(float og_plato, float fg_plato, const Settings& settings) {
+    const float sg = plato_to_sg(fg_plato);
+    return fitting_reading(og_plato, settings, [&](float brix) {
+        return extracts_from_reading(sg, net_zeiss_from_brix(brix, settings)).original_extract;
+    });
+}
+
+float implied_fermenting_reading(float og_plato, float fg_plato, const Settings& settings) {
+    return fitting_reading(fg_plato, settings, [&](float brix) {
+        return sg_to_plato(current_gravity(og_plato, net_zeiss_from_brix(brix, settings)));
+    });
+}
+
+AlcoholFigures implied_alcohol(float og_plato, float fg_plato, const Settings& settings) {
+    const float brix = implied_reading(og_plato, fg_plato, settings);
+    return alcohol_from_reading(plato_to_sg(fg_plato), net_zeiss_from_brix(brix, settings));
 }
 
 } // namespace wortlex

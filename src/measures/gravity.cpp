@@ -130,7 +130,11 @@ float apparent_attenuation(float og, float fg) {
 
 float real_attenuation(float og, float fg) {
     if (og == 0 || fg == 0) return 0;
-    return real_attenuation_re(og, narrow(extracts(og, fg).real));
+    return real_attenuation_re(og, residual_extract(og, fg));
+}
+
+float residual_extract(float og, float fg) {
+    return narrow(extracts(og, fg).real);
 }
 
 float real_attenuation_re(float og, float real_extract) {

@@ -38,6 +38,8 @@ float alcohol_by_volume(float by_weight, float fg);
 /// Percent.
 float apparent_attenuation(float og, float fg);
 float real_attenuation(float og, float fg);
+/// What is left in the beer, in Plato, of the original and the apparent extract.
+float residual_extract(float og, float fg);
 /// With the real extract (Plato) given, as a refractometer tells it.
 float real_attenuation_re(float og, float real_extract);
 /// Percent by volume of a wort fermented down to SG 1.

@@ -128,6 +128,7 @@ void expect_prints_and_reads() {
     EXPECT_EQ(fixed(2.5, 0), "2") << "as C prints it: half to even";
     EXPECT_EQ(fixed(-0.004, 2), "-0.00");
     EXPECT_EQ(fixed(-1e308, 2).size(), 1U + 309 + 3);
+    EXPECT_EQ(fixed(NAN, 2) + fixed(-INFINITY, 0), "----");
     EXPECT_EQ(significant(0.25, 6), "0.25");
     EXPECT_EQ(significant(1234567.0, 6), "1.23457e+06");
     for (const auto& [text, number] : {std::pair{" 1.25\r\n", 1.25}, {"+.5", 0.5}, {"-1e3", -1000.0}})

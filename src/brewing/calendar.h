@@ -1,0 +1,22 @@
+// Days of the calendar.
+#pragma once
+
+#include "base/ports/desk.h"
+
+#include <cstdint>
+#include <string>
+
+namespace wortlex {
+
+/// Calendar days from one date to the other, negative backwards. Hours do not come into it, so a change to
+/// summer time loses none.
+std::int32_t days_between(const CalendarDate& start, const CalendarDate& stop);
+
+/// A date moved on as the bottling date is: by one step of the month at the most, however many the days, and
+/// with 29 days in every February.
+CalendarDate moved_on(CalendarDate date, std::int32_t days);
+
+/// "Monday March 05, 2001".
+std::string long_date(const CalendarDate& date);
+
+} // namespace wortlex
