@@ -49,8 +49,8 @@ float DecoctionVolume(std::int32_t from, std::int32_t to, const DecoctionMash& m
                                           : 0.0F;
     const float grain_per_quart = narrow(1.0 / (ratio + quarts_per_pound_of_grain));
     const float water_per_quart = narrow(double{grain_per_quart} * ratio * pounds_per_quart);
-    const double drop = (static_cast<double>(returned) - from) *
-                        (double{grain_per_quart} * mash.heat_capacity + water_per_quart);
+    const float drop = narrow((static_cast<double>(returned) - from) *
+                              (double{grain_per_quart} * mash.heat_capacity + water_per_quart));
     if (drop == 0) return 0;
     const double rise = static_cast<double>(to) - from;
     return narrow(rise * (double{mash.grain} * mash.heat_capacity + water_pounds) / drop);

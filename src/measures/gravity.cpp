@@ -75,7 +75,7 @@ float points_from_yield(float yield) {
     return narrow(std::min(yield, 100.0F) / 100.0 * sucrose_points_default);
 }
 
-float as_is_yield(float yield, float moisture) {
+float as_is_yield(double yield, float moisture) {
     return narrow(std::min(yield / 100.0 * (100.0 - moisture), 100.0));
 }
 

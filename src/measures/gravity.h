@@ -21,7 +21,7 @@ float sg_from_yield(float yield);
 /// The points of a yield as a fraction of the sucrose points, that is before the last two steps to SG.
 float points_from_yield(float yield);
 /// A dry basis yield with the moisture (percent) in it, and back; at most 100.
-float as_is_yield(float yield, float moisture);
+float as_is_yield(double yield, float moisture);
 float dry_yield(float yield, float moisture);
 /// Points as hot water extract, litre-degrees per kilogram; not below 0.
 float hwe_from_points(float points);

@@ -41,9 +41,9 @@ float fine_yield_of(float shown, const PotentialTraits& traits, YieldType type) 
 
 } // namespace
 
-float yield_by_type(float fine_yield, const PotentialTraits& traits, YieldType type) {
+double yield_by_type(float fine_yield, const PotentialTraits& traits, YieldType type) {
     if (!traits.mashed) return fine_yield;
-    const float coarse = narrow(fine_yield - std::abs(double{fine_yield} - traits.coarse_yield));
+    const double coarse = fine_yield - std::abs(double{fine_yield} - traits.coarse_yield);
     switch (type) {
     case YieldType::fine_as_is:
         return as_is_yield(fine_yield, traits.moisture);
@@ -58,7 +58,7 @@ float yield_by_type(float fine_yield, const PotentialTraits& traits, YieldType t
 
 float potential_to_shown(float sg, const PotentialTraits& traits, const Settings& settings) {
     if (settings.potential_display == PotentialDisplay::percent_yield)
-        return not_negative(yield_by_type(yield_from_sg(sg), traits, settings.yield_type));
+        return not_negative(narrow(yield_by_type(yield_from_sg(sg), traits, settings.yield_type)));
     return potential_to_shown_plain(sg, settings.potential_display);
 }
 

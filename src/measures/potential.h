@@ -13,8 +13,8 @@ struct PotentialTraits {
 };
 
 /// A dry basis fine grind yield (percent) as the grind and moisture of `type` leave it. Only mashed
-/// lines are touched.
-float yield_by_type(float fine_yield, const PotentialTraits& traits, YieldType type);
+/// lines are touched. A coarse yield is not narrowed.
+double yield_by_type(float fine_yield, const PotentialTraits& traits, YieldType type);
 
 /// The potential of a malt (SG of a pound in a gallon) as SG, points, HWE, Plato or percent yield.
 float potential_to_shown(float sg, const PotentialTraits& traits, const Settings& settings);

@@ -24,6 +24,8 @@ TEST(MashWater, OfOneStep) {
     expect_floats(DecoctionVolume, {
         {150, 168, {10, 2.5F, 0.4F}, 210, 0, 3.96724057F}, {150, 168, {10, 2.5F, 0.4F}, 210, 0.65F, 4.11971521F},
         {150, 168, {0, 2.5F, 0.4F}, 210, 0, 4.92327261F}, {150, 168, {10, 2.5F, 0.4F}, 150, 0, 0}});
+    // To the last bit: 2.20402265 without the narrowing of what the pulled mash gives off.
+    expect_exactly(DecoctionVolume, {{150, 160, {10, 2.5F, 0.4F}, 210, 0, 2.20402241F}});
     // clang-format on
 }
 

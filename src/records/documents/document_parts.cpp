@@ -68,8 +68,9 @@ void update_yields(MaltRecord& malt) {
         malt.fine_yield = fine;
     } else {
         malt.moisture = 4.0F;
-        malt.fine_yield = narrow(narrow((malt.potential - 1.0) * 1000) / sucrose_points_default * 100);
-        malt.coarse_yield = narrow(malt.fine_yield - 1.5);
+        const double fine = narrow((malt.potential - 1.0) * 1000) / sucrose_points_default * 100;
+        malt.fine_yield = narrow(fine);
+        malt.coarse_yield = narrow(fine - 1.5); // of the yield as it was before it was stored
     }
 }
 
