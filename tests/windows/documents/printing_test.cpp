@@ -1,4 +1,5 @@
 #include "databases/hops.h"
+#include "program/program.h"
 #include "support/desk.h"
 #include "support/recording_desk.h"
 #include "support/temporary_folder.h"

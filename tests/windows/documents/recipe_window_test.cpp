@@ -217,7 +217,8 @@ TEST(RecipeWindow, StaysWhileADialogIsOpenOverAPage) {
 TEST(RecipeWindow, ShowsRecoveredWorkAsItWas) {
     Kitchen kitchen;
     kitchen.program.document.recipe.efficiency = 0.6F;
-    KeepWork(kitchen.program);
+    KeepWork(kitchen.program.data_folder, image_of(live_document(kitchen.program)),
+             kitchen.program.document.file);
     kitchen.program.document.recipe.efficiency = 0.9F;
     kitchen.prompts.expect(
         "yes/no/cancel",
