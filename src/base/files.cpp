@@ -194,6 +194,13 @@ std::string file_name(const std::string& path) {
     return std::filesystem::path(path).filename().string();
 }
 
+std::string tame_file_name(std::string name, std::string_view unwanted) {
+    std::replace_if(
+        name.begin(), name.end(), [unwanted](char c) { return unwanted.find(c) != std::string_view::npos; },
+        '_');
+    return name;
+}
+
 std::string native_folder(std::string_view stored) {
     std::string folder(stored);
     std::replace(folder.begin(), folder.end(), '\\', '/');

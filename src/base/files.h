@@ -49,6 +49,13 @@ std::string find_data_file(const std::string& folder, std::string_view name);
 /// The last part of a path.
 std::string file_name(const std::string& path);
 
+/// What one or the other file system refuses in a name.
+inline constexpr std::string_view refused_in_names = "/\\:*?\"<>|";
+
+/// A file's name with "_" for each of the `unwanted` characters; without others, a name that any file system
+/// takes.
+std::string tame_file_name(std::string name, std::string_view unwanted = refused_in_names);
+
 /// A folder path of a settings file in the form of this system: slashes, and one at the end.
 /// An empty path stays empty.
 std::string native_folder(std::string_view stored);

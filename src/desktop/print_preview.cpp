@@ -68,14 +68,6 @@ double zoom_of(const PreviewPages& pages, const QSize& room, double dots_per_inc
     }
 }
 
-// A name that any file system takes.
-std::string file_name_of(std::string name) {
-    std::replace_if(
-        name.begin(), name.end(),
-        [](char c) { return std::string_view("/\\:*?\"<>|").find(c) != std::string_view::npos; }, '_');
-    return name;
-}
-
 // What the platform's dialog was told to print.
 PageRange range_of(const QPrinter& printer, std::size_t current) {
     if (printer.printRange() == QPrinter::CurrentPage) return {current + 1, current + 1};
@@ -189,7 +181,7 @@ void PrintPreview::save() {
     const auto path =
         ports_.files.choose_to_save({.filter = "PDF File (*.pdf)|*.pdf",
                                      .folder = {},
-                                     .suggested_name = file_name_of(pages_.job().document_name) + ".pdf",
+                                     .suggested_name = tame_file_name(pages_.job().document_name) + ".pdf",
                                      .extension = "pdf"});
     if (!path) return;
     const auto file = pdf_of(pages_.job(), pages_.paper(), ports_.prompts);

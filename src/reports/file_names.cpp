@@ -1,6 +1,6 @@
 #include "reports/file_names.h"
 
-#include <algorithm>
+#include "base/files.h"
 
 namespace wortlex {
 
@@ -20,9 +20,7 @@ std::string recipe_file_name(std::string_view title, ReportOutput output) {
 }
 
 std::string html_file_name(std::string name) {
-    std::replace_if(
-        name.begin(), name.end(), [](char c) { return c == ' ' || c == '?' || c == '*'; }, '_');
-    return name;
+    return tame_file_name(std::move(name), " ?*");
 }
 
 } // namespace wortlex
