@@ -1,6 +1,7 @@
 #include "brewing/hop_bitterness.h"
 
 #include "base/number.h"
+#include "measures/gravity.h"
 #include "measures/units.h"
 
 #include <algorithm>
@@ -112,7 +113,7 @@ Yield rager(const Addition& addition, const Kettle& kettle, const Settings& sett
     const float cf = factors.concentration;
     const float gravity = cf == 1.0F && kettle.sg <= 1.05
                               ? kettle.sg
-                              : narrow(narrow(narrow((kettle.sg - 1.0) * 1000) * double{cf}) / 1000.0 + 1);
+                              : sg_from_points(narrow(narrow((kettle.sg - 1.0) * 1000) * double{cf}));
     const float adjustment = gravity > 1.05 ? narrow((gravity - 1.0 - 0.05) / 0.2) : 0.0F;
     factors.utilization = adjusted_utilization(rager_utilization(addition.minutes), addition, settings);
     factors.gravity = narrow(adjustment + 1.0);

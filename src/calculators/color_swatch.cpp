@@ -2,6 +2,7 @@
 
 #include "base/number.h"
 #include "base/windows1252.h"
+#include "measures/unit_words.h"
 #include "measures/units.h"
 
 #include <algorithm>
@@ -10,7 +11,7 @@ namespace wortlex {
 namespace {
 
 std::string unit_label(const Settings& settings) {
-    return settings.color_units == ColorUnits::srm ? "SRM:" : "EBC:";
+    return std::string(colour_unit(settings).usual) + ":";
 }
 
 template <std::size_t N>

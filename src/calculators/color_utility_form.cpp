@@ -1,5 +1,6 @@
 #include "base/number.h"
 #include "calculators/color_utility.h"
+#include "measures/unit_words.h"
 #include "measures/units.h"
 
 namespace wortlex {
@@ -8,7 +9,7 @@ namespace {
 constexpr std::int32_t most_adjust = 100;
 
 std::string unit_of(const ColorUtility& utility) {
-    return utility.units().color_units == ColorUnits::srm ? "SRM" : "EBC";
+    return colour_unit(utility.units()).usual;
 }
 
 std::string shown_colour(const ColorUtility& utility, const ColorRow& row, std::string_view pattern) {

@@ -44,7 +44,7 @@ HopCalculator start_calculator(const HopUse& hop, const HopMemory& memory, const
                              .bag_used = memory.bag_used,
                              .beer_filtered = memory.beer_filtered,
                              .factors = {}};
-    set_ounces(calculator, settings.system_mode == SystemMode::pro_brewer ? 16.0F : 1.0F, settings);
+    set_ounces(calculator, is_pro(settings) ? 16.0F : 1.0F, settings);
     return calculator;
 }
 

@@ -1,6 +1,7 @@
 #include "calculators/ibu_calculator.h"
 
 #include "base/number.h"
+#include "measures/unit_words.h"
 #include "measures/units.h"
 
 #include <memory>
@@ -172,10 +173,7 @@ void use_rows(Rows& rows, HopCalculator& calculator, const Settings& settings) {
 } // namespace
 
 std::string volume_label(std::string_view of, const Settings& settings) {
-    const bool american = settings.volume_units == Units::american;
-    const auto* const unit =
-        is_pro(settings) ? (american ? " (bbl)" : " (hL)") : (american ? " (Gal)" : " (L)");
-    return std::string(of) + unit;
+    return std::string(of) + " (" + volume_unit(settings).usual + ")";
 }
 
 void ibu_calculator_form(Form& form, HopCalculator& calculator, const Settings& settings,

@@ -18,7 +18,7 @@ std::string yes_or_no(bool is_so) {
 }
 
 void add_weight(Lines& lines, const HopCalculator& calculator, const Settings& settings) {
-    if (settings.system_mode == SystemMode::pro_brewer) {
+    if (is_pro(settings)) {
         lines.push_back(formatted("Pounds Hops Used:\t%0.2f", calculator.ounces / 16.0));
         lines.push_back(formatted("Kilograms Hops Used:\t%0.2f", calculator.grams / 1000.0));
         return;

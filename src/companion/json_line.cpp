@@ -1,9 +1,8 @@
 #include "base/windows1252.h"
 #include "companion/json.h"
 #include "companion/report_format.h"
-#include "measures/gravity.h"
+#include "documents/figure_catalogue.h"
 #include "measures/potential.h"
-#include "measures/units.h"
 #include "records/documents/brew_document.h"
 
 namespace wortlex {
@@ -26,26 +25,14 @@ std::string_view word(RecipeKind kind) {
 }
 
 void recipe_figures(JsonWriter& json, const Program& program) {
-    const auto& document = program.document.recipe;
-    const auto& figures = program.document.figures;
-    const float sg = hop_gravity(document);
-    json.number("batch_size", document.batch_size)
-        .number("wort_size", document.wort_size)
-        .number("boil_minutes", document.boil_minutes)
-        .number("efficiency", document.efficiency)
-        .number("og_points", document.og_points)
-        .number("sg", sg)
-        .number("plato", sg_to_plato(sg))
-        .number("tinseth_points", figures.tinseth_points)
-        .number("total_extract", figures.total_extract_pounds)
-        .number("sucrose", figures.recipe_sucrose)
-        .number("total_ibu", document.total_ibu)
-        .number("mcu", figures.colour.mcu)
-        .number("srm", figures.colour.srm)
-        .number("shown_colour", to_shown_colour(figures.colour.srm, program.settings))
-        .number("total_grain", figures.total_grain)
-        .number("mash_grain", figures.mash_grain)
-        .number("total_hop_ounces", figures.total_hop_ounces);
+    using namespace recipe_figure;
+    const auto source = source_of(program);
+    for (const auto* figure : {&batch_size, &wort_size, &boil_minutes, &efficiency, &og_points, &sg, &plato,
+                               &tinseth_points, &total_extract, &sucrose, &total_ibu, &mcu, &colour})
+        json.number(figure->key, figure->value(source));
+    json.number("shown_colour", shown_value(colour, source));
+    for (const auto* figure : {&total_grain, &mash_grain, &total_hops})
+        json.number(figure->key, figure->value(source));
 }
 
 void malt(JsonWriter& json, const Program& program, std::size_t i) {
@@ -102,12 +89,12 @@ void infusions(JsonWriter& json, const LiveDocument& document) {
         .end_object();
 }
 
-void mash(JsonWriter& json, const LiveDocument& document) {
+void mash(JsonWriter& json, const LiveDocument& document, const FigureSource& source) {
     const bool is_complex = has_complex_schedule(document.recipe);
     json.begin_object("mash")
         .string("kind", is_complex ? "complex" : "simple")
-        .number("water", document.figures.mash.quarts)
-        .number("volume", document.figures.mash.gallons);
+        .number("water", recipe_figure::mash_water.value(source))
+        .number("volume", recipe_figure::mash_volume.value(source));
     if (is_complex) {
         steps(json, document.recipe.mash);
     } else {
@@ -165,7 +152,7 @@ std::string json_line(const Program& program, const Evaluation& evaluation) {
         .number("volume", evaluation.pre_boil.volume)
         .number("points", evaluation.pre_boil.points)
         .end_object();
-    mash(json, program.document);
+    mash(json, program.document, source_of(program));
     if (program.document.kind == DocumentKind::session) session_figures(json, program, evaluation);
     json.end_object();
     return json.text();

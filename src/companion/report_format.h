@@ -2,8 +2,14 @@
 #pragma once
 
 #include "companion/evaluation.h"
+#include "documents/figure_catalogue.h"
 
 namespace wortlex {
+
+/// What the figures of the live document are read from.
+inline FigureSource source_of(const Program& program) {
+    return {program.document.recipe, program.document.figures, program.settings};
+}
 
 /// One object on one line, without the line's end.
 std::string json_line(const Program& program, const Evaluation& evaluation);

@@ -1,11 +1,11 @@
 #include "base/windows1252.h"
 #include "brewing/hop_bitterness.h"
 #include "companion/report_format.h"
+#include "documents/figure_catalogue.h"
 #include "measures/gravity.h"
+#include "measures/precision.h"
 #include "measures/units.h"
-
-#include <algorithm>
-#include <array>
+#include "records/ingredients/amount_words.h"
 
 namespace wortlex {
 namespace {
@@ -22,20 +22,6 @@ std::string figure(double value, int decimals, std::size_t width) {
 }
 
 constexpr std::size_t name_width = 34;
-
-struct Words {
-    std::string_view volume, grain, hops, colour, temperature;
-};
-
-Words words(const Settings& settings) {
-    const bool pro = settings.system_mode == SystemMode::pro_brewer;
-    const auto pick = [](bool first, std::string_view a, std::string_view b) { return first ? a : b; };
-    return {settings.volume_units == Units::american ? pick(pro, "bbl", "gal") : pick(pro, "hL", "L"),
-            pick(settings.weight_units == Units::american, "lb", "kg"),
-            settings.hop_weight_units == Units::american ? pick(pro, "lb", "oz") : pick(pro, "kg", "g"),
-            pick(settings.color_units == ColorUnits::srm, "SRM", "EBC"),
-            pick(settings.temperature_units == TemperatureUnits::fahrenheit, "F", "C")};
-}
 
 std::string_view long_kind_word(RecipeKind kind) {
     switch (kind) {
@@ -62,13 +48,20 @@ std::string time_word(const HopUse& line, int boil_minutes) {
 }
 
 std::string volume(float gallons, const Settings& settings) {
-    return fixed(to_shown_volume(gallons, settings), 2) + " " + std::string(words(settings).volume);
+    return fixed(to_shown_volume(gallons, settings), 2) + " " + volume_unit(settings).small;
+}
+
+std::string shown(const Figure& figure, const FigureSource& source) {
+    return fixed(shown_value(figure, source), figure.decimals);
+}
+
+std::string with_unit(const Figure& figure, const FigureSource& source) {
+    return shown(figure, source) + " " + unit_words(figure, source.settings).small;
 }
 
 std::string gravity(float points, const Settings& settings) {
-    const float sg = narrow(points / 1000.0 + 1);
-    return fixed(sg, 3 + static_cast<int>(std::min(settings.sg_precision, 2U))) + " (" +
-           fixed(sg_to_plato(sg), 1) + " Plato)";
+    const float sg = sg_from_points(points);
+    return fixed(sg, sg_decimals(settings)) + " (" + fixed(sg_to_plato(sg), 1) + " Plato)";
 }
 
 std::string brew_date(const SessionDocument& session) {
@@ -87,13 +80,12 @@ std::string heading(const Program& program, const Evaluation& evaluation) {
     out += "\n";
     out += "  " + evaluation.file + "\n  " + std::string(long_kind_word(document.recipe_kind));
     if (!document.style.name.empty()) out += ", " + utf8_from_windows1252(document.style.name.view());
-    out += "\n\n  Batch " + volume(document.batch_size, settings) + "   Wort " +
-           volume(document.wort_size, settings) + "   Boil " + std::to_string(document.boil_minutes) +
-           " min   Efficiency " + fixed(document.efficiency * 100.0, 0) + " %\n";
-    out += "  OG " + gravity(document.og_points, settings) + "   IBU " + fixed(document.total_ibu, 1) + " (" +
-           std::string(formula_word(settings.HopFormula)) + ")   Colour " +
-           fixed(to_shown_colour(program.document.figures.colour.srm, settings), 1) + " " +
-           std::string(words(settings).colour) + "\n";
+    using namespace recipe_figure;
+    const auto from = source_of(program);
+    out += "\n\n  Batch " + with_unit(batch_size, from) + "   Wort " + with_unit(wort_size, from) +
+           "   Boil " + shown(boil_minutes, from) + " min   Efficiency " + shown(efficiency, from) + " %\n";
+    out += "  OG " + gravity(document.og_points, settings) + "   IBU " + shown(total_ibu, from) + " (" +
+           std::string(formula_word(settings.HopFormula)) + ")   Colour " + with_unit(colour, from) + "\n";
     return out +
            "  Before the boil, by its rate of evaporation: " + volume(evaluation.pre_boil.volume, settings) +
            " at " + gravity(evaluation.pre_boil.points, settings) + "\n";
@@ -101,8 +93,8 @@ std::string heading(const Program& program, const Evaluation& evaluation) {
 
 std::string malt_list(const Program& program) {
     const auto& settings = program.settings;
-    std::string out = "\n  " + column("Malts", name_width) + "     " + std::string(words(settings).grain) +
-                      "      %  points\n";
+    std::string out =
+        "\n  " + column("Malts", name_width) + "     " + grain_unit(settings).small + "      %  points\n";
     for (const auto& line : program.document.recipe.malts) {
         const double percent = program.document.figures.total_grain > 0
                                    ? double{line.amount} / program.document.figures.total_grain * 100
@@ -111,13 +103,14 @@ std::string malt_list(const Program& program) {
                figure(grain_to_shown(line.amount, settings), 2, 7) + figure(percent, 1, 7) +
                figure(line.points, 1, 8) + "\n";
     }
+    const auto& grain = recipe_figure::total_grain;
     return out + "  " + column("Total", name_width) +
-           figure(grain_to_shown(program.document.figures.total_grain, settings), 2, 7) + "\n";
+           figure(shown_value(grain, source_of(program)), grain.decimals, 7) + "\n";
 }
 
 std::string hop_list(const Program& program) {
     const auto& settings = program.settings;
-    std::string unit(words(settings).hops);
+    std::string unit(hop_unit(settings).small);
     unit.insert(0, 7 - unit.size(), ' ');
     constexpr std::size_t form_width = 8;
     std::string out = "\n  " + column("Hops", name_width - form_width) + column("Form", form_width) + unit +
@@ -135,10 +128,8 @@ std::string other_ingredients(const Program& program) {
     const auto& document = program.document.recipe;
     std::string out;
     for (const auto& line : document.extras) {
-        constexpr std::array<std::string_view, 7> units = {"oz", "g", "lb", "tsp", "tbsp", "cups", "units"};
-        const auto unit = static_cast<std::size_t>(line.record.amount_unit);
         out += "  " + column(line.record.name.view(), name_width) + figure(line.amount, 2, 7) + " " +
-               std::string(unit < units.size() ? units[unit] : "") + "\n";
+               words_of(line.record.amount_unit).small + "\n";
     }
     if (!out.empty()) out = "\n  Extras\n" + out;
     const auto& yeast = document.yeast.record;
@@ -153,7 +144,7 @@ std::string other_ingredients(const Program& program) {
 
 std::string temperature(std::int32_t fahrenheit, const Settings& settings) {
     return figure(to_shown_temperature(static_cast<float>(fahrenheit), settings), 0, 5) + " " +
-           std::string(words(settings).temperature);
+           temperature_unit(settings).small;
 }
 
 std::string quarts(float amount, const Settings& settings) {
@@ -198,8 +189,8 @@ std::string mash_schedule(const Program& program) {
     const auto& mash = program.document.figures.mash;
     const bool is_session = program.document.kind == DocumentKind::session;
     const auto& infusions = is_session ? program.document.session.infusions : InfusionExtras{};
-    return "\n  Mash: water " + quarts(mash.quarts, settings) + ", volume " + volume(mash.gallons, settings) +
-           "\n" +
+    return "\n  Mash: water " + quarts(mash.quarts, settings) + ", volume " +
+           with_unit(recipe_figure::mash_volume, source_of(program)) + "\n" +
            (is_complex ? steps(program.document.recipe.mash, settings)
                        : rests(program.document.recipe.simple_mash, infusions, settings));
 }

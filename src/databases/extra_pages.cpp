@@ -1,24 +1,12 @@
 #include "databases/catalogues.h"
 #include "databases/extras.h"
+#include "records/ingredients/amount_words.h"
 
 namespace wortlex {
 namespace {
 
-struct UnitWords {
-    std::string_view measurement;
-    std::string_view of_entry; ///< behind the stock
-    std::string_view of_row;
-};
-
-constexpr std::array unit_words = {
-    UnitWords{"Ounces", " Ounces", " Oz"},     UnitWords{"Grams", " Grams", " Gr"},
-    UnitWords{"Pounds", " Lbs", " Lbs"},       UnitWords{"Teaspoon", " Tsp", " Tsp"},
-    UnitWords{"Tablespoon", " Tbsp", " Tbsp"}, UnitWords{"Cup", " Cups", " Cups"},
-    UnitWords{"Units", " Units", " Units"}};
-
-UnitWords words_of(AmountUnit unit) {
-    const auto code = static_cast<std::size_t>(unit);
-    return code < unit_words.size() ? unit_words.at(code) : UnitWords();
+std::string behind_amount(std::string_view unit) {
+    return unit.empty() ? std::string() : std::string(" ").append(unit);
 }
 
 std::string_view place_word(TimePlace place) {
@@ -35,7 +23,7 @@ std::string_view place_word(TimePlace place) {
 }
 
 EntryLines extra_entry(const ExtraRecord& extra) {
-    const auto unit = words_of(extra.amount_unit);
+    const auto& unit = words_of(extra.amount_unit);
     EntryLines entry;
     entry.text("Name", extra.name);
     entry.word("Type", type_word(extra.extra_type));
@@ -47,14 +35,14 @@ EntryLines extra_entry(const ExtraRecord& extra) {
     entry.add(
         formatted(extra.time_unit == TimeUnit::days ? "For:\t%d Days" : "For:\t%d Minutes", extra.time));
     entry.blank();
-    entry.word("Default Measurement", unit.measurement);
-    entry.add(formatted("Amount In Stock:\t%0.2f ", extra.stock) + std::string(unit.of_entry));
+    entry.word("Default Measurement", unit.full);
+    entry.add(formatted("Amount In Stock:\t%0.2f ", extra.stock) + behind_amount(unit.entry));
     return entry;
 }
 
 std::string stock_with_unit(const ExtraRecord& extra) {
     if (extra.stock == 0) return stock_cell(extra.stock);
-    return stock_cell(extra.stock) + std::string(words_of(extra.amount_unit).of_row);
+    return stock_cell(extra.stock) + behind_amount(words_of(extra.amount_unit).row);
 }
 
 std::vector<std::string> extra_row(const ExtraRecord& extra) {

@@ -3,6 +3,7 @@
 #include "base/windows1252.h"
 #include "databases/catalogues.h"
 #include "databases/store.h"
+#include "records/ingredients/amount_words.h"
 
 #include <algorithm>
 
@@ -42,9 +43,7 @@ std::vector<CatalogueColumn<ExtraRecord>> extra_columns() {
 }
 
 std::string extra_stock_unit(const ExtraRecord& extra) {
-    constexpr std::array units = {"Oz", "Grams", "Lbs", "Tsp(s)", "Tbsp(s)", "Cup(s)", "Units"};
-    const auto unit = static_cast<std::size_t>(extra.amount_unit);
-    return unit < units.size() ? units[unit] : "";
+    return words_of(extra.amount_unit).stock;
 }
 
 std::string extra_name(const ExtraRecord& extra) {

@@ -1,13 +1,9 @@
 #include "databases/catalogues.h"
 #include "databases/hops.h"
+#include "measures/unit_words.h"
 
 namespace wortlex {
 namespace {
-
-std::string stock_unit(const Settings& settings) {
-    if (settings.hop_weight_units == Units::american) return is_pro(settings) ? "Lbs" : "Oz";
-    return is_pro(settings) ? "kg" : "g";
-}
 
 std::string_view use_word(HopUsage usage) {
     return usage == HopUsage::both ? "Bittering and Aroma" : usage_word(usage);
@@ -55,14 +51,14 @@ EntryLines hop_entry(const HopRecord& hop) {
 } // namespace
 
 CataloguePages<HopRecord> hop_pages(const Settings& settings) {
-    return {
-        .list_titles = {"Wortlex Hop List - All Hops", "Wortlex Hop List - Whole Hops",
-                        "Wortlex Hop List - Plug Hops", "Wortlex Hop List - Pellet Hops"},
-        .stops = {245, 385, 450, 535, 600},
-        .heads = {"\t\t\tPrimary\t" + stock_unit(settings) + " In", "Name\tOrigin\tAlpha\tUse\tStock\tForm"},
-        .row = nullptr,
-        .entry_title = "Wortlex Hop Detail",
-        .entry = hop_entry};
+    return {.list_titles = {"Wortlex Hop List - All Hops", "Wortlex Hop List - Whole Hops",
+                            "Wortlex Hop List - Plug Hops", "Wortlex Hop List - Pellet Hops"},
+            .stops = {245, 385, 450, 535, 600},
+            .heads = {"\t\t\tPrimary\t" + std::string(hop_unit(settings).usual) + " In",
+                      "Name\tOrigin\tAlpha\tUse\tStock\tForm"},
+            .row = nullptr,
+            .entry_title = "Wortlex Hop Detail",
+            .entry = hop_entry};
 }
 
 } // namespace wortlex

@@ -3,21 +3,14 @@
 #include "base/windows1252.h"
 #include "databases/catalogues.h"
 #include "databases/store.h"
+#include "measures/unit_words.h"
 #include "measures/units.h"
 
 namespace wortlex {
 namespace {
 
-std::string stock_head(const Settings& settings) {
-    const bool american = settings.hop_weight_units == Units::american;
-    const std::string unit =
-        american ? (is_pro(settings) ? "Pounds" : "Ounces") : (is_pro(settings) ? "Kilograms" : "Grams");
-    return unit + "\nIn Stock";
-}
-
-std::string hop_stock_unit(const Settings& settings) {
-    if (settings.hop_weight_units == Units::american) return is_pro(settings) ? "Lbs" : "Oz.";
-    return is_pro(settings) ? "kg" : "g";
+std::string hop_stock_head(const Settings& settings) {
+    return std::string(hop_unit(settings).full) + "\nIn Stock";
 }
 
 std::string usage_text(const HopRecord& hop) {
@@ -34,7 +27,7 @@ std::vector<CatalogueColumn<HopRecord>> hop_columns(const Settings& settings) {
             Hop::text("Origin", 16, &HopRecord::origin),
             Hop::number("Alpha", 8, &HopRecord::alpha, "%7.2f"),
             Hop::words("Usage", 15, usage_text),
-            Hop::stock(stock_head(settings), &HopRecord::stock,
+            Hop::stock(hop_stock_head(settings), &HopRecord::stock,
                        [&](float ounces) { return hop_to_shown(ounces, settings); }),
             Hop::words("Form", 8, form_text)};
 }
@@ -185,7 +178,7 @@ Catalogue<HopRecord> hop_catalogue(const Settings& settings, const std::string& 
     hops.stock = {.amount = &HopRecord::stock,
                   .to_shown = [&settings](float ounces) { return hop_to_shown(ounces, settings); },
                   .from_shown = [&settings](float shown) { return shown_to_hop(shown, settings); },
-                  .unit = [&settings](const HopRecord&) { return hop_stock_unit(settings); }};
+                  .unit = [&settings](const HopRecord&) { return hop_list_word(settings); }};
     hops.new_record = new_hop;
     hops.entry_form = hop_entry_form;
     hops.pages = hop_pages(settings);

@@ -2,6 +2,7 @@
 #include "databases/malt_yields.h"
 #include "databases/malts.h"
 #include "measures/potential.h"
+#include "measures/unit_words.h"
 #include "measures/units.h"
 
 namespace wortlex {
@@ -17,10 +18,6 @@ std::string_view type_word(MaltType type) {
 bool must_be_mashed(const MaltRecord& malt) {
     const bool is_malt = malt.malt_type == MaltType::grain || malt.malt_type == MaltType::other;
     return is_malt && malt.must_mash != 0;
-}
-
-std::string colour_unit(const Settings& settings) {
-    return settings.color_units == ColorUnits::srm ? "SRM" : "EBC";
 }
 
 std::string potential_head(PotentialDisplay display) {
@@ -75,7 +72,8 @@ EntryLines malt_entry(const MaltRecord& malt, const Settings& settings) {
     entry.blank();
     entry.add(potential_line(malt.potential, settings));
     entry.add("(dry basis fine grind)");
-    entry.add(formatted(colour_unit(settings) + " Color:\t%0.2f", to_shown_colour(malt.colour, settings)));
+    entry.add(formatted(std::string(colour_unit(settings).usual) + " Color:\t%0.2f",
+                        to_shown_colour(malt.colour, settings)));
     if (malt.malt_type == MaltType::grain || malt.malt_type == MaltType::other) add_yields(entry, malt);
     return entry;
 }
@@ -90,16 +88,17 @@ std::vector<std::string> malt_row(const MaltRecord& malt, const Settings& settin
 } // namespace
 
 CataloguePages<MaltRecord> malt_pages(const Settings& settings) {
-    const std::string weight = settings.weight_units == Units::metric ? "Kg" : "Lbs";
-    return {.list_titles = {"Wortlex Malt List - All Malt", "Wortlex Malt List - Grain",
-                            "Wortlex Malt List - Extract", "Wortlex Malt List - Sugar",
-                            "Wortlex Malt List - Other"},
-            .stops = {75, 355, 420, 485, 545},
-            .heads = {"\t\tGravity\t" + colour_unit(settings) + "\tMust\t" + weight + " In",
-                      "Type\tName\t" + potential_head(settings.potential_display) + "\tColor\tMash?\tStock"},
-            .row = [&settings](const MaltRecord& malt) { return malt_row(malt, settings); },
-            .entry_title = "Wortlex Malt Detail",
-            .entry = [&settings](const MaltRecord& malt) { return malt_entry(malt, settings); }};
+    const std::string weight = grain_unit(settings).head;
+    return {
+        .list_titles = {"Wortlex Malt List - All Malt", "Wortlex Malt List - Grain",
+                        "Wortlex Malt List - Extract", "Wortlex Malt List - Sugar",
+                        "Wortlex Malt List - Other"},
+        .stops = {75, 355, 420, 485, 545},
+        .heads = {std::string("\t\tGravity\t") + colour_unit(settings).usual + "\tMust\t" + weight + " In",
+                  "Type\tName\t" + potential_head(settings.potential_display) + "\tColor\tMash?\tStock"},
+        .row = [&settings](const MaltRecord& malt) { return malt_row(malt, settings); },
+        .entry_title = "Wortlex Malt Detail",
+        .entry = [&settings](const MaltRecord& malt) { return malt_entry(malt, settings); }};
 }
 
 } // namespace wortlex

@@ -3,6 +3,7 @@
 #include "databases/catalogues.h"
 #include "databases/store.h"
 #include "measures/potential.h"
+#include "measures/unit_words.h"
 #include "measures/units.h"
 
 namespace wortlex {
@@ -47,19 +48,23 @@ CatalogueColumn<MaltRecord> figure(std::string caption, int width, float MaltRec
                 [field](const MaltRecord& malt) { return malt.*field; })};
 }
 
+std::string malt_stock_head(const Settings& settings) {
+    const auto& weight = grain_unit(settings);
+    return std::string(is_american(settings.weight_units) ? weight.dotted : weight.head) + "\nIn Stock";
+}
+
 std::vector<CatalogueColumn<MaltRecord>> malt_columns(const Settings& settings) {
     using Malt = CatalogueBuilder<MaltRecord>;
-    const std::string colour_unit = settings.color_units == ColorUnits::srm ? "SRM" : "EBC";
+    const std::string colour = colour_unit(settings).usual;
     return {Malt::text("Name", 26, &MaltRecord::name).stretched(),
             Malt::text("Origin", 14, &MaltRecord::origin),
             figure("Potential\n(" + potential_unit(settings) + ")", 14, &MaltRecord::potential,
                    [&settings](const MaltRecord& malt) { return potential_cell(malt, settings); }),
-            figure(colour_unit + "\nColor", 7, &MaltRecord::colour,
+            figure(colour + "\nColor", 7, &MaltRecord::colour,
                    [&settings](const MaltRecord& malt) {
                        return formatted("%5.0f", to_shown_colour(malt.colour, settings));
                    }),
-            Malt::stock(is_american(settings.weight_units) ? "Lbs.\nIn Stock" : "Kg\nIn Stock",
-                        &MaltRecord::stock,
+            Malt::stock(malt_stock_head(settings), &MaltRecord::stock,
                         [&settings](float pounds) { return grain_to_shown(pounds, settings); })};
 }
 
@@ -116,11 +121,10 @@ Catalogue<MaltRecord> malt_catalogue(const Settings& settings, const std::string
                      only_malts(MaltType::extract, "E&xtract", "Extract"),
                      only_malts(MaltType::sugar, "S&ugar", "Sugar"),
                      only_malts(MaltType::other, "O&ther", "Other")};
-    malts.stock = {
-        .amount = &MaltRecord::stock,
-        .to_shown = [&settings](float pounds) { return grain_to_shown(pounds, settings); },
-        .from_shown = [&settings](float shown) { return shown_to_grain(shown, settings); },
-        .unit = [&settings](const MaltRecord&) { return is_american(settings.weight_units) ? "Lbs" : "kg"; }};
+    malts.stock = {.amount = &MaltRecord::stock,
+                   .to_shown = [&settings](float pounds) { return grain_to_shown(pounds, settings); },
+                   .from_shown = [&settings](float shown) { return shown_to_grain(shown, settings); },
+                   .unit = [&settings](const MaltRecord&) { return grain_unit(settings).usual; }};
     malts.new_record = new_malt;
     malts.entry_form = [&settings](Form& form, MaltRecord& malt) { malt_entry_form(form, malt, settings); };
     malts.pages = malt_pages(settings);

@@ -1,5 +1,6 @@
 #include "databases/catalogues.h"
 #include "databases/styles.h"
+#include "measures/unit_words.h"
 #include "measures/units.h"
 
 namespace wortlex {
@@ -25,7 +26,7 @@ void add_range(EntryLines& entry, const std::string& label, float low, float hig
 }
 
 EntryLines style_entry(const StyleRecord& style, const Settings& settings) {
-    const std::string colour_unit = settings.color_units == ColorUnits::srm ? "SRM" : "EBC";
+    const std::string colour = colour_unit(settings).usual;
     EntryLines entry;
     entry.free_text(formatted("Category:\t%d - ", style.number), style.category.view());
     entry.free_text("Name:\t" + letter_of(style) + " - ", style.name.view());
@@ -41,7 +42,7 @@ EntryLines style_entry(const StyleRecord& style, const Settings& settings) {
     add_range(entry, "FG (Balling)", style.min_fg, style.max_fg, "%0.3f");
     add_range(entry, "% Achohol", style.min_alcohol, style.max_alcohol, "%0.2f");
     add_range(entry, "IBUs", style.min_ibu, style.max_ibu, "%0.2f");
-    add_range(entry, "Color (" + colour_unit + ")", to_shown_colour(style.min_colour, settings),
+    add_range(entry, "Color (" + colour + ")", to_shown_colour(style.min_colour, settings),
               to_shown_colour(style.max_colour, settings), "%0.2f");
     return entry;
 }

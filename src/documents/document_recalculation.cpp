@@ -3,6 +3,7 @@
 #include "brewing/hop_bitterness.h"
 #include "brewing/mash_water.h"
 #include "documents/recipe_gravity.h"
+#include "measures/gravity.h"
 
 #include <algorithm>
 
@@ -38,7 +39,7 @@ void recalculate_simple(const OpenDocument& open) {
 } // namespace
 
 float hop_gravity(const BrewDocument& document) {
-    return narrow(document.og_points / 1000.0 + 1);
+    return sg_from_points(document.og_points);
 }
 
 void hops_update(BrewDocument& document, RecipeFigures& figures, const Settings& settings) {

@@ -1,6 +1,8 @@
 #include "forms/numeric_fields.h"
 
 #include "base/number.h"
+#include "measures/degrees.h"
+#include "measures/precision.h"
 #include "measures/rounding.h"
 
 #include <algorithm>
@@ -10,10 +12,6 @@ namespace wortlex {
 namespace {
 
 constexpr int spare_characters = 2;
-
-int extra_decimals(std::uint32_t precision) {
-    return static_cast<int>(std::min(precision, 2U));
-}
 
 std::string pattern_of(int width, int decimals) {
     std::string pattern = "%";
@@ -79,17 +77,17 @@ bool spin(TextField& field, float& value, const SpinRange& range, int length, Sp
 
 std::string old_temperature(TemperatureUnits units, std::int32_t value) {
     if (units == TemperatureUnits::fahrenheit) return formatted("%d", value);
-    return formatted("%d", (value - 32.0) / 1.8 + 0.5);
+    return formatted("%d", celsius(value) + 0.5);
 }
 
 } // namespace
 
 std::string sg_pattern(int width, const Settings& settings) {
-    return pattern_of(width, 3 + extra_decimals(settings.sg_precision));
+    return pattern_of(width, sg_decimals(settings));
 }
 
 std::string plato_pattern(int width, const Settings& settings) {
-    return pattern_of(width, 1 + extra_decimals(settings.plato_precision));
+    return pattern_of(width, plato_decimals(settings));
 }
 
 void show_float(TextField& field, float value, std::string_view pattern) {
@@ -117,11 +115,11 @@ bool typed_signed_float(TextField& field, float& value, const Range& range, int 
 }
 
 bool typed_sg(TextField& field, float& value, const Range& range, int length, const Settings& settings) {
-    return typed_scale(field, value, range, length + extra_decimals(settings.sg_precision), 5);
+    return typed_scale(field, value, range, length + more_decimals(settings.sg_precision), 5);
 }
 
 bool typed_plato(TextField& field, float& value, const Range& range, int length, const Settings& settings) {
-    return typed_scale(field, value, range, length + extra_decimals(settings.plato_precision), 3);
+    return typed_scale(field, value, range, length + more_decimals(settings.plato_precision), 3);
 }
 
 bool typed_int(TextField& field, std::int32_t& value, std::int32_t low, std::int32_t high, int length) {
@@ -156,13 +154,13 @@ bool spin_float(TextField& field, float& value, const SpinRange& range, int leng
 
 bool spin_sg(TextField& field, float& value, const SpinRange& range, int length, Spin direction, int width,
              const Settings& settings) {
-    return spin(field, value, range, length + extra_decimals(settings.sg_precision), direction,
+    return spin(field, value, range, length + more_decimals(settings.sg_precision), direction,
                 [&](float stepped) { show_float(field, stepped, sg_pattern(width, settings)); });
 }
 
 bool spin_plato(TextField& field, float& value, const SpinRange& range, int length, Spin direction, int width,
                 const Settings& settings) {
-    return spin(field, value, range, length + extra_decimals(settings.plato_precision), direction,
+    return spin(field, value, range, length + more_decimals(settings.plato_precision), direction,
                 [&](float stepped) { show_float(field, stepped, plato_pattern(width, settings)); });
 }
 

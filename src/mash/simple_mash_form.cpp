@@ -4,6 +4,7 @@
 #include "brewing/mash_recalculation.h"
 #include "brewing/mash_water.h"
 #include "measures/degrees.h"
+#include "measures/unit_words.h"
 #include "measures/units.h"
 
 #include <algorithm>
@@ -17,35 +18,26 @@ constexpr std::int32_t longest_rest = 300; // minutes
 constexpr float most_water = 10000, most_ratio = 100;
 
 // By volume unit and system mode.
-using UnitWords = std::array<const char*, 4>;
+using VolumeLabels = std::array<const char*, 4>;
 
-const char* in_volume_unit(const UnitWords& words, const Settings& settings) {
-    const bool metric = settings.volume_units == Units::metric;
-    const bool pro = settings.system_mode == SystemMode::pro_brewer;
-    return words.at((metric ? 2U : 0U) + (pro ? 1U : 0U));
+const char* in_volume_unit(const VolumeLabels& labels, const Settings& settings) {
+    return labels.at((is_american(settings.volume_units) ? 0U : 2U) + (is_pro(settings) ? 1U : 0U));
 }
 
 const char* gallons_label(MashSide side, const Settings& settings) {
-    constexpr UnitWords recipe = {"Mash &Gallons", "Mash &Barrels", "Mash &Liters", "Mash &hL"};
-    constexpr UnitWords session = {"Dough In Mash &Gallons", "Dough In Mash &Barrels",
-                                   "Dough In Mash &Liters", "Dough In Mash &Hectoliters"};
+    constexpr VolumeLabels recipe = {"Mash &Gallons", "Mash &Barrels", "Mash &Liters", "Mash &hL"};
+    constexpr VolumeLabels session = {"Dough In Mash &Gallons", "Dough In Mash &Barrels",
+                                      "Dough In Mash &Liters", "Dough In Mash &Hectoliters"};
     return in_volume_unit(side == MashSide::recipe ? recipe : session, settings);
 }
 
 const char* ratio_label(MashSide side, const Settings& settings) {
-    if (settings.volume_units == Units::american) return "QTS &Water/LBS Grain Ratio";
+    if (is_american(settings.volume_units)) return "QTS &Water/LBS Grain Ratio";
     return side == MashSide::recipe ? "Liters &Water/kg Grain Ratio" : "L &Water/kg Grain Ratio";
 }
 
-const char* volume_label(const Settings& settings) {
-    return in_volume_unit(
-        {"Total Mash Volume GAL", "Total Mash Volume BBL", "Total Mash Volume L", "Total Mash Volume hL"},
-        settings);
-}
-
-const char* degrees_word(const Settings& settings) {
-    return settings.temperature_units == TemperatureUnits::fahrenheit ? "Temperature (Degrees Fahrenheit)"
-                                                                      : "Temperature (Degrees Celsius)";
+std::string degrees_word(const Settings& settings) {
+    return std::string("Temperature (Degrees ") + temperature_unit(settings).full + ")";
 }
 
 // A step of the arrows may end beyond the range.
@@ -129,12 +121,13 @@ void water_rows(Rows& rows, SimpleMashWork& work, const Settings& settings, Mash
 void total_rows(Rows& rows, const SimpleMashWork& work, const Settings& settings, MashSide side) {
     rows.shown_number(
             "grain", [&] { return grain_to_shown(work.grain, settings); }, "%6.2f")
-        .label(settings.weight_units == Units::american ? "Grain LBS" : "Grain kg");
+        .label(std::string("Grain ") + grain_unit(settings).capital);
     const auto volume = [&] {
         return to_shown_volume(
             TotalMashVolume(work.grain, work.mash.dough_in_water, settings.grain_water_volume), settings);
     };
-    rows.shown_number("total_volume", volume, "%0.2f").label(volume_label(settings));
+    rows.shown_number("total_volume", volume, "%0.2f")
+        .label(std::string("Total Mash Volume ") + volume_unit(settings).capital);
     if (side == MashSide::recipe) rows.note("volume_note", "(dough-in infusion only)");
 }
 

@@ -54,7 +54,7 @@ TwinDegrees of_celsius(float celsius) {
 }
 
 StrikeCalculator new_strike_calculator(const Settings& settings) {
-    const bool is_brewery = settings.system_mode == SystemMode::pro_brewer;
+    const bool is_brewery = is_pro(settings);
     StrikeCalculator calculator;
     calculator.thermal_mass = settings.tun_thermal_mass;
     calculator.grain = of_pounds(is_brewery ? brewery_amount : 10);

@@ -1,6 +1,7 @@
 #include "mash/strike_calculator_form.h"
 
 #include "base/number.h"
+#include "measures/unit_words.h"
 #include "measures/units.h"
 
 #include <algorithm>
@@ -29,20 +30,21 @@ void as_amount(NumberRow& row) {
 }
 
 void amount_rows(Rows& rows, StrikeCalculator& calculator, const Settings& settings) {
-    const bool by_gallon = settings.system_mode == SystemMode::pro_brewer;
+    const bool by_gallon = is_pro(settings);
     const double unit = by_gallon ? quarts_per_gallon : 1.0;
     using Calculator = StrikeCalculator;
-    as_amount(twin_row(rows, "pounds", "LBS", calculator, &Calculator::grain, &TwinWeight::pounds, of_pounds)
+    as_amount(twin_row(rows, "pounds", words_of(Unit::pounds).capital, calculator, &Calculator::grain,
+                       &TwinWeight::pounds, of_pounds)
                   .label("Total &Grain"));
-    as_amount(twin_row(rows, "kilograms", "kg", calculator, &Calculator::grain, &TwinWeight::kilograms,
-                       of_kilograms));
-    as_amount(twin_row(rows, "quarts", by_gallon ? "Gal" : "Qts", calculator, &Calculator::water,
-                       &TwinVolume::quarts, of_quarts)
+    as_amount(twin_row(rows, "kilograms", words_of(Unit::kilograms).usual, calculator, &Calculator::grain,
+                       &TwinWeight::kilograms, of_kilograms));
+    as_amount(twin_row(rows, "quarts", words_of(by_gallon ? Unit::gallons : Unit::quarts).usual, calculator,
+                       &Calculator::water, &TwinVolume::quarts, of_quarts)
                   .label("Total &Water")
                   .shown_as([unit](float quarts) { return narrow(quarts / unit); },
                             [unit](float shown) { return narrow(shown * unit); }));
-    as_amount(
-        twin_row(rows, "litres", "Liters", calculator, &Calculator::water, &TwinVolume::litres, of_litres));
+    as_amount(twin_row(rows, "litres", words_of(Unit::litres).full, calculator, &Calculator::water,
+                       &TwinVolume::litres, of_litres));
 }
 
 void ratio_row(Rows& rows, const char* key, const char* unit, StrikeCalculator& calculator,
@@ -58,11 +60,13 @@ void ratio_row(Rows& rows, const char* key, const char* unit, StrikeCalculator& 
 void temperature_rows(Rows& rows, const std::string& key, const char* label, StrikeCalculator& calculator,
                       TwinDegrees StrikeCalculator::*pair) {
     const auto fahrenheit = key + "_fahrenheit", celsius = key + "_celsius";
-    twin_row(rows, fahrenheit.c_str(), "F", calculator, pair, &TwinDegrees::fahrenheit, of_fahrenheit)
+    twin_row(rows, fahrenheit.c_str(), words_of(Unit::fahrenheit).usual, calculator, pair,
+             &TwinDegrees::fahrenheit, of_fahrenheit)
         .label(label)
         .range(1.0F, 221.0F)
         .step(1.0F);
-    twin_row(rows, celsius.c_str(), "C", calculator, pair, &TwinDegrees::celsius, of_celsius)
+    twin_row(rows, celsius.c_str(), words_of(Unit::celsius).usual, calculator, pair, &TwinDegrees::celsius,
+             of_celsius)
         .range(0.0F, 105.0F)
         .step(1.0F);
 }
@@ -73,14 +77,14 @@ ShownRow& result(Rows& rows, const char* key, const char* unit, std::function<fl
 
 void result_rows(Rows& rows, const StrikeCalculator& calculator) {
     const auto& strike = calculator.strike;
-    result(rows, "strike_fahrenheit", "F", [&strike] {
+    result(rows, "strike_fahrenheit", words_of(Unit::fahrenheit).usual, [&strike] {
         return strike.fahrenheit;
     }).label("Initial Strike Water Temperature Should Be");
-    result(rows, "strike_celsius", "C", [&strike] { return strike.celsius; });
-    result(rows, "mash_gallons", "Gallons", [&calculator] {
+    result(rows, "strike_celsius", words_of(Unit::celsius).usual, [&strike] { return strike.celsius; });
+    result(rows, "mash_gallons", words_of(Unit::gallons).full, [&calculator] {
         return calculator.mash_gallons;
     }).label("Total Mash Volume");
-    result(rows, "mash_litres", "Liters",
+    result(rows, "mash_litres", words_of(Unit::litres).full,
            [&calculator] { return narrow(calculator.mash_gallons * litres_per_gallon); });
 }
 

@@ -56,7 +56,7 @@ void print_strike(PageContext& page, const StrikeCalculator& calculator, bool by
 } // namespace
 
 PrintRequest strike_calculator_printout(const StrikeCalculator& calculator, const Settings& settings) {
-    const bool by_gallon = settings.system_mode == SystemMode::pro_brewer;
+    const bool by_gallon = is_pro(settings);
     return {std::string(title), settings.printer_scale,
             [calculator, by_gallon](PageContext& page) { print_strike(page, calculator, by_gallon); }};
 }

@@ -1,4 +1,4 @@
-// The whole degrees of a schedule as the fields of its windows show and take them.
+// Degrees, and the whole ones of a schedule as the fields of its windows show and take them.
 #pragma once
 
 #include "settings/codes.h"
@@ -6,6 +6,13 @@
 #include <cstdint>
 
 namespace wortlex {
+
+constexpr double celsius(double fahrenheit) {
+    return (fahrenheit - 32.0) / 1.8;
+}
+constexpr double fahrenheit(double celsius) {
+    return celsius * 1.8 + 32.0;
+}
 
 /// Degrees F as F, or as C rounded to the nearest; what is below freezing shows 0.
 std::int32_t shown_degrees(std::int32_t fahrenheit, TemperatureUnits units);

@@ -49,6 +49,10 @@ float not_negative(double x) {
 
 } // namespace
 
+float sg_from_points(float points) {
+    return narrow(points / 1000.0 + 1);
+}
+
 float sg_to_plato(float sg) {
     const double s = trunc_to_precision(sg, 5);
     const double p = s > 1.08 ? strong_a * s * s * s + strong_b * s * s + strong_c * s + strong_d

@@ -11,6 +11,9 @@ inline constexpr double sucrose_points_default =
     46.21;                                       ///< points of a pound of sucrose in a gallon: 100 % yield
 inline constexpr double sucrose_plato = 11.5536; ///< degrees Plato of the same solution
 
+/// Points above water as SG.
+float sg_from_points(float points);
+
 float sg_to_plato(float sg);
 /// Never below 1.0.
 float plato_to_sg(float plato);

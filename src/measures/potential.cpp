@@ -21,7 +21,7 @@ double points_of(float sg) {
 }
 
 float plato_share(float line_sg, const ExtractTotals& totals) {
-    const float og = narrow(totals.og_points / 1000.0 + 1);
+    const float og = sg_from_points(totals.og_points);
     const double plato = sg_to_plato(trunc_to_precision(og, 5));
     const double extract = extract_per_gallon(og);
     if (extract == 0 || totals.og_points / extract == 0) return trunc_to_precision(sg_to_plato(line_sg), 3);

@@ -1,6 +1,7 @@
 #include "measures/units.h"
 
 #include "base/number.h"
+#include "measures/degrees.h"
 
 #include <algorithm>
 
@@ -9,13 +10,13 @@ namespace {
 
 float ounces_to_shown(float ounces, Units units, SystemMode mode) {
     const bool pro = mode == SystemMode::pro_brewer;
-    if (units == Units::american) return pro ? narrow(ounces / 16.0) : ounces;
+    if (is_american(units)) return pro ? narrow(ounces / 16.0) : ounces;
     return narrow(pro ? ounces * grams_per_ounce / 1000 : ounces * grams_per_ounce);
 }
 
 float shown_to_ounces(float shown, Units units, SystemMode mode) {
     const bool pro = mode == SystemMode::pro_brewer;
-    if (units == Units::american) return pro ? narrow(shown * 16.0) : shown;
+    if (is_american(units)) return pro ? narrow(shown * 16.0) : shown;
     return narrow(pro ? shown / grams_per_ounce * 1000 : shown / grams_per_ounce);
 }
 
@@ -23,13 +24,13 @@ float shown_to_ounces(float shown, Units units, SystemMode mode) {
 
 float to_shown_volume(float gallons, Units units, SystemMode mode) {
     const bool pro = mode == SystemMode::pro_brewer;
-    if (units == Units::american) return pro ? narrow(gallons / gallons_per_barrel) : gallons;
+    if (is_american(units)) return pro ? narrow(gallons / gallons_per_barrel) : gallons;
     return narrow(pro ? gallons * litres_per_gallon / 100 : gallons * litres_per_gallon);
 }
 
 float from_shown_volume(float shown, Units units, SystemMode mode) {
     const bool pro = mode == SystemMode::pro_brewer;
-    if (units == Units::american) return pro ? narrow(shown * gallons_per_barrel) : shown;
+    if (is_american(units)) return pro ? narrow(shown * gallons_per_barrel) : shown;
     return narrow(pro ? shown * 100.0 * gallons_per_litre : shown * gallons_per_litre);
 }
 
@@ -76,33 +77,33 @@ float shown_to_small(float shown, const Settings& settings) {
 }
 
 float grain_to_shown(float pounds, const Settings& settings) {
-    return settings.weight_units == Units::american ? pounds : narrow(pounds * grams_per_pound / 1000);
+    return is_american(settings.weight_units) ? pounds : narrow(pounds * grams_per_pound / 1000);
 }
 
 float shown_to_grain(float shown, const Settings& settings) {
-    return settings.weight_units == Units::american ? shown : narrow(shown * 1000.0 / grams_per_pound);
+    return is_american(settings.weight_units) ? shown : narrow(shown * 1000.0 / grams_per_pound);
 }
 
 float pressure_to_shown(float psi, const Settings& settings) {
-    return settings.pressure_units == Units::american ? psi : narrow(psi * kilopascals_per_psi);
+    return is_american(settings.pressure_units) ? psi : narrow(psi * kilopascals_per_psi);
 }
 
 float shown_to_pressure(float shown, const Settings& settings) {
-    return settings.pressure_units == Units::american ? shown : narrow(shown / kilopascals_per_psi);
+    return is_american(settings.pressure_units) ? shown : narrow(shown / kilopascals_per_psi);
 }
 
 float to_shown_temperature(float fahrenheit, const Settings& settings) {
     if (settings.temperature_units == TemperatureUnits::fahrenheit) return fahrenheit;
-    const double celsius = (fahrenheit - 32.0) / 1.8 + 0.5;
-    return truncate(celsius) < 0 ? 0.0F : narrow(celsius);
+    const double rounded = celsius(fahrenheit) + 0.5;
+    return truncate(rounded) < 0 ? 0.0F : narrow(rounded);
 }
 
 float celsius_from_fahrenheit(float fahrenheit) {
-    return narrow((fahrenheit - 32.0) / 1.8);
+    return narrow(celsius(fahrenheit));
 }
 
-float fahrenheit_from_celsius(float celsius) {
-    return narrow(celsius * 1.8 + 32.0);
+float fahrenheit_from_celsius(float degrees) {
+    return narrow(fahrenheit(degrees));
 }
 
 float to_shown_colour(float srm, const Settings& settings) {

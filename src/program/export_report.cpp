@@ -1,11 +1,12 @@
 #include "program/export_report.h"
 
+#include "base/files.h"
 #include "program/program.h"
 #include "reports/catalogue.h"
 #include "reports/file_names.h"
 #include "reports/print_options.h"
 #include "reports/report_writers.h"
-#include "reports/unit_words.h"
+#include "reports/row_parts.h"
 
 namespace wortlex {
 namespace {
@@ -21,8 +22,7 @@ constexpr FileForm html_files = {"HTML File (*.html)|*.html", "html", FolderKind
 
 // A title may hold what would lead into another folder.
 std::string file_name_of(std::string name, const FileForm& form) {
-    std::replace_if(
-        name.begin(), name.end(), [](char c) { return c == '/' || c == '\\'; }, '_');
+    name = tame_file_name(std::move(name), "/\\");
     return name.empty() ? name : name.append(".").append(form.extension);
 }
 

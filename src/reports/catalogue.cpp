@@ -1,8 +1,8 @@
 #include "reports/catalogue.h"
 
 #include "documents/recipe_gravity.h"
+#include "reports/row_parts.h"
 #include "reports/sections.h"
-#include "reports/unit_words.h"
 
 namespace wortlex {
 namespace {

@@ -1,12 +1,14 @@
+#include "page/text_sink.h"
+#include "records/ingredients/amount_words.h"
+#include "reports/row_parts.h"
 #include "reports/sections.h"
-#include "reports/unit_words.h"
 
 #include <array>
 
 namespace wortlex {
 namespace {
 
-constexpr std::size_t name_width = 30;
+constexpr std::size_t name_width = 30, unit_width = 7;
 
 // The word of a code, and of one that no file should hold a blank of the same width.
 template <class Code, std::size_t N>
@@ -16,8 +18,6 @@ std::string word(Code code, const std::array<std::string_view, N>& words) {
 }
 
 // As wide as each other, so that what follows stands in columns.
-constexpr std::array<std::string_view, 7> amount_units = {"Oz     ", "gm     ", "Lbs    ", "Tsp    ",
-                                                          "Tbsp   ", "Cup(s) ", "Unit(s)"};
 constexpr std::array<std::string_view, 6> types = {" Spice  ", " Fruit  ", " Coffee ",
                                                    " Other  ", " Fining ", " Herb   "};
 constexpr std::array<std::string_view, 2> time_units = {"Days", "Min."};
@@ -25,7 +25,7 @@ constexpr std::array<std::string_view, 3> places = {"(boil)", "(fermenter)", "(m
 
 ReportRow row(const ExtraUse& line) {
     const auto& extra = line.record;
-    return {"%6.2f " + word(extra.amount_unit, amount_units) + "|%s|%s  |%3d " +
+    return {"%6.2f " + padded(words_of(extra.amount_unit).amount, unit_width) + "|%s|%s  |%3d " +
                 word(extra.time_unit, time_units) + word(extra.time_place, places) + " \n",
             {line.amount, {line_text(extra.name), name_width}, word(extra.extra_type, types), extra.time}};
 }

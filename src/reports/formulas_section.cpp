@@ -1,6 +1,6 @@
 #include "brewing/hop_bitterness.h"
+#include "reports/row_parts.h"
 #include "reports/sections.h"
-#include "reports/unit_words.h"
 
 namespace wortlex {
 namespace {

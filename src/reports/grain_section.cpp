@@ -1,6 +1,6 @@
 #include "measures/units.h"
+#include "reports/row_parts.h"
 #include "reports/sections.h"
-#include "reports/unit_words.h"
 
 #include <algorithm>
 #include <array>
@@ -18,10 +18,8 @@ std::string_view potential_scale(PotentialDisplay display) {
 }
 
 std::string_view extract_scale(const Settings& settings) {
-    constexpr std::array<std::string_view, 5> scales = {"SG", "Points", "Pounds", "Plato",
-                                                        "% of Total Extract"};
-    if (settings.extract_display == ExtractDisplay::weight && !is_american(settings.weight_units))
-        return "kg";
+    const std::array<std::string_view, 5> scales = {"SG", "Points", extract_weight_word(settings), "Plato",
+                                                    "% of Total Extract"};
     return scales[std::min(static_cast<std::size_t>(settings.extract_display), scales.size() - 1)];
 }
 
@@ -64,8 +62,8 @@ ReportSection grain_section(const ReportSource& source) {
                     {"Name", 20, 120, 205},
                     {"Origin", 50, 335, 90},
                     {source.view.show_potential ? "Potential" : "Extract", 64, 430, 75, HtmlAlign::right},
-                    {std::string(colour_word(source.open.settings)), 74, 500, 50, HtmlAlign::right}};
-    const auto format = " %4.1f |%8.2f " + std::string(grain_column_word(source.open.settings)) +
+                    {colour_unit(source.open.settings).usual, 74, 500, 50, HtmlAlign::right}};
+    const auto format = " %4.1f |%8.2f " + std::string(grain_unit(source.open.settings).column) +
                         " |%s |%s |" + value_column(source) + "|%4.0f\n";
     for (std::size_t i = 0; i < source.open.document.malts.size(); ++i)
         list.rows.push_back(row(source, i, format));

@@ -1,5 +1,5 @@
+#include "reports/row_parts.h"
 #include "reports/sections.h"
-#include "reports/unit_words.h"
 
 namespace wortlex {
 

@@ -1,6 +1,6 @@
 #include "measures/units.h"
+#include "reports/row_parts.h"
 #include "reports/sections.h"
-#include "reports/unit_words.h"
 
 namespace wortlex {
 namespace {
@@ -9,7 +9,7 @@ constexpr std::size_t hop_name_width = 30;
 constexpr std::size_t form_width = 6;
 
 ReportRow row(const HopUse& line, const ReportSource& source) {
-    const std::string unit(hop_column_word(source.open.settings));
+    const std::string unit(hop_unit(source.open.settings).column);
     const auto format = "%6.2f " + unit + "   |%s    |%s |%6.2f  |%4.1f  |";
     ReportRow row{format + "%s\n",
                   {hop_to_shown(line.amount, source.open.settings),
@@ -42,8 +42,7 @@ ReportSection hop_section(const ReportSource& source) {
                     {"Name", 14, 75, 210},
                     {"Form", 48, 310, 60},
                     {"Alpha", 56, 370, 55, HtmlAlign::right},
-                    {std::string(bitterness_word(source.view.show_ibu, source.open.settings)), 63, 420, 55,
-                     HtmlAlign::right},
+                    {hop_bitterness_head(source.view, source.open.settings), 63, 420, 55, HtmlAlign::right},
                     {"Boil Time", 68, 470, 90}};
     for (const auto& line : source.open.document.hops) list.rows.push_back(row(line, source));
     return section_of("Hops", std::move(list));

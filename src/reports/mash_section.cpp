@@ -3,8 +3,8 @@
 #include "brewing/mash_recalculation.h"
 #include "measures/units.h"
 #include "page/text_sink.h"
+#include "reports/row_parts.h"
 #include "reports/sections.h"
-#include "reports/unit_words.h"
 
 namespace wortlex {
 namespace {
@@ -26,20 +26,19 @@ constexpr std::size_t label_column = 12;
 
 void add_amounts(std::vector<ReportRow>& rows, const ReportSource& source) {
     const auto& settings = source.open.settings;
-    const float grain = source.open.figures.mash_grain,
-                water = source.open.document.simple_mash.dough_in_water;
+    const float water = source.open.document.simple_mash.dough_in_water;
     rows.push_back(
-        {padded_label("Grain " + std::string(grain_word(settings)) + ":", label_column) + "%6.2f\n",
-         {grain_to_shown(grain, settings)}});
+        {padded_label(std::string("Grain ") + grain_unit(settings).usual + ":", label_column) + "%6.2f\n",
+         {figure_value(recipe_figure::mash_grain, source)}});
     for (const auto& [shown, unit] : shown_waters(water, settings))
         rows.push_back({padded_label("Water " + std::string(unit) + ":", label_column) +
                             "%6.2f - Before Additional Infusions\n",
                         {shown}});
     const std::string ratio = is_american(settings.volume_units) ? "Qts Water Per Lbs" : "L Water Per kg";
     rows.push_back({ratio + " Grain: |%2.2f - Before Additional Infusions\n",
-                    {shown_ratio(water, grain, settings.volume_units)}});
+                    {shown_ratio(water, source.open.figures.mash_grain, settings.volume_units)}});
     rows.push_back({"Tun Thermal Mass:  |%8.2f\n", {settings.tun_thermal_mass}});
-    rows.push_back({"Grain Temp:        |%8.0f " + temperature_word(settings) + "\n\n",
+    rows.push_back({"Grain Temp:        |%8.0f " + std::string(temperature_unit(settings).usual) + "\n\n",
                     {shown_degrees(source.open.document.mash.grain_temperature, settings)}});
 }
 
@@ -65,20 +64,20 @@ void add_rests(std::vector<ReportRow>& rows, const SimpleMash& mash, const Setti
 // In gallons and barrels print has always spelt it so.
 ReportRow volume_row(const ReportSource& source) {
     const auto& settings = source.open.settings;
-    const std::string unit(volume_word(settings));
+    const std::string unit(volume_unit(settings).usual);
     const std::string additional = is_american(settings.volume_units) ? "Additioanl" : "Additional";
     return {padded_label("\nTotal Mash Volume " + unit + ":", 24) +
                 "%8.2f  |- After Additional Infusions\n\n",
-            {to_shown_volume(source.open.figures.mash.gallons, settings)},
+            {figure_value(recipe_figure::mash_volume, source)},
             "Total Mash Volume " + unit + ":|%0.2f - After " + additional + " Infusions"};
 }
 
 } // namespace
 
 std::vector<ShownWater> shown_waters(float quarts, const Settings& settings) {
-    std::vector<ShownWater> waters{{quarts_to_shown(quarts, settings), small_volume_word(settings)}};
+    std::vector<ShownWater> waters{{quarts_to_shown(quarts, settings), mash_water_unit(settings).usual}};
     if (is_pro(settings))
-        waters.push_back({to_shown_volume(narrow(quarts / 4.0), settings), volume_word(settings)});
+        waters.push_back({to_shown_volume(narrow(quarts / 4.0), settings), volume_unit(settings).usual});
     return waters;
 }
 

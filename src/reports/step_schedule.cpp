@@ -1,7 +1,7 @@
 #include "measures/units.h"
 #include "page/text_sink.h"
 #include "reports/mash_rows.h"
-#include "reports/unit_words.h"
+#include "reports/row_parts.h"
 
 #include <algorithm>
 
@@ -24,14 +24,15 @@ void add_waters(std::vector<ReportRow>& rows, float quarts, std::string_view not
 ReportLines opening(const ReportSource& source) {
     const auto& settings = source.open.settings;
     const auto& mash = source.open.document.mash;
-    const auto grain_label = "Total Grain " + std::string(grain_word(settings)) + ":";
+    const auto grain_label = std::string("Total Grain ") + grain_unit(settings).usual + ":";
     ReportLines lines{{170, 255}, {{"Mash Name: |%s\n\n", {line_text(mash.mash_name)}}}};
     lines.rows.push_back({padded_label(grain_label, step_label_column) + "%8.2f\n",
-                          {grain_to_shown(source.open.figures.mash_grain, settings)}});
+                          {figure_value(recipe_figure::mash_grain, source)}});
     add_waters(lines.rows, source.open.document.simple_mash.dough_in_water, "Before Additional Infusions",
                settings);
-    lines.rows.push_back({"\nGrain Temp:             |%8.2f " + temperature_word(settings) + "\n",
-                          {shown_degrees(mash.grain_temperature, settings)}});
+    lines.rows.push_back(
+        {"\nGrain Temp:             |%8.2f " + std::string(temperature_unit(settings).usual) + "\n",
+         {shown_degrees(mash.grain_temperature, settings)}});
     lines.rows.push_back(
         {"Tun Thermal Mass:       |%8.2f\n\n\n", {mash.tun_thermal_mass}, "Tun Thermal Mass :|%6.2f"});
     return lines;
@@ -87,21 +88,18 @@ ReportRow step_row(const MashStep& step, const Settings& settings) {
 // In hectolitres print has always left a blank out.
 ReportRow mash_volume_row(const ReportSource& source) {
     const auto& settings = source.open.settings;
-    const auto label = "Total Mash Volume " + std::string(volume_word(settings)) + ":";
-    const bool is_hectolitres = volume_word(settings) == "hL";
+    const auto& volume = volume_unit(settings);
+    const auto label = std::string("Total Mash Volume ") + volume.usual + ":";
+    const bool is_hectolitres = &volume == &words_of(Unit::hectolitres);
     return {padded_label(label, step_label_column) + "%8.2f - After Additional Infusions\n\n\n",
-            {to_shown_volume(source.open.figures.mash.gallons, settings)},
+            {figure_value(recipe_figure::mash_volume, source)},
             label + "|%6.2f|-" + (is_hectolitres ? "" : " ") + "After Additional Infusions"};
 }
 
 void add_notes(std::vector<ReportRow>& rows, const Settings& settings) {
-    const bool is_fahrenheit = settings.temperature_units == TemperatureUnits::fahrenheit;
-    const auto* const amounts =
-        is_american(settings.volume_units) ? (is_pro(settings) ? "Gallons" : "Quarts") : "Liters";
     const auto* const ratios = is_american(settings.volume_units) ? "Quarts/Lbs" : "Liters/Kilograms";
-    rows.push_back(
-        {"All temperature measurements are degrees %s.\n", {is_fahrenheit ? "Fahrenheit" : "Celsius"}});
-    rows.push_back({"All infusion amounts are in %s.\n", {amounts}});
+    rows.push_back({"All temperature measurements are degrees %s.\n", {temperature_unit(settings).full}});
+    rows.push_back({"All infusion amounts are in %s.\n", {mash_water_unit(settings).full}});
     rows.push_back({"All infusion ratios are %s.\n", {ratios}});
     for (const auto* note :
          {"Step Time for Decoction Steps represent how far back in time the Decoction was pulled.\n",

@@ -1,6 +1,6 @@
 #include "measures/units.h"
+#include "reports/row_parts.h"
 #include "reports/sections.h"
-#include "reports/unit_words.h"
 
 namespace wortlex {
 namespace {

@@ -1,6 +1,7 @@
 #include "documents/forms/extra_amount.h"
 
 #include "base/windows1252.h"
+#include "records/ingredients/amount_words.h"
 
 #include <algorithm>
 
@@ -9,16 +10,9 @@ namespace {
 
 // Only weights are told; spoons, cups and pieces go without.
 std::string amount_unit(AmountUnit unit) {
-    switch (unit) {
-    case AmountUnit::ounces:
-        return "Ounces";
-    case AmountUnit::grams:
-        return "Grams";
-    case AmountUnit::pounds:
-        return "Lbs.";
-    default:
-        return "";
-    }
+    if (unit > AmountUnit::pounds) return "";
+    const auto& words = words_of(unit);
+    return unit == AmountUnit::pounds ? words.dotted : words.full;
 }
 
 } // namespace

@@ -22,7 +22,7 @@ float grams(const HopUse& line) {
 }
 
 void amount_rows(Rows& rows, HopUse& line, const Settings& settings) {
-    const bool american = settings.hop_weight_units == Units::american;
+    const bool american = is_american(settings.hop_weight_units);
     const double small_per_ounce = american ? 1 : grams_per_ounce;
     const double large_per_ounce = american ? 1 / ounces_per_pound : grams_per_ounce / 1000;
     amount_row(rows, "amount", line.amount,

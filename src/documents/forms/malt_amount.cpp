@@ -24,7 +24,7 @@ void line_rows(Rows& rows, MaltUse& line, const Settings& settings) {
     rows.shown("name", [&line] { return utf8_from_windows1252(line.record.name.view()); })
         .label("Name:")
         .width(30);
-    const bool american = settings.weight_units == Units::american;
+    const bool american = is_american(settings.weight_units);
     const double small_per_pound = american ? 16.0 : grams_per_pound;
     amount_row(rows, "amount", line.amount,
                {.label = american ? "&Lbs:" : "&kg:",

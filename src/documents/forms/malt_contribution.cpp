@@ -2,6 +2,7 @@
 
 #include "base/windows1252.h"
 #include "measures/potential.h"
+#include "measures/unit_words.h"
 #include "measures/units.h"
 
 namespace wortlex {
@@ -15,7 +16,7 @@ double mcu_of(const MaltUse& malt, const BrewDocument& document) {
     return document.batch_size > 0 ? double{malt.record.colour} * malt.amount / document.batch_size : 0.0;
 }
 
-ShownRow& figure(Rows& rows, const char* key, const char* label, float value) {
+ShownRow& figure(Rows& rows, const char* key, const std::string& label, float value) {
     return rows
         .shown_number(
             key, [value] { return value; }, "%0.2f")
@@ -27,8 +28,7 @@ void line_rows(Rows& rows, const OpenDocument& open, const MaltUse& malt) {
     rows.shown("name", [&malt] { return utf8_from_windows1252(malt.record.name.view()); })
         .label("Name:")
         .width(30);
-    figure(rows, "weight", "Weight:", grain_to_shown(malt.amount, settings))
-        .unit(settings.weight_units == Units::american ? "Lbs" : "kg");
+    figure(rows, "weight", "Weight:", grain_to_shown(malt.amount, settings)).unit(grain_unit(settings).usual);
     figure(rows, "grist", "Percent of Grist:", percent_of(malt.amount, open.figures.total_grain)).unit("%");
 }
 
@@ -50,8 +50,8 @@ void gravity_rows(Rows& rows, const OpenDocument& open, const LineFigures& gives
     const bool has_extract = totals.extract_pounds > 0;
     figure(rows, "extract_share", "% of Total Extract:", has_extract ? as(ExtractDisplay::percent) : 0.0F)
         .unit("%");
-    figure(rows, "extract", settings.weight_units == Units::american ? "Pounds Extract:" : "kg Extract:",
-           as(ExtractDisplay::weight));
+    figure(rows, "extract",
+           std::string(extract_weight_word(settings)) + " Extract:", as(ExtractDisplay::weight));
     figure(rows, "sucrose", "Sucrose Value:", narrow(open.figures.recipe_sucrose))
         .unit(settings.gravity_base == GravityBase::mass ? "(variable value)" : "(fixed value)");
 }

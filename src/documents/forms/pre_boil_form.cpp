@@ -5,6 +5,7 @@
 #include "forms/numeric_fields.h"
 #include "measures/gravity.h"
 #include "measures/rounding.h"
+#include "measures/unit_words.h"
 #include "measures/units.h"
 
 #include <utility>
@@ -14,10 +15,10 @@ namespace {
 
 constexpr std::string_view title = "Wortlex Pre-Boil Calculator";
 
-std::string volume_unit(const Settings& settings) {
-    const bool american = settings.volume_units == Units::american;
-    if (settings.system_mode == SystemMode::pro_brewer) return american ? "bbl" : "hl";
-    return american ? "Gal" : "L";
+// Hectolitres have always been spelt so here.
+std::string kettle_unit(const Settings& settings) {
+    const auto& words = volume_unit(settings);
+    return &words == &words_of(Unit::hectolitres) ? "hl" : words.usual;
 }
 
 float shown_rate(float rate, const Settings& settings) {
@@ -25,7 +26,7 @@ float shown_rate(float rate, const Settings& settings) {
 }
 
 std::string rate_unit(const Settings& settings) {
-    return (settings.evaporation_by_volume != 0 ? volume_unit(settings) : "%") + " Per Hour";
+    return (settings.evaporation_by_volume != 0 ? kettle_unit(settings) : "%") + " Per Hour";
 }
 
 void print_line(PageContext& page, const std::string& line) {
@@ -46,9 +47,9 @@ void boil_rows(Rows& rows, const BrewDocument& document, float rate, const Setti
 
 void print_kettle(PageContext& page, const std::string& label, const PreBoil& kettle,
                   const Settings& settings) {
-    const float sg = narrow(kettle.points / 1000.0 + 1);
+    const float sg = sg_from_points(kettle.points);
     print_line(page, label + formatted(" Wort Size:\t%0.2f\t", to_shown_volume(kettle.volume, settings)) +
-                         volume_unit(settings));
+                         kettle_unit(settings));
     print_line(page, label + " Gravity:\t" +
                          formatted(sg_pattern(0, settings) + "\tSG\t", trunc_to_precision(sg, 5)) +
                          formatted(plato_pattern(0, settings) + "\tPlato", sg_to_plato(sg)));
@@ -72,11 +73,11 @@ void print_pre_boil(PageContext& page, const BrewDocument& document, float rate,
 void kettle_rows(Rows& rows, const std::string& key, const std::string& label, const PreBoil& kettle,
                  const Settings& settings) {
     const float volume = to_shown_volume(kettle.volume, settings);
-    const float sg = narrow(kettle.points / 1000.0 + 1);
+    const float sg = sg_from_points(kettle.points);
     rows.shown_number(
             key + "_volume", [volume] { return volume; }, "%0.2f")
         .label(label + " Wort Size:")
-        .unit(volume_unit(settings));
+        .unit(kettle_unit(settings));
     rows.shown_sg(
             key + "_sg", [sg] { return sg; }, settings)
         .label(label + " Gravity:")

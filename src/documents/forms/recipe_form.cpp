@@ -1,17 +1,27 @@
 #include "documents/forms/recipe_form.h"
 
 #include "base/windows1252.h"
+#include "documents/figure_catalogue.h"
 #include "documents/forms/style_band.h"
 #include "documents/forms/style_rows.h"
 #include "documents/recipe_gravity.h"
-#include "measures/gravity.h"
 #include "measures/units.h"
 
 namespace wortlex {
 namespace {
 
-float sg_of(float points) {
-    return narrow(points / 1000.0 + 1);
+using Get = std::function<float()>;
+
+Get value_of(const Figure& figure, const OpenDocument& open) {
+    return [&figure, &open] { return narrow(figure.value(source_of(open))); };
+}
+
+Get shown_of(const Figure& figure, const OpenDocument& open) {
+    return [&figure, &open] { return narrow(shown_value(figure, source_of(open))); };
+}
+
+std::string pattern_of(const Figure& figure) {
+    return "%0." + std::to_string(figure.decimals) + "f";
 }
 
 // A band beside the limits: where the recipe stands between them.
@@ -36,7 +46,7 @@ void band_rows(Rows& rows, const OpenDocument& open) {
     band(
         rows, "sg_band", "Gravity",
         [&] {
-            return StyleBand{style.min_og, style.max_og, sg_of(document.og_points)};
+            return StyleBand{style.min_og, style.max_og, hop_gravity(document)};
         },
         document);
     band(
@@ -72,8 +82,11 @@ void name_rows(Rows& rows, RecipeEditor& editor) {
         .codes({0, 2, 1});
 }
 
-NumberRow& size_row(Rows& rows, std::string key, Binding<float> gallons, const Settings& settings) {
-    return rows.number(std::move(key), std::move(gallons))
+NumberRow& size_row(Rows& rows, const Figure& size, const RecipeEditor& editor, std::string_view label,
+                    std::function<void(float)> set) {
+    const auto& settings = editor.open.settings;
+    return rows.number(std::string(size.key), {value_of(size, editor.open), std::move(set)})
+        .label([&settings, label] { return size_label(label, settings); })
         .shown_as([&settings](float value) { return to_shown_volume(value, settings); },
                   [&settings](float shown) { return from_shown_volume(shown, settings); })
         .range(1.0F, 100000.0F)
@@ -82,17 +95,14 @@ NumberRow& size_row(Rows& rows, std::string key, Binding<float> gallons, const S
 }
 
 void batch_row(Rows& rows, RecipeEditor& editor) {
-    const auto& settings = editor.open.settings;
-    size_row(rows, "batch_size",
-             {[&editor] { return editor.open.document.batch_size; },
-              [&editor](float gallons) { set_batch_size(editor, gallons); }},
-             settings)
-        .label([&settings] { return size_label("&Batch Size", settings); });
+    size_row(rows, recipe_figure::batch_size, editor, "&Batch Size",
+             [&editor](float gallons) { set_batch_size(editor, gallons); });
 }
 
 void boil_row(Rows& rows, RecipeEditor& editor) {
-    rows.integer("boil_minutes", {[&editor] { return editor.open.document.boil_minutes; },
-                                  [&editor](std::int32_t minutes) { set_boil_minutes(editor, minutes); }})
+    rows.integer(std::string(recipe_figure::boil_minutes.key),
+                 {[&editor] { return editor.open.document.boil_minutes; },
+                  [&editor](std::int32_t minutes) { set_boil_minutes(editor, minutes); }})
         .label("Boil &Time")
         .typed(5, 500)
         .spun(1, 500, 5)
@@ -101,19 +111,17 @@ void boil_row(Rows& rows, RecipeEditor& editor) {
 
 void wort_row(Rows& rows, RecipeEditor& editor) {
     const auto& settings = editor.open.settings;
-    size_row(rows, "wort_size",
-             {[&editor] { return editor.open.document.wort_size; },
-              [&editor](float gallons) { set_wort_size(editor, gallons); }},
-             settings)
-        .label([&settings] { return size_label("&Wort Size", settings); })
-        .enabled([&settings] { return settings.wort_equals_batch == 0; });
+    size_row(rows, recipe_figure::wort_size, editor, "&Wort Size", [&editor](float gallons) {
+        set_wort_size(editor, gallons);
+    }).enabled([&settings] { return settings.wort_equals_batch == 0; });
 }
 
 void efficiency_rows(Rows& rows, RecipeEditor& editor) {
     const auto& document = editor.open.document;
     const auto mashes = [&document] { return !is_extract(document); };
-    rows.number("efficiency", {[&document] { return narrow(document.efficiency * 100.0); },
-                               [&editor](float percent) { set_efficiency(editor, percent); }})
+    const auto& efficiency = recipe_figure::efficiency;
+    rows.number(std::string(efficiency.key), {shown_of(efficiency, editor.open),
+                                              [&editor](float percent) { set_efficiency(editor, percent); }})
         .label("% &Efficiency")
         .range(5.0F, 100.0F)
         .step(1.0F)
@@ -141,26 +149,24 @@ void size_rows(Rows& rows, const RecipeSubject& subject) {
         .label("Lock Ingredients to Batc&h Size");
 }
 
+// A figure to read, in its own decimals.
+ShownRow& figure_row(Rows& rows, std::string key, const Figure& figure, const OpenDocument& open) {
+    return rows.shown_number(std::move(key), shown_of(figure, open), pattern_of(figure));
+}
+
 void figure_rows(Rows& rows, const RecipeSubject& subject) {
-    const auto& document = subject.editor.open.document;
-    const auto& figures = subject.editor.open.figures;
-    const auto& settings = subject.editor.open.settings;
-    rows.shown_sg(
-            "sg", [&] { return sg_of(document.og_points); }, settings)
-        .label("SG");
-    rows.shown_plato(
-            "plato", [&] { return sg_to_plato(sg_of(document.og_points)); }, settings)
-        .label("Plato");
-    rows.shown_number(
-            "total_ibu", [&] { return document.total_ibu; }, "%0.1f")
-        .label("Total IBU's");
-    rows.shown_number(
-            "colour", [&] { return to_shown_colour(figures.colour.srm, settings); }, "%0.1f")
-        .label([&] { return "Est. " + colour_unit(settings); })
-        .unit([&] { return "(" + colour_unit(settings) + ")"; });
+    const auto& open = subject.editor.open;
+    const auto& settings = open.settings;
+    rows.shown_sg("sg", value_of(recipe_figure::sg, open), settings).label("SG");
+    rows.shown_plato("plato", value_of(recipe_figure::plato, open), settings).label("Plato");
+    figure_row(rows, "total_ibu", recipe_figure::total_ibu, open).label("Total IBU's");
+    const auto unit = [&settings] { return std::string(colour_unit(settings).usual); };
+    figure_row(rows, "colour", recipe_figure::colour, open)
+        .label([unit] { return "Est. " + unit(); })
+        .unit([unit] { return "(" + unit() + ")"; });
     rows.swatch("swatch",
-                [&figures, &settings, &colours = subject.colours] {
-                    return swatch_colour(colours, figures.colour.srm, settings);
+                [&open, &colours = subject.colours] {
+                    return swatch_colour(colours, open.figures.colour.srm, open.settings);
                 })
         .label("&CLR")
         .pressed(subject.actions.show_colour);
@@ -183,7 +189,7 @@ void malt_list(Rows& rows, const RecipeSubject& subject) {
               .is_number = true,
               .width = 10},
              {.caption = [&] { return malt_colour_head(settings); }, .is_number = true},
-             {.caption = [&] { return malt_amount_head(settings); }, .is_number = true},
+             {.caption = [&] { return std::string(grain_unit(settings).dotted); }, .is_number = true},
              {.caption = "%", .is_number = true, .width = 6}},
             [&] { return editor.open.document.malts.size(); },
             [&](std::size_t row, std::size_t column) {
@@ -207,10 +213,10 @@ void malt_rows(Rows& rows, const RecipeSubject& subject) {
         .option_enabled([&settings](std::size_t option) {
             return option != 0 || settings.efficiency_mode != EfficiencyMode::method_2;
         });
-    rows.shown_number(
-            "total_grain", [&] { return grain_to_shown(editor.open.figures.total_grain, settings); }, "%0.2f")
-        .label([&] { return grain_unit(settings); });
-    const std::string unit = settings.weight_units == Units::american ? "Lbs" : "kg";
+    figure_row(rows, "total_grain", recipe_figure::total_grain, editor.open).label([&settings] {
+        return grain_unit(settings).capital;
+    });
+    const std::string unit = grain_unit(settings).usual;
     const auto has_line = [&editor] { return selected_malt(editor).has_value(); };
     rows.button("malt_new", "New", subject.actions.new_malt);
     line_button(
@@ -232,7 +238,7 @@ void hop_list(Rows& rows, const RecipeSubject& subject) {
              {.caption = "Form", .width = 8},
              {.caption = "Alpha", .is_number = true},
              {.caption = [&] { return hop_bitterness_head(editor.view, settings); }, .is_number = true},
-             {.caption = [&] { return hop_amount_head(settings); }, .is_number = true},
+             {.caption = [&] { return std::string(hop_list_word(settings)); }, .is_number = true},
              {.caption = "Boil", .is_number = true, .width = 6}},
             [&] { return editor.open.document.hops.size(); },
             [&](std::size_t row, std::size_t column) {
@@ -246,16 +252,17 @@ void hop_list(Rows& rows, const RecipeSubject& subject) {
 
 void hop_buttons(Rows& rows, const RecipeSubject& subject) {
     auto& editor = subject.editor;
-    const auto unit = hop_amount_head(editor.open.settings);
+    const auto& settings = editor.open.settings;
     const auto has_line = [&editor] { return selected_hop(editor).has_value(); };
     rows.button("hop_new", "New", subject.actions.new_hop);
     line_button(
         rows, "hop_del", "Del", [&editor] { delete_hop(editor); }, has_line);
     line_button(rows, "hop_edit", "Edit", subject.actions.edit_hop, has_line);
     line_button(
-        rows, "hop_more", "+" + unit, [&editor] { step_hop(editor, Step::more); }, has_line);
+        rows, "hop_more", std::string("+") + hop_list_word(settings),
+        [&editor] { step_hop(editor, Step::more); }, has_line);
     line_button(
-        rows, "hop_less", "-" + (unit == "Oz." ? std::string("Oz") : unit),
+        rows, "hop_less", std::string("-") + hop_unit(settings).usual,
         [&editor] { step_hop(editor, Step::less); }, has_line);
     line_button(rows, "hop_loss", "Loss", subject.actions.lose_alpha, has_line);
     line_button(
@@ -272,12 +279,11 @@ void hop_rows(Rows& rows, const RecipeSubject& subject) {
     rows.choice("show_ibu",
                 {[&view] { return view.show_ibu ? 0 : 1; },
                  [&view](std::int32_t code) { view.show_ibu = code == 0; }},
-                {"IBU", [&settings] { return bittering_unit(settings); }})
+                {"IBU", [&settings] { return std::string(bittering_unit(settings).usual); }})
         .visible([&settings] { return settings.display_home_bittering != 0; });
-    rows.shown_number(
-            "total_hops", [&] { return hop_to_shown(editor.open.figures.total_hop_ounces, settings); },
-            "%0.3f")
-        .label([&] { return hop_unit(settings); });
+    figure_row(rows, "total_hops", recipe_figure::total_hops, editor.open).label([&settings] {
+        return hop_unit(settings).usual;
+    });
     hop_buttons(rows, subject);
 }
 

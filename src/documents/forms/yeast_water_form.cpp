@@ -59,7 +59,7 @@ void yeast_rows(Rows& rows, const YeastRecord& yeast, std::function<void()> pick
     yeast_figure(temperature, "fahrenheit", yeast,
                  [](const auto& y) { return formatted("%0.1f", y.optimum_temperature); });
     yeast_figure(temperature, "celsius", yeast, [](const auto& y) {
-        return formatted("%0.1f", narrow((double{y.optimum_temperature} - 32) / 1.8));
+        return formatted("%0.1f", celsius_from_fahrenheit(y.optimum_temperature));
     });
     rows.button("pick_yeast", "Pick &Yeast", std::move(pick));
 }

@@ -5,7 +5,9 @@
 #include "brewing/hop_bitterness.h"
 #include "databases/extras.h"
 #include "measures/potential.h"
+#include "measures/precision.h"
 #include "measures/units.h"
+#include "records/ingredients/amount_words.h"
 
 #include <algorithm>
 #include <array>
@@ -22,9 +24,7 @@ std::string cut(std::string_view windows1252, std::size_t width) {
 
 // SG has its own precision; every other scale shares that of Plato.
 std::string value_pattern(bool is_sg, const Settings& settings) {
-    const auto decimals =
-        is_sg ? 3 + std::min(settings.sg_precision, 2U) : 1 + std::min(settings.plato_precision, 2U);
-    return "%7." + std::to_string(decimals) + "f";
+    return "%7." + std::to_string(is_sg ? sg_decimals(settings) : plato_decimals(settings)) + "f";
 }
 
 float potential_value(const MaltRecord& malt, const Settings& settings) {
@@ -65,9 +65,8 @@ std::string boil_cell(const HopUse& hop, const BrewDocument& document) {
 }
 
 std::string amount_cell(const ExtraUse& extra) {
-    constexpr std::array units = {" Oz", " gm", " Lbs", " Tsp", " Tbsp", " Cup(s)", " Unit(s)"};
-    const auto unit = static_cast<std::size_t>(extra.record.amount_unit);
-    return formatted("%4.2f", extra.amount) + (unit < units.size() ? units[unit] : "");
+    const std::string unit = words_of(extra.record.amount_unit).amount;
+    return formatted("%4.2f", extra.amount) + (unit.empty() ? unit : " " + unit);
 }
 
 } // namespace
@@ -136,12 +135,10 @@ std::string hop_cell(const OpenDocument& open, const RecipeView& view, std::size
 
 std::string malt_value_head(const RecipeView& view, const Settings& settings) {
     if (!view.show_potential) {
-        constexpr std::array<std::string_view, 5> scales = {" SG", " Points", " Pounds", " Plato",
-                                                            " % Extract"};
+        const std::array<std::string_view, 5> scales = {"SG", "Points", extract_weight_word(settings),
+                                                        "Plato", "% Extract"};
         const auto scale = std::min(static_cast<std::size_t>(settings.extract_display), scales.size() - 1);
-        const bool is_metric_weight =
-            settings.extract_display == ExtractDisplay::weight && !is_american(settings.weight_units);
-        return std::string(" Extract ").append(is_metric_weight ? " kg" : scales[scale]);
+        return std::string(" Extract  ").append(scales.at(scale));
     }
     constexpr std::array<std::string_view, 4> scales = {" SG pppg", " Pts pppg", " IOB-HWE", " Plato pppg"};
     constexpr std::array<std::string_view, 4> yields = {" % Yield - FDB", " % Yield - FAI", " % Yield - CDB",
@@ -155,40 +152,14 @@ std::string malt_colour_head(const Settings& settings) {
     return settings.color_units == ColorUnits::srm ? "Color L~" : "Color EBC";
 }
 
-std::string malt_amount_head(const Settings& settings) {
-    return is_american(settings.weight_units) ? "Lbs." : "kg";
-}
-
 std::string hop_bitterness_head(const RecipeView& view, const Settings& settings) {
-    return view.show_ibu ? "IBU" : bittering_unit(settings);
-}
-
-std::string hop_amount_head(const Settings& settings) {
-    return is_american(settings.hop_weight_units) && !is_pro(settings) ? "Oz." : hop_unit(settings);
+    return view.show_ibu ? "IBU" : bittering_unit(settings).usual;
 }
 
 std::string size_label(std::string_view of, const Settings& settings) {
-    const bool american = is_american(settings.volume_units);
-    const std::string_view unit =
-        is_pro(settings) ? (american ? "(bbl)" : "(hL)") : (american ? "(GAL)" : "(L)");
-    return std::string(of).append(" ").append(unit);
-}
-
-std::string grain_unit(const Settings& settings) {
-    return is_american(settings.weight_units) ? "LBS" : "kg";
-}
-
-std::string hop_unit(const Settings& settings) {
-    if (is_american(settings.hop_weight_units)) return is_pro(settings) ? "Lbs" : "Oz";
-    return is_pro(settings) ? "kg" : "g";
-}
-
-std::string bittering_unit(const Settings& settings) {
-    return settings.bittering_unit == BitteringUnit::hbu ? "HBU" : "MBU";
-}
-
-std::string colour_unit(const Settings& settings) {
-    return settings.color_units == ColorUnits::srm ? "SRM" : "EBC";
+    const auto& volume = volume_unit(settings);
+    const std::string_view unit = is_pro(settings) ? volume.usual : volume.capital;
+    return std::string(of).append(" (").append(unit).append(")");
 }
 
 std::string_view beer_type_word(BeerType type) {

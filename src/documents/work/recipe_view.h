@@ -43,16 +43,10 @@ std::string extra_cell(const ExtraUse& extra, std::size_t column);
 /// The heads of the columns that follow the settings.
 std::string malt_value_head(const RecipeView& view, const Settings& settings);
 std::string malt_colour_head(const Settings& settings);
-std::string malt_amount_head(const Settings& settings);
 std::string hop_bitterness_head(const RecipeView& view, const Settings& settings);
-std::string hop_amount_head(const Settings& settings);
 
-/// Labels that name the unit they show.
+/// "Batch Size (GAL)".
 std::string size_label(std::string_view of, const Settings& settings);
-std::string grain_unit(const Settings& settings);
-std::string hop_unit(const Settings& settings);
-std::string bittering_unit(const Settings& settings);
-std::string colour_unit(const Settings& settings);
 
 /// "All Grain" and its like; the type of a style; the book it is from.
 std::string_view beer_type_word(BeerType type);

@@ -1,5 +1,6 @@
 #include "program/settings_forms/efficiency_settings.h"
 
+#include "measures/unit_words.h"
 #include "program/settings_forms/settings_rows.h"
 
 #include <algorithm>
@@ -43,9 +44,7 @@ void potential_row(Rows& rows, SystemSettings& image) {
 }
 
 void contribution_row(Rows& rows, SystemSettings& image) {
-    const auto weight = [&image] {
-        return image.weight_units == Units::american ? "&Extract Pounds" : "&Extract kg";
-    };
+    const auto weight = [&image] { return std::string("&Extract ") + extract_weight_word(image); };
     rows.choice("extract_display", image.extract_display,
                 {"S&G", "Po&ints", weight, "Pla&to", "% &of Total Extract"})
         .look(ChoiceRow::Look::down);

@@ -1,6 +1,7 @@
 #include "program/settings_forms/mash_settings.h"
 
 #include "base/number.h"
+#include "measures/unit_words.h"
 #include "program/settings_forms/settings_rows.h"
 
 #include <memory>
@@ -103,8 +104,8 @@ void decoction_rows(Rows& rows, const SystemSettings& image, Ratios& ratios) {
 }
 
 std::string volume_per_hour(const SystemSettings& image) {
-    if (has_metric_volumes(image)) return is_pro(image) ? "Hectoliters Per Hour" : "Liters Per Hour";
-    return is_pro(image) ? "bbl's Per Hour" : "Gallons Per Hour";
+    const bool by_barrel = is_american(image.volume_units) && is_pro(image);
+    return std::string(by_barrel ? "bbl's" : volume_unit(image).full) + " Per Hour";
 }
 
 } // namespace

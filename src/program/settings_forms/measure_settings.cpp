@@ -1,6 +1,7 @@
 #include "program/settings_forms/measure_settings.h"
 
 #include "base/number.h"
+#include "measures/unit_words.h"
 #include "measures/units.h"
 #include "program/settings_forms/settings_rows.h"
 
@@ -22,23 +23,12 @@ Settings hop_units_of(const SystemSettings& image) {
 }
 
 float shown_grain(float pounds, const SystemSettings& image) {
-    return image.weight_units == Units::american ? pounds : narrow(pounds * grams_per_pound / 1000);
+    return is_american(image.weight_units) ? pounds : narrow(pounds * grams_per_pound / 1000);
 }
 
 // Entered kilograms go by the exact ounce, shown ones by the rounded pound.
 float stored_grain(float shown, const SystemSettings& image) {
-    return image.weight_units == Units::american ? shown
-                                                 : narrow(shown * 1000.0 / grams_per_entered_ounce / 16);
-}
-
-std::string volume_unit(const SystemSettings& image) {
-    if (has_metric_volumes(image)) return is_pro(image) ? "Hectoliters" : "Liters";
-    return is_pro(image) ? "Barrels" : "Gallons";
-}
-
-std::string hop_unit(const SystemSettings& image) {
-    if (image.hop_weight_units == Units::metric) return is_pro(image) ? "Kilograms" : "Grams";
-    return is_pro(image) ? "Pounds" : "Ounces";
+    return is_american(image.weight_units) ? shown : narrow(shown * 1000.0 / grams_per_entered_ounce / 16);
 }
 
 void units_row(Rows& rows, const char* key, const char* label, Units& units) {
@@ -69,7 +59,7 @@ NumberRow& size_row(Rows& rows, const char* key, float& gallons, float& twin, co
         .range(0.0F, most)
         .step(1.0F)
         .outside(Outside::hold)
-        .unit([&image] { return volume_unit(image); });
+        .unit([&image] { return volume_unit(image).full; });
 }
 
 void equalise_sizes(SystemSettings& image) {
@@ -94,14 +84,14 @@ void size_rows(Rows& rows, SystemSettings& image) {
         .label("Default Grain &Increment:")
         .shown_as([&image](float stored) { return shown_grain(stored, image); },
                   [&image](float shown) { return stored_grain(shown, image); })
-        .unit([&image] { return image.weight_units == Units::american ? "Lbs" : "kg"; });
+        .unit([&image] { return grain_unit(image).usual; });
     increment_row(rows, "hop_increment", image.hop_increment)
         .label("Default H&op Increment:")
         .shown_as([&image](float stored) { return hop_to_shown(stored, hop_units_of(image)); },
                   [&image](float shown) { return shown_to_hop(shown, hop_units_of(image)); })
         // A home brewer's increment is a small part of a pound.
         .format([&image] { return is_pro(image) ? "%0.4f" : "%0.2f"; })
-        .unit([&image] { return hop_unit(image); });
+        .unit([&image] { return hop_unit(image).full; });
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 #include "program/settings_forms/settings_rows.h"
 
 #include "base/number.h"
+#include "measures/unit_words.h"
 #include "measures/units.h"
 
 namespace wortlex {
@@ -34,7 +35,7 @@ NumberRow& degrees_row(Rows& rows, std::string key, float& fahrenheit, const Sys
         .step(1.0F)
         .format("%6.2f")
         .outside(Outside::hold)
-        .unit([celsius] { return celsius() ? "C" : "F"; });
+        .unit([celsius] { return words_of(celsius() ? Unit::celsius : Unit::fahrenheit).usual; });
 }
 
 bool has_metric_volumes(const SystemSettings& image) {

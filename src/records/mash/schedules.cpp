@@ -29,7 +29,7 @@ ComplexMash ResetComplexMash(const Settings& settings) {
 }
 
 MashDesign new_mash_design(const Settings& settings) {
-    const float size = settings.system_mode == SystemMode::pro_brewer ? 1200.0F : 10.0F;
+    const float size = is_pro(settings) ? 1200.0F : 10.0F;
     MashDesign design{ResetComplexMash(settings), size, size};
     design.mash.tun_thermal_mass = settings.tun_thermal_mass;
     return design;

@@ -17,7 +17,7 @@ Places places(const WindowPorts& ports) {
 
 // A brewery weighs its hops by the pound.
 std::string_view first_hop_field(const Settings& settings) {
-    return settings.system_mode == SystemMode::pro_brewer ? "large_amount" : "amount";
+    return is_pro(settings) ? "large_amount" : "amount";
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "documents/brewing.h"
 #include "documents/forms/recipe_form.h"
+#include "measures/unit_words.h"
 #include "documents/recipe_gravity.h"
 #include "support/field.h"
 
@@ -80,8 +81,8 @@ TEST(RecipeLists, NameTheirColumns) {
     const auto& settings = shown.settings;
     const auto heads = [&] {
         return malt_value_head(shown.view, settings) + "|" + malt_colour_head(settings) + "|" +
-               malt_amount_head(settings) + "|" + hop_bitterness_head(shown.view, settings) + "|" +
-               hop_amount_head(settings) + "|" + size_label("Batch Size", settings);
+               grain_unit(settings).dotted + "|" + hop_bitterness_head(shown.view, settings) + "|" +
+               hop_list_word(settings) + "|" + size_label("Batch Size", settings);
     };
     EXPECT_EQ(heads(), "Potential SG pppg|Color L~|Lbs.|IBU|Oz.|Batch Size (GAL)");
     shown.settings.potential_display = PotentialDisplay::percent_yield;
