@@ -1,7 +1,8 @@
 // The Color Spectrum Utility: the colour table row by row, its previews and its files.
 #pragma once
 
-#include "base/ports/desk.h"
+#include "base/ports/clock.h"
+#include "base/ports/file_dialogs.h"
 #include "base/ports/prompts.h"
 #include "base/ports/surface.h"
 #include "brewing/beer_colour.h"

@@ -1,7 +1,7 @@
 // A database list as its window sees it, whichever the database.
 #pragma once
 
-#include "base/ports/desk.h"
+#include "base/ports/file_dialogs.h"
 #include "base/ports/prompts.h"
 #include "forms/form.h"
 #include "page/page.h"

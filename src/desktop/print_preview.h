@@ -1,7 +1,7 @@
 // Reports are shown in a preview; from there they go to paper or into a PDF file.
 #pragma once
 
-#include "base/ports/desk.h"
+#include "base/ports/file_dialogs.h"
 #include "desktop/form_widgets.h"
 #include "desktop/placement.h"
 #include "desktop/print_preview_form.h"

@@ -1,7 +1,9 @@
 // File dialogs, clock and clipboard of the toolkit.
 #pragma once
 
-#include "base/ports/desk.h"
+#include "base/ports/clipboard.h"
+#include "base/ports/clock.h"
+#include "base/ports/file_dialogs.h"
 
 namespace wortlex {
 

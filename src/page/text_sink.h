@@ -1,7 +1,7 @@
 // Reports as plain text, for a file or the clipboard: the bytes are the same.
 #pragma once
 
-#include "base/ports/desk.h"
+#include "base/ports/clipboard.h"
 #include "base/ports/prompts.h"
 
 #include <string>

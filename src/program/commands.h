@@ -1,9 +1,9 @@
 // What can be asked for in menus and on the main screen, by number.
 #pragma once
 
-#include "base/ports/desk.h"
-
+#include <functional>
 #include <map>
+#include <string_view>
 #include <vector>
 
 namespace wortlex {
@@ -69,12 +69,12 @@ struct MenuEntry {
 std::vector<MenuEntry> document_menu();
 
 /// Who carries out which command. A command that nobody carries out does nothing; menus show it disabled.
-class CommandTable : public Commands {
+class CommandTable {
 public:
     /// A later action takes the place of an earlier one.
     void carry_out(int command, std::function<void()> action);
     bool is_built(int command) const;
-    void start(int command) override;
+    void start(int command);
 
 private:
     std::map<int, std::function<void()>> actions_;

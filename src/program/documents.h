@@ -1,7 +1,7 @@
 // New documents and files that become the live one.
 #pragma once
 
-#include "base/ports/desk.h"
+#include "base/ports/file_dialogs.h"
 #include "documents/live_document.h"
 #include "program/open_tools.h"
 

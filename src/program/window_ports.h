@@ -1,7 +1,8 @@
 // What every window is handed: the program's state, and whom it asks, shows and tells.
 #pragma once
 
-#include "base/ports/desk.h"
+#include "base/ports/clipboard.h"
+#include "base/ports/file_dialogs.h"
 #include "base/ports/prompts.h"
 #include "page/page.h"
 

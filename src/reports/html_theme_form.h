@@ -1,7 +1,7 @@
 // The editor of the theme of HTML pages.
 #pragma once
 
-#include "base/ports/desk.h"
+#include "base/ports/file_dialogs.h"
 #include "base/ports/prompts.h"
 #include "forms/form.h"
 #include "page/html_theme.h"

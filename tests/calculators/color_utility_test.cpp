@@ -4,9 +4,11 @@
 #include "calculators/color_swatch.h"
 #include "calculators/color_utility.h"
 #include "support/byte_probe.h"
-#include "support/desk.h"
 #include "support/field.h"
+#include "support/fixed_clock.h"
 #include "support/recording_surface.h"
+#include "support/scripted_files.h"
+#include "support/scripted_prompts.h"
 #include "support/temporary_folder.h"
 
 namespace wortlex {

@@ -1,6 +1,6 @@
 #include "databases/styles.h"
-#include "support/desk.h"
 #include "support/field.h"
+#include "support/scripted_prompts.h"
 #include "support/temporary_folder.h"
 
 #include <gtest/gtest.h>

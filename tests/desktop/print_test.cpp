@@ -1,5 +1,6 @@
 #include "desktop/print_preview.h"
-#include "support/desk.h"
+#include "support/scripted_files.h"
+#include "support/scripted_prompts.h"
 #include "support/temporary_folder.h"
 
 #include "base/files.h"

@@ -1,7 +1,8 @@
 #include "page/page.h"
 #include "page/text_sink.h"
-#include "support/desk.h"
+#include "support/recording_clipboard.h"
 #include "support/recording_desk.h"
+#include "support/scripted_prompts.h"
 #include "support/temporary_folder.h"
 
 #include "base/files.h"

@@ -5,7 +5,8 @@
 #include "program/main_screen.h"
 #include "program/start.h"
 #include "support/byte_probe.h"
-#include "support/desk.h"
+#include "support/scripted_files.h"
+#include "support/scripted_prompts.h"
 #include "support/temporary_folder.h"
 
 #include <gmock/gmock.h>
@@ -18,16 +19,16 @@ using testing::ElementsAre;
 TEST(NoticeBoard, KeepsToItsListenersWhileTheyComeAndGo) {
     NoticeBoard board;
     std::string heard;
-    int second = 0;
-    board.listen([&](Change) {
+    Listening first, second, late;
+    first = board.listen([&](Change) {
         heard += "first ";
-        for (const int listener : {1, second}) board.stop(listener);
-        board.listen([&](Change) { heard += "late "; });
-        board.tell(Change::colour);
+        first = second = nullptr;
+        late = board.listen([&](Change) { heard += "late "; });
+        board.tell(Change::document);
     });
     second = board.listen([&](Change) { heard += "second "; });
-    board.listen([&](Change) { heard += "third "; });
-    board.tell(Change::grain);
+    const auto third = board.listen([&](Change) { heard += "third "; });
+    board.tell(Change::settings);
     EXPECT_EQ(heard, "first third late third ");
 }
 

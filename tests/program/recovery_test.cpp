@@ -4,8 +4,10 @@
 #include "program/recovery.h"
 #include "program/start.h"
 #include "reports/print_options.h"
-#include "support/desk.h"
+#include "support/recording_clipboard.h"
 #include "support/recording_desk.h"
+#include "support/scripted_files.h"
+#include "support/scripted_prompts.h"
 #include "support/temporary_folder.h"
 
 #include <gmock/gmock.h>

@@ -1,8 +1,9 @@
 #include "page/html_writer.h"
 #include "reports/html_theme_form.h"
 #include "support/byte_probe.h"
-#include "support/desk.h"
 #include "support/field.h"
+#include "support/scripted_files.h"
+#include "support/scripted_prompts.h"
 #include "support/temporary_folder.h"
 
 #include "base/files.h"

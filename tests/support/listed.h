@@ -2,7 +2,7 @@
 #pragma once
 
 #include "databases/ingredient_list.h"
-#include "support/desk.h"
+#include "support/scripted_prompts.h"
 #include "support/temporary_folder.h"
 
 namespace wortlex {

@@ -3,8 +3,10 @@
 
 #include "base/ports/quiet_prompts.h"
 #include "program/start.h"
-#include "support/desk.h"
+#include "support/recording_clipboard.h"
 #include "support/recording_desk.h"
+#include "support/scripted_files.h"
+#include "support/scripted_prompts.h"
 #include "support/temporary_folder.h"
 #include "windows/documents/recipe_window.h"
 #include "windows/main/main_window.h"

@@ -1,36 +1,40 @@
-// The board on which changes are told.
+// The board on which changes are told, once, by whoever makes them.
 #pragma once
 
-#include "base/ports/desk.h"
-
-#include <map>
-#include <utility>
+#include <functional>
+#include <memory>
+#include <vector>
 
 namespace wortlex {
 
+/// What a change was about.
+enum class Change {
+    document, ///< the live one: what it holds, or where it comes from
+    settings  ///< the working values
+};
+
+/// Kept by who listens; with its end he hears nothing more, and it may end after the board.
+using Listening = std::shared_ptr<const std::function<void(Change)>>;
+
 /// While it is told of a change, a listener may stop itself or others, start new ones and tell again. Who has
 /// been stopped hears nothing more; who joins hears of the next change.
-class NoticeBoard : public Notices {
+class NoticeBoard {
 public:
-    void tell(Change change) override {
-        const int newest = last_;
-        int number = 0;
-        for (auto next = listeners_.begin(); next != listeners_.end() && next->first <= newest;
-             next = listeners_.upper_bound(number)) {
-            number = next->first;
-            const auto heard = next->second; // a copy: it lives on when the listener stops itself
-            heard(change);
-        }
+    void tell(Change change) {
+        std::erase_if(listeners_, [](const auto& listener) { return listener.expired(); });
+        const auto present = listeners_; // a copy: listeners come and go
+        for (const auto& listener : present)
+            if (const auto heard = listener.lock()) (*heard)(change);
     }
-    int listen(std::function<void(Change)> heard) override {
-        listeners_.emplace(++last_, std::move(heard));
-        return last_;
+
+    [[nodiscard]] Listening listen(std::function<void(Change)> heard) {
+        auto listening = std::make_shared<const std::function<void(Change)>>(std::move(heard));
+        listeners_.push_back(listening);
+        return listening;
     }
-    void stop(int listener) override { listeners_.erase(listener); }
 
 private:
-    std::map<int, std::function<void(Change)>> listeners_;
-    int last_ = 0;
+    std::vector<std::weak_ptr<const std::function<void(Change)>>> listeners_;
 };
 
 } // namespace wortlex

@@ -1,7 +1,7 @@
 // The rules and questions of a save, for documents of either kind.
 #pragma once
 
-#include "base/ports/desk.h"
+#include "base/ports/file_dialogs.h"
 #include "base/ports/prompts.h"
 #include "documents/live_document.h"
 #include "documents/snapshot.h"

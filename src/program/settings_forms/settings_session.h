@@ -1,7 +1,7 @@
 // The system settings while their dialog is open: what OK, Cancel and the disk buttons do.
 #pragma once
 
-#include "base/ports/desk.h"
+#include "base/ports/file_dialogs.h"
 #include "base/ports/prompts.h"
 #include "forms/form.h"
 #include "settings/settings.h"

@@ -1,7 +1,7 @@
 // The mash schedule file, extension "msh": a complex schedule by itself.
 #pragma once
 
-#include "base/ports/desk.h"
+#include "base/ports/file_dialogs.h"
 #include "records/mash/schedules.h"
 #include "settings/system_files.h"
 

@@ -5,8 +5,8 @@
 #include "documents/forms/malt_contribution.h"
 #include "documents/forms/pre_boil_form.h"
 #include "mash/simple_mash_form.h"
-#include "support/desk.h"
 #include "support/form_user.h"
+#include "support/scripted_prompts.h"
 
 namespace wortlex {
 namespace {

@@ -1,7 +1,8 @@
 #include "documents/brewing.h"
 #include "documents/work/document_saving.h"
 #include "records/documents/document_files.h"
-#include "support/desk.h"
+#include "support/scripted_files.h"
+#include "support/scripted_prompts.h"
 #include "support/temporary_folder.h"
 
 #include <gmock/gmock.h>

@@ -1,6 +1,7 @@
 #include "base/number.h"
 #include "program/settings_forms/settings_session.h"
-#include "support/desk.h"
+#include "support/scripted_files.h"
+#include "support/scripted_prompts.h"
 #include "support/field.h"
 #include "support/temporary_folder.h"
 

@@ -4,8 +4,8 @@
 #include "program/settings_forms/printer_settings.h"
 #include "program/settings_forms/reminders.h"
 #include "program/settings_forms/screen_settings.h"
-#include "support/desk.h"
 #include "support/field.h"
+#include "support/scripted_prompts.h"
 #include "support/temporary_folder.h"
 
 #include "base/number.h"

@@ -1,6 +1,6 @@
 #include "base/files.h"
-#include "support/desk.h"
 #include "support/sample_documents.h"
+#include "support/scripted_prompts.h"
 #include "support/temporary_folder.h"
 
 #include <unistd.h>

@@ -1,7 +1,7 @@
 #include "base/files.h"
 #include "records/ingredients/database_file.h"
 #include "support/byte_probe.h"
-#include "support/desk.h"
+#include "support/scripted_prompts.h"
 #include "support/temporary_folder.h"
 
 namespace wortlex {

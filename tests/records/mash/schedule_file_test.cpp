@@ -1,6 +1,6 @@
 #include "records/mash/schedule_file.h"
 #include "records/water/water_needs.h"
-#include "support/desk.h"
+#include "support/scripted_files.h"
 #include "support/temporary_folder.h"
 
 namespace wortlex {

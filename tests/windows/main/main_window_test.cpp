@@ -1,7 +1,6 @@
 #include "base/files.h"
 #include "base/ports/quiet_prompts.h"
 #include "program/start.h"
-#include "support/desk.h"
 #include "support/drop.h"
 #include "support/qt_keys.h"
 #include "support/sample_documents.h"
@@ -27,7 +26,8 @@ TEST(MainWindow, DisablesWhatIsNotBuilt) {
     window.show();
     int enabled = 0;
     for (const auto& button : main_screen_buttons()) {
-        auto* const picture = window.findChild<QAbstractButton*>(QString::fromUtf8(button.picture.bitmap.data(), 4));
+        auto* const picture =
+            window.findChild<QAbstractButton*>(QString::fromUtf8(button.picture.bitmap.data(), 4));
         const bool is_built = window.commands().is_built(button.command);
         EXPECT_EQ(picture->isEnabled(), is_built) << button.picture.name;
         for (const auto* const action :

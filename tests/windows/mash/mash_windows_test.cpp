@@ -1,6 +1,7 @@
 #include "base/number.h"
 #include "base/ports/quiet_prompts.h"
-#include "support/desk.h"
+#include "support/recording_clipboard.h"
+#include "support/scripted_files.h"
 #include "support/qt_keys.h"
 #include "support/recording_desk.h"
 #include "windows/documents/simple_mash_window.h"

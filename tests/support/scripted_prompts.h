@@ -1,14 +1,12 @@
-// Stand-ins for the user and for what is on the desk.
+// A user who answers as he was told.
 #pragma once
 
-#include "base/ports/desk.h"
 #include "base/ports/prompts.h"
 
 #include <gtest/gtest.h>
 
 #include <deque>
 #include <variant>
-#include <vector>
 
 namespace wortlex {
 
@@ -61,50 +59,6 @@ private:
     }
 
     std::deque<Step> script_;
-};
-
-/// Hands out paths in order (nothing: the user leaves the dialog) and keeps what was offered.
-class ScriptedFiles : public Files {
-public:
-    explicit ScriptedFiles(std::deque<std::optional<std::string>> paths = {}) : paths_(std::move(paths)) {}
-    ~ScriptedFiles() override { EXPECT_TRUE(paths_.empty()) << "a file dialog never came"; }
-
-    using Path = std::optional<std::string>;
-    Path choose_to_open(const FileChoice& choice) override { return next("open ", choice); }
-    Path choose_to_save(const FileChoice& choice) override { return next("save ", choice); }
-
-    void add(std::optional<std::string> path) { paths_.push_back(std::move(path)); }
-
-    std::vector<std::string> offers; ///< "open" or "save", filter, folder, name, extension
-
-private:
-    std::optional<std::string> next(std::string what, const FileChoice& c) {
-        what.append(c.filter) += ' ' + c.folder + ' ' + c.suggested_name + ' ';
-        offers.push_back(what.append(c.extension));
-        EXPECT_FALSE(paths_.empty()) << "a file dialog was not expected: " << what;
-        const auto path = paths_.empty() ? std::nullopt : paths_.front();
-        if (!paths_.empty()) paths_.pop_front();
-        return path;
-    }
-
-    std::deque<std::optional<std::string>> paths_;
-};
-
-struct FixedClock : Clock {
-    std::int64_t seconds = 0;
-    CalendarDate date;
-    std::int64_t now() const override { return seconds; }
-    CalendarDate today() const override { return date; }
-};
-
-struct RecordingClipboard : Clipboard {
-    std::vector<std::string> texts;
-    void put_text(std::string_view utf8) override { texts.emplace_back(utf8); }
-};
-
-struct RecordingCommands : Commands {
-    std::vector<int> started;
-    void start(int command) override { started.push_back(command); }
 };
 
 } // namespace wortlex
