@@ -11,7 +11,7 @@ constexpr int title_buttons = 80; // pixels that a title bar keeps for itself, r
 } // namespace
 
 FormDialog::FormDialog(Form& form, const DialogUse& use, const Places& places, QWidget* owner)
-    : QDialog(owner), form_(form), widgets_(form, places.settings, *this),
+    : QDialog(owner), form_(form), widgets_(form, places, *this),
       place_(dress_window(*this, window_info(use.template_name), use.caption, use.opener, owner, places)) {
     setWindowModality(Qt::WindowModal);
     auto* const layout = new QVBoxLayout(this);

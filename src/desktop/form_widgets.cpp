@@ -15,6 +15,8 @@
 #include <QStyle>
 #include <QVBoxLayout>
 
+#include <utility>
+
 namespace wortlex {
 namespace {
 
@@ -49,11 +51,31 @@ void aim_at_width(QLineEdit& line, const EntryRow& row, int beside) {
 
 } // namespace
 
-FormWidgets::FormWidgets(Form& form, const SystemSettings& colours, QWidget& parent)
-    : form_(form), colours_(colours), parent_(parent) {
+FormWidgets::FormWidgets(Form& form, const Places& places, QWidget& parent)
+    : form_(form), colours_(places.settings), parent_(parent) {
     form.for_each([this](Row& row) { make(row); });
-    form.show_again = [this](const Row* except) { refresh(except); };
+    form.show_again = [this](const Row* except) {
+        is_edited_ = has_missed_ = false;
+        refresh(except);
+    };
+    listening_ = places.notices.listen([this](Change) {
+        if (is_edited_)
+            has_missed_ = true;
+        else
+            refresh();
+    });
     refresh();
+}
+
+// After an edit the form shows its rows again, but the one being typed in. That edit is told to everyone, and
+// would come back here before.
+void FormWidgets::edit(const std::function<void()>& change) {
+    const QPointer<QObject> still(&alive_);
+    is_edited_ = true;
+    change();
+    if (still.isNull()) return;
+    is_edited_ = false;
+    if (std::exchange(has_missed_, false)) refresh();
 }
 
 QWidget& FormWidgets::field(const Row& row) const {
@@ -146,7 +168,7 @@ void FormWidgets::make_page(EntryRow& row) {
         *writes = false;
     };
     QObject::connect(page, &QPlainTextEdit::textChanged, &alive_, [this, &row, field, writes] {
-        if (!*writes) form_.type(row, *field);
+        if (!*writes) edit([&] { form_.type(row, *field); });
     });
     add_label(keep(row, *page, std::move(show)), row);
 }
@@ -160,7 +182,9 @@ void FormWidgets::make_line(EntryRow& row) {
         line = &arrows->line();
         widget = arrows;
         field = std::make_shared<LineField>(*line);
-        arrows->stepped = [this, &row, field](Spin direction) { form_.spin(row, *field, direction); };
+        arrows->stepped = [this, &row, field](Spin direction) {
+            edit([&] { form_.spin(row, *field, direction); });
+        };
     } else {
         widget = line = new QLineEdit(&parent_);
         field = std::make_shared<LineField>(*line);
@@ -174,7 +198,8 @@ void FormWidgets::make_line(EntryRow& row) {
             return field->set_text(row.text_when_disabled);
         row.show(*field);
     };
-    QObject::connect(line, &QLineEdit::textEdited, &alive_, [this, &row, field] { form_.type(row, *field); });
+    QObject::connect(line, &QLineEdit::textEdited, &alive_,
+                     [this, &row, field] { edit([&] { form_.type(row, *field); }); });
     QObject::connect(line, &QLineEdit::editingFinished, &alive_, [this, show] {
         show();
         form_.leave();
@@ -198,8 +223,9 @@ void FormWidgets::make_drop_down(ChoiceRow& row) {
         const auto chosen = row.chosen();
         box->setCurrentIndex(chosen ? static_cast<int>(*chosen) : -1);
     };
-    QObject::connect(box, &QComboBox::activated, &alive_,
-                     [this, &row](int option) { form_.choose(row, static_cast<std::size_t>(option)); });
+    QObject::connect(box, &QComboBox::activated, &alive_, [this, &row](int option) {
+        edit([&] { form_.choose(row, static_cast<std::size_t>(option)); });
+    });
     add_label(keep(row, *box, std::move(show)), row);
 }
 
@@ -229,8 +255,9 @@ void FormWidgets::make_buttons(ChoiceRow& row) {
         }
         buttons->setExclusive(true);
     };
-    QObject::connect(buttons, &QButtonGroup::idClicked, &alive_,
-                     [this, &row](int option) { form_.choose(row, static_cast<std::size_t>(option)); });
+    QObject::connect(buttons, &QButtonGroup::idClicked, &alive_, [this, &row](int option) {
+        edit([&] { form_.choose(row, static_cast<std::size_t>(option)); });
+    });
     add_label(keep(row, *frame, std::move(show)), row);
 }
 
@@ -241,7 +268,7 @@ void FormWidgets::visit(CheckRow& row) {
         box->setChecked(row.checked.get());
     });
     QObject::connect(box, &QCheckBox::clicked, &alive_,
-                     [this, &row](bool checked) { form_.check(row, checked); });
+                     [this, &row](bool checked) { edit([&] { form_.check(row, checked); }); });
 }
 
 void FormWidgets::visit(NoteRow& row) {

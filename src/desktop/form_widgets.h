@@ -2,6 +2,7 @@
 #pragma once
 
 #include "forms/form.h"
+#include "forms/places.h"
 
 #include <QLabel>
 #include <QWidget>
@@ -13,7 +14,7 @@ namespace wortlex {
 /// Owns no widget: all belong to `parent`. The form and the settings must outlive it.
 class FormWidgets : private RowVisitor {
 public:
-    FormWidgets(Form& form, const SystemSettings& colours, QWidget& parent);
+    FormWidgets(Form& form, const Places& places, QWidget& parent);
 
     /// The field, button or list of a row.
     QWidget& field(std::string_view key) const;
@@ -24,8 +25,8 @@ public:
     /// What stands behind a field; none where the row has no unit.
     QLabel* unit(const Row& row) const;
 
-    /// Shows every row as it is now, but the one being typed in. Follows every edit and every button, and
-    /// takes up colours that have changed.
+    /// Shows every row as it is now, but the one being typed in. Follows every edit and every button, every
+    /// change that is told, and takes up colours that have changed.
     void refresh(const Row* except = nullptr);
 
 private:
@@ -49,6 +50,7 @@ private:
     using AreaColours = decltype(SystemSettings::foreground);
 
     void make(Row& row);
+    void edit(const std::function<void()>& change);
     void recolour();
     Shown& keep(Row& row, QWidget& field, std::function<void()> refresh);
     void add_label(Shown& shown, const Row& row);
@@ -64,7 +66,10 @@ private:
     QWidget& parent_;
     std::unordered_map<const Row*, Shown> shown_;
     std::optional<std::pair<AreaColours, AreaColours>>
-        borne_;     ///< text and ground; none yet before the first refresh
+        borne_;              ///< text and ground; none yet before the first refresh
+    bool is_edited_ = false; ///< what is told meanwhile waits until the rows are shown again
+    bool has_missed_ = false;
+    Listening listening_;
     QObject alive_; ///< its end cuts every connection, before the fields that it served go
 };
 

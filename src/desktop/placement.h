@@ -2,8 +2,7 @@
 #pragma once
 
 #include "desktop/window_table.h"
-#include "settings/settings.h"
-#include "settings/system_files.h"
+#include "forms/places.h"
 
 #include <QObject>
 #include <QPointer>
@@ -19,12 +18,6 @@ Rectangle within_screens(const Rectangle& wanted, std::span<const Rectangle> scr
 
 /// A window of this size centred over `origin`.
 Rectangle centred_over(const Rectangle& origin, int width, int height);
-
-/// What the placement of every window reads and writes.
-struct Places {
-    ToolPositions& positions;
-    const SystemSettings& settings;
-};
 
 std::vector<Rectangle> screen_rectangles();
 Rectangle rectangle_of(const QWidget& window);

@@ -104,7 +104,7 @@ void PageView::resizeEvent(QResizeEvent* event) {
 
 PrintPreview::PrintPreview(const PrintRequest& request, const PrintPorts& ports, QWidget* owner)
     : QDialog(owner), ports_(ports), pages_(request, ports.paper), form_(made_form()),
-      widgets_(form_, ports.places.settings, *this), view_(new PageView(pages_, this)),
+      widgets_(form_, ports.places, *this), view_(new PageView(pages_, this)),
       place_(dress_window(*this, window_info("PRINTPREVIEW"), 0, Opener::main, owner, ports.places)) {
     setWindowTitle(windowTitle() + QStringLiteral(" - ") + string_of(request.document_name));
     setWindowModality(Qt::WindowModal);

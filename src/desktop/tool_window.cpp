@@ -39,7 +39,8 @@ void bring_forward(QWidget& window) {
 
 ToolWindow::ToolWindow(const WindowInfo& info, std::size_t use, Opener opener, QWidget* origin,
                        const Places& places)
-    : place_(dress_window(*this, info, use, opener, origin, places)) {
+    : place_(dress_window(*this, info, use, opener, origin, places)),
+      listening_(places.notices.listen([this](Change change) { follow(change); })) {
     setAttribute(Qt::WA_DeleteOnClose);
 }
 

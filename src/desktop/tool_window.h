@@ -32,12 +32,15 @@ public:
     std::function<void()> closed; ///< told once, when it is gone from the screen
 
 protected:
+    /// A change was told. The rows of the window's forms follow by themselves, after this.
+    virtual void follow(Change) {}
     /// Whether nothing stands against closing; asks the user where there is unsaved work.
     virtual bool may_close() { return true; }
     void closeEvent(QCloseEvent* event) override;
 
 private:
     WindowPlace& place_;
+    Listening listening_;
 };
 
 } // namespace wortlex

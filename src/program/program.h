@@ -8,6 +8,7 @@
 #include "documents/live_document.h"
 #include "documents/opening.h"
 #include "documents/session_figures.h"
+#include "forms/places.h"
 #include "mash/strike_calculator.h"
 #include "page/html_theme.h"
 #include "program/documents.h"
@@ -59,6 +60,7 @@ struct Program {
     OpenTools tools;
     MainPosition main_position; ///< as it was at the start
     ToolPositions tool_positions;
+    NoticeBoard notices; ///< whoever changes the document or the settings tells it here
 };
 
 /// Reads the settings and the usual water figures and makes an empty document. Without a whole settings file
@@ -70,6 +72,11 @@ std::string working_folder();
 
 /// Percent or gallons per hour, by the settings: the session's own, or for a recipe the usual one.
 float evaporation_rate(const Program& program);
+
+/// What every window is made with.
+inline Places places(Program& program) {
+    return {program.tool_positions, program.settings, program.notices};
+}
 
 /// The live document ready to be worked on.
 OpenDocument live_document(Program& program);

@@ -16,7 +16,8 @@ namespace {
 struct Desk {
     SystemSettings settings = WriteDefaultSettings();
     ToolPositions positions;
-    Places places{positions, settings};
+    NoticeBoard notices;
+    Places places{positions, settings, notices};
 };
 
 TEST(Placement, KeepsWindowsOnTheScreensThatThereAre) {
@@ -133,6 +134,25 @@ TEST(FormDialog, OkCommitsAndEscRestores) {
         EXPECT_FALSE(dialog.isVisible());
         EXPECT_EQ(record.value, 5);
     }
+}
+
+TEST(FormWidgets, FollowWhatIsToldButForTheFieldTypedIn) {
+    Desk desk;
+    float amount = 3;
+    Form typed, shown;
+    for (auto* const form : {&typed, &shown}) {
+        form->rows().number("amount", amount).range(0, 9).format("%0.2f");
+        form->after_edit([&](Row&) { desk.notices.tell(Change::document); });
+    }
+    QWidget first, second;
+    const FormWidgets typed_widgets(typed, desk.places, first);
+    { const FormWidgets gone(shown, desk.places, second); }
+    const FormWidgets shown_widgets(shown, desk.places, second);
+    auto& field = dynamic_cast<QLineEdit&>(typed_widgets.field("amount"));
+    field.clear();
+    QTest::keyClicks(&field, "4.5");
+    EXPECT_EQ(field.text(), "4.5");
+    EXPECT_EQ(dynamic_cast<QLineEdit&>(shown_widgets.field("amount")).text(), "4.50");
 }
 
 TEST(ToolWindow, StaysWhileItsModalDialogIsOpen) {

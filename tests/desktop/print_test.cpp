@@ -15,6 +15,7 @@ namespace {
 struct PreviewDialog {
     SystemSettings settings = WriteDefaultSettings();
     ToolPositions positions;
+    NoticeBoard notices;
     ScriptedPrompts prompts;
     ScriptedFiles files;
     PaperChoice paper;
@@ -23,7 +24,8 @@ struct PreviewDialog {
     PrintPreview preview;
 
     explicit PreviewDialog(std::deque<std::optional<std::string>> paths = {})
-        : files(std::move(paths)), preview(request, {files, prompts, {positions, settings}, paper}, nullptr) {
+        : files(std::move(paths)),
+          preview(request, {files, prompts, {positions, settings, notices}, paper}, nullptr) {
         preview.show();
         EXPECT_TRUE(QTest::qWaitForWindowActive(&preview));
     }

@@ -71,6 +71,7 @@ void start_editing(RecipeEditor& editor, const RecipeView& view) {
     editor.view = view;
     editor.at_start.reset();
     editor.history.start(editor.open);
+    tell_change(editor);
 }
 
 void edit(RecipeEditor& editor, std::string_view name, const std::function<void()>& change,
@@ -83,7 +84,7 @@ void edit(RecipeEditor& editor, std::string_view name, const std::function<void(
 }
 
 void tell_change(const RecipeEditor& editor) {
-    if (editor.changed) editor.changed();
+    if (editor.notices != nullptr) editor.notices->tell(Change::document);
 }
 
 void end_edit(RecipeEditor& editor) {
@@ -94,6 +95,7 @@ void end_edit(RecipeEditor& editor) {
 void end_page(RecipeEditor& editor, std::string_view name) {
     end_edit(editor);
     editor.history.note(editor.open, name);
+    tell_change(editor);
 }
 
 bool undo(RecipeEditor& editor) {

@@ -1,6 +1,7 @@
 // The work on a recipe: what each edit changes, in its order, and what it leaves to be undone.
 #pragma once
 
+#include "base/ports/notice_board.h"
 #include "documents/work/document_history.h"
 #include "documents/work/recipe_view.h"
 
@@ -24,7 +25,7 @@ struct RecipeEditor {
     RecipeView view;
     DocumentHistory history;
     std::optional<AmountsAtStart> at_start = std::nullopt; ///< of the edit under way
-    std::function<void()> changed = nullptr;               ///< told after each change, also one taken back
+    NoticeBoard* notices = nullptr;                        ///< where each change is told, also one taken back
 };
 
 /// Starts to work on the document as it is: nothing to undo, nothing under way.
@@ -35,7 +36,7 @@ void start_editing(RecipeEditor& editor, const RecipeView& view);
 void edit(RecipeEditor& editor, std::string_view name, const std::function<void()>& change,
           std::string_view merge_key = {});
 
-/// Something shows the recipe elsewhere: a page that stays open calls this after what it changes.
+/// For what changes without one of these functions, as on a page that stays open or when the file is saved.
 void tell_change(const RecipeEditor& editor);
 
 /// The field that was typed in is left: the next edit of it is a new step.

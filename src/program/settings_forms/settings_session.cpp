@@ -30,6 +30,7 @@ void SettingsSession::take_over() {
     image().brewer_name = brewer_name;
     image().assistant_name = assistant_name;
     ApplyDialogSettings(image(), desk_.working);
+    desk_.notices.tell(Change::settings);
 }
 
 void SettingsSession::accept() {
@@ -41,6 +42,7 @@ void SettingsSession::cancel() {
     desk_.working = saved_working_;
     desk_.folders = saved_folders_;
     ApplySettings(image(), desk_.working, false);
+    desk_.notices.tell(Change::settings);
 }
 
 bool SettingsSession::write_default() {
@@ -58,6 +60,7 @@ void SettingsSession::load(Files& files, Prompts& prompts) {
     if (!path) return;
     if (!LoadSettingsFile(*path, image())) return prompts.tell({.text = file_not_found, .icon = Icon::error});
     ApplySettings(image(), desk_.working, true);
+    desk_.notices.tell(Change::settings);
     const auto file = read_file(*path);
     if (!file || file->size() < system_settings_layout.size)
         prompts.tell({.text = short_settings, .icon = Icon::warning});

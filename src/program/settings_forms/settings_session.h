@@ -2,6 +2,7 @@
 #pragma once
 
 #include "base/ports/file_dialogs.h"
+#include "base/ports/notice_board.h"
 #include "base/ports/prompts.h"
 #include "forms/form.h"
 #include "settings/settings.h"
@@ -11,12 +12,13 @@ namespace wortlex {
 
 /// What the dialogs work on: the images, as they go to the disk, and the working values, which the program
 /// reads. The dialogs edit the image; only the colours of the screen live in the working values while they
-/// are edited.
+/// are edited. What reaches the working values is told.
 struct SettingsDesk {
     SystemFiles& files;
     Settings& working;
     FolderSet& folders;
     std::string data_folder;
+    NoticeBoard& notices;
 };
 
 /// Opened with the dialog. Its end is `accept` or `cancel`, whatever the dialogs below it did.

@@ -17,19 +17,18 @@ Form made_form(ColorSwatch& swatch) {
 
 } // namespace
 
-ColorSwatchWindow::ColorSwatchWindow(Program& program, float srm, Opener opener, QWidget* origin)
-    : ToolWindow(window_info("COLORSWATCHDIALOG"), 0, opener, origin,
-                 {program.tool_positions, program.settings}),
-      swatch_{program.color_table, program.settings}, form_(made_form(swatch_)),
-      widgets_(form_, program.settings, *this) {
+ColorSwatchWindow::ColorSwatchWindow(Program& program, Opener opener, QWidget* origin)
+    : ToolWindow(window_info("COLORSWATCHDIALOG"), 0, opener, origin, places(program)),
+      srm_(program.document.figures.colour.srm), swatch_{program.color_table, program.settings},
+      form_(made_form(swatch_)), widgets_(form_, places(program), *this) {
     lay_out_rows();
-    set_colour(srm);
+    set_swatch(swatch_, srm_);
+    widgets_.refresh();
     connect(new QShortcut(QKeySequence::Cancel, this), &QShortcut::activated, this, &QWidget::close);
 }
 
-void ColorSwatchWindow::set_colour(float srm) {
-    set_swatch(swatch_, srm);
-    widgets_.refresh();
+void ColorSwatchWindow::follow(Change change) {
+    if (change == Change::document) set_swatch(swatch_, srm_);
 }
 
 // The patch takes what room there is, the figures beside it what they need.

@@ -11,14 +11,16 @@ namespace wortlex {
 /// Open once at most: who opens it keeps it, until `closed` is called.
 class ColorSwatchWindow : public ToolWindow {
 public:
-    ColorSwatchWindow(Program& program, float srm, Opener opener, QWidget* origin);
+    ColorSwatchWindow(Program& program, Opener opener, QWidget* origin);
 
-    /// The document has another colour: the alpha is that of the settings again.
-    void set_colour(float srm);
+protected:
+    /// The alpha is that of the settings again.
+    void follow(Change change) override;
 
 private:
     void lay_out_rows();
 
+    const float& srm_;
     ColorSwatch swatch_;
     Form form_;
     FormWidgets widgets_;

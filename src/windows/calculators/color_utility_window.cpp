@@ -55,7 +55,7 @@ void run_color_utility(Program& program, SystemSettings& image, const ColorUtili
                           ports.pictures, ports.clock});
     Form form;
     color_utility_form(form, utility);
-    ColorUtilityDialog dialog(form, utility, {program.tool_positions, program.settings}, owner);
+    ColorUtilityDialog dialog(form, utility, places(program), owner);
     dialog.exec();
 }
 

@@ -31,8 +31,7 @@ void place_credits(FormDialog& dialog) {
 bool choose_formula(Program& program, QWidget* owner, Settings& settings) {
     Form form;
     formula_type_form(form, settings);
-    FormDialog dialog(form, {.template_name = "HOPFORMULATYPEDIALOG"},
-                      {program.tool_positions, program.settings}, owner);
+    FormDialog dialog(form, {.template_name = "HOPFORMULATYPEDIALOG"}, places(program), owner);
     place_credits(dialog);
     return dialog.exec() == QDialog::Accepted;
 }

@@ -12,8 +12,8 @@ std::optional<float> degrade_hop(const WindowPorts& ports, QWidget* owner, HopUs
     const auto print = [&] { ports.pages.show(degradation_printout(degradation, settings.printer_scale)); };
     Form form;
     hop_degradation_form(form, degradation, {.save_jpg = nullptr, .print = print, .help = nullptr});
-    const bool accepted = run_dialog(form, {.template_name = "HOPSHORTTIMEDIALOG", .opener = opener},
-                                     {program.tool_positions, settings}, owner);
+    const bool accepted =
+        run_dialog(form, {.template_name = "HOPSHORTTIMEDIALOG", .opener = opener}, places(program), owner);
     keep_storage(degradation, work);
     remember_storage(work, program.hop_memory);
     return accepted ? std::optional(degradation.adjusted_alpha) : std::nullopt;

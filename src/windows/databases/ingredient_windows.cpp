@@ -14,12 +14,8 @@
 namespace wortlex {
 namespace {
 
-Places places(const WindowPorts& ports) {
-    return {ports.program.tool_positions, ports.program.settings};
-}
-
 ListPorts list_ports(const WindowPorts& ports) {
-    return {places(ports), ports.files, ports.prompts};
+    return {places(ports.program), ports.files, ports.prompts};
 }
 
 void open(IngredientList& list, const WindowPorts& ports) {
@@ -85,7 +81,7 @@ auto converter(const WindowPorts& ports, std::string_view dialog_template, MakeF
     return [ports, dialog_template, make_form](WaterRecord& water) {
         Form form;
         make_form(form, water);
-        run_dialog(form, {.template_name = dialog_template}, places(ports),
+        run_dialog(form, {.template_name = dialog_template}, places(ports.program),
                    QApplication::activeModalWidget());
     };
 }

@@ -20,7 +20,7 @@ ListWindow::ListWindow(IngredientList& list, const ListPorts& ports, Opener open
     setSizeGripEnabled(true);
     setAcceptDrops(!picked_);
     fill_form();
-    widgets_ = std::make_unique<FormWidgets>(form_, ports.places.settings, *this);
+    widgets_ = std::make_unique<FormWidgets>(form_, ports.places, *this);
     lay_out_rows();
     setWindowTitle(string_of(list_.caption()));
     widgets_->field("list").setFocus();

@@ -11,10 +11,6 @@
 namespace wortlex {
 namespace {
 
-Places places(const WindowPorts& ports) {
-    return {ports.program.tool_positions, ports.program.settings};
-}
-
 // A brewery weighs its hops by the pound.
 std::string_view first_hop_field(const Settings& settings) {
     return is_pro(settings) ? "large_amount" : "amount";
@@ -27,7 +23,8 @@ std::optional<MaltUse> edit_malt_line(const WindowPorts& ports, const MaltUse& l
     auto copy = line;
     Form form;
     malt_amount_form(form, copy, ports.program.settings);
-    if (!run_dialog(form, {.template_name = "MALTSHORTEDITDIALOG", .opener = opener}, places(ports), owner))
+    if (!run_dialog(form, {.template_name = "MALTSHORTEDITDIALOG", .opener = opener}, places(ports.program),
+                    owner))
         return std::nullopt;
     return copy;
 }
@@ -41,7 +38,7 @@ std::optional<HopUse> edit_hop_line(const WindowPorts& ports, const OpenDocument
     FormDialog dialog(
         form,
         {.template_name = in_home_units ? "HOPSHORTEDITDIALOG1" : "HOPSHORTEDITDIALOG", .opener = opener},
-        places(ports), owner);
+        places(ports.program), owner);
     dialog.widgets().field(first_hop_field(open.settings)).setFocus();
     if (dialog.exec() != QDialog::Accepted) return std::nullopt;
     return copy;
@@ -52,7 +49,8 @@ std::optional<ExtraUse> edit_extra_line(const WindowPorts& ports, const ExtraUse
     auto copy = line;
     Form form;
     extra_amount_form(form, copy);
-    if (!run_dialog(form, {.template_name = "EXTRASHORTEDITDIALOG", .opener = opener}, places(ports), owner))
+    if (!run_dialog(form, {.template_name = "EXTRASHORTEDITDIALOG", .opener = opener}, places(ports.program),
+                    owner))
         return std::nullopt;
     return copy;
 }
@@ -71,7 +69,7 @@ void show_malt_contribution(const WindowPorts& ports, const OpenDocument& open, 
     Form form;
     malt_contribution_form(form, open, line);
     run_dialog(form, {.template_name = "GRAINLISTDETAIL", .opener = opener, .has_cancel = false},
-               places(ports), owner);
+               places(ports.program), owner);
 }
 
 void show_pre_boil(const WindowPorts& ports, const OpenDocument& open, QWidget* owner) {
@@ -83,7 +81,7 @@ void show_pre_boil(const WindowPorts& ports, const OpenDocument& open, QWidget* 
     pre_boil_form(form, open.document, rate, open.settings);
     pre_boil_buttons(form, {.print = print, .help = nullptr});
     run_dialog(form, {.template_name = "PREBOILDIALOG", .opener = Opener::recipe, .has_cancel = false},
-               places(ports), owner);
+               places(ports.program), owner);
 }
 
 } // namespace wortlex

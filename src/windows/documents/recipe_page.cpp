@@ -12,7 +12,7 @@ namespace wortlex {
 
 RecipePage::RecipePage(RecipeEditor& editor, RecipePageUse use, const Places& places, QWidget* origin)
     : ToolWindow(window_info(use.template_name), 0, use.opener, origin, places), editor_(editor),
-      use_(std::move(use)), form_(made_form()), widgets_(form_, places.settings, *this) {
+      use_(std::move(use)), form_(made_form()), widgets_(form_, places, *this) {
     lay_out_rows();
 }
 
@@ -55,7 +55,6 @@ bool RecipePage::may_close() {
         form_.cancel();
         end_page(editor_, "Cancel " + use_.step);
     }
-    if (changed) changed();
     return true;
 }
 

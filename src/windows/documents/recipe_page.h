@@ -21,11 +21,8 @@ class RecipePage : public ToolWindow {
 public:
     RecipePage(RecipeEditor& editor, RecipePageUse use, const Places& places, QWidget* origin);
 
-    /// The recipe has changed elsewhere.
-    void refresh() { widgets_.refresh(); }
     /// Closes without a word: the recipe is another one now, or gone.
     void dismiss();
-    std::function<void()> changed; ///< told when the page is done and may have changed the recipe
 
 protected:
     bool may_close() override;

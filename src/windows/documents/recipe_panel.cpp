@@ -24,8 +24,8 @@ void add_field(QGridLayout& grid, const FormWidgets& widgets, std::string_view k
 
 } // namespace
 
-RecipePanel::RecipePanel(const RecipeSubject& subject, const SystemSettings& colours, QWidget* parent)
-    : QWidget(parent), form_(made_form(subject)), widgets_(form_, colours, *this) {
+RecipePanel::RecipePanel(const RecipeSubject& subject, const Places& places, QWidget* parent)
+    : QWidget(parent), form_(made_form(subject)), widgets_(form_, places, *this) {
     auto* const layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     auto* const top = new QHBoxLayout;

@@ -10,9 +10,8 @@ namespace wortlex {
 class RecipePanel : public QWidget {
 public:
     /// The subject must outlive the panel.
-    RecipePanel(const RecipeSubject& subject, const SystemSettings& colours, QWidget* parent);
+    RecipePanel(const RecipeSubject& subject, const Places& places, QWidget* parent);
 
-    void refresh() { widgets_.refresh(); }
     const FormWidgets& widgets() const { return widgets_; }
 
 private:

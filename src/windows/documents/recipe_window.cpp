@@ -42,13 +42,13 @@ QKeySequence::StandardKey key_of(int command) {
 } // namespace
 
 RecipeWindow::RecipeWindow(const WindowPorts& ports, const WindowInfo& info, QWidget* origin)
-    : ToolWindow(info, 0, Opener::main, origin, {ports.program.tool_positions, ports.program.settings}),
-      ports_(ports), caption_(windowTitle()), program_(ports.program),
+    : ToolWindow(info, 0, Opener::main, origin, places(ports.program)), ports_(ports),
+      caption_(windowTitle()), program_(ports.program),
       document_(program_.document), editor_{live_document(program_), {}, {}}, subject_{editor_,
                                                                                        program_.color_table,
                                                                                        actions()},
-      panel_(subject_, program_.settings, this) {
-    editor_.changed = [this] { show_changes(); };
+      panel_(subject_, places(program_), this) {
+    editor_.notices = &program_.notices;
     auto* const layout = new QVBoxLayout(this);
     add_menu();
     layout->addWidget(&panel_, 1);
@@ -93,10 +93,10 @@ void RecipeWindow::add_menu() {
 
 void RecipeWindow::add_edit_menu(QMenuBar& bar) {
     auto* const menu = bar.addMenu(tr("E&dit"));
-    undo_ = menu->addAction(tr("&Undo"), this, [this] { travel(undo); });
+    undo_ = menu->addAction(tr("&Undo"), this, [this] { undo(editor_); });
     undo_->setObjectName(QStringLiteral("undo"));
     undo_->setShortcuts(QKeySequence::Undo);
-    redo_ = menu->addAction(tr("&Redo"), this, [this] { travel(redo); });
+    redo_ = menu->addAction(tr("&Redo"), this, [this] { redo(editor_); });
     redo_->setObjectName(QStringLiteral("redo"));
     redo_->setShortcuts(QKeySequence::Redo);
 }
@@ -129,13 +129,12 @@ bool RecipeWindow::eventFilter(QObject* watched, QEvent* event) {
 void RecipeWindow::reopen() {
     const auto& file = document_.file;
     auto opened = open_recipe_window(editor_.open, file.loaded_from_file || file.recovered);
+    saved_ = std::move(opened.saved);
     start_editing(editor_, {.locks = opened.locks,
                             .show_potential = opened.show_potential,
                             .selected_malt = 0,
                             .selected_hop = 0,
                             .selected_extra = 0});
-    saved_ = std::move(opened.saved);
-    show_everything();
 }
 
 void RecipeWindow::tell_once_shown() {
@@ -156,7 +155,7 @@ bool RecipeWindow::may_leave_recipe() {
     auto current = saving();
     const bool may = may_leave(current);
     is_asking_ = false;
-    show_everything();
+    tell_change(editor_);
     return may;
 }
 
@@ -187,7 +186,7 @@ bool RecipeWindow::save_recipe(SaveAs save_as) {
         remember_document(program_, path);
     }
     keep_work();
-    show_everything();
+    tell_change(editor_);
     return saved;
 }
 
@@ -203,34 +202,14 @@ bool RecipeWindow::may_close() {
     return true;
 }
 
-void RecipeWindow::travel(bool (*step)(RecipeEditor&)) {
-    step(editor_);
-    show_everything();
-}
-
-void RecipeWindow::show_changes() {
+void RecipeWindow::follow(Change) {
     show_file_name();
-    if (!swatch_.isNull()) swatch_->set_colour(document_.figures.colour.srm);
-    for (const auto& page : {yeast_and_water_, extras_})
-        if (!page.isNull()) page->refresh();
-    tell_grain();
     for (const auto& [action, word, step] : {std::tuple(undo_, tr("&Undo"), editor_.history.to_undo()),
                                              std::tuple(redo_, tr("&Redo"), editor_.history.to_redo())}) {
         action->setEnabled(!step.empty());
         const auto name = string_of(step).replace(QLatin1Char('&'), QLatin1String("&&"));
         action->setText(step.empty() ? word : word + QLatin1Char(' ') + name);
     }
-}
-
-void RecipeWindow::tell_grain() {
-    const float grain = document_.figures.mash_grain;
-    if (!mash_.isNull() && grain != told_grain_) mash_->grain_changed();
-    told_grain_ = grain;
-}
-
-void RecipeWindow::show_everything() {
-    show_changes();
-    panel_.refresh();
 }
 
 void RecipeWindow::show_file_name() {
@@ -249,16 +228,12 @@ void RecipeWindow::keep_work() {
 }
 
 void RecipeWindow::show_colour() {
-    if (swatch_.isNull())
-        swatch_ = new ColorSwatchWindow(program_, document_.figures.colour.srm, Opener::recipe, this);
+    if (swatch_.isNull()) swatch_ = new ColorSwatchWindow(program_, Opener::recipe, this);
     bring_forward(*swatch_);
 }
 
 void RecipeWindow::show_page(QPointer<RecipePage>& page, RecipePageUse use) {
-    if (page.isNull()) {
-        page = new RecipePage(editor_, std::move(use), {program_.tool_positions, program_.settings}, this);
-        page->changed = [this] { show_everything(); };
-    }
+    if (page.isNull()) page = new RecipePage(editor_, std::move(use), places(program_), this);
     bring_forward(*page);
 }
 
@@ -285,23 +260,18 @@ void RecipeWindow::show_extras() {
 
 void RecipeWindow::show_mash() {
     if (mash_.isNull()) {
-        told_grain_ = document_.figures.mash_grain;
         const auto work = open_simple_mash(document_.recipe.simple_mash, document_.water_to_grain,
-                                           told_grain_, program_.settings);
+                                           document_.figures.mash_grain, program_.settings);
         mash_ = new SimpleMashWindow(
             work, program_.settings,
             {.mash_grain = [this] { return document_.figures.mash_grain; },
-             .accepted =
-                 [this](const SimpleMash& mash) {
-                     set_simple_mash(editor_, mash);
-                     panel_.refresh();
-                 },
+             .accepted = [this](const SimpleMash& mash) { set_simple_mash(editor_, mash); },
              .revert_to_complex = nullptr,
              .print =
                  [this](const SimpleMashWork& planned) {
                      ports_.pages.show(simple_mash_printout(editor_.open, program_.color_table, planned));
                  }},
-            program_.tool_positions, this);
+            places(program_), this);
         // From now on the water itself tells the ratio: worked out from a ratio again it would drift.
         document_.water_to_grain = 0;
     }

@@ -30,6 +30,8 @@ public:
 
 protected:
     bool may_close() override;
+    /// The name of the file, and what can be undone.
+    void follow(Change change) override;
     /// Undo is the recipe's, also while the cursor stands in a field.
     bool eventFilter(QObject* watched, QEvent* event) override;
 
@@ -47,12 +49,7 @@ private:
     DocumentSaving saving();
     void print();
 
-    void travel(bool (*step)(RecipeEditor&));
-    /// Everything that shows the recipe but the fields, which follow by themselves.
-    void show_changes();
     void show_file_name();
-    void tell_grain();
-    void show_everything();
     void keep_work();
 
     void show_colour();
@@ -79,7 +76,6 @@ private:
     QPointer<RecipePage> extras_;
     QPointer<SimpleMashWindow> mash_;
     bool is_asking_ = false; ///< whether to save; while it is open the recipe stays
-    float told_grain_ = 0;   ///< the mashed pounds that the mash window knows
 };
 
 } // namespace wortlex

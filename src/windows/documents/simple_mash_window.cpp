@@ -19,13 +19,13 @@ Form made_form(SimpleMashWork& work, const Settings& settings, SimpleMashActions
 } // namespace
 
 SimpleMashWindow::SimpleMashWindow(const SimpleMashWork& work, const Settings& settings,
-                                   SimpleMashCalls calls, ToolPositions& positions, QWidget* origin)
-    : ToolWindow(window_info("MASHENTRYDIALOG"), 0, Opener::recipe, origin, {positions, settings}),
-      calls_(std::move(calls)), work_(work),
+                                   SimpleMashCalls calls, const Places& places, QWidget* origin)
+    : ToolWindow(window_info("MASHENTRYDIALOG"), 0, Opener::recipe, origin, places), calls_(std::move(calls)),
+      told_grain_(calls_.mash_grain()), work_(work),
       form_(
           made_form(work_, settings,
                     {.revert = revert_action(), .graph = nullptr, .print = print_action(), .help = nullptr})),
-      widgets_(form_, settings, *this) {
+      widgets_(form_, places, *this) {
     auto* const layout = new QVBoxLayout(this);
     layout->addLayout(lay_out(form_, widgets_));
     auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
@@ -38,9 +38,9 @@ SimpleMashWindow::SimpleMashWindow(const SimpleMashWork& work, const Settings& s
     widgets_.field("saccharification_temperature").setFocus();
 }
 
-void SimpleMashWindow::grain_changed() {
-    set_mash_grain(work_, calls_.mash_grain());
-    widgets_.refresh();
+void SimpleMashWindow::follow(Change) {
+    const float grain = calls_.mash_grain();
+    if (std::exchange(told_grain_, grain) != grain) set_mash_grain(work_, grain);
 }
 
 std::function<void()> SimpleMashWindow::revert_action() {

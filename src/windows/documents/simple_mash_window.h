@@ -24,10 +24,11 @@ struct SimpleMashCalls {
 class SimpleMashWindow : public ToolWindow {
 public:
     SimpleMashWindow(const SimpleMashWork& work, const Settings& settings, SimpleMashCalls calls,
-                     ToolPositions& positions, QWidget* origin);
+                     const Places& places, QWidget* origin);
 
-    /// The grain bill has changed: takes the new weight, and the water by the ratio.
-    void grain_changed();
+protected:
+    /// With another grain bill it takes the new weight, and the water by the ratio.
+    void follow(Change change) override;
 
 private:
     void accept();
@@ -35,6 +36,7 @@ private:
     std::function<void()> print_action();
 
     SimpleMashCalls calls_;
+    float told_grain_; ///< pounds
     SimpleMashWork work_;
     Form form_;
     FormWidgets widgets_;

@@ -18,8 +18,8 @@ constexpr int title_pixels = 26, motto_pixels = 16, credit_pixels = 12;
 class AboutWindow : public QDialog {
 public:
     AboutWindow(Program& program, QWidget* owner)
-        : QDialog(owner), place_(dress_window(*this, window_info("ABOUTDIALOG"), 0, Opener::main, owner,
-                                              {program.tool_positions, program.settings})),
+        : QDialog(owner),
+          place_(dress_window(*this, window_info("ABOUTDIALOG"), 0, Opener::main, owner, places(program))),
           picture_(about_picture(program.data_folder, devicePixelRatioF())) {
         setWindowModality(Qt::WindowModal);
         setFixedSize(picture_size);

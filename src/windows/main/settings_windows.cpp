@@ -27,22 +27,23 @@ class SettingsDialogs {
 public:
     explicit SettingsDialogs(const SettingsPorts& ports)
         : ports_(ports), program_(ports.program),
-          session_({program_.system, program_.settings, program_.folders, program_.data_folder}) {}
+          session_({program_.system, program_.settings, program_.folders, program_.data_folder,
+                    program_.notices}) {}
 
     void run(QWidget* owner) {
         Form form;
         system_settings_form(form, session_, buttons());
-        run_dialog(form, {.template_name = "SYSTEMDEFAULTDIALOG"}, places(), owner);
+        run_dialog(form, {.template_name = "SYSTEMDEFAULTDIALOG"}, places(program_), owner);
     }
 
 private:
     SystemSettings& image() { return session_.image(); }
-    Places places() const { return {program_.tool_positions, program_.settings}; }
 
     void open(std::string_view dialog_template, const std::function<void(Form&)>& fill) const {
         Form form;
         fill(form);
-        run_dialog(form, {.template_name = dialog_template}, places(), QApplication::activeModalWidget());
+        run_dialog(form, {.template_name = dialog_template}, places(program_),
+                   QApplication::activeModalWidget());
     }
 
     SettingsButtons buttons() {

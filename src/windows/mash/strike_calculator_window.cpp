@@ -28,8 +28,8 @@ Form made_form(const WindowPorts& ports) {
 
 StrikeCalculatorWindow::StrikeCalculatorWindow(const WindowPorts& ports, const WindowInfo& info,
                                                QWidget* origin)
-    : ToolWindow(info, 0, Opener::main, origin, {ports.program.tool_positions, ports.program.settings}),
-      form_(made_form(ports)), widgets_(form_, ports.program.settings, *this) {
+    : ToolWindow(info, 0, Opener::main, origin, places(ports.program)), form_(made_form(ports)),
+      widgets_(form_, places(ports.program), *this) {
     lay_out_rows();
     connect(new QShortcut(QKeySequence::Cancel, this), &QShortcut::activated, this, &QWidget::close);
     widgets_.field("pounds").setFocus();

@@ -9,7 +9,7 @@ void edit_html_theme(Program& program, Files& files, Prompts& prompts, QWidget* 
     HtmlThemeEditor editor(program.html_theme, {program.folders, program.data_folder, files, prompts});
     Form form;
     html_theme_form(form, editor, program.html_theme);
-    run_dialog(form, {.template_name = "HTMLDIALOG"}, {program.tool_positions, program.settings}, owner);
+    run_dialog(form, {.template_name = "HTMLDIALOG"}, places(program), owner);
 }
 
 } // namespace wortlex

@@ -22,8 +22,7 @@ bool choose_print_options(const WindowPorts& ports, QWidget* owner) {
              [&] { save_as_default(DocumentKind::recipe, selection, program.data_folder, ports.prompts); },
          .help = nullptr});
     form.commit_copy(selection, program.recipe_print);
-    return run_dialog(form, {.template_name = "RECIPEPREPRINTDIALOG"},
-                      {program.tool_positions, program.settings}, owner);
+    return run_dialog(form, {.template_name = "RECIPEPREPRINTDIALOG"}, places(program), owner);
 }
 
 } // namespace wortlex

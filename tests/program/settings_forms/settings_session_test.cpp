@@ -1,8 +1,8 @@
 #include "base/number.h"
 #include "program/settings_forms/settings_session.h"
+#include "support/field.h"
 #include "support/scripted_files.h"
 #include "support/scripted_prompts.h"
-#include "support/field.h"
 #include "support/temporary_folder.h"
 
 #include "base/files.h"
@@ -19,6 +19,7 @@ struct Brewery {
     Settings working;
     FolderSet folders;
     ScriptedPrompts prompts;
+    NoticeBoard notices;
 
     Brewery() {
         SystemFiles fresh{WriteDefaultSettings(), {}, true};
@@ -28,7 +29,7 @@ struct Brewery {
         working = settings_from(files.settings);
         folders = LoadFolders(folder.path());
     }
-    SettingsDesk desk() { return {files, working, folders, folder.path()}; }
+    SettingsDesk desk() { return {files, working, folders, folder.path(), notices}; }
     SystemSettings on_disk() const { return LoadSystemFiles(folder.path()).settings; }
     // What the three levels have of one setting.
     std::string batch_sizes() const {

@@ -1,10 +1,10 @@
 #include "databases/hops.h"
 #include "databases/messages.h"
 #include "desktop/form_dialog.h"
-#include "support/scripted_files.h"
-#include "support/scripted_prompts.h"
 #include "support/drop.h"
 #include "support/qt_keys.h"
+#include "support/scripted_files.h"
+#include "support/scripted_prompts.h"
 #include "support/temporary_folder.h"
 #include "windows/databases/list_window.h"
 
@@ -29,6 +29,7 @@ struct ListDesk {
     TemporaryFolder folder;
     Settings settings;
     ToolPositions positions;
+    NoticeBoard notices;
     ScriptedPrompts prompts;
     ScriptedFiles files;
     Database<HopRecord> database;
@@ -46,7 +47,7 @@ struct ListDesk {
     ~ListDesk() { window->hide(); }
     void show(const std::function<bool()>& picked = nullptr) {
         hops->open(prompts);
-        const ListPorts ports{{positions, settings}, files, prompts};
+        const ListPorts ports{{positions, settings, notices}, files, prompts};
         window = std::make_unique<ListWindow>(*hops, ports, Opener::main, picked, nullptr);
         window->show();
         EXPECT_TRUE(QTest::qWaitForWindowActive(window.get()));

@@ -1,9 +1,9 @@
 #include "base/number.h"
 #include "base/ports/quiet_prompts.h"
-#include "support/recording_clipboard.h"
-#include "support/scripted_files.h"
 #include "support/qt_keys.h"
+#include "support/recording_clipboard.h"
 #include "support/recording_desk.h"
+#include "support/scripted_files.h"
 #include "windows/documents/simple_mash_window.h"
 #include "windows/main/main_window.h"
 
@@ -35,7 +35,7 @@ struct Page {
                               .print = nullptr};
         if (has_complex) calls.revert_to_complex = [this] { heard.emplace_back("complex"); };
         auto* const window = new SimpleMashWindow(open_simple_mash(mash, 0, grain, program.settings),
-                                                  program.settings, calls, program.tool_positions, nullptr);
+                                                  program.settings, calls, places(program), nullptr);
         window->closed = [this] { heard.emplace_back("closed"); };
         bring_forward(*window);
         EXPECT_TRUE(QTest::qWaitForWindowActive(window));
@@ -53,7 +53,7 @@ TEST(SimpleMashWindow, HandsOnWhatOkAccepts) {
     page.heard.clear();
     auto& reverted = page.open(true);
     page.grain = 20;
-    reverted.grain_changed();
+    page.program.notices.tell(Change::document);
     reverted.findChild<QPushButton*>("revert")->click();
     EXPECT_EQ(page.heard, (std::vector<std::string>{"24.00", "closed", "complex"}));
 }
