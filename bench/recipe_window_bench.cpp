@@ -26,7 +26,7 @@ struct Brewery {
     QuietPrompts prompts;
     FileDialogs files;
     SystemClipboard clipboard;
-    PreviewDesk pages{files, prompts, {program.tool_positions, program.settings}};
+    PreviewDesk pages{files, prompts, places(program)};
 
     Brewery() {
         program.settings = settings_from(image);

@@ -14,27 +14,32 @@ enum class Change {
 };
 
 /// Kept by who listens; with its end he hears nothing more, and it may end after the board.
-using Listening = std::shared_ptr<const std::function<void(Change)>>;
+using Listening = std::shared_ptr<const void>;
 
 /// While it is told of a change, a listener may stop itself or others, start new ones and tell again. Who has
 /// been stopped hears nothing more; who joins hears of the next change.
 class NoticeBoard {
 public:
     void tell(Change change) {
-        std::erase_if(listeners_, [](const auto& listener) { return listener.expired(); });
+        std::erase_if(listeners_, [](const Listener& listener) { return listener.kept.expired(); });
         const auto present = listeners_; // a copy: listeners come and go
         for (const auto& listener : present)
-            if (const auto heard = listener.lock()) (*heard)(change);
+            if (!listener.kept.expired()) listener.heard(change);
     }
 
     [[nodiscard]] Listening listen(std::function<void(Change)> heard) {
-        auto listening = std::make_shared<const std::function<void(Change)>>(std::move(heard));
-        listeners_.push_back(listening);
+        auto listening = std::make_shared<int>();
+        listeners_.push_back({listening, std::move(heard)});
         return listening;
     }
 
 private:
-    std::vector<std::weak_ptr<const std::function<void(Change)>>> listeners_;
+    struct Listener {
+        std::weak_ptr<const void> kept;
+        std::function<void(Change)> heard;
+    };
+
+    std::vector<Listener> listeners_;
 };
 
 } // namespace wortlex

@@ -21,7 +21,7 @@ Form made_form(SimpleMashWork& work, const Settings& settings, SimpleMashActions
 SimpleMashWindow::SimpleMashWindow(const SimpleMashWork& work, const Settings& settings,
                                    SimpleMashCalls calls, const Places& places, QWidget* origin)
     : ToolWindow(window_info("MASHENTRYDIALOG"), 0, Opener::recipe, origin, places), calls_(std::move(calls)),
-      told_grain_(calls_.mash_grain()), work_(work),
+      work_(work),
       form_(
           made_form(work_, settings,
                     {.revert = revert_action(), .graph = nullptr, .print = print_action(), .help = nullptr})),
@@ -40,7 +40,7 @@ SimpleMashWindow::SimpleMashWindow(const SimpleMashWork& work, const Settings& s
 
 void SimpleMashWindow::follow(Change) {
     const float grain = calls_.mash_grain();
-    if (std::exchange(told_grain_, grain) != grain) set_mash_grain(work_, grain);
+    if (grain != work_.grain) set_mash_grain(work_, grain);
 }
 
 std::function<void()> SimpleMashWindow::revert_action() {

@@ -36,7 +36,6 @@ private:
     std::function<void()> print_action();
 
     SimpleMashCalls calls_;
-    float told_grain_; ///< pounds
     SimpleMashWork work_;
     Form form_;
     FormWidgets widgets_;

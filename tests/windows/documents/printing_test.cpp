@@ -61,7 +61,7 @@ TEST(SimpleMashPrint, TellsTheScheduleUnderWork) {
     SimpleMashWindow window(
         work, settings,
         {.mash_grain = nullptr, .accepted = nullptr, .revert_to_complex = nullptr, .print = print},
-        program.tool_positions, nullptr);
+        places(program), nullptr);
     print_button(window).click();
     std::vector<std::string> lines;
     for (const auto& text : texts_on(desk.jobs.front(), 0)) lines.push_back(text.substr(text.find(' ') + 1));
