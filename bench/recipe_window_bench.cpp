@@ -18,6 +18,7 @@ namespace wortlex {
 namespace {
 
 constexpr int lines = 25;
+constexpr WindowInfo recipe_info = {"RECIPEDIALOG", {"Wortlex Recipe Formulation"}};
 
 // A program with a full recipe.
 struct Brewery {
