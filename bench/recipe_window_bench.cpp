@@ -48,7 +48,7 @@ void press(QWidget& field, int key, const QString& text) {
 
 // Every keystroke makes the batch another size, and with it everything on the screen.
 void keystroke(benchmark::State& state, Brewery& brewery) {
-    RecipeWindow window(brewery.ports(), nullptr);
+    RecipeWindow window(brewery.ports(), recipe_info, nullptr);
     window.setAttribute(Qt::WA_DeleteOnClose, false);
     window.show();
     QApplication::processEvents();
@@ -73,7 +73,7 @@ void keystroke(benchmark::State& state, Brewery& brewery) {
 
 void opening(benchmark::State& state, Brewery& brewery) {
     for (auto _ : state) {
-        auto window = std::make_unique<RecipeWindow>(brewery.ports(), nullptr);
+        auto window = std::make_unique<RecipeWindow>(brewery.ports(), recipe_info, nullptr);
         window->setAttribute(Qt::WA_DeleteOnClose, false);
         PaintWatch figures(*window->findChild<QLineEdit*>(QStringLiteral("sg")));
         window->show();

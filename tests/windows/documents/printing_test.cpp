@@ -25,6 +25,7 @@ TEST(ListWindowPrint, ShowsListAndEntry) {
     const TemporaryFolder folder;
     Settings settings;
     ToolPositions positions;
+    NoticeBoard notices;
     ScriptedPrompts prompts;
     ScriptedFiles files;
     RecordingPageDesk desk;
@@ -32,7 +33,7 @@ TEST(ListWindowPrint, ShowsListAndEntry) {
     const auto list = hop_list({ListSide::pick, settings, folder.path()}, hops);
     EXPECT_FALSE(dynamic_cast<ButtonRow&>(list->new_entry(prompts)->form.row("print")).press) << "no desk";
     list->print = [&desk](const PrintRequest& request) { desk.show(request); };
-    const ListPorts ports{{positions, settings}, files, prompts};
+    const ListPorts ports{{positions, settings, notices}, files, prompts};
     const ListWindow window(*list, ports, Opener::main, nullptr, nullptr);
     print_button(window).click();
     dynamic_cast<ButtonRow&>(list->new_entry(prompts)->form.row("print")).press();
