@@ -1,7 +1,7 @@
 // Days of the calendar.
 #pragma once
 
-#include "base/ports/desk.h"
+#include "base/ports/clock.h"
 
 #include <cstdint>
 #include <string>

@@ -64,9 +64,9 @@ TEST(Dilution, GoesByTheMassOfExtract) {
     expect_floats(
         diluted_gravity,
         {{1.05F, 5, 1, 1.04171F}, {1.05F, 5, 0, 1.05F}, {1.05F, 5, -1, 1.06241F}, {1.05F, 0, 0, 1.05F}});
-    expect_floats(
-        blended_gravity,
-        {{{5, 1.05F}, {1, 1}, 1.04171F}, {{3, 1.06F}, {2, 1.04F}, 1.05201F}, {{0, 1.05F}, {0, 1.05F}, plato_to_sg(0)}});
+    expect_floats(blended_gravity, {{{5, 1.05F}, {1, 1}, 1.04171F},
+                                    {{3, 1.06F}, {2, 1.04F}, 1.05201F},
+                                    {{0, 1.05F}, {0, 1.05F}, plato_to_sg(0)}});
 }
 
 TEST(Evaporation, IsByPercentOrByVolume) {

@@ -29,8 +29,8 @@ struct BrewDocument {
     Text<4028> awards;
     Text<255> reserved_text;
     ComplexMash mash;
-    /// The `ScheduleKind` in the low nibble. In a file the high nibble is an `EfficiencyMode`; a save leaves it
-    /// there in memory too, and `has_complex_schedule` then sees the whole byte.
+    /// The `ScheduleKind` in the low nibble. In a file the high nibble is an `EfficiencyMode`; a save leaves
+    /// it there in memory too, and `has_complex_schedule` then sees the whole byte.
     std::uint8_t mash_flags = 0;
 
     std::uint8_t file_efficiency_mode = 0; ///< the `EfficiencyMode` that the recipe carries

@@ -1,7 +1,7 @@
 #include "documents/brewing.h"
 #include "documents/forms/recipe_form.h"
-#include "measures/unit_words.h"
 #include "documents/recipe_gravity.h"
+#include "measures/unit_words.h"
 #include "support/field.h"
 
 #include <gtest/gtest.h>
