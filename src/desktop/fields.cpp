@@ -34,6 +34,25 @@ private:
     QLineEdit& edit_;
 };
 
+// The focus of a field that has it does not come anew.
+class MnemonicSelector : public QObject {
+public:
+    explicit MnemonicSelector(QLabel& label) : QObject(&label), label_(label) {
+        label.installEventFilter(this);
+    }
+
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (event->type() == QEvent::Shortcut) {
+            if (auto* const line = qobject_cast<QLineEdit*>(label_.buddy())) line->selectAll();
+            if (auto* const box = qobject_cast<QAbstractSpinBox*>(label_.buddy())) box->selectAll();
+        }
+        return QObject::eventFilter(watched, event);
+    }
+
+private:
+    QLabel& label_;
+};
+
 QSize few_lines(const QPlainTextEdit& page) {
     constexpr int lines = 3, digits = 26;
     const auto metrics = page.fontMetrics();
@@ -81,6 +100,11 @@ void ArrowField::stepBy(int steps) {
     lineEdit()->selectAll();
 }
 
+void ArrowField::focusInEvent(QFocusEvent* event) {
+    QAbstractSpinBox::focusInEvent(event);
+    if (event->reason() == Qt::MouseFocusReason) QTimer::singleShot(0, lineEdit(), &QLineEdit::selectAll);
+}
+
 void ArrowField::keyPressEvent(QKeyEvent* event) {
     if (!is_lost_mnemonic(*event)) QAbstractSpinBox::keyPressEvent(event);
 }
@@ -96,6 +120,11 @@ void ArrowField::wheelEvent(QWheelEvent* event) {
 
 void select_on_focus(QLineEdit& edit) {
     new FocusSelector(edit); // the field owns it
+}
+
+void make_buddies(QLabel& label, QWidget& field) {
+    label.setBuddy(&field);
+    new MnemonicSelector(label); // the label owns it
 }
 
 } // namespace wortlex

@@ -4,6 +4,7 @@
 #include "forms/numeric_fields.h"
 
 #include <QAbstractSpinBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 
@@ -54,6 +55,7 @@ public:
 
 protected:
     StepEnabled stepEnabled() const override;
+    void focusInEvent(QFocusEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     /// Only the focused field turns with the wheel: scrolling past one must not change a recipe.
     void wheelEvent(QWheelEvent* event) override;
@@ -61,5 +63,8 @@ protected:
 
 /// The text is selected whole as the field is entered, however it is entered.
 void select_on_focus(QLineEdit& edit);
+
+/// The label's mnemonic leads to the field and selects its text, also where the field has the focus already.
+void make_buddies(QLabel& label, QWidget& field);
 
 } // namespace wortlex

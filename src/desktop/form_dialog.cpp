@@ -1,6 +1,8 @@
 #include "desktop/form_dialog.h"
 
-#include <QDialogButtonBox>
+#include "desktop/captions.h"
+
+#include <QKeyEvent>
 #include <QVBoxLayout>
 
 namespace wortlex {
@@ -12,33 +14,30 @@ constexpr int title_buttons = 80; // pixels that a title bar keeps for itself, r
 
 FormDialog::FormDialog(Form& form, const DialogUse& use, const Places& places, QWidget* owner)
     : QDialog(owner), form_(form), widgets_(form, places, *this),
-      place_(dress_window(*this, window_info(use.template_name), use.caption, use.opener, owner, places)) {
+      place_(dress_window(*this, window_info(use.template_name), use.caption, use.opener, owner, places)),
+      buttons_(new QDialogButtonBox(QDialogButtonBox::Ok, this)), enter_closes_(use.enter_closes) {
     setWindowModality(Qt::WindowModal);
     auto* const layout = new QVBoxLayout(this);
     layout->addStrut(fontMetrics().horizontalAdvance(windowTitle()) + title_buttons);
     layout->addLayout(lay_out(form, widgets_));
-    auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Ok, this);
-    if (use.has_cancel) buttons->addButton(QDialogButtonBox::Cancel);
-    layout->addWidget(buttons);
-    focus_first();
-    connect(buttons, &QDialogButtonBox::accepted, this, &FormDialog::accept);
-    connect(buttons, &QDialogButtonBox::rejected, this, &FormDialog::reject);
+    if (use.has_cancel) buttons_->addButton(QDialogButtonBox::Cancel);
+    set_tips(*buttons_, enter_closes_);
+    layout->addWidget(buttons_);
+    auto* const first = widgets_.first_field();
+    (first != nullptr ? first : buttons_->button(QDialogButtonBox::Ok))->setFocus();
+    connect(buttons_, &QDialogButtonBox::accepted, this, &FormDialog::accept);
+    connect(buttons_, &QDialogButtonBox::rejected, this, &FormDialog::reject);
 }
 
-// The first field that can be written in.
-void FormDialog::focus_first() {
-    bool is_done = false;
-    form_.for_each([&](Row& row) {
-        const auto* const entry = dynamic_cast<EntryRow*>(&row);
-        if (is_done || entry == nullptr || entry->is_read_only() || !row.is_enabled()) return;
-        widgets_.field(row).setFocus();
-        is_done = true;
-    });
+void FormDialog::keyPressEvent(QKeyEvent* event) {
+    const bool is_enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (enter_closes_ || !is_enter) QDialog::keyPressEvent(event); // else the field has done what there is
 }
 
 void FormDialog::setVisible(bool visible) {
     if (visible) place_.put();
     QDialog::setVisible(visible);
+    if (!enter_closes_) buttons_->button(QDialogButtonBox::Ok)->setDefault(false);
 }
 
 void FormDialog::accept() {

@@ -5,6 +5,7 @@
 #include "desktop/tool_window.h"
 
 #include <QDialog>
+#include <QDialogButtonBox>
 
 namespace wortlex {
 
@@ -13,6 +14,7 @@ struct DialogUse {
     std::size_t caption = 0;
     Opener opener = Opener::main;
     bool has_cancel = true;
+    bool enter_closes = true; ///< false in a calculator, where it only works out anew
 };
 
 /// Disables only its owner. OK and Cancel carry out the form's hooks.
@@ -27,12 +29,15 @@ public:
     void reject() override;
     void setVisible(bool visible) override;
 
-private:
-    void focus_first();
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
 
+private:
     Form& form_;
     FormWidgets widgets_;
     WindowPlace& place_;
+    QDialogButtonBox* buttons_;
+    bool enter_closes_;
 };
 
 /// Shows the form until it is closed; whether with OK.

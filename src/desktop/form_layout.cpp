@@ -1,3 +1,5 @@
+#include "desktop/captions.h"
+#include "desktop/fields.h"
 #include "desktop/form_widgets.h"
 #include "desktop/qt_text.h"
 
@@ -46,23 +48,30 @@ private:
         for (std::size_t column = 0; column < row.captions.size(); ++column)
             table->addWidget(new QLabel(string_of(row.captions[column]())), 0, static_cast<int>(column) + 1,
                              Qt::AlignHCenter);
-        for (const auto& line : row.lines) add_line(*table, *line);
+        for (const auto& line : row.lines) add_line(*table, row, *line);
         grid_.addLayout(table, grid_.rowCount(), 0, 1, 2);
     }
 
-    void add_line(QGridLayout& table, const GridRow::Line& line) const {
+    void add_line(QGridLayout& table, const GridRow& grid, const GridRow::Line& line) const {
         const int place = table.rowCount();
         auto* const label = new QLabel(string_of(line.label()));
         table.addWidget(label, place, 0);
         int column = 1;
         for (const auto& cell : line.cells.rows()) {
             auto& field = widgets_.field(*cell);
-            if (column == 1) label->setBuddy(&field);
+            if (column == 1) make_buddies(*label, field);
             if (auto* const words = qobject_cast<QLabel*>(&field)) words->setAlignment(Qt::AlignCenter);
             if (field.accessibleName().isEmpty())
-                field.setAccessibleName(label->text().remove(QLatin1Char('&')));
+                field.setAccessibleName(cell_name(*label, grid, static_cast<std::size_t>(column) - 1));
             table.addWidget(&field, place, column++);
         }
+    }
+
+    // Of its line and its column.
+    static QString cell_name(const QLabel& label, const GridRow& grid, std::size_t column) {
+        const auto line = spoken(label.text());
+        if (column >= grid.captions.size()) return line;
+        return line + QLatin1Char(' ') + spoken(string_of(grid.captions[column]()));
     }
 
     void add_field(Row& row) {

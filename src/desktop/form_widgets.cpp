@@ -1,5 +1,6 @@
 #include "desktop/form_widgets.h"
 
+#include "desktop/captions.h"
 #include "desktop/colours.h"
 #include "desktop/drawings.h"
 #include "desktop/fields.h"
@@ -20,11 +21,20 @@
 namespace wortlex {
 namespace {
 
-// What a screen reader says: the label without its mnemonic and colon.
-QString spoken(QString label) {
-    label.remove(QLatin1Char('&'));
-    if (label.endsWith(QLatin1Char(':'))) label.chop(1);
-    return label;
+// What may be typed stands below what it means.
+QString tip_of(const Row& row) {
+    auto tip = string_of(row.hint_text());
+    const auto* const entry = dynamic_cast<const EntryRow*>(&row);
+    const auto range = entry == nullptr ? QString() : string_of(entry->range_words());
+    if (!tip.isEmpty() && !range.isEmpty()) tip += QLatin1Char('\n');
+    return tip + range;
+}
+
+bool is_to_fill_in(const Row& row) {
+    if (!row.is_enabled() || !row.is_visible()) return false;
+    if (const auto* const entry = dynamic_cast<const EntryRow*>(&row)) return !entry->is_read_only();
+    return dynamic_cast<const ChoiceRow*>(&row) != nullptr ||
+           dynamic_cast<const CheckRow*>(&row) != nullptr || dynamic_cast<const ListRow*>(&row) != nullptr;
 }
 
 // A button's caption does not wrap by itself, so a sentence is broken at its blanks.
@@ -98,6 +108,14 @@ QLabel* FormWidgets::unit(const Row& row) const {
     return shown_.at(&row).unit;
 }
 
+QWidget* FormWidgets::first_field() const {
+    QWidget* first = nullptr;
+    form_.for_each([&](Row& row) {
+        if (first == nullptr && is_to_fill_in(row)) first = &field(row);
+    });
+    return first;
+}
+
 void FormWidgets::make(Row& row) {
     row.accept(*this);
     const auto found = shown_.find(&row);
@@ -111,7 +129,7 @@ FormWidgets::Shown& FormWidgets::keep(Row& row, QWidget& field, std::function<vo
 void FormWidgets::add_label(Shown& shown, const Row& row) {
     if (row.label_text().empty()) return;
     shown.label = new QLabel(&parent_);
-    shown.label->setBuddy(shown.field);
+    make_buddies(*shown.label, *shown.field);
 }
 
 void FormWidgets::add_unit(Shown& shown, const EntryRow& row) {
@@ -128,7 +146,12 @@ void FormWidgets::show_state(const Row& row, const Shown& shown) const {
     const auto text = string_of(row.label_text());
     if (shown.label != nullptr) shown.label->setText(text);
     if (!text.isEmpty()) shown.field->setAccessibleName(spoken(text));
-    shown.field->setToolTip(string_of(row.hint_text()));
+    const auto tip = tip_of(row);
+    if (auto* const button = qobject_cast<QPushButton*>(shown.field))
+        set_tip(*button, tip);
+    else
+        shown.field->setToolTip(tip);
+    shown.field->setAccessibleDescription(tip);
     shown.field->setEnabled(row.is_enabled());
     const bool visible = row.is_visible();
     if (shown.field->isVisibleTo(&parent_) != visible) shown.field->setVisible(visible);
@@ -159,6 +182,7 @@ void FormWidgets::visit(EntryRow& row) {
 void FormWidgets::make_page(EntryRow& row) {
     auto* const page = new Page(&parent_);
     page->setReadOnly(row.is_read_only());
+    if (row.is_read_only()) page->setFocusPolicy(Qt::ClickFocus);
     const auto field = std::make_shared<PageField>(*page);
     // The toolkit tells its own writes too; only those of the user reach the form.
     const auto writes = std::make_shared<bool>(false);
@@ -182,14 +206,16 @@ void FormWidgets::make_line(EntryRow& row) {
         line = &arrows->line();
         widget = arrows;
         field = std::make_shared<LineField>(*line);
-        arrows->stepped = [this, &row, field](Spin direction) {
+        arrows->stepped = [this, &row, field, arrows](Spin direction) {
             edit([&] { form_.spin(row, *field, direction); });
+            judge(row, *arrows, "");
         };
     } else {
         widget = line = new QLineEdit(&parent_);
         field = std::make_shared<LineField>(*line);
     }
     line->setReadOnly(row.is_read_only());
+    if (row.is_read_only()) widget->setFocusPolicy(Qt::ClickFocus); // to be copied, not to be passed through
     aim_at_width(*line, row,
                  widget == line ? 0 : 2 * widget->style()->pixelMetric(QStyle::PM_ScrollBarExtent));
     select_on_focus(*line);
@@ -198,15 +224,33 @@ void FormWidgets::make_line(EntryRow& row) {
             return field->set_text(row.text_when_disabled);
         row.show(*field);
     };
-    QObject::connect(line, &QLineEdit::textEdited, &alive_,
-                     [this, &row, field] { edit([&] { form_.type(row, *field); }); });
-    QObject::connect(line, &QLineEdit::editingFinished, &alive_, [this, show] {
-        show();
-        form_.leave();
+    QObject::connect(line, &QLineEdit::textEdited, &alive_, [this, &row, field, widget] {
+        edit([&] { form_.type(row, *field); });
+        judge(row, *widget, field->text());
     });
+    const auto leave = [this, &row, field, widget, show] {
+        show();
+        judge(row, *widget, "");
+        form_.leave();
+    };
+    // Enter in a field with arrows is told by the field alone.
+    if (auto* const arrows = qobject_cast<QAbstractSpinBox*>(widget))
+        QObject::connect(arrows, &QAbstractSpinBox::editingFinished, &alive_, leave);
+    else
+        QObject::connect(line, &QLineEdit::editingFinished, &alive_, leave);
     auto& shown = keep(row, *widget, std::move(show));
     add_label(shown, row);
     add_unit(shown, row);
+}
+
+// Says it at once where a typed number is out of range.
+void FormWidgets::judge(const EntryRow& row, QWidget& field, const std::string& text) {
+    if (row.is_outside(text)) {
+        if (hint_.isNull()) hint_ = new RangeHint(field.window());
+        hint_->tell(field, string_of(row.range_words()));
+    } else if (!hint_.isNull()) {
+        hint_->hide();
+    }
 }
 
 void FormWidgets::visit(ChoiceRow& row) {

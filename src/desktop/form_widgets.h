@@ -1,6 +1,7 @@
 // The one renderer of forms: a widget for each row, kept up to date.
 #pragma once
 
+#include "desktop/range_hint.h"
 #include "forms/form.h"
 #include "forms/places.h"
 
@@ -24,6 +25,9 @@ public:
     QLabel* label(const Row& row) const;
     /// What stands behind a field; none where the row has no unit.
     QLabel* unit(const Row& row) const;
+
+    /// The one to begin with: the first to be filled in; none where there is nothing but figures and buttons.
+    QWidget* first_field() const;
 
     /// Shows every row as it is now, but the one being typed in. Follows every edit and every button, every
     /// change that is told, and takes up colours that have changed.
@@ -58,6 +62,7 @@ private:
     void show_state(const Row& row, const Shown& shown) const;
     void make_page(EntryRow& row);
     void make_line(EntryRow& row);
+    void judge(const EntryRow& row, QWidget& field, const std::string& text);
     void make_drop_down(ChoiceRow& row);
     void make_buttons(ChoiceRow& row);
 
@@ -69,6 +74,7 @@ private:
         borne_;              ///< text and ground; none yet before the first refresh
     bool is_edited_ = false; ///< what is told meanwhile waits until the rows are shown again
     bool has_missed_ = false;
+    QPointer<RangeHint> hint_;
     Listening listening_;
     QObject alive_; ///< its end cuts every connection, before the fields that it served go
 };

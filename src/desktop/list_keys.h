@@ -7,6 +7,6 @@
 namespace wortlex {
 
 /// A disabled button stays as it is.
-void press_by_key(QWidget& list, const QKeySequence& key, const QWidget& button);
+void press_by_key(QWidget& list, const QKeySequence& key, QWidget& button);
 
 } // namespace wortlex

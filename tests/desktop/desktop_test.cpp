@@ -77,6 +77,44 @@ TEST(FormDialog, TypesAndSpinsWithRealKeysWhateverTheLocale) {
     EXPECT_EQ(std::pair(amount, line("amount")->text()), std::pair(70.0F, QStringLiteral("70.00")));
 }
 
+TEST(FormDialog, ACalculatorSelectsOnEntryAndShowsItsRangeWhileItIsLeft) {
+    Desk desk;
+    float size = 5, other = 1;
+    Form form;
+    form.rows().number("size", size).label("&Size").range(1, 100).step(0.5F).outside(Outside::clamp);
+    form.rows().number("other", other).label("&Other").range(1, 100).step(0.5F);
+    form.rows()
+        .shown_number(
+            "sum", [&] { return size + other; }, "%0.2f")
+        .label("Sum");
+    form.rows().button("press", "&Press && Go", [] {});
+    FormDialog dialog(form, {.template_name = "RECIPEDIALOG", .enter_closes = false}, desk.places, nullptr);
+    dialog.show();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&dialog));
+    const auto& widgets = dialog.widgets();
+    auto& line = *line_of(widgets.field("size"));
+    QTest::mouseClick(line_of(widgets.field("other")), Qt::LeftButton);
+    QTest::mouseClick(&line, Qt::LeftButton);
+    QCoreApplication::processEvents();
+    QTest::keyClicks(&widgets.field("size"), QStringLiteral("150"));
+    const auto* const hint = dialog.findChild<QWidget*>("range_hint");
+    ASSERT_NE(hint, nullptr);
+    EXPECT_TRUE(hint->isVisible());
+    EXPECT_EQ(std::pair(size, hint->accessibleName()), std::pair(100.0F, QStringLiteral("1 to 100")));
+    QTest::keyClick(&widgets.field("size"), Qt::Key_Return);
+    EXPECT_TRUE(dialog.isVisible() && !hint->isVisible()) << "worked out, and not closed";
+    EXPECT_EQ(line.text(), "100.00");
+    line.setCursorPosition(0);
+    QTest::keyClick(&dialog, Qt::Key_S, Qt::AltModifier);
+    EXPECT_EQ(line.selectedText(), "100.00") << "by the mnemonic of the field that has the focus";
+    EXPECT_EQ(widgets.field("size").toolTip(), "1 to 100");
+    EXPECT_EQ(widgets.field("press").toolTip(), "Press and Go (Alt+P)");
+    QTest::keyClick(&widgets.field("other"), Qt::Key_Tab);
+    EXPECT_FALSE(widgets.field("sum").hasFocus()) << "figures are passed by";
+    QTest::mouseClick(&widgets.field("sum"), Qt::LeftButton);
+    EXPECT_TRUE(widgets.field("sum").hasFocus()) << "but can be copied";
+}
+
 TEST(FormDialog, ShowsEveryKindOfRowAndItsState) {
     Desk desk;
     Text<12> name("Helles");

@@ -13,7 +13,8 @@ std::optional<float> degrade_hop(const WindowPorts& ports, QWidget* owner, HopUs
     Form form;
     hop_degradation_form(form, degradation, {.save_jpg = nullptr, .print = print, .help = nullptr});
     const bool accepted =
-        run_dialog(form, {.template_name = "HOPSHORTTIMEDIALOG", .opener = opener}, places(program), owner);
+        run_dialog(form, {.template_name = "HOPSHORTTIMEDIALOG", .opener = opener, .enter_closes = false},
+                   places(program), owner);
     keep_storage(degradation, work);
     remember_storage(work, program.hop_memory);
     return accepted ? std::optional(degradation.adjusted_alpha) : std::nullopt;

@@ -15,8 +15,8 @@ public:
     IbuCalculatorWindow(const WindowPorts& ports, QWidget* owner, const HopUse& hop)
         : ports_(ports), hop_(hop), settings_(ports.program.settings),
           calculator_(start_calculator(hop, ports.program.hop_memory, settings_)), form_(made_form()),
-          dialog_(form_, {.template_name = template_name(), .has_cancel = false}, places(ports.program),
-                  owner) {}
+          dialog_(form_, {.template_name = template_name(), .has_cancel = false, .enter_closes = false},
+                  places(ports.program), owner) {}
 
     void run() {
         dialog_.exec();

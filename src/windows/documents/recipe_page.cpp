@@ -1,14 +1,26 @@
 #include "windows/documents/recipe_page.h"
 
+#include "desktop/captions.h"
 #include "desktop/list_keys.h"
 
+#include <QAbstractSpinBox>
 #include <QDialogButtonBox>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QKeyEvent>
+#include <QLineEdit>
 #include <QPushButton>
 
 namespace wortlex {
+namespace {
+
+bool is_typed_in(const QWidget* field) {
+    const auto* const line = qobject_cast<const QLineEdit*>(field);
+    return (line != nullptr && !line->isReadOnly()) ||
+           qobject_cast<const QAbstractSpinBox*>(field) != nullptr;
+}
+
+} // namespace
 
 RecipePage::RecipePage(RecipeEditor& editor, RecipePageUse use, const Places& places, QWidget* origin)
     : ToolWindow(window_info(use.template_name), 0, use.opener, origin, places), editor_(editor),
@@ -33,6 +45,9 @@ void RecipePage::lay_out_rows() {
     buttons->button(QDialogButtonBox::Ok)->setAutoDefault(false);
     bottom->addWidget(buttons);
     layout->addLayout(bottom);
+    set_tips(*buttons, true);
+    auto* const first = widgets_.first_field();
+    (first != nullptr ? first : buttons->button(QDialogButtonBox::Ok))->setFocus();
     connect(buttons, &QDialogButtonBox::accepted, this, [this] { accept(); });
     connect(buttons, &QDialogButtonBox::rejected, this, &QWidget::close);
 }
@@ -59,10 +74,19 @@ bool RecipePage::may_close() {
 }
 
 void RecipePage::keyPressEvent(QKeyEvent* event) {
-    if (event->matches(QKeySequence::Cancel))
+    if (event->matches(QKeySequence::Cancel)) {
         close();
-    else
+    } else if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+        press_enter();
+    } else {
         ToolWindow::keyPressEvent(event);
+    }
+}
+
+// A button that has the focus is pressed, a field keeps Enter to itself.
+void RecipePage::press_enter() {
+    if (auto* const button = qobject_cast<QPushButton*>(focusWidget())) return button->click();
+    if (!is_typed_in(focusWidget())) accept();
 }
 
 QLayout* arrange_extras(const FormWidgets& widgets) {

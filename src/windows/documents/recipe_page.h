@@ -32,6 +32,7 @@ private:
     Form made_form();
     void lay_out_rows();
     void accept();
+    void press_enter();
 
     RecipeEditor& editor_;
     RecipePageUse use_;

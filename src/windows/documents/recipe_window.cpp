@@ -16,6 +16,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QScreen>
+#include <QShortcut>
 
 namespace wortlex {
 namespace {
@@ -233,8 +234,22 @@ void RecipeWindow::show_colour() {
 }
 
 void RecipeWindow::show_page(QPointer<RecipePage>& page, RecipePageUse use) {
-    if (page.isNull()) page = new RecipePage(editor_, std::move(use), places(program_), this);
+    if (page.isNull()) {
+        page = new RecipePage(editor_, std::move(use), places(program_), this);
+        add_keys(*page);
+    }
     bring_forward(*page);
+}
+
+// A page works on the recipe too, so it takes the keys of the recipe's menu.
+void RecipeWindow::add_keys(RecipePage& page) {
+    const auto add = [&](QKeySequence::StandardKey key, const std::function<void()>& action) {
+        for (const auto& sequence : QKeySequence::keyBindings(key))
+            connect(new QShortcut(sequence, &page), &QShortcut::activated, this, action);
+    };
+    add(QKeySequence::Save, [this] { save_recipe(SaveAs::no); });
+    add(QKeySequence::Undo, [this] { travel(undo); });
+    add(QKeySequence::Redo, [this] { travel(redo); });
 }
 
 void RecipeWindow::show_yeast_and_water() {

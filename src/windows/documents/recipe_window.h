@@ -53,6 +53,7 @@ private:
     void keep_work();
 
     void show_colour();
+    void add_keys(RecipePage& page);
     void show_page(QPointer<RecipePage>& page, RecipePageUse use);
     void show_yeast_and_water();
     void show_extras();

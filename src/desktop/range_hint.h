@@ -1,0 +1,28 @@
+// What is said about a number out of its range, while it is typed.
+#pragma once
+
+#include <QPointer>
+#include <QWidget>
+
+namespace wortlex {
+
+/// A frame around a field and its range below, in the colours of a warning. It lies over the window, so that
+/// nothing moves, and goes with the focus.
+class RangeHint : public QWidget {
+public:
+    explicit RangeHint(QWidget* window);
+    void tell(QWidget& field, const QString& range);
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    void place();
+
+    QPointer<QWidget> field_;
+    QString range_;
+    QRect frame_, words_; ///< in the window
+};
+
+} // namespace wortlex
