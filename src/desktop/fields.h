@@ -20,6 +20,7 @@ public:
     void set_text(const std::string& text) override;
     int caret() const override { return edit_.cursorPosition(); }
     void set_caret(int position) override { edit_.setCursorPosition(position); }
+    void select_all() { edit_.selectAll(); }
 
 private:
     QLineEdit& edit_;

@@ -232,6 +232,7 @@ void FormWidgets::make_line(EntryRow& row) {
         show();
         judge(row, *widget, "");
         form_.leave();
+        if (widget->hasFocus()) field->select_all(); // after Enter: what is typed next is another number
     };
     // Enter in a field with arrows is told by the field alone.
     if (auto* const arrows = qobject_cast<QAbstractSpinBox*>(widget))

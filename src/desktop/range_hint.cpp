@@ -62,7 +62,11 @@ void RangeHint::place() {
     words_.moveTopLeft(frame_.bottomLeft());
     if (words_.bottom() > window.bottom()) words_.moveBottom(frame_.top());
     if (words_.right() > window.right()) words_.moveRight(window.right());
-    setGeometry(frame_.united(words_));
+    const auto all = frame_.united(words_);
+    setGeometry(all);
+    const QRegion inside(frame_.adjusted(thickness, thickness, -thickness, -thickness));
+    setMask(
+        (QRegion(frame_).subtracted(inside) + words_).translated(-all.topLeft())); // the field stays in sight
 }
 
 void RangeHint::paintEvent(QPaintEvent*) {
