@@ -10,10 +10,11 @@ namespace {
 
 constexpr std::string_view gaps = " \t\r";
 
+// The next line that is not blank.
 std::string_view take_line(std::string_view& text) {
-    const auto end = std::min(text.find('\n'), text.size());
-    const auto line = text.substr(0, end);
-    text.remove_prefix(std::min(end + 1, text.size()));
+    text.remove_prefix(std::min(text.find_first_not_of(" \t\r\n"), text.size()));
+    const auto line = text.substr(0, text.find('\n'));
+    text.remove_prefix(line.size());
     return line;
 }
 

@@ -116,7 +116,8 @@ TEST(ColorUtility, LoadsTextAsFarAsItGoes) {
     Desk desk;
     std::string whole, after = "0.25\t1\t2\t3\t4\textra\r\n";
     for (int row = 0; row < 400; ++row)
-        whole += fixed(row / 10.0, 1) + "\t" + std::to_string(row) + " 2 3 4\n";
+        whole += fixed(row / 10.0, 1) + "\t" + std::to_string(row) + " 2 3 4\n" +
+                 (row % 100 == 0 ? "\r\n \t\n" : "");
     ScriptedFiles files({desk.save_text("whole.txt", whole),
                          desk.save_text("cut.txt", after + "1.5 7 7,5 7 7\n" + after),
                          desk.folder / "absent.txt"});
