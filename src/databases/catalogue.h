@@ -154,6 +154,8 @@ struct Catalogue {
 
     /// Whether an imported record is one that is there already.
     std::function<bool(const Record&, const Record&)> is_same;
+    /// Which of several such is meant rather; empty: the first.
+    std::function<bool(const Record&, const Record&)> is_closer = nullptr;
     /// Carries what a replacement keeps into the imported record.
     std::function<void(Record& imported, const Record& existing)> keep;
     /// The two names of an entry in questions: on replacing, and on deleting.

@@ -185,6 +185,7 @@ Catalogue<HopRecord> hop_catalogue(const Settings& settings, const std::string& 
     hops.is_same = [](const HopRecord& a, const HopRecord& b) {
         return a.name == b.name && a.origin == b.origin;
     };
+    hops.is_closer = [](const HopRecord& a, const HopRecord& b) { return form(a) == form(b); };
     hops.keep = [](HopRecord& imported, const HopRecord& existing) {
         imported.stock = existing.stock;
         imported.alpha = existing.alpha;

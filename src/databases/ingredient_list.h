@@ -66,7 +66,7 @@ public:
 
     /// Null where there is nothing to edit, or no room for more, which is told.
     virtual std::unique_ptr<EntryForm> new_entry(Prompts& prompts) = 0;
-    virtual std::unique_ptr<EntryForm> edit_entry() = 0;
+    virtual std::unique_ptr<EntryForm> edit_entry(Prompts& prompts) = 0;
     virtual std::unique_ptr<EntryForm> inventory(Prompts& prompts) = 0;
     virtual void clone_entry(Prompts& prompts) = 0;
     virtual void delete_entry(Prompts& prompts) = 0;

@@ -13,6 +13,9 @@ inline constexpr std::string_view data_imported = "Data Successfully Imported!";
 inline constexpr std::string_view not_saved =
     "The database could not be saved. Is the disk full, or the folder "
     "read-only?";
+inline constexpr std::string_view no_backup = "Nothing was imported, as the database could not be copied "
+                                              "before. Is the disk full, or the folder read-only?";
+inline constexpr std::string_view nameless = "An entry needs a name.";
 inline constexpr std::string_view set_to_zero =
     "You are about to set the inventory amount for this item to Zero.\n\nDo you really want to do this?\n";
 

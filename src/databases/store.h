@@ -2,6 +2,7 @@
 // imported.
 #pragma once
 
+#include "databases/backup.h"
 #include "databases/import.h"
 #include "databases/ingredient_list.h"
 #include "databases/inventory.h"
@@ -52,7 +53,7 @@ public:
     void click(std::size_t column) override;
 
     std::unique_ptr<EntryForm> new_entry(Prompts& prompts) override;
-    std::unique_ptr<EntryForm> edit_entry() override;
+    std::unique_ptr<EntryForm> edit_entry(Prompts& prompts) override;
     std::unique_ptr<EntryForm> inventory(Prompts& prompts) override;
     void clone_entry(Prompts& prompts) override;
     void delete_entry(Prompts& prompts) override;
@@ -86,11 +87,12 @@ protected:
 
 private:
     std::optional<std::size_t> selected_entry() const;
+    std::size_t first_like(std::size_t entry) const;
     bool passes(const Record& record) const;
     void fill();
     void append(const Record& record);
     bool has_room(Prompts& prompts) const;
-    std::unique_ptr<EntryForm> form_on(std::shared_ptr<Record> copy, std::string_view dialog_template,
+    std::unique_ptr<EntryForm> form_on(std::shared_ptr<Record> copy, Prompts& prompts,
                                        std::function<void(const Record&)> store) const;
     std::vector<std::string> printed_row(const Record& record) const;
     std::function<void()> print_action(const std::shared_ptr<Record>& copy) const;
@@ -106,13 +108,15 @@ private:
         bool all = false; ///< every question is answered
         bool cancelled = false;
     };
+    typename std::span<Record>::iterator find_existing(const Record& record);
     void merge(Record record, Merge& merge, Prompts& prompts);
     void finish_import(const Merge& merge, Prompts& prompts);
 
     ListSource source_;
     Database<Record> saved_;
     SortState sort_;
-    std::vector<std::size_t> shown_; ///< the entries in the list, row by row
+    std::vector<std::size_t> shown_;    ///< the entries in the list, row by row
+    std::optional<std::size_t> cloned_; ///< the copy made last: it is meant itself as long as the rows stand
 };
 
 template <class Record>
@@ -172,6 +176,7 @@ void Store<Record>::fill() {
     for (std::size_t i = 0; i < entries().size(); ++i)
         if (passes(database_.slots[i])) shown_.push_back(i);
     selected = shown_.empty() ? -1 : 0;
+    cloned_.reset();
 }
 
 template <class Record>
@@ -205,7 +210,13 @@ void Store<Record>::show_again() {
 template <class Record>
 std::optional<std::size_t> Store<Record>::selected_entry() const {
     if (selected < 0 || static_cast<std::size_t>(selected) >= shown_.size()) return std::nullopt;
-    const auto& wanted = database_.slots[shown_[static_cast<std::size_t>(selected)]];
+    const auto entry = shown_[static_cast<std::size_t>(selected)];
+    return entry == cloned_ ? entry : first_like(entry);
+}
+
+template <class Record>
+std::size_t Store<Record>::first_like(std::size_t entry) const {
+    const auto& wanted = database_.slots[entry];
     const auto reads_the_same = [&](const Record& record) {
         return std::all_of(catalogue_.identity.begin(), catalogue_.identity.end(), [&](std::size_t column) {
             const auto& cell = catalogue_.columns[column].cell;
@@ -225,16 +236,20 @@ std::optional<Record> Store<Record>::selected_record() const {
 }
 
 template <class Record>
-std::unique_ptr<EntryForm> Store<Record>::form_on(std::shared_ptr<Record> copy,
-                                                  std::string_view dialog_template,
+std::unique_ptr<EntryForm> Store<Record>::form_on(std::shared_ptr<Record> copy, Prompts& prompts,
                                                   std::function<void(const Record&)> store) const {
     auto entry = std::make_unique<EntryForm>();
-    entry->dialog_template = dialog_template;
+    entry->dialog_template = catalogue_.words.entry_template;
     entry->caption = catalogue_.entry_caption;
     catalogue_.entry_form(entry->form, *copy);
     auto& buttons = entry->form.group();
     buttons.button("print", "Print", print_action(copy));
     buttons.button("help", "Help", nullptr);
+    entry->form.accept_if([copy, &prompts] {
+        const bool has_name = copy->name.view().find_first_not_of(' ') != std::string_view::npos;
+        if (!has_name) prompts.tell({.text = nameless, .icon = Icon::warning});
+        return has_name;
+    });
     entry->form.on_accept([copy, store = std::move(store)] { store(*copy); });
     return entry;
 }
@@ -286,15 +301,15 @@ void Store<Record>::append(const Record& record) {
 template <class Record>
 std::unique_ptr<EntryForm> Store<Record>::new_entry(Prompts& prompts) {
     if (!has_room(prompts)) return nullptr;
-    return form_on(std::make_shared<Record>(catalogue_.new_record(static_cast<std::size_t>(filter))),
-                   catalogue_.words.entry_template, [this](const Record& record) { append(record); });
+    return form_on(std::make_shared<Record>(catalogue_.new_record(static_cast<std::size_t>(filter))), prompts,
+                   [this](const Record& record) { append(record); });
 }
 
 template <class Record>
-std::unique_ptr<EntryForm> Store<Record>::edit_entry() {
+std::unique_ptr<EntryForm> Store<Record>::edit_entry(Prompts& prompts) {
     const auto index = selected_entry();
     if (!index) return nullptr;
-    return form_on(std::make_shared<Record>(database_.slots[*index]), catalogue_.words.entry_template,
+    return form_on(std::make_shared<Record>(database_.slots[*index]), prompts,
                    [this, place = *index](const Record& record) { database_.slots[place] = record; });
 }
 
@@ -327,6 +342,7 @@ void Store<Record>::clone_entry(Prompts& prompts) {
     if (prompts.ask_yes_no({.text = catalogue_.words.clone_warning, .icon = Icon::warning}) != Answer::yes)
         return;
     append(Record(database_.slots[*index]));
+    cloned_ = shown_.back();
 }
 
 template <class Record>
@@ -342,6 +358,7 @@ void Store<Record>::delete_entry(Prompts& prompts) {
     // The last entry stays behind in the slot that has become free; the one behind that is cleared.
     if (all.size() < database_.slots.size()) database_.slots[all.size()] = {};
     --database_.count;
+    cloned_.reset();
     std::erase(shown_, *index);
     for (auto& row : shown_)
         if (row > *index) --row;
@@ -370,20 +387,38 @@ void Store<Record>::import_bytes(ByteView file, const std::string& name, Prompts
         std::erase_if(records, [](const Record& record) { return !looks_like_a_record(record); });
     if (records.empty()) return prompts.tell({.text = nothing_to_import(name), .icon = Icon::error});
     sort_canonically<Record>(entries(), catalogue_);
+    const auto before = database_;
     Merge merge;
     for (auto& record : records) {
         this->merge(std::move(record), merge, prompts);
         if (merge.cancelled) return show_again();
     }
+    if (merge.changed > 0 && !keep_backup(data_path())) {
+        database_ = before;
+        prompts.tell({.text = no_backup, .icon = Icon::error});
+        return show_again();
+    }
     if (unreadable > 0) prompts.tell({.text = left_out_unreadable(unreadable), .icon = Icon::warning});
     finish_import(merge, prompts);
+}
+
+// The entry that an imported record replaces; of several the closest.
+template <class Record>
+typename std::span<Record>::iterator Store<Record>::find_existing(const Record& record) {
+    const auto all = entries();
+    const auto is_same = [&](const Record& there) { return catalogue_.is_same(there, record); };
+    const auto first = std::find_if(all.begin(), all.end(), is_same);
+    if (!catalogue_.is_closer) return first;
+    const auto closest = std::find_if(first, all.end(), [&](const Record& there) {
+        return is_same(there) && catalogue_.is_closer(there, record);
+    });
+    return closest == all.end() ? first : closest;
 }
 
 template <class Record>
 void Store<Record>::merge(Record record, Merge& merge, Prompts& prompts) {
     const auto all = entries();
-    const auto found = std::find_if(all.begin(), all.end(),
-                                    [&](const Record& there) { return catalogue_.is_same(there, record); });
+    const auto found = find_existing(record);
     if (found == all.end()) {
         if (database_.count >= import_limit) {
             ++merge.left_out;
@@ -413,10 +448,7 @@ void Store<Record>::finish_import(const Merge& merge, Prompts& prompts) {
         const auto text = database_full(catalogue_.words.full, merge.left_out);
         prompts.tell({.text = text, .icon = Icon::warning});
     }
-    if (merge.changed > 0) {
-        if (const auto old = read_file(data_path())) save_atomically(data_path() + ".bak", *old);
-        if (write(prompts)) prompts.tell({.text = data_imported, .icon = Icon::information});
-    }
+    if (merge.changed > 0 && write(prompts)) prompts.tell({.text = data_imported, .icon = Icon::information});
     show_again();
 }
 

@@ -44,6 +44,7 @@ CatalogueFilter<StyleRecord> set_of(StyleBook book, std::string label) {
 
 StyleRecord new_style(std::size_t /*filter*/) {
     StyleRecord style;
+    style.number = 1;
     style.min_og = 1.020F;
     style.max_og = 1.030F;
     style.min_fg = 1.010F;

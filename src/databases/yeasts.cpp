@@ -169,6 +169,9 @@ Catalogue<YeastRecord> yeast_catalogue(const Settings& /*settings*/, const std::
     yeasts.is_same = [](const YeastRecord& a, const YeastRecord& b) {
         return a.name == b.name && a.lab == b.lab && a.catalog_number == b.catalog_number;
     };
+    yeasts.is_closer = [](const YeastRecord& a, const YeastRecord& b) {
+        return a.yeast_medium == b.yeast_medium;
+    };
     yeasts.keep = [](YeastRecord& imported, const YeastRecord& existing) { imported.stock = existing.stock; };
     yeasts.exists_text = [](const YeastRecord& yeast) {
         return lab_and_name(yeast) + "\nThis Yeast type already exists in the database!";

@@ -41,8 +41,7 @@ void FormDialog::setVisible(bool visible) {
 }
 
 void FormDialog::accept() {
-    form_.accept();
-    QDialog::accept();
+    if (form_.accept()) QDialog::accept();
 }
 
 void FormDialog::reject() {

@@ -158,12 +158,14 @@ void Form::leave() const {
 }
 
 // What was edited may have come to lie beyond a range that changed after it.
-void Form::accept() const {
+bool Form::accept() const {
+    if (may_accept_ && !may_accept_()) return false;
     for_each([](Row& row) {
         const auto* const entry = dynamic_cast<EntryRow*>(&row);
         if (entry != nullptr && entry->edited && entry->is_enabled()) entry->hold();
     });
     for (const auto& hook : accept_hooks_) hook();
+    return true;
 }
 
 void Form::cancel() const {

@@ -115,6 +115,8 @@ public:
     void after_edit(std::function<void(Row&)> hook) { edit_hooks_.push_back(std::move(hook)); }
     /// Called as the user leaves a field: what he typed there is then one edit, and done.
     void on_leave(std::function<void()> hook) { leave_hooks_.push_back(std::move(hook)); }
+    /// Asked before anything is accepted; false keeps the form open, and whoever says so tells why.
+    void accept_if(std::function<bool()> allowed) { may_accept_ = std::move(allowed); }
     void on_accept(std::function<void()> hook) { accept_hooks_.push_back(std::move(hook)); }
     void on_cancel(std::function<void()> hook) { cancel_hooks_.push_back(std::move(hook)); }
 
@@ -137,7 +139,8 @@ public:
     void select(ListRow& row, std::int32_t index) const;
     void leave() const;
 
-    void accept() const;
+    /// False: it was refused, and nothing has happened.
+    bool accept() const;
     void cancel() const;
 
     /// Every row in order, those of grids included.
@@ -156,6 +159,7 @@ private:
     bool column_is_due_ = false;
     std::vector<std::function<void(Row&)>> edit_hooks_;
     std::vector<std::function<void()>> leave_hooks_;
+    std::function<bool()> may_accept_;
     std::vector<std::function<void()>> accept_hooks_;
     std::vector<std::function<void()>> cancel_hooks_;
 };

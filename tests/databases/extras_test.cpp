@@ -24,7 +24,12 @@ TEST(ExtraList, NamesItsKindsAndSortsByThem) {
         EXPECT_EQ(each.column(0) + each.column(1), word + "|" + word + "|");
         EXPECT_NE(each->caption().find(word), std::string::npos) << each->caption();
     }
-    each->new_entry(each.prompts)->form.accept();
+    const auto entry = each->new_entry(each.prompts);
+    each.prompts.expect_tell("An entry needs a name.", Icon::warning);
+    EXPECT_FALSE(entry->form.accept());
+    PlainField field("Rose");
+    entry->form.type(dynamic_cast<EntryRow&>(entry->form.row("name")), field);
+    EXPECT_TRUE(entry->form.accept());
     EXPECT_EQ(each.column(1), "Herb|Other|") << "whatever the list shows";
 
     auto strange = extra("c", static_cast<ExtraType>(9), "All");

@@ -47,7 +47,8 @@ std::string lines_of(const PrintRequest& request) {
 std::string entry_of(IngredientList& list, const char* typed_in = nullptr, const char* text = "") {
     std::string lines;
     list.print = [&lines](const PrintRequest& request) { lines = lines_of(request); };
-    const auto entry = list.edit_entry();
+    ScriptedPrompts prompts;
+    const auto entry = list.edit_entry(prompts);
     PlainField field(text);
     if (typed_in != nullptr) entry->form.type(dynamic_cast<EntryRow&>(entry->form.row(typed_in)), field);
     dynamic_cast<ButtonRow&>(entry->form.row("print")).press();

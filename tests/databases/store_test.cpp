@@ -23,6 +23,10 @@ constexpr std::string_view clone_warning =
     "Origin, Alpha or Form is not changed to reflect a unique entry. You may change any of these items after "
     "the cloning process.\n\nDo you really want to clone this entry?";
 
+constexpr std::string_view replace_warning =
+    "Replacing the item will NOT overwrite your existing inventory amounts or Alpha/Beta acid "
+    "levels.\n\nDo you wish to replace this item?";
+
 struct Hops : Listed<HopRecord> {
     explicit Hops(const std::vector<HopRecord>& entries) : Listed(SaveHops, hop_list, entries, american()) {}
     static Settings american() {
@@ -82,6 +86,12 @@ TEST(Store, AddsClonesAndDeletes) {
     EXPECT_EQ(std::pair(form(hops.database.slots[1]), hops->selected), std::pair(HopForm::pellet, 1));
     hops.prompts.expect("yes/no", std::string(clone_warning), Answer::yes, Icon::warning);
     hops->clone_entry(hops.prompts);
+    entry = hops->edit_entry(hops.prompts);
+    field.content = "4.5";
+    entry->form.type(dynamic_cast<EntryRow&>(entry->form.row("alpha")), field);
+    entry->form.accept();
+    EXPECT_EQ(std::pair(hops.database.slots[1].alpha, hops.database.slots[2].alpha), std::pair(0.0F, 4.5F))
+        << "the copy was selected and is meant, though both read the same";
     hops.prompts.expect("yes/no", "Do you really want to delete the\n\nAdmiral\n\nentry?", Answer::yes,
                         Icon::question);
     hops->delete_entry(hops.prompts);
@@ -101,7 +111,7 @@ TEST(Store, AddsClonesAndDeletes) {
 
 TEST(Store, EmptyDatabaseDoesNoHarm) {
     Hops hops({});
-    EXPECT_EQ(hops->edit_entry(), nullptr);
+    EXPECT_EQ(hops->edit_entry(hops.prompts), nullptr);
     EXPECT_EQ(hops->inventory(hops.prompts), nullptr);
     hops->delete_entry(hops.prompts);
     hops.prompts.expect_tell("There is no entry selected to clone!", Icon::information);
@@ -153,8 +163,7 @@ TEST(StoreImport, ReplacesKeepsAndAppends) {
     const auto path = hops.transfer({saaz, fresh, hop("Cut", "off", 1)}, hop_layout, 1);
     const auto expect_question = [&](ReplaceAnswer answer) {
         hops.prompts.expect("replace", "Saaz\nThis Hop type already exists in the database!", answer, {},
-                            "Replacing the item will NOT overwrite your existing inventory amounts or "
-                            "Alpha/Beta acid levels.\n\nDo you wish to replace this item?");
+                            std::string(replace_warning));
     };
     const auto before = hops.file();
     expect_question(ReplaceAnswer::cancel);
@@ -171,6 +180,34 @@ TEST(StoreImport, ReplacesKeepsAndAppends) {
     EXPECT_EQ(hops.database.slots[0].stock, 0.0F) << "what is new comes without stock";
     EXPECT_EQ(*read_file(hops.folder / "HOPS.DAT.bak"), before);
     EXPECT_TRUE(hops->close(hops.prompts)) << "saved already";
+}
+
+TEST(StoreImport, TellsFormsApartAndStopsWithoutABackup) {
+    Hops hops({hop("Saaz", "CZ", 3, HopForm::pellet), hop("Saaz", "CZ", 4)});
+    const auto import_all = [&](std::string_view name) {
+        auto whole = hop("Saaz", "CZ", 4), pellet = hop("Saaz", "CZ", 3, HopForm::pellet);
+        whole.tastes.assign(name);
+        hops.prompts.expect("replace", "Saaz\nThis Hop type already exists in the database!",
+                            ReplaceAnswer::yes_to_all, {}, std::string(replace_warning));
+        return hops.transfer({whole, pellet}, hop_layout);
+    };
+    for (const auto* const time : {"first", "second", "third", "fourth"}) {
+        const auto path = import_all(time);
+        hops.prompts.expect_tell("Data Successfully Imported!", Icon::information);
+        hops->import_file(path, hops.prompts);
+        EXPECT_EQ(hops.column(5), "Pellet|Whole|") << "each replaced itself";
+    }
+    const auto last = hops.file();
+    const auto tastes_in = [&](const char* file) {
+        return std::string(1, static_cast<char>((*read_file(hops.folder / file)).at(4 + 614 + 86)));
+    };
+    EXPECT_EQ(tastes_in("HOPS.DAT.bak") + tastes_in("HOPS.DAT.bak2") + tastes_in("HOPS.DAT.bak3"), "tsf");
+    std::filesystem::create_directory(hops.folder / "HOPS.DAT.bak0");
+    const auto path = import_all("fifth");
+    hops.prompts.expect_tell(std::string(no_backup), Icon::error);
+    hops->import_file(path, hops.prompts);
+    EXPECT_TRUE(hops->close(hops.prompts)) << "nothing has changed";
+    EXPECT_EQ(hops.file(), last);
 }
 
 TEST(StoreImport, RefusesWhatIsNoDatabaseAndStopsAtTheLimit) {

@@ -58,9 +58,9 @@ std::string column_of(const IngredientList& list, std::size_t which) {
     return cells;
 }
 
-void rename_first(IngredientList& list) {
+void rename_first(IngredientList& list, Prompts& prompts) {
     list.selected = 0;
-    const auto entry = list.edit_entry();
+    const auto entry = list.edit_entry(prompts);
     PlainField field("Renamed");
     entry->form.type(dynamic_cast<EntryRow&>(entry->form.row("name")), field);
     entry->form.accept();
@@ -81,13 +81,13 @@ TEST(StyleList, NumbersAndSorts) {
 TEST(StyleList, SwitchesTheSetInForce) {
     Styles styles;
     const auto list = styles.open(ListSide::maintenance);
-    rename_first(*list);
+    rename_first(*list, styles.prompts);
     styles.expect_switch("AHA", Answer::no);
     list->choose_filter(1, styles.prompts);
     EXPECT_EQ(styles.settings.style_book, StyleBook::bjcp);
     EXPECT_EQ(list->heads()[0].caption() + column_of(*list, 3), "BJCP\n#Sake|Cider|");
-    EXPECT_EQ(list->edit_entry()->caption, 1U);
-    rename_first(*list);
+    EXPECT_EQ(list->edit_entry(styles.prompts)->caption, 1U);
+    rename_first(*list, styles.prompts);
     styles.expect_switch("BJCP", Answer::yes);
     list->choose_filter(0, styles.prompts);
     EXPECT_EQ(column_of(*list, 2), "Other|Helles|Dry Stout|") << "No dropped the change";
@@ -103,7 +103,7 @@ TEST(StyleList, WarnsBeforeItSaves) {
     const auto list = styles.open(ListSide::maintenance);
     styles.prompts.expect_tell("No changes have been made in the Styles Database!", Icon::information);
     list->save(styles.prompts);
-    rename_first(*list);
+    rename_first(*list, styles.prompts);
     styles.expect_question(
         "Guidelines Database!\nThese guidelines adhere to the pre-2000 AHA guidelines and changing "
         "them may affect validity.\nAre you sure you want to save the changes?",

@@ -45,7 +45,10 @@ TEST(YeastList, SortsByItsWordsAndTellsMediaApart) {
                   "replace this item?");
     EXPECT_EQ(yeasts->shown_count(), 4U) << "for an import the medium is no difference";
     yeasts.database.count = 998;
-    yeasts->new_entry(yeasts.prompts)->form.accept();
+    const auto entry = yeasts->new_entry(yeasts.prompts);
+    PlainField field("d");
+    entry->form.type(dynamic_cast<EntryRow&>(entry->form.row("name")), field);
+    entry->form.accept();
     EXPECT_EQ(yeasts.database.count, 999) << "there is room beyond the limit of the hops";
 }
 

@@ -70,7 +70,7 @@ void ListWindow::list_row(Rows& rows) {
         .colours(ColorArea::pick_lists)
         .selection(list_.selected)
         .header_clicked([this](std::size_t column) { change([&] { list_.click(column); }); })
-        .activated([this] { picked_ ? pick() : run(list_.edit_entry()); });
+        .activated([this] { picked_ ? pick() : run(list_.edit_entry(ports_.prompts)); });
 }
 
 void ListWindow::edit_buttons(Rows& rows) {
@@ -79,7 +79,7 @@ void ListWindow::edit_buttons(Rows& rows) {
         rows.button("clone", "&Clone", [this] { change([this] { list_.clone_entry(ports_.prompts); }); });
     rows.button("import", "&Import",
                 [this] { change([this] { list_.import(ports_.files, ports_.prompts); }); });
-    rows.button("edit", "&Edit", [this] { run(list_.edit_entry()); });
+    rows.button("edit", "&Edit", [this] { run(list_.edit_entry(ports_.prompts)); });
     rows.button("delete", "&Delete", [this] { change([this] { list_.delete_entry(ports_.prompts); }); });
     if (list_.has_stock())
         rows.button("inventory", "In&ventory", [this] { run(list_.inventory(ports_.prompts)); });
