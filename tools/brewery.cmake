@@ -2,6 +2,7 @@
 set(brewery ${PROJECT_BINARY_DIR}/brewery)
 file(GLOB_RECURSE brewery_sources CONFIGURE_DEPENDS
     ${PROJECT_SOURCE_DIR}/data/databases/*.csv
+    ${PROJECT_SOURCE_DIR}/data/databases/*.txt
     ${PROJECT_SOURCE_DIR}/data/samples/*.txt
     ${PROJECT_SOURCE_DIR}/data/artwork/*.svg)
 add_custom_command(OUTPUT ${brewery}.made

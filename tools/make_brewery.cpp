@@ -2,6 +2,7 @@
 // left as it is, so it can be run again over a brewer's own folder.
 #include "base/files.h"
 #include "brewing/beer_colour.h"
+#include "databases/find.h"
 #include "records/documents/document_files.h"
 #include "records/water/water_needs.h"
 #include "sample_sources.h"
@@ -69,6 +70,13 @@ void make_databases(const std::string& folder, const Databases& databases) {
     make_file(folder, "STYLES.BJCP", [&] { return SaveStyles(folder, true, databases.bjcp_styles); });
 }
 
+void copy_other_names(const std::string& source, const std::string& folder) {
+    const auto text = read_file(source);
+    if (!text) throw SourceFault(source + ": cannot be read");
+    make_file(folder, other_names_file,
+              [&] { return save_atomically(folder + std::string(other_names_file), *text); });
+}
+
 void make_sample(const std::string& folder, const Sample& sample) {
     const bool is_session = sample.kind == DocumentKind::session;
     const auto place =
@@ -91,6 +99,7 @@ void make_brewery(const std::string& data, const std::string& target) {
         make_folder(target + std::string(default_sub_folder(static_cast<FolderKind>(i))));
     make_system_files(target, image);
     make_databases(target, databases);
+    copy_other_names(data + "databases/other_names.txt", target);
     for (const auto& sample : samples) make_sample(target, sample);
 }
 

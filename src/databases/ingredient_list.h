@@ -51,6 +51,8 @@ public:
     virtual std::string caption() const = 0;
     virtual std::string_view dialog_template() const = 0;
 
+    virtual SortMark sort_mark() const = 0;
+
     virtual std::size_t shown_count() const = 0;
     virtual std::string cell(std::size_t row, std::size_t column) const = 0;
 

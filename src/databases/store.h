@@ -43,6 +43,9 @@ public:
     std::string_view import_extension() const override { return catalogue_.words.import_extension; }
     std::string caption() const override;
     std::string_view dialog_template() const override;
+    SortMark sort_mark() const override {
+        return {sort_.column, sort_.descending[sort_.column] == 0}; // the flag is that of the next click
+    }
     std::size_t shown_count() const override { return shown_.size(); }
     std::string cell(std::size_t row, std::size_t column) const override {
         return catalogue_.columns[column].cell(database_.slots[shown_[row]]);
@@ -114,7 +117,7 @@ private:
 
     ListSource source_;
     Database<Record> saved_;
-    SortState sort_;
+    SortState sort_{std::vector<std::uint8_t>(catalogue_.columns.size(), 1), 0}; ///< until a file is read
     std::vector<std::size_t> shown_;    ///< the entries in the list, row by row
     std::optional<std::size_t> cloned_; ///< the copy made last: it is meant itself as long as the rows stand
 };

@@ -3,6 +3,7 @@
 #include "desktop/qt_text.h"
 
 #include <QHeaderView>
+#include <QKeyEvent>
 #include <QPointer>
 #include <QProxyStyle>
 
@@ -23,6 +24,14 @@ public:
     }
 };
 
+// The ground of a marked row: that of the list with a third of the selection's colour.
+QColor marked_ground(const QPalette& palette) {
+    const auto base = palette.color(QPalette::Base), highlight = palette.color(QPalette::Highlight);
+    const auto mixed = [](int ground, int mark) { return (2 * ground + mark) / 3; };
+    return {mixed(base.red(), highlight.red()), mixed(base.green(), highlight.green()),
+            mixed(base.blue(), highlight.blue())};
+}
+
 } // namespace
 
 int ListModel::rowCount(const QModelIndex& parent) const {
@@ -38,11 +47,17 @@ QVariant ListModel::alignment(int column) const {
     return {Qt::AlignVCenter | (is_number ? Qt::AlignRight : Qt::AlignLeft)};
 }
 
+QVariant ListModel::ground(std::size_t row) const {
+    if (!row_.is_marked || !row_.is_marked(row)) return {};
+    return marked_ground(dynamic_cast<const QWidget*>(QObject::parent())->palette());
+}
+
 QVariant ListModel::data(const QModelIndex& index, int role) const {
     if (role == Qt::TextAlignmentRole) return alignment(index.column());
-    if (role != Qt::DisplayRole) return {};
     const auto row = static_cast<std::size_t>(index.row());
     if (row >= row_.count()) return {};
+    if (role == Qt::BackgroundRole) return ground(row);
+    if (role != Qt::DisplayRole) return {};
     return QString::fromStdString(row_.cell(row, static_cast<std::size_t>(index.column())));
 }
 
@@ -82,8 +97,21 @@ ListView::ListView(const ListRow& row, QWidget* parent)
     connect(header(), &QHeaderView::sectionClicked, this, [this](int column) {
         if (row_.click_header) act([this, column] { row_.click_header(static_cast<std::size_t>(column)); });
     });
-    connect(this, &QTreeView::activated, this, [this] { act(row_.activate); });
+    connect(this, &QTreeView::doubleClicked, this, [this] { act(row_.activate); });
+    header()->setSortIndicatorShown(static_cast<bool>(row.sort_mark));
     size_columns();
+}
+
+void ListView::keyboardSearch(const QString& text) {
+    typed ? typed(text) : QTreeView::keyboardSearch(text);
+}
+
+void ListView::keyPressEvent(QKeyEvent* event) {
+    const bool is_enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (is_enter && row_.activate && currentIndex().isValid())
+        act(row_.activate);
+    else
+        QTreeView::keyPressEvent(event);
 }
 
 void ListView::act(const std::function<void()>& action) {
@@ -122,7 +150,17 @@ void ListView::refresh() {
     size_columns();
     const int row = row_.selected == nullptr ? -1 : std::min(*row_.selected, model_->rowCount() - 1);
     setCurrentIndex(row < 0 ? QModelIndex() : model_->index(row, 0));
+    if (row >= 0 && row_.is_marked && row_.is_marked(static_cast<std::size_t>(row)))
+        scrollTo(currentIndex(), PositionAtCenter);
+    show_sort_mark();
     is_refreshing_ = false;
+}
+
+void ListView::show_sort_mark() {
+    if (!row_.sort_mark) return;
+    const auto mark = row_.sort_mark();
+    header()->setSortIndicator(static_cast<int>(mark.column),
+                               mark.is_descending ? Qt::DescendingOrder : Qt::AscendingOrder);
 }
 
 void ListView::currentChanged(const QModelIndex& current, const QModelIndex& previous) {

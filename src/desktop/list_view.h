@@ -20,12 +20,14 @@ public:
 
 private:
     QVariant alignment(int column) const;
+    QVariant ground(std::size_t row) const;
 
     const ListRow& row_;
     std::size_t shown_count_ = 0; ///< that the view has been told of
 };
 
-/// Selects whole rows, one at a time; typing finds by the first column.
+/// Selects whole rows, one at a time. A double click or Enter acts on one, never a single click, by which
+/// some desktops activate.
 class ListView : public QTreeView {
 public:
     ListView(const ListRow& row, QWidget* parent);
@@ -34,10 +36,17 @@ public:
     QSize sizeHint() const override;
 
     std::function<void(std::int32_t row)> selected;
+    /// Text typed into the list; without it typing finds by the first column.
+    std::function<void(const QString& text)> typed;
     std::function<void()> acted; ///< after a click on a head or a double click on a row
+
+protected:
+    void keyboardSearch(const QString& text) override;
+    void keyPressEvent(QKeyEvent* event) override;
 
 private:
     void act(const std::function<void()>& action);
+    void show_sort_mark();
     void size_columns();
     void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
 

@@ -103,6 +103,12 @@ struct ListColumn {
     bool stretches = false;
 };
 
+/// What a list is sorted by.
+struct SortMark {
+    std::size_t column = 0;
+    bool is_descending = false;
+};
+
 /// A list with real columns. Cells are UTF-8.
 class ListRow : public RowOptions<ListRow, Row> {
 public:
@@ -118,6 +124,15 @@ public:
         click_header = std::move(then);
         return *this;
     }
+    ListRow& sorted(std::function<SortMark()> mark) {
+        sort_mark = std::move(mark);
+        return *this;
+    }
+    /// Rows that stand out; the selected one is shown with its neighbours then.
+    ListRow& marked(std::function<bool(std::size_t row)> test) {
+        is_marked = std::move(test);
+        return *this;
+    }
     ListRow& activated(std::function<void()> then) {
         activate = std::move(then);
         return *this;
@@ -128,6 +143,8 @@ public:
     std::function<std::string(std::size_t row, std::size_t column)> cell;
     std::int32_t* selected = nullptr;
     std::function<void(std::size_t column)> click_header;
+    std::function<SortMark()> sort_mark;
+    std::function<bool(std::size_t row)> is_marked;
     std::function<void()> activate; ///< double click or Enter on a row
 };
 

@@ -15,7 +15,7 @@ namespace wortlex {
 namespace {
 
 ListPorts list_ports(const WindowPorts& ports) {
-    return {places(ports.program), ports.files, ports.prompts};
+    return {places(ports.program), ports.files, ports.prompts, LoadOtherNames(ports.program.data_folder)};
 }
 
 void open(IngredientList& list, const WindowPorts& ports) {

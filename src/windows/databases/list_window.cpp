@@ -1,12 +1,16 @@
 #include "windows/databases/list_window.h"
 
 #include "desktop/form_dialog.h"
+#include "desktop/list_view.h"
 #include "desktop/qt_text.h"
 
+#include <QApplication>
 #include <QDragEnterEvent>
 #include <QFile>
 #include <QFileInfo>
+#include <QKeyEvent>
 #include <QPushButton>
+#include <QScreen>
 #include <QShortcut>
 #include <QVBoxLayout>
 
@@ -21,7 +25,11 @@ ListWindow::ListWindow(IngredientList& list, const ListPorts& ports, Opener open
     setAcceptDrops(!picked_);
     fill_form();
     widgets_ = std::make_unique<FormWidgets>(form_, ports.places, *this);
+    make_find_line();
     lay_out_rows();
+    add_keys();
+    constexpr double screen_share = 0.9; // the rest is for title bar and panels
+    resize(sizeHint().width(), static_cast<int>(screen()->availableGeometry().height() * screen_share));
     setWindowTitle(string_of(list_.caption()));
     widgets_->field("list").setFocus();
 }
@@ -34,6 +42,7 @@ void ListWindow::setVisible(bool visible) {
 void ListWindow::fill_form() {
     auto& rows = form_.rows();
     choice_rows(rows);
+    rows.note("found", [this] { return found_text(); });
     list_row(rows);
     if (picked_)
         rows.button("pick", "&Pick", [this] { pick(); });
@@ -56,10 +65,14 @@ void ListWindow::choice_rows(Rows& rows) {
                  [this](std::int32_t chosen) { list_.choose_filter(chosen, ports_.prompts); }},
                 std::move(labels))
         .visible(has_choice)
-        .changed([this] { setWindowTitle(string_of(list_.caption())); });
+        .changed([this] {
+            setWindowTitle(string_of(list_.caption()));
+            seek();
+        });
     rows.check("in_stock", {[this] { return list_.only_in_stock; },
                             [this](bool only) { list_.show_only_in_stock(only); }})
         .label("Show Only Items In Stoc&k")
+        .changed([this] { seek(); })
         .visible(list_.has_stock());
 }
 
@@ -69,8 +82,84 @@ void ListWindow::list_row(Rows& rows) {
             [this](std::size_t row, std::size_t column) { return list_.cell(row, column); })
         .colours(ColorArea::pick_lists)
         .selection(list_.selected)
-        .header_clicked([this](std::size_t column) { change([&] { list_.click(column); }); })
-        .activated([this] { picked_ ? pick() : run(list_.edit_entry(ports_.prompts)); });
+        .header_clicked([this](std::size_t column) {
+            change([&] {
+                list_.click(column);
+                seek();
+            });
+        })
+        .sorted([this] { return list_.sort_mark(); })
+        .marked([this](std::size_t row) { return match(list_, row, query_) > 0; })
+        .activated([this] { act(); });
+}
+
+std::string ListWindow::found_text() const {
+    if (query_.empty()) return {};
+    const auto count = count_found(list_, query_);
+    return count == 0 ? "Nothing found" : std::to_string(count) + " found";
+}
+
+void ListWindow::seek() {
+    if (const auto row = best_row(list_, query_)) list_.selected = static_cast<std::int32_t>(*row);
+}
+
+void ListWindow::go_on(bool backwards) {
+    const auto from = static_cast<std::size_t>(std::max(list_.selected, 0));
+    if (const auto row = next_row(list_, query_, from, backwards))
+        list_.selected = static_cast<std::int32_t>(*row);
+    widgets_->refresh();
+}
+
+void ListWindow::make_find_line() {
+    find_line_.setObjectName(QStringLiteral("find"));
+    find_line_.setPlaceholderText(QStringLiteral("Find (Ctrl+F)"));
+    find_line_.setAccessibleName(QStringLiteral("Find"));
+    find_line_.setToolTip(QStringLiteral("Parts of words in any column; F3 goes to the next one found"));
+    find_line_.setClearButtonEnabled(true);
+    find_line_.installEventFilter(this);
+    connect(&find_line_, &QLineEdit::textChanged, this, [this](const QString& text) {
+        query_ = make_query(text.toStdString(), ports_.other_names);
+        seek();
+        widgets_->refresh();
+    });
+    dynamic_cast<ListView&>(widgets_->field("list")).typed = [this](const QString& text) {
+        find_line_.setFocus();
+        find_line_.setText(text);
+    };
+}
+
+bool ListWindow::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == &find_line_ && event->type() == QEvent::KeyPress)
+        if (take_find_key(*dynamic_cast<QKeyEvent*>(event))) return true;
+    return QDialog::eventFilter(watched, event);
+}
+
+// Arrows go on in the list, Enter takes what is found, Esc first clears the line.
+bool ListWindow::take_find_key(const QKeyEvent& event) {
+    auto& list = widgets_->field("list");
+    switch (event.key()) {
+    case Qt::Key_Up:
+    case Qt::Key_Down:
+    case Qt::Key_PageUp:
+    case Qt::Key_PageDown: {
+        list.setFocus();
+        QKeyEvent same(event.type(), event.key(), event.modifiers());
+        QApplication::sendEvent(&list, &same);
+        return true;
+    }
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        if (find_line_.text().isEmpty() ||
+            (list_.selected >= 0 && match(list_, static_cast<std::size_t>(list_.selected), query_) > 0))
+            act();
+        return true;
+    case Qt::Key_Escape:
+        if (find_line_.text().isEmpty()) return false;
+        find_line_.clear();
+        return true;
+    default:
+        return false;
+    }
 }
 
 void ListWindow::edit_buttons(Rows& rows) {
@@ -99,6 +188,10 @@ void ListWindow::lay_out_rows() {
     choices->addStretch();
     choices->addWidget(&widgets_->field("in_stock"));
     layout->addLayout(choices);
+    auto* const finding = new QHBoxLayout;
+    finding->addWidget(&find_line_);
+    finding->addWidget(&widgets_->field("found"));
+    layout->addLayout(finding);
     auto& list = widgets_->field("list");
     list.setMinimumHeight(fontMetrics().height() * 24);
     layout->addWidget(&list, 1);
@@ -111,7 +204,20 @@ void ListWindow::lay_out_rows() {
         buttons->addWidget(button);
     });
     layout->addLayout(buttons);
+}
+
+void ListWindow::add_keys() {
+    const auto on = [this](const QKeySequence& key, std::function<void()> action) {
+        connect(new QShortcut(key, this), &QShortcut::activated, this, std::move(action));
+    };
+    on(QKeySequence::Find, [this] {
+        find_line_.setFocus();
+        find_line_.selectAll();
+    });
+    on(QKeySequence::FindNext, [this] { go_on(false); });
+    on(QKeySequence::FindPrevious, [this] { go_on(true); });
     if (picked_) return;
+    auto& list = widgets_->field("list");
     connect(new QShortcut(QKeySequence::Delete, &list), &QShortcut::activated, this,
             [this] { change([this] { list_.delete_entry(ports_.prompts); }); });
     connect(new QShortcut(Qt::Key_Insert, &list), &QShortcut::activated, this,
@@ -131,6 +237,10 @@ void ListWindow::run(std::unique_ptr<EntryForm> entry) {
                ports_.places, this);
     widgets_->refresh();
     widgets_->field("list").setFocus();
+}
+
+void ListWindow::act() {
+    picked_ ? pick() : run(list_.edit_entry(ports_.prompts));
 }
 
 void ListWindow::pick() {

@@ -1,11 +1,13 @@
 // The window of every ingredient list: to keep a database, or to pick an entry from it.
 #pragma once
 
+#include "databases/find.h"
 #include "databases/ingredient_list.h"
 #include "desktop/form_widgets.h"
 #include "desktop/placement.h"
 
 #include <QDialog>
+#include <QLineEdit>
 #include <QMimeData>
 
 namespace wortlex {
@@ -14,6 +16,7 @@ struct ListPorts {
     Places places;
     Files& files;
     Prompts& prompts;
+    OtherNames other_names = {}; ///< that the find line knows
 };
 
 class ListWindow : public QDialog {
@@ -34,6 +37,8 @@ protected:
     /// Transfer files dropped on the list are imported.
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dropEvent(QDropEvent* event) override;
+    /// Keys of the find line.
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void fill_form();
@@ -41,10 +46,18 @@ private:
     void list_row(Rows& rows);
     void edit_buttons(Rows& rows);
     void print_button(Rows& rows);
+    void make_find_line();
+    bool take_find_key(const QKeyEvent& event);
+    std::string found_text() const;
+    /// Selects what is found best, if anything is.
+    void seek();
+    void go_on(bool backwards);
     void lay_out_rows();
+    void add_keys();
     /// Runs what may change the list and shows it anew.
     void change(const std::function<void()>& action);
     void run(std::unique_ptr<EntryForm> entry);
+    void act();
     void pick();
     void leave(int result);
     bool can_import(const QMimeData& dragged) const;
@@ -54,6 +67,8 @@ private:
     Opener opener_;
     std::function<bool()> picked_;
     Form form_;
+    FindQuery query_;
+    QLineEdit find_line_{this};
     std::unique_ptr<FormWidgets> widgets_;
     WindowPlace& place_;
 };

@@ -10,6 +10,8 @@
 
 #include <QAbstractButton>
 #include <QHeaderView>
+#include <QLineEdit>
+#include <QProxyStyle>
 #include <QTimer>
 #include <QTreeView>
 
@@ -52,6 +54,7 @@ struct ListDesk {
         window->show();
         EXPECT_TRUE(QTest::qWaitForWindowActive(window.get()));
     }
+    QLineEdit& find_line() const { return *window->findChild<QLineEdit*>("find"); }
     QTreeView& list() const { return *window->findChild<QTreeView*>(); }
     // The names as the rows show them, a star before the selected one.
     std::string rows() const {
@@ -104,8 +107,51 @@ TEST(ListWindow, FiltersSortsAndFindsByTyping) {
     const auto& head = *desk.list().header();
     QTest::mouseClick(head.viewport(), Qt::LeftButton, {}, {head.sectionViewportPosition(2) + 5, 5});
     EXPECT_EQ(desk.rows(), "*Saaz Fuggle Galena ");
-    QTest::keyClicks(&desk.list(), "fu");
+    EXPECT_EQ(std::pair(head.sortIndicatorSection(), head.sortIndicatorOrder()),
+              std::pair(2, Qt::AscendingOrder));
+    QTest::keyClick(&desk.list(), Qt::Key_P); // only the form of one reads so
+    QTest::keyClicks(&desk.find_line(), "lug");
     EXPECT_EQ(desk.hops->selected_record()->name.view(), "Fuggle");
+}
+
+// As the desktops that activate by a single click.
+struct HastyStyle : QProxyStyle {
+    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                  QStyleHintReturn* more) const override {
+        return hint == SH_ItemView_ActivateItemOnSingleClick
+                   ? 1
+                   : QProxyStyle::styleHint(hint, option, widget, more);
+    }
+};
+
+TEST(ListWindow, FindsMarksAndPicksNothingThatIsNotFound) {
+    int picks = 0;
+    ListDesk desk([&picks] { return ++picks == 0; });
+    HastyStyle hasty;
+    desk.list().setStyle(&hasty);
+    const auto is_marked = [&](int row) {
+        return desk.list().model()->index(row, 0).data(Qt::BackgroundRole).isValid();
+    };
+    QTest::mouseClick(desk.list().viewport(), Qt::LeftButton, {},
+                      desk.list().visualRect(desk.list().model()->index(0, 0)).center());
+    auto& line = desk.find_line();
+    line.setFocus();
+    QTest::keyClicks(&line, "ga plug");
+    QTest::keyClick(&line, Qt::Key_Return);
+    EXPECT_EQ(picks, 0) << "neither by the click nor by a find line that found nothing";
+    type_over(line, "A");
+    EXPECT_EQ(desk.rows(), "Fuggle *Galena Saaz ");
+    EXPECT_EQ((std::array{is_marked(0), is_marked(1), is_marked(2)}), (std::array{false, true, true}));
+    QTest::keyClick(&line, Qt::Key_F3);
+    EXPECT_EQ(desk.rows(), "Fuggle Galena *Saaz ");
+    QTest::keyClick(&line, Qt::Key_Return);
+    EXPECT_EQ(picks, 1);
+    QTest::keyClick(&line, Qt::Key_Up);
+    EXPECT_EQ(desk.rows(), "Fuggle *Galena Saaz ");
+    EXPECT_TRUE(desk.list().hasFocus());
+    QTest::keyClick(&line, Qt::Key_Escape);
+    EXPECT_TRUE(line.text().isEmpty() && desk.window->isVisible());
+    desk.list().setStyle(nullptr);
 }
 
 TEST(ListWindow, PicksByDoubleClickAndEnter) {
