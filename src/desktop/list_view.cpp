@@ -24,12 +24,13 @@ public:
     }
 };
 
-// The ground of a marked row: that of the list with a third of the selection's colour.
+// The ground of a marked row: that of the list with a quarter of the text's colour, which any pair of colours
+// shows and which leaves the text its contrast.
 QColor marked_ground(const QPalette& palette) {
-    const auto base = palette.color(QPalette::Base), highlight = palette.color(QPalette::Highlight);
-    const auto mixed = [](int ground, int mark) { return (2 * ground + mark) / 3; };
-    return {mixed(base.red(), highlight.red()), mixed(base.green(), highlight.green()),
-            mixed(base.blue(), highlight.blue())};
+    const auto base = palette.color(QPalette::Base), text = palette.color(QPalette::Text);
+    const auto mixed = [](int ground, int letters) { return (3 * ground + letters) / 4; };
+    return {mixed(base.red(), text.red()), mixed(base.green(), text.green()),
+            mixed(base.blue(), text.blue())};
 }
 
 } // namespace

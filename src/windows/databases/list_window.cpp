@@ -100,7 +100,9 @@ std::string ListWindow::found_text() const {
 }
 
 void ListWindow::seek() {
-    if (const auto row = best_row(list_, query_)) list_.selected = static_cast<std::int32_t>(*row);
+    if (query_.empty()) return;
+    const auto row = best_row(list_, query_);
+    list_.selected = row ? static_cast<std::int32_t>(*row) : -1;
 }
 
 void ListWindow::go_on(bool backwards) {

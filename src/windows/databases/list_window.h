@@ -49,7 +49,7 @@ private:
     void make_find_line();
     bool take_find_key(const QKeyEvent& event);
     std::string found_text() const;
-    /// Selects what is found best, if anything is.
+    /// Selects what is found best; nothing where nothing is found.
     void seek();
     void go_on(bool backwards);
     void lay_out_rows();

@@ -138,6 +138,8 @@ TEST(ListWindow, FindsMarksAndPicksNothingThatIsNotFound) {
     line.setFocus();
     QTest::keyClicks(&line, "ga plug");
     QTest::keyClick(&line, Qt::Key_Return);
+    desk.click("pick");
+    EXPECT_EQ(desk.rows(), "Fuggle Galena Saaz ");
     EXPECT_EQ(picks, 0) << "neither by the click nor by a find line that found nothing";
     type_over(line, "A");
     EXPECT_EQ(desk.rows(), "Fuggle *Galena Saaz ");
