@@ -113,7 +113,7 @@ void efficiency_changed(const OpenDocument& open, RecipeLocks& locks) {
     if (!document.malts.empty()) {
         if (locks.efficiency) {
             hold_gravity(document, open.figures, locks.locked_efficiency, open.settings);
-            mash_refresh(open);
+            colour_and_mash(open); // the weights have changed, and with them the color
         } else {
             gravity_update(document, open.figures, open.settings);
         }

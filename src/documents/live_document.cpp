@@ -5,15 +5,28 @@
 #include <utility>
 
 namespace wortlex {
+namespace {
+
+// Of the schedule kind in force, which is that of the document before.
+BrewDocument empty_recipe(const LiveDocument& live, const Settings& settings) {
+    return new_document(settings,
+                        has_complex_schedule(live.recipe) ? ScheduleKind::complex : ScheduleKind::simple);
+}
+
+} // namespace
 
 OpenDocument view_of(LiveDocument& live, const Settings& settings) {
     if (live.kind == DocumentKind::recipe) return {live.recipe, live.figures, settings};
     return {live.recipe, live.figures, settings, &live.session, &live.water};
 }
 
+void take_usual_schedule(LiveDocument& live, const Settings& settings) {
+    live.recipe.mash_flags = static_cast<std::uint8_t>(settings.default_schedule);
+}
+
 void start_recipe(LiveDocument& live, const Settings& settings) {
     live.kind = DocumentKind::recipe;
-    live.recipe = new_document(settings, settings.default_schedule);
+    live.recipe = empty_recipe(live, settings);
     live.figures = {};
     live.water_to_grain = settings.quarts_per_pound;
     live.file = {};
@@ -27,7 +40,7 @@ void start_session(LiveDocument& live, const WaterNeeds& usual, const Settings& 
 }
 
 LoadResult read_into(LiveDocument& live, DocumentKind kind, ByteView file, const Settings& settings) {
-    DocumentImage image{.recipe = new_document(settings, settings.default_schedule)};
+    DocumentImage image{.recipe = empty_recipe(live, settings)};
     const auto result = read_document(kind, file, image, settings);
     if (!is_sound(result)) return result;
     live.kind = kind;

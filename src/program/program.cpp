@@ -11,6 +11,7 @@ bool start_core(Program& program, const std::string& data_folder, Prompts& promp
     program.system = LoadSystemFiles(data_folder);
     ApplySettings(program.system.settings, program.settings, true);
     LoadWaterUsage(data_folder, program.water_usage);
+    take_usual_schedule(program.document, program.settings);
     new_recipe(program);
     if (!program.system.loaded) prompts.tell({.text = bad_system_file, .icon = Icon::error});
     return program.system.loaded;

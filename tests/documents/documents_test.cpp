@@ -281,7 +281,7 @@ TEST(Change, OfEfficiency) {
     free.expect({44.719944F, 43.5481911F, usual_mcu, 9, 8}, "the gravity falls");
     locked.locks.efficiency = true;
     efficiency_changed(locked.recipe(), locked.locks);
-    locked.expect({usual_og, usual_ibu, usual_mcu, 11, 10}, "the gravity holds; of sugar nothing changes");
+    locked.expect({usual_og, usual_ibu, 6, 11, 10}, "gravity and sugar hold; the grain colors more");
     for (const auto& [typed, kept] : {std::pair{0.0F, 0.05F}, {1.5F, 1.0F}}) {
         free.document.efficiency = typed;
         efficiency_changed(free.recipe(), free.locks);

@@ -200,6 +200,15 @@ TEST_F(Documents, ComeFromTheFileThatIsChosen) {
     EXPECT_EQ(folder_path(program.folders, FolderKind::recipes), folder.path());
 }
 
+TEST_F(Documents, KeepTheScheduleKindInForceWhenNew) {
+    program.document.recipe.mash_flags = 1;
+    new_recipe(program);
+    EXPECT_TRUE(has_complex_schedule(program.document.recipe)) << "that of the recipe before";
+    take_usual_schedule(program.document, program.settings);
+    new_recipe(program);
+    EXPECT_FALSE(has_complex_schedule(program.document.recipe));
+}
+
 TEST_F(Documents, StayWhereAFileCannotBeOpened) {
     ASSERT_TRUE(open_document_file(program, pale, prompts));
     const auto before = program.document.recipe;

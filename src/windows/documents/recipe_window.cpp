@@ -1,5 +1,6 @@
 #include "windows/documents/recipe_window.h"
 
+#include "base/windows1252.h"
 #include "desktop/menus.h"
 #include "desktop/qt_text.h"
 #include "documents/method_check.h"
@@ -38,6 +39,14 @@ QKeySequence::StandardKey key_of(int command) {
     default:
         return QKeySequence::Close;
     }
+}
+
+// The file's; a recipe that has none yet goes by its title.
+QString name_in_caption(const LiveDocument& document) {
+    const auto& path = document.file.path;
+    if (!path.empty()) return QFileInfo(QFile::decodeName(QByteArray::fromStdString(path))).fileName();
+    if (document.recipe.title.empty()) return QStringLiteral("Untitled");
+    return string_of(utf8_from_windows1252(document.recipe.title.view()));
 }
 
 } // namespace
@@ -204,7 +213,7 @@ bool RecipeWindow::may_close() {
 }
 
 void RecipeWindow::follow(Change) {
-    show_file_name();
+    show_name();
     for (const auto& [action, word, step] : {std::tuple(undo_, tr("&Undo"), editor_.history.to_undo()),
                                              std::tuple(redo_, tr("&Redo"), editor_.history.to_redo())}) {
         action->setEnabled(!step.empty());
@@ -213,12 +222,10 @@ void RecipeWindow::follow(Change) {
     }
 }
 
-void RecipeWindow::show_file_name() {
-    const auto& path = document_.file.path;
-    const auto file = QFileInfo(QFile::decodeName(QByteArray::fromStdString(path))).fileName();
+void RecipeWindow::show_name() {
     const bool modified = is_modified(editor_.open, saved_, document_.file);
-    const auto before = file + (modified ? QStringLiteral("*") : QString());
-    setWindowTitle(before.isEmpty() ? caption_ : before + QStringLiteral(" - ") + caption_);
+    const auto mark = modified ? QStringLiteral("*") : QString();
+    setWindowTitle(name_in_caption(document_) + mark + QStringLiteral(" - ") + caption_);
 }
 
 void RecipeWindow::keep_work() {

@@ -49,7 +49,7 @@ private:
     DocumentSaving saving();
     void print();
 
-    void show_file_name();
+    void show_name();
     void keep_work();
 
     void show_colour();

@@ -150,6 +150,7 @@ private:
 
 void edit_system_settings(const SettingsPorts& ports, QWidget* owner) {
     SettingsDialogs(ports).run(owner);
+    take_usual_schedule(ports.program.document, ports.program.settings);
 }
 
 } // namespace wortlex

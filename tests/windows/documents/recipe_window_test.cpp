@@ -141,7 +141,7 @@ TEST(RecipeWindow, AWholeRecipeByKeyboard) {
         kitchen.tab_to("saccharification_temperature");
         kitchen.type("152");
     });
-    EXPECT_EQ(kitchen.recipe->windowTitle(), "* - Wortlex Recipe Formulation");
+    EXPECT_EQ(kitchen.recipe->windowTitle(), "Kitchen Blonde* - Wortlex Recipe Formulation");
     kitchen.press(Qt::Key_S, Qt::ControlModifier);
     EXPECT_EQ(kitchen.recipe->windowTitle(), "Kitchen Blonde.rec - Wortlex Recipe Formulation");
     const auto sg = text_in(*kitchen.recipe, "sg");
@@ -184,7 +184,8 @@ TEST(RecipeWindow, UndoIsTheRecipesInEveryField) {
     kitchen.press(Qt::Key_Z, Qt::ControlModifier);
     EXPECT_EQ(title.text(), "");
     EXPECT_FALSE(undo->isEnabled());
-    EXPECT_EQ(kitchen.recipe->windowTitle(), "Wortlex Recipe Formulation") << "as if nothing had been";
+    EXPECT_EQ(kitchen.recipe->windowTitle(), "Untitled - Wortlex Recipe Formulation")
+        << "as if nothing had been";
     kitchen.recipe->findChild<QAction*>("redo")->trigger();
     EXPECT_EQ(title.text(), "Stout");
     kitchen.prompts.expect("yes/no/cancel",
@@ -229,7 +230,7 @@ TEST(RecipeWindow, ShowsRecoveredWorkAsItWas) {
     auto* const recipe = open_recipe_window();
     ASSERT_NE(recipe, nullptr);
     EXPECT_EQ(line_of(*recipe->findChild<QWidget*>("efficiency"))->text(), "60");
-    EXPECT_EQ(recipe->windowTitle(), "* - Wortlex Recipe Formulation");
+    EXPECT_EQ(recipe->windowTitle(), "Untitled* - Wortlex Recipe Formulation");
     kitchen.prompts.expect("yes/no/cancel",
                            "The current recipe has been modified!\nDo you want to save the changes?",
                            Answer::no, Icon::question);
