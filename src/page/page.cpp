@@ -1,7 +1,7 @@
 #include "page/page.h"
 
 #include "base/number.h"
-#include "page/characters.h"
+#include "page/line_breaks.h"
 
 #include <algorithm>
 #include <utility>
@@ -35,29 +35,12 @@ bool is_title(PageFont font) {
     return font == PageFont::title || font == PageFont::title_italic;
 }
 
+constexpr float smallest_scale = 0.1F, largest_scale = 4;
+constexpr int most_recordings = 8;
+
 // A damaged settings file may hold any ratio, also one that is no number.
 float sensible(float printer_scale) {
-    return printer_scale >= 0.1F && printer_scale <= 4.0F ? printer_scale : 1.0F;
-}
-
-std::string paragraph_text(std::string_view text) {
-    std::string plain(text);
-    std::erase(plain, '\n');
-    std::replace(plain.begin(), plain.end(), '\t', ' ');
-    return plain;
-}
-
-// A line of 101 characters that ends with its text makes no empty one.
-std::vector<std::string> paragraph_lines(std::string_view text) {
-    std::vector<std::string> lines;
-    const auto plain = paragraph_text(text);
-    for (std::string_view rest = plain; !rest.empty();) {
-        const auto cut = first_characters(rest, paragraph_columns);
-        const auto end = std::min({rest.find('\r'), cut.size()});
-        lines.emplace_back(rest.substr(0, end));
-        rest.remove_prefix(end < rest.size() && rest[end] == '\r' ? end + 1 : end);
-    }
-    return lines;
+    return printer_scale >= smallest_scale && printer_scale <= largest_scale ? printer_scale : 1.0F;
 }
 
 } // namespace
@@ -204,12 +187,49 @@ void PageContext::CentredLine(std::string_view text) {
     end_line();
 }
 
-std::string PageContext::fitted(std::string_view text, int from, int to) const {
-    const int room = tab(to) - tab(from) - truncate(column_gap * printer_scale_ * scale_);
+LineRoom PageContext::room(int dots) const {
     measure_->set_font(font_of(font_));
-    while (measure_->text_extent(text).width > room && !text.empty())
-        text = first_characters(text, character_count(text) - 1);
-    return std::string(text);
+    return {.measure = *measure_, .dots = dots};
+}
+
+int PageContext::room_from(int position) const {
+    return job_.paper.area.width - left_margin_ - tab(position);
+}
+
+std::string PageContext::fitted(std::string_view text, int from, int to) const {
+    const int gap = truncate(column_gap * printer_scale_ * scale_);
+    return std::string(start_that_fits(text, room(tab(to) - tab(from) - gap)));
+}
+
+std::vector<std::string> PageContext::wrapped(std::string_view text, int from) const {
+    return wortlex::wrapped(text, room(room_from(from)));
+}
+
+std::vector<std::string> PageContext::paragraph_lines(std::string_view text) const {
+    auto line = room(room_from(0));
+    line.characters = paragraph_columns;
+    return wortlex::paragraph_lines(text, line);
+}
+
+// Words behind a figure, such as its unit, stand outside its column.
+int PageContext::figure_width(std::string_view cell) const {
+    const auto end = cell.find(' ', std::min(cell.find_first_not_of(' '), cell.size()));
+    return measure_->text_extent(cell.substr(0, end)).width;
+}
+
+void PageContext::TableLine(std::span<const PageColumn> columns, const std::vector<std::string>& cells) {
+    start_line();
+    std::string words;
+    std::vector<int> stops;
+    for (std::size_t i = 0; i < std::min(columns.size(), cells.size()); ++i) {
+        const auto& column = columns[i];
+        const bool is_cut = column.is_text && i + 1 < columns.size();
+        const auto cell = is_cut ? fitted(cells[i], column.tab, columns[i + 1].tab) : cells[i];
+        words += '\t' + cell;
+        stops.push_back(column.end > 0 ? tab(column.end) - figure_width(cell) : tab(column.tab));
+    }
+    page().tabbed_text({0, y_}, words, stops);
+    end_line();
 }
 
 void PageContext::NewLines(int count) {
@@ -219,9 +239,11 @@ void PageContext::NewLines(int count) {
     }
 }
 
-void PageContext::Paragraph(std::string_view text) {
+void PageContext::Paragraph(std::string_view text, int lines_below) {
     const auto font = font_of(font_);
-    for (const auto& line : paragraph_lines(text)) {
+    const auto lines = paragraph_lines(text);
+    for (const auto& line : lines) {
+        if (lines_below > 0 && &line == &lines.back()) KeepTogether(1 + lines_below);
         begin_line(std::max(paragraph_pitch_, font.cell_height));
         use(font);
         write(line, {});
@@ -301,14 +323,26 @@ PageJob PageContext::Release() {
     return std::exchange(job_, {});
 }
 
+std::optional<float> PageContext::smaller_scale() const {
+    const double room = job_.paper.area.width - left_margin_, taken = job_.right() - left_margin_;
+    if (taken <= room || printer_scale_ <= smallest_scale) return std::nullopt;
+    return std::max(narrow(printer_scale_ * room / taken), smallest_scale);
+}
+
+// Letters come in whole dots, so that the first smaller scale may still be a little too large.
 std::optional<PageJob> record_report(const PrintRequest& request, const Paper& paper, Surface& measure) {
-    PageContext page;
-    if (!page.BeginPrint(request.document_name, paper, measure, request.printer_scale)) return std::nullopt;
-    page.StartJob();
-    request.run(page);
-    page.EndPage();
-    page.EndJob();
-    return page.Release();
+    float scale = request.printer_scale;
+    for (int recording = 1;; ++recording) {
+        PageContext page;
+        if (!page.BeginPrint(request.document_name, paper, measure, scale)) return std::nullopt;
+        page.StartJob();
+        request.run(page);
+        page.EndPage();
+        page.EndJob();
+        const auto smaller = page.smaller_scale();
+        if (!smaller || recording == most_recordings) return page.Release();
+        scale = *smaller;
+    }
 }
 
 } // namespace wortlex

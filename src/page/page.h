@@ -7,6 +7,7 @@
 //     }});
 #pragma once
 
+#include "page/line_breaks.h"
 #include "page/page_job.h"
 
 #include <array>
@@ -24,6 +25,13 @@ struct ChartPlace {
     Surface& surface;
     Point offset;
     double scale = 1;
+};
+
+/// A column of a table, in logical units.
+struct PageColumn {
+    int tab = 0;         ///< where it begins
+    bool is_text = true; ///< cut off where it would run into the next column; figures are left whole
+    int end = 0;         ///< where its figures end, flush; 0: they begin at the tab
 };
 
 /// The state of one job. Tab stops and positions are logical units, 640 to the width of an upright page;
@@ -58,10 +66,13 @@ public:
     }
     /// In the middle between the margins; a text too long for them begins at the left one.
     void CentredLine(std::string_view text);
-    /// As much of a text, in the chosen font, as fits between two tab positions and leaves a gap there.
-    std::string fitted(std::string_view text, int from, int to) const;
-    /// A long text in lines of 101 characters. Carriage returns end lines, line feeds are dropped.
-    void Paragraph(std::string_view text);
+    /// A line of a table, a cell a column. It is measured that no text runs into the next column.
+    void TableLine(std::span<const PageColumn> columns, const std::vector<std::string>& cells);
+    /// A text in lines, in the chosen font, that fit between a tab position and the right margin.
+    std::vector<std::string> wrapped(std::string_view text, int from) const;
+    /// A long text in lines between the margins, of 101 characters at most. Carriage returns end lines, line
+    /// feeds are dropped. The last line keeps so many lines below it on its page.
+    void Paragraph(std::string_view text, int lines_below = 0);
 
     /// Ends the page if so many lines do not fit on it; whether it did.
     bool KeepTogether(int lines);
@@ -84,7 +95,8 @@ public:
 
     /// Dots from the top of the page; 0: it has not begun.
     int y() const { return y_; }
-    int line_pitch() const { return line_pitch_; }
+    /// The scaling ratio at which the widest line so far should fit on the paper; nothing where it does.
+    std::optional<float> smaller_scale() const;
 
 private:
     struct FontSpec {
@@ -98,6 +110,11 @@ private:
     RecordedPage& page() { return job_.pages.back(); }
     void use(const Font& font);
     int tab(int position) const;
+    int room_from(int position) const;
+    LineRoom room(int dots) const;
+    int figure_width(std::string_view cell) const;
+    std::string fitted(std::string_view text, int from, int to) const;
+    std::vector<std::string> paragraph_lines(std::string_view text) const;
     int pitch() const;
     bool fits(int dots) const;
     void begin_line(int height);
@@ -136,7 +153,8 @@ struct PrintRequest {
     Report run;
 };
 
-/// The pages of a report on such paper; nothing if the paper cannot be printed on.
+/// The pages of a report on such paper; nothing if the paper cannot be printed on. What is too wide for it
+/// is run again at a smaller scale, so that the pages are as full as any.
 std::optional<PageJob> record_report(const PrintRequest& request, const Paper& paper, Surface& measure);
 
 /// Where reports are shown before they go to paper.

@@ -39,13 +39,13 @@ public:
     Extent text_extent(std::string_view text) const override { return measure_->text_extent(text); }
     Extent size() const override { return area_; }
 
-    /// Draws all again, `scale` times as large.
-    void draw(Surface& surface, double scale) const;
+    /// Draws all again.
+    void draw(Surface& surface) const;
     /// The right end of what reaches farthest.
     int right() const { return right_; }
 
 private:
-    using Step = std::function<void(Surface&, double scale)>;
+    using Step = std::function<void(Surface&)>;
 
     void reach(int x);
 
@@ -61,9 +61,9 @@ struct PageJob {
     Paper paper;
     std::vector<RecordedPage> pages;
 
-    /// 1, or less where the widest line would not fit on the paper.
-    double scale() const;
-    void draw(std::size_t page, Surface& surface) const { pages.at(page).draw(surface, scale()); }
+    /// The right end of what reaches farthest on any page.
+    int right() const;
+    void draw(std::size_t page, Surface& surface) const { pages.at(page).draw(surface); }
 };
 
 /// Which pages to print, counted from 1; those that the job lacks are left out.

@@ -4,8 +4,10 @@
 namespace wortlex {
 
 ReportSection heading_section(const ReportSource& source) {
-    return section_of(
-        "", ReportLines{{90}, {{"Recipe:       |%s\n\n", {line_text(source.open.document.title)}}}});
+    return section_of("", ReportLines{{90},
+                                      {{.format = "Recipe:       |%s\n\n",
+                                        .values = {line_text(source.open.document.title)},
+                                        .is_title = true}}});
 }
 
 } // namespace wortlex

@@ -150,7 +150,7 @@ void write(const ReportTable& table, HtmlWriter& page) {
 void write(const ReportText& text, HtmlWriter& page) {
     page.table_start();
     page.left_cell_start(width_of(page_width, page), HtmlAlign::left, HtmlArea::field);
-    page.multi_line_cell_end(or_blank(text.text));
+    page.multi_line_cell_end(or_blank(text.text()));
     page.table_end();
 }
 

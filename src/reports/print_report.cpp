@@ -14,16 +14,41 @@ std::string tabbed(const std::vector<std::string>& cells) {
     return out;
 }
 
-void write_row(PageContext& page, std::span<const int> tabs, const ReportRow& row, const std::string& words) {
-    const auto blank = blank_lines(row.format);
-    page.NewLines(blank.before);
-    if (row.colour) page.ColourBox(colour_box, *row.colour);
-    page.TabbedLine(tabs, words);
-    page.NewLines(blank.behind);
+// At the top of a page no line is left blank, and at its end none goes over to the next one.
+void leave_blank(PageContext& page, int lines) {
+    for (int line = 0; line < lines && page.y() > 0; ++line)
+        if (!page.KeepTogether(1)) page.NewLines(1);
 }
 
-void write(const ReportLines& lines, PageContext& page) {
-    for (const auto& row : lines.rows) write_row(page, lines.tabs, row, tabbed(print_cells(row)));
+int lines_of(const ReportRow& row) {
+    const auto blank = blank_lines(row.format);
+    return blank.before + 1 + blank.behind;
+}
+
+// What is too long goes on in lines below, in the column of the last cell.
+void write_line(PageContext& page, std::span<const int> tabs, const ReportRow& row) {
+    const auto font = row.is_title ? PageFont::title : PageFont::body;
+    auto cells = print_cells(row);
+    if (cells.empty()) cells.emplace_back();
+    const auto last = std::min(cells.size() - 1, tabs.size());
+    page.SelectFont(font);
+    for (auto& part : page.wrapped(cells.back(), last == 0 ? 0 : tabs[last - 1])) {
+        cells.back() = std::move(part);
+        page.SelectFont(font);
+        page.TabbedLine(tabs, tabbed(cells));
+        for (auto& cell : cells) cell.clear();
+    }
+}
+
+void write(const ReportLines& lines, int lines_below, PageContext& page) {
+    for (const auto& row : lines.rows) {
+        const auto blank = blank_lines(row.format);
+        if (lines_below > 0 && &row == &lines.rows.back()) page.KeepTogether(lines_of(row) + lines_below);
+        leave_blank(page, blank.before);
+        if (row.colour) page.ColourBox(colour_box, *row.colour);
+        write_line(page, lines.tabs, row);
+        leave_blank(page, blank.behind);
+    }
 }
 
 // One of the two lines of titles.
@@ -50,30 +75,25 @@ void write_titles(const ReportTable& table, PageContext& page) {
     page.TabbedLine(tabs, second);
 }
 
-// No text runs into the next column: a long name is cut off. Figures are left whole.
-std::vector<std::string> fitted(const PageContext& page, const std::vector<ReportColumn>& columns,
-                                std::vector<std::string> cells) {
-    cells.resize(columns.size());
-    for (std::size_t i = 0; i + 1 < columns.size(); ++i)
-        if (columns[i].align == HtmlAlign::left)
-            cells[i] = page.fitted(cells[i], columns[i].tab, columns[i + 1].tab);
-    return cells;
+std::vector<PageColumn> columns_of(const ReportTable& table) {
+    std::vector<PageColumn> columns;
+    for (const auto& column : table.columns)
+        columns.push_back({column.tab, column.align == HtmlAlign::left, column.end});
+    return columns;
 }
 
-void write(const ReportTable& table, PageContext& page) {
+void write(const ReportTable& table, int lines_below, PageContext& page) {
+    const auto columns = columns_of(table);
     write_titles(table, page);
-    std::vector<int> tabs;
-    for (const auto& column : table.columns)
-        if (column.tab > 0) tabs.push_back(column.tab);
     for (const auto& row : table.rows) {
-        page.KeepTogether(1);
+        page.KeepTogether(&row == &table.rows.back() ? 1 + lines_below : 1);
         if (page.y() == 0) write_titles(table, page);
-        write_row(page, tabs, row, tabbed(fitted(page, table.columns, print_cells(row))));
+        page.TableLine(columns, print_cells(row));
     }
 }
 
-void write(const ReportText& text, PageContext& page) {
-    page.Paragraph(text.text);
+void write(const ReportText& text, int lines_below, PageContext& page) {
+    page.Paragraph(text.text(), lines_below);
 }
 
 // Whether the last row leaves a blank line of itself.
@@ -82,16 +102,11 @@ bool ends_blank(const ReportSection& section) {
     return lines != nullptr && !lines->rows.empty() && blank_lines(lines->rows.back().format).behind > 0;
 }
 
-int lines_of(const ReportRow& row) {
-    const auto blank = blank_lines(row.format);
-    return blank.before + 1 + blank.behind;
-}
-
 // Keeps the whole of a short block, or the start of a long one, on one page with what stands above it.
 void keep_together(const ReportBlock& block, int lines_above, PageContext& page) {
     constexpr int most = 12, title_and_row = 3;
     if (const auto* text = std::get_if<ReportText>(&block)) {
-        page.KeepParagraph(text->text);
+        if (!text->text().empty()) page.KeepParagraph(text->text());
         return;
     }
     const auto* lines = std::get_if<ReportLines>(&block);
@@ -108,15 +123,32 @@ void write_heading(const std::string& heading, PageContext& page) {
     page.Line(heading);
 }
 
-void write(const ReportSection& section, PageContext& page) {
+bool is_bare(const ReportSection& section) {
+    return std::all_of(section.blocks.begin(), section.blocks.end(), [](const ReportBlock& block) {
+        const auto* text = std::get_if<ReportText>(&block);
+        return text != nullptr && text->text().empty();
+    });
+}
+
+void write(const ReportSection& section, int lines_below, PageContext& page) {
     const auto& heading = section.print_heading ? *section.print_heading : section.heading;
     if (!section.blocks.empty()) keep_together(section.blocks.front(), heading.empty() ? 0 : 2, page);
     write_heading(heading, page);
     for (const auto& block : section.blocks) {
         if (&block != &section.blocks.front()) keep_together(block, 0, page);
-        std::visit([&](const auto& content) { write(content, page); }, block);
+        const int below = &block == &section.blocks.back() ? lines_below : 0;
+        std::visit([&](const auto& content) { write(content, below, page); }, block);
     }
-    if (!ends_blank(section)) page.NewLines(1);
+    if (!ends_blank(section)) leave_blank(page, 1);
+}
+
+// The lines of the headings without a text that follow: they are not left alone on a sheet of their own.
+template <class Sections>
+int bare_lines(Sections first, Sections last) {
+    constexpr int blank_and_heading = 3;
+    int lines = 0;
+    for (; first != last && is_bare(**first); ++first) lines += blank_and_heading;
+    return lines;
 }
 
 } // namespace
@@ -133,7 +165,8 @@ void write_print(const DocumentReport& report, PageContext& page) {
     for (const auto& section : report.sections) sections.push_back(&section);
     std::stable_sort(sections.begin(), sections.end(),
                      [](const auto* a, const auto* b) { return a->print_order < b->print_order; });
-    for (const auto* section : sections) write(*section, page);
+    for (auto section = sections.begin(); section != sections.end(); ++section)
+        write(**section, bare_lines(section + 1, sections.end()), page);
 }
 
 } // namespace wortlex

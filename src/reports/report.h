@@ -39,6 +39,7 @@ struct ReportRow {
     /// The cells of print where it has its own, each as it stands, with figures as wide as told.
     std::string print_format{};
     std::optional<std::uint32_t> colour{}; ///< 0x00BBGGRR, of a box beside it in print and HTML
+    bool is_title = false;                 ///< printed in the font of headings
 };
 
 /// Labels and figures, or sentences: rows of one cell.
@@ -54,6 +55,7 @@ struct ReportColumn {
     int width = 0;         ///< of its cells, in pixels
     HtmlAlign align = HtmlAlign::left;
     int title_tab = 0; ///< of print, where the title stands elsewhere than the column
+    int end = 0;       ///< of print, where its figures end, flush; 0: they begin at the tab
 };
 
 /// A list under column titles, a cell a column.
@@ -62,9 +64,14 @@ struct ReportTable {
     std::vector<ReportRow> rows;
 };
 
-/// A text as the user typed it, UTF-8.
-struct ReportText {
-    std::string text;
+/// A text as the user typed it, UTF-8. Every line of it ends with CR LF, whatever it came with.
+class ReportText {
+public:
+    explicit ReportText(std::string_view typed);
+    const std::string& text() const { return text_; }
+
+private:
+    std::string text_;
 };
 
 using ReportBlock = std::variant<ReportLines, ReportTable, ReportText>;

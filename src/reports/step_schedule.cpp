@@ -41,14 +41,14 @@ ReportLines opening(const ReportSource& source) {
 std::vector<ReportColumn> step_columns() {
     constexpr auto right = HtmlAlign::right;
     return {{"\nStep Name", 0, 0, 140},
-            {"Step\nTime", 21, 175, 45, right},
-            {"Rest\nTime", 28, 225, 45, right},
-            {"Start\nTemp", 35, 275, 45, right},
-            {"Stop\nTemp", 43, 325, 45, right},
+            {"Step\nTime", 21, 175, 45, right, 175, 202},
+            {"Rest\nTime", 28, 225, 45, right, 225, 252},
+            {"Start\nTemp", 35, 275, 45, right, 275, 306},
+            {"Stop\nTemp", 43, 325, 45, right, 325, 356},
             {"Heat\nType", 49, 375, 55},
-            {"Infuse\nTemp", 58, 435, 50, right},
-            {"Infuse\nAmount", 67, 485, 55, right, 490},
-            {"Infuse\nRatio", 75, 560, 70, right, 550}};
+            {"Infuse\nTemp", 58, 435, 50, right, 435, 468},
+            {"Infuse\nAmount", 67, 485, 55, right, 490, 532},
+            {"Infuse\nRatio", 75, 560, 70, right, 550, 583}};
 }
 
 void add_heat(ReportRow& row, const MashStep& step, const Settings& settings) {

@@ -22,7 +22,7 @@ void write(const ReportTable& table, TextSink& sink) {
 }
 
 void write(const ReportText& text, TextSink& sink) {
-    sink.long_text(text.text);
+    sink.long_text(text.text());
     if (!sink.text().ends_with("\n")) sink.put("\n");
 }
 

@@ -21,8 +21,9 @@ using testing::EndsWith;
 using testing::HasSubstr;
 
 // A line is 16 dots at three quarters, and 11 at a half.
-PageJob shown(PrintRequest request, float scale = 0.75F) {
+PageJob shown(PrintRequest request, float scale = 0.75F, int letter = 4) {
     RecordingPageDesk desk;
+    desk.character.width = letter;
     request.printer_scale = scale;
     desk.show(request);
     return std::move(desk.jobs.front());
@@ -59,7 +60,7 @@ TEST(ListPrintout, PrintsWhatIsShownUnderItsHeadsOnEveryPage) {
     Settings settings;
     settings.hop_weight_units = Units::metric;
     std::vector<HopRecord> entries(51);
-    entries[50].name.assign(std::string(52, 'W')); // 10 units each, in a column of 245
+    entries[50].name.assign(std::string(52, 'W')); // of 4 dots each, in 183 less a gap of 3
     entries[50].stock = 1;
     Listed hops(SaveHops, hop_list, entries, settings);
     const auto all = shown(hops->printout());
@@ -67,7 +68,7 @@ TEST(ListPrintout, PrintsWhatIsShownUnderItsHeadsOnEveryPage) {
     EXPECT_THAT(texts_on(all, 1),
                 ElementsAre("113 Wortlex Hop List - All Hops", "113 @584 Page 2", "153 \t\t\tPrimary\tg In",
                             "169 Name\tOrigin\tAlpha\tUse\tStock\tForm",
-                            "185 " + std::string(24, 'W') + "\t\t   0.00\t\t  28.35\tWhole"));
+                            "185 " + std::string(45, 'W') + "\t\t   0.00\t\t  28.35\tWhole"));
     EXPECT_THAT(calls_on(all, 0), Contains(HasSubstr("[45,228,333,382,446,495] \tName\tOrigin")));
     hops->choose_filter(3, hops.prompts);
     EXPECT_THAT(texts_on(shown(hops->printout()), 0),
@@ -205,11 +206,12 @@ TEST(EntryPrintout, BreaksLongTextsBesideTheirLabel) {
     Text<155> note;
     note.assign(std::string(40, 'a') + " " + std::string(19, 'b') + " c\r\n" + std::string(61, 'd'));
     entry.text("Note", note);
-    const auto job = shown({"", 1, [&](PageContext& page) { print_entry(page, "T", entry); }}, 0.5F);
+    const auto job = shown({"", 1, [&](PageContext& page) { print_entry(page, "T", entry); }}, 0.5F, 8);
     EXPECT_THAT(texts_on(job, 0),
-                ElementsAre("113 T", "113 @584 Page 1",
-                            "140 Note:\t" + std::string(40, 'a') + " " + std::string(19, 'b'), "151 \tc",
-                            "162 \t" + std::string(60, 'd'), "173 \td"));
+                ElementsAre("113 T", "113 @584 Page 1", "140 Note:\t" + std::string(40, 'a'),
+                            "151 \t" + std::string(19, 'b') + " c", "162 \t" + std::string(57, 'd'),
+                            "173 \tdddd"))
+        << "57 letters of 8 between 132 and 595";
 }
 
 } // namespace

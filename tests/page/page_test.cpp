@@ -58,15 +58,39 @@ TEST(Page, CentresBetweenTheMarginsAndCutsToColumns) {
         EXPECT_THAT(centred("ten is ten", scale, plain_paper()), ElementsAre("113 @280 ten is ten"));
     const Paper lying{.sheet = {1100, 660}, .area = {1000, 640}, .top_offset = 10, .is_landscape = true};
     EXPECT_THAT(centred("ten is ten", 1, lying), ElementsAre("113 @460 ten is ten"));
-    // 90 letters from the margin on reach 765, so that all shrinks by 640 / 765.
-    EXPECT_THAT(centred(std::string(90, 'x'), 1, plain_paper()).front(), testing::StartsWith("94 @37 x"));
 
-    recorded([](PageContext& page) { // 100 dots less the gap of 4: 12 letters of 8 just fit
-        EXPECT_EQ(page.fitted("twelve chars", 60, 160), "twelve chars");
-        EXPECT_EQ(page.fitted("twelve chars.", 60, 160), "twelve chars");
-        EXPECT_EQ(page.fitted("W\u00FCrze", 0, 20), "W") << "no half a letter";
-        EXPECT_EQ(page.fitted("none", 50, 40), "");
-    });
+    // 100 dots less the gap of 4: 12 letters of 8 just fit. A figure of 4 ends at the margin and 240.
+    const auto cut = [](std::string text, PageColumn next) {
+        const PageColumn columns[] = {{60}, next, {200, false, 240}};
+        return recorded([&](PageContext& page) { page.TableLine(columns, {text, "", "5.00 gal"}); });
+    };
+    EXPECT_THAT(calls_on(cut("twelve chars", {160}), 0),
+                Contains("tabbed 0,113 [105,205,253] \ttwelve chars\t\t5.00 gal"));
+    EXPECT_THAT(texts_on(cut("twelve chars.", {160}), 0), ElementsAre("113 twelve chars\t\t5.00 gal"));
+    EXPECT_THAT(texts_on(cut("W\u00FCrze", {80}), 0), ElementsAre("113 W\t\t5.00 gal")) << "no half a letter";
+    EXPECT_THAT(texts_on(cut("none", {50}), 0), ElementsAre("113 \t\t5.00 gal"));
+}
+
+// Letters that are as wide as they are high.
+struct SquareLetters : RecordingSurface {
+    void set_font(const Font& font) override { character = {font.cell_height, font.cell_height}; }
+};
+
+TEST(Page, RecordsWhatIsTooWideAgainAtASmallerScale) {
+    SquareLetters measure;
+    const auto job_of = [&](int letters) {
+        const Report report = [letters](PageContext& page) {
+            for (int line = 0; line < 50; ++line)
+                page.Line(std::string(static_cast<std::size_t>(letters), 'x'));
+        };
+        return record_report({"", 1, report}, plain_paper(), measure).value_or(PageJob{});
+    };
+    EXPECT_EQ(job_of(42).pages.size(), 2U) << "42 letters of 14 from 45 on";
+    const auto narrow = job_of(84);
+    EXPECT_THAT(calls_on(narrow, 0).front(), "font Arial 7 0 400 ");
+    EXPECT_LE(narrow.right(), 640);
+    EXPECT_EQ(narrow.pages.size(), 1U) << "at half the pitch 50 lines need one page";
+    EXPECT_THAT(calls_on(narrow, 0), Contains(HasSubstr("tabbed 0,113 [45]"))) << "the margin stays";
 }
 
 TEST(Page, ScalesTurnsAndShrinksWhatAsksForIt) {
@@ -85,20 +109,12 @@ TEST(Page, ScalesTurnsAndShrinksWhatAsksForIt) {
     // Letters higher than their line are made smaller: 14 by 14 / 20, 21 stays.
     EXPECT_THAT(calls_on(recorded(tabs, 1, plain_paper(), {8, 20}), 0), Contains("font Arial 9 0 400 "));
 
-    // A title of 640 dots in a room of 584 - 45 - 11: 21 becomes 17. Here no letters are narrower for it, so
-    // the page shrinks too, by 640 / 685.
+    // A title of 560 dots in a room of 584 - 45 - 11: 21 becomes 19.
     const auto titled = recorded([](PageContext& page) {
-        page.SetHeader(0, std::string(80, 'x'));
+        page.SetHeader(0, std::string(70, 'x'));
         page.Line("");
     });
-    EXPECT_EQ(calls_on(titled, 0).front(), "font Arial 15 0 700 italic");
-
-    // A line that ends at 45 + 80 x 8 = 685: all that is drawn shrinks by 640 / 685.
-    const auto shrunk = recorded([](PageContext& page) { page.Line(std::string(80, 'x')); });
-    EXPECT_EQ(shrunk.scale(), 640.0 / 685);
-    EXPECT_EQ(calls_on(shrunk, 0).front(), "font Arial 13 0 400 ");
-    EXPECT_THAT(calls_on(shrunk, 0).back(), HasSubstr("tabbed 0,105 [42]"));
-    EXPECT_EQ(recorded([](PageContext& page) { page.Line(std::string(74, 'x')); }).scale(), 1);
+    EXPECT_EQ(calls_on(titled, 0).front(), "font Arial 19 0 700 italic");
 }
 
 TEST(Page, EndsWhereTheNextLineWouldNotFit) {
@@ -149,6 +165,19 @@ TEST(Page, NumbersPagesAndKeepsNothingOffThePaper) {
     for (const float damaged : {0.0F, -1.0F, 1e30F, std::numeric_limits<float>::quiet_NaN()})
         EXPECT_THAT(texts_on(recorded([](PageContext& page) { lines(page, 2); }, damaged), 0),
                     ElementsAre("113 line", "135 line"));
+}
+
+TEST(Page, BreaksParagraphsAtBlanksAndAtTheMargin) {
+    // 550 dots between the margins take 68 letters of 8.
+    const auto part = [](int count) { return std::string(static_cast<std::size_t>(count), 'w'); };
+    const auto broken = [&](const std::string& text) {
+        return texts_on(recorded([&](PageContext& page) { page.Paragraph(text); }), 0);
+    };
+    EXPECT_THAT(broken(part(60) + " pH of 5.2"), ElementsAre("113 " + part(60) + " pH of", "133 5.2"));
+    EXPECT_THAT(broken(part(68) + "   end"), ElementsAre("113 " + part(68), "133 end"));
+    EXPECT_THAT(broken("  " + part(150)),
+                ElementsAre("113   " + part(66), "133 " + part(68), "153 " + part(16)))
+        << "an indent is no word";
 }
 
 TEST(Page, CutsParagraphsAt101CharactersAndAtCarriageReturns) {

@@ -4,6 +4,7 @@
 #include "base/ports/quiet_prompts.h"
 #include "reports/file_names.h"
 #include "reports/row_words.h"
+#include "support/recording_desk.h"
 #include "support/temporary_folder.h"
 
 #include <gmock/gmock.h>
@@ -214,8 +215,30 @@ TEST(Catalogue, print_has_words_of_its_own) {
     EXPECT_THAT(pages, HasSubstr("Batch Size (hL):\t0.19\tWort Size (hL):\t0.19"));
     EXPECT_THAT(pages, HasSubstr("Tun Thermal Mass :\t  0.00"));
     EXPECT_THAT(pages, HasSubstr("Total Mash Volume hL:\t  0.14\t-After Additional Infusions"));
+    // A unit is 3.75 dots, a letter 20: three figures that end at 202 and 252, from the margin at 168 on.
+    EXPECT_THAT(pages, HasSubstr("[168,674,816,"));
     EXPECT_THAT(pages, HasSubstr("Maltose\t  5\t 20\t 63\t 62\tDecoc\t100\t"));
     EXPECT_THAT(pages, HasSubstr("\tDirect\t---\t-----\t----\n"));
+}
+
+TEST(Print, leaves_no_heading_alone_on_a_sheet) {
+    for (int lines = 30; lines < 90; ++lines) {
+        std::string notes;
+        for (int line = 0; line < lines; ++line) notes += "word\n";
+        DocumentReport report;
+        report.sections = {section_of("Notes", ReportText(notes)), section_of("Awards", ReportText(""))};
+        RecordingSurface measure;
+        measure.character = {8, 10};
+        const auto job = record_report({"", 1, [&](PageContext& page) { write_print(report, page); }},
+                                       plain_paper(), measure);
+        const auto last = texts_on(*job, job->pages.size() - 1);
+        EXPECT_THAT(last.back(), HasSubstr("Awards")) << lines;
+        EXPECT_THAT(last, testing::Contains(HasSubstr("word"))) << lines;
+    }
+}
+
+TEST(Notes, end_their_lines_alike_whatever_they_came_with) {
+    EXPECT_EQ(ReportText("a\nb\rc\r\n\n\rd").text(), "a\r\nb\r\nc\r\n\r\n\r\nd");
 }
 
 TEST(Catalogue, columns_stay_apart_in_every_form) {

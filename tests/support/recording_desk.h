@@ -39,10 +39,11 @@ inline std::vector<std::string> texts_on(const PageJob& job, std::size_t page) {
 struct RecordingPageDesk : PageDesk {
     std::vector<PageJob> jobs;
     std::vector<float> scales;
+    Extent character{8, 10};
 
     void show(const PrintRequest& request) override {
         RecordingSurface measure;
-        measure.character = {8, 10};
+        measure.character = character;
         auto job = record_report(request, plain_paper(), measure);
         if (!job) throw std::logic_error("nothing can be printed on plain paper");
         jobs.push_back(std::move(*job));

@@ -1,0 +1,63 @@
+#include "page/line_breaks.h"
+
+#include "page/characters.h"
+
+#include <algorithm>
+
+namespace wortlex {
+namespace {
+
+// At least one character, or a narrow room would never be left.
+std::string_view first_line(std::string_view text, const LineRoom& room) {
+    const auto fitting = start_that_fits(text, room);
+    if (fitting.size() == text.size()) return text;
+    const auto blank = text.substr(0, fitting.size() + 1).find_last_of(' ');
+    const auto last = text.substr(0, blank).find_last_not_of(' ');
+    if (blank != std::string_view::npos && last != std::string_view::npos) return text.substr(0, last + 1);
+    return fitting.empty() ? first_characters(text, 1) : fitting;
+}
+
+std::string plain_text(std::string_view text) {
+    std::string plain(text);
+    std::erase(plain, '\n');
+    std::replace(plain.begin(), plain.end(), '\t', ' ');
+    return plain;
+}
+
+} // namespace
+
+std::string_view start_that_fits(std::string_view text, const LineRoom& room) {
+    std::size_t fitting = 0, most = std::min(character_count(text), room.characters);
+    while (fitting < most) {
+        const auto middle = (fitting + most + 1) / 2;
+        if (room.measure.text_extent(first_characters(text, middle)).width <= room.dots) {
+            fitting = middle;
+        } else {
+            most = middle - 1;
+        }
+    }
+    return first_characters(text, fitting);
+}
+
+std::vector<std::string> wrapped(std::string_view text, const LineRoom& room) {
+    std::vector<std::string> lines;
+    do {
+        lines.emplace_back(first_line(text, room));
+        text.remove_prefix(lines.back().size());
+        text.remove_prefix(std::min(text.find_first_not_of(' '), text.size()));
+    } while (!text.empty());
+    return lines;
+}
+
+std::vector<std::string> paragraph_lines(std::string_view text, const LineRoom& room) {
+    std::vector<std::string> lines;
+    const auto plain = plain_text(text);
+    for (std::string_view rest = plain; !rest.empty();) {
+        const auto end = std::min(rest.find('\r'), rest.size());
+        for (auto& line : wrapped(rest.substr(0, end), room)) lines.push_back(std::move(line));
+        rest.remove_prefix(std::min(end + 1, rest.size()));
+    }
+    return lines;
+}
+
+} // namespace wortlex
