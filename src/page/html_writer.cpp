@@ -14,7 +14,8 @@ constexpr std::string_view hex_digits = "0123456789abcdef";
 constexpr std::string_view faces = "verdana,helvetica,arial";
 constexpr std::string_view keywords =
     "beer, brewing, homebrew, homebrewing, beer recipe, malt, hops, yeast, mash, wort, Wortlex";
-constexpr std::string_view product_site = "https://wortlex.example/";
+constexpr std::string_view top_of_page = "#"; // the product has no site yet
+constexpr std::string_view tab_blanks = "    ";
 
 std::string two_digits(std::uint32_t byte, std::string_view digits) {
     return {digits[byte >> 4 & 0xF], digits[byte & 0xF]};
@@ -96,6 +97,19 @@ std::string escaped(std::string_view text, Breaks breaks = Breaks::kept) {
     return markup;
 }
 
+// A browser draws one blank for several, and none at the start of a line.
+std::string with_kept_blanks(std::string_view text) {
+    std::string kept;
+    bool is_kept = true;
+    for (const char byte : text) {
+        for (const char c : byte == '\t' ? tab_blanks : std::string_view(&byte, 1)) {
+            kept += c == ' ' && is_kept ? html_blank : std::string_view(&c, 1);
+            is_kept = c == '\r' || c == '\n' || (c == ' ' && !is_kept);
+        }
+    }
+    return kept;
+}
+
 bool stands_in_address(char byte) {
     return (byte >= '0' && byte <= '9') || (byte >= 'A' && byte <= 'Z') || (byte >= 'a' && byte <= 'z') ||
            byte == '-' || byte == '_' || byte == '.' || byte == '~';
@@ -143,7 +157,7 @@ void HtmlWriter::page_start(std::string_view title) {
 
 void HtmlWriter::page_end() {
     line("<BR>");
-    line("<B>Generated with <A" + attribute("HREF", product_site) + ">Wortlex</A></B>");
+    line("<B>Generated with <A" + attribute("HREF", top_of_page) + ">Wortlex</A></B>");
     line("</FONT>");
     line("</TD></TR></TABLE>");
     line("</BODY>");
@@ -236,7 +250,7 @@ void HtmlWriter::italic_cell_end(std::string_view text) {
 }
 
 void HtmlWriter::multi_line_cell_end(std::string_view text) {
-    close_cell(escaped(text, Breaks::as_markup), "</FONT>");
+    close_cell(escaped(with_kept_blanks(text), Breaks::as_markup), "</FONT>");
 }
 
 void HtmlWriter::rule() {

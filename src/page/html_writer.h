@@ -57,7 +57,7 @@ public:
     /// A carriage return breaks the line.
     void bold_cell_end(std::string_view text = {});
     void italic_cell_end(std::string_view text = {});
-    /// Every carriage return breaks a line, and line feeds stay.
+    /// Every carriage return breaks a line, and line feeds stay; so do indents and several blanks in a row.
     void multi_line_cell_end(std::string_view text);
 
     void rule();

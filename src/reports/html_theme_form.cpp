@@ -81,7 +81,9 @@ void file_rows(Rows& rows, HtmlThemeEditor& editor) {
 } // namespace
 
 void HtmlThemeEditor::choose_colour(std::uint32_t& colour) {
-    colour = desk_.prompts.choose_colour(colour).value_or(colour);
+    const auto chosen = desk_.prompts.choose_colour(colour);
+    if (!chosen) return;
+    colour = *chosen;
     work.second_background = work.body_background;
 }
 

@@ -169,10 +169,10 @@ TEST(HtmlWriter, KeepsItsMeasuresWhateverAThemeHolds) {
 TEST(HtmlWriter, WritesFreeTextAndLinksSoThatTheyRead) {
     HtmlWriter html(built_in(BuiltInTheme::mint));
     html.cell_start(5, HtmlAlign::none, HtmlArea::field);
-    html.multi_line_cell_end("one\r\n<two>");
+    html.multi_line_cell_end("one\r\n<two>\r\n\t- a   b c");
     html.rule();
     html.image("My Ale #1 & \u00E9.jpg", "Mash Schedule");
-    EXPECT_THAT(html.page(), HasSubstr("one<BR>\n&lt;two&gt;</FONT>\n"));
+    EXPECT_THAT(html.page(), HasSubstr("one<BR>\n&lt;two&gt;<BR>\n&nbsp; &nbsp; - a &nbsp; b c</FONT>\n"));
     EXPECT_THAT(html.page(), HasSubstr("<HR WIDTH=\"650\" ALIGN=\"LEFT\" SIZE=\"1\" NOSHADE=\"NOSHADE\">\n"));
     EXPECT_THAT(
         html.page(),
@@ -201,6 +201,7 @@ TEST(HtmlThemeForm, EditsACopyUntilItIsAccepted) {
     dialog.form.type(dynamic_cast<EntryRow&>(dialog.form.row("name")), field);
     dialog.prompts.expect("colour", std::to_string(0xFFFFFF), ScriptedPrompts::Colour(0x123456), {}, "");
     dialog.press("body_background");
+    dialog.editor.work.second_background = 1;
     dialog.prompts.expect("colour", "0", ScriptedPrompts::Colour(), {}, "");
     dialog.press("field_text");
     EXPECT_TRUE(dialog.form.row("border_colour").is_enabled());
@@ -211,7 +212,8 @@ TEST(HtmlThemeForm, EditsACopyUntilItIsAccepted) {
     dialog.form.accept();
     auto expected = built_in(BuiltInTheme::black_and_white);
     expected.name.assign("Cellar Night");
-    expected.body_background = expected.second_background = 0x123456;
+    expected.body_background = 0x123456;
+    expected.second_background = 1; // as it was before the choice that was cancelled
     expected.borders = 0;
     expected.font_size = 2;
     EXPECT_EQ(dialog.live, expected);
