@@ -27,7 +27,7 @@ struct Brewery {
     QuietPrompts prompts;
     FileDialogs files;
     SystemClipboard clipboard;
-    PreviewDesk pages{files, prompts, places(program)};
+    PreviewDesk pages{files, prompts, places(program), program.folders, program.data_folder};
 
     Brewery() {
         program.settings = settings_from(image);

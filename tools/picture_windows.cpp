@@ -92,7 +92,7 @@ QWidget* document_window(const MainWindow& main) {
 bool picture(Program& program, Prompts& prompts, const QDir& target, const std::string& recipe) {
     FileDialogs files;
     SystemClipboard clipboard;
-    PreviewDesk pages(files, prompts, places(program));
+    PreviewDesk pages(files, prompts, places(program), program.folders, program.data_folder);
     MainWindow main({program, prompts, files, pages, clipboard});
     main.show();
     settle();

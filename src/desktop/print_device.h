@@ -4,6 +4,7 @@
 #include "base/bytes.h"
 #include "desktop/painter_surface.h"
 #include "page/page_job.h"
+#include "settings/paper_choice.h"
 
 #include <QImage>
 #include <QPageLayout>
@@ -12,17 +13,6 @@
 namespace wortlex {
 
 inline constexpr int print_resolution = 300; // dots an inch
-
-enum class PaperKind : std::int32_t { a4, letter };
-enum class PaperTurn : std::int32_t { portrait, landscape };
-
-/// What the user chooses of the paper.
-struct PaperChoice {
-    PaperKind kind = PaperKind::a4;
-    PaperTurn turn = PaperTurn::portrait;
-
-    bool operator==(const PaperChoice&) const = default;
-};
 
 /// Letter where inches are usual, else A4.
 PaperChoice usual_paper();

@@ -180,20 +180,24 @@ void PrintPreview::print() {
 void PrintPreview::save() {
     const auto path =
         ports_.files.choose_to_save({.filter = "PDF File (*.pdf)|*.pdf",
-                                     .folder = {},
-                                     .suggested_name = tame_file_name(pages_.job().document_name) + ".pdf",
+                                     .folder = folder_path(ports_.folders, FolderKind::text_exports),
+                                     .suggested_name = tame_file_name(pages_.file_name()) + ".pdf",
                                      .extension = "pdf"});
     if (!path) return;
+    follow_user(ports_.folders, FolderKind::text_exports, *path);
     const auto file = pdf_of(pages_.job(), pages_.paper(), ports_.prompts);
     if (!file.empty()) save_or_tell(*path, file, ports_.prompts);
 }
 
-PreviewDesk::PreviewDesk(Files& files, Prompts& prompts, const Places& places)
-    : files_(files), prompts_(prompts), places_(places), paper_(usual_paper()) {}
+PreviewDesk::PreviewDesk(Files& files, Prompts& prompts, const Places& places, FolderSet& folders,
+                         std::string data_folder)
+    : data_folder_(std::move(data_folder)),
+      paper_(LoadPaperChoice(data_folder_, usual_paper())), ports_{files, prompts, places, folders, paper_} {}
 
 void PreviewDesk::show(const PrintRequest& request) {
-    PrintPreview preview(request, {files_, prompts_, places_, paper_}, window_in_use());
-    preview.exec();
+    const auto before = paper_;
+    PrintPreview(request, ports_, window_in_use()).exec();
+    if (paper_ != before) SavePaperChoice(data_folder_, paper_);
 }
 
 } // namespace wortlex

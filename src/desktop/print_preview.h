@@ -26,11 +26,12 @@ private:
     QWidget* sheet_;
 };
 
-/// What the preview asks, and where its paper is remembered.
+/// What the preview asks, and what it remembers.
 struct PrintPorts {
     Files& files;
     Prompts& prompts;
     Places places;
+    FolderSet& folders;
     PaperChoice& paper;
 };
 
@@ -59,14 +60,15 @@ private:
 /// Shows every report in a preview over the window in use.
 class PreviewDesk : public PageDesk {
 public:
-    PreviewDesk(Files& files, Prompts& prompts, const Places& places);
+    /// The paper is kept in `data_folder`. All must outlive the desk.
+    PreviewDesk(Files& files, Prompts& prompts, const Places& places, FolderSet& folders,
+                std::string data_folder);
     void show(const PrintRequest& request) override;
 
 private:
-    Files& files_;
-    Prompts& prompts_;
-    Places places_;
+    std::string data_folder_;
     PaperChoice paper_; ///< as the user left it the last time
+    PrintPorts ports_;
 };
 
 } // namespace wortlex

@@ -67,6 +67,10 @@ void PreviewPages::choose(PreviewZoom zoom) {
     tell();
 }
 
+std::string PreviewPages::file_name() const {
+    return request_.file_name.empty() ? request_.document_name : request_.file_name;
+}
+
 std::string PreviewPages::place() const {
     return "Page " + std::to_string(current_ + 1) + " of " + std::to_string(count());
 }

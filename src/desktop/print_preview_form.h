@@ -20,6 +20,8 @@ public:
     std::size_t count() const { return job_.pages.size(); }
     /// From 0.
     std::size_t current() const { return current_; }
+    /// What a file of the pages is called, without its ending.
+    std::string file_name() const;
     /// "Page 2 of 3".
     std::string place() const;
 

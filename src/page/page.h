@@ -151,6 +151,7 @@ struct PrintRequest {
     std::string document_name;
     float printer_scale = 1;
     Report run;
+    std::string file_name{}; ///< proposed for a file of the pages, without its ending; empty: as the document
 };
 
 /// The pages of a report on such paper; nothing if the paper cannot be printed on. What is too wide for it

@@ -8,6 +8,8 @@
 #include "reports/report_writers.h"
 #include "reports/row_parts.h"
 
+#include <filesystem>
+
 namespace wortlex {
 namespace {
 
@@ -41,11 +43,17 @@ TextSink text_of(const DocumentReport& report) {
     return sink;
 }
 
+// Empty for a document that has not been saved.
+std::string file_stem(const Program& program) {
+    return std::filesystem::path(program.document.file.path).stem().string();
+}
+
 void print(const WindowPorts& ports, const DocumentReport& report, const std::string& title) {
     const auto& traits = document_traits(ports.program.document.kind);
     ports.pages.show({.document_name = title.empty() ? std::string(traits.printed_name) : title,
                       .printer_scale = ports.program.settings.printer_scale,
-                      .run = [&report](PageContext& page) { write_print(report, page); }});
+                      .run = [&report](PageContext& page) { write_print(report, page); },
+                      .file_name = file_stem(ports.program)});
 }
 
 } // namespace

@@ -19,13 +19,16 @@ struct PreviewDialog {
     ScriptedPrompts prompts;
     ScriptedFiles files;
     PaperChoice paper;
+    FolderSet folders;
     int runs = 0;
     PrintRequest request{"Recipe: \"Ale\"", 1, [this](PageContext& page) { write(page); }};
     PrintPreview preview;
 
     explicit PreviewDialog(std::deque<std::optional<std::string>> paths = {})
         : files(std::move(paths)),
-          preview(request, {files, prompts, {positions, settings, notices}, paper}, nullptr) {
+          preview(request, {files, prompts, {positions, settings, notices}, folders, paper}, nullptr) {
+        set_folder(folders, FolderKind::text_exports, "Exports");
+        folders.save_automatically = 1;
         preview.show();
         EXPECT_TRUE(QTest::qWaitForWindowActive(&preview));
     }
@@ -69,7 +72,8 @@ TEST(PrintPreview, SavesPdfAlsoWhereThereIsNoPrinter) {
     EXPECT_FALSE(dialog.preview.widgets().field("print").toolTip().isEmpty())
         << "its key, or why it is disabled";
     dialog.key(Qt::Key_S, Qt::ControlModifier);
-    EXPECT_EQ(dialog.files.offers.back(), "save PDF File (*.pdf)|*.pdf  Recipe_ _Ale_.pdf pdf");
+    EXPECT_EQ(dialog.files.offers.back(), "save PDF File (*.pdf)|*.pdf Exports/ Recipe_ _Ale_.pdf pdf");
+    EXPECT_EQ(folder_path(dialog.folders, FolderKind::text_exports), folder.path());
     const auto file = read_file(folder / "recipe.pdf").value_or(Bytes{});
     const std::string text(reinterpret_cast<const char*>(file.data()), file.size());
     EXPECT_EQ(text.substr(0, 5), "%PDF-");

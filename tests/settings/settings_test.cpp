@@ -1,4 +1,5 @@
 #include "base/files.h"
+#include "settings/paper_choice.h"
 #include "settings/settings.h"
 #include "settings/system_files.h"
 #include "support/byte_probe.h"
@@ -289,6 +290,17 @@ TEST(SystemFiles, StandAsTheirTablesSayAndHaveBuiltInValues) {
     EXPECT_TRUE(LoadReminders(folder.path()) == (ReminderFlags{1, 1, 1}));
     ASSERT_TRUE(save_atomically(folder / "Nags.dat", Bytes(1)));
     EXPECT_TRUE(LoadReminders(folder.path()) == (ReminderFlags{0, 1, 1})) << "a short file";
+}
+
+TEST(PaperChoice, IsRememberedInAText) {
+    const TemporaryFolder folder;
+    const PaperChoice usual{PaperKind::letter, PaperTurn::portrait},
+        other{PaperKind::a4, PaperTurn::landscape};
+    EXPECT_EQ(LoadPaperChoice(folder.path(), usual), usual);
+    EXPECT_TRUE(SavePaperChoice(folder.path(), other));
+    EXPECT_EQ(LoadPaperChoice(folder.path(), usual), other);
+    ASSERT_TRUE(save_atomically(folder / "WlxPaper.txt", std::as_bytes(std::span("paper: A4\nrubbish"))));
+    EXPECT_EQ(LoadPaperChoice(folder.path(), usual), (PaperChoice{PaperKind::a4, PaperTurn::portrait}));
 }
 
 TEST(PrintSelection, EachDocumentKindHasItsFileAndHtmlExcludesTheClipboard) {

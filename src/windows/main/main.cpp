@@ -44,7 +44,7 @@ int run(int count, char** arguments) {
     if (!start(program, folder, prompts)) return 0;
     FileDialogs files;
     SystemClipboard clipboard;
-    PreviewDesk pages(files, prompts, places(program));
+    PreviewDesk pages(files, prompts, places(program), program.folders, program.data_folder);
     MainWindow window({program, prompts, files, pages, clipboard});
     window.show();
     // Drawing the icon in all its sizes takes a tenth of the start: the window need not wait for it.
