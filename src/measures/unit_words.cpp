@@ -5,9 +5,10 @@
 namespace wortlex {
 namespace {
 
-constexpr std::array spellings = {
-    &UnitWords::full,   &UnitWords::small,  &UnitWords::capital, &UnitWords::dotted, &UnitWords::head,
-    &UnitWords::column, &UnitWords::amount, &UnitWords::row,     &UnitWords::entry,  &UnitWords::stock};
+constexpr std::array spellings = {&UnitWords::full,   &UnitWords::small, &UnitWords::capital,
+                                  &UnitWords::dotted, &UnitWords::head,  &UnitWords::column,
+                                  &UnitWords::amount, &UnitWords::row,   &UnitWords::entry,
+                                  &UnitWords::stock,  &UnitWords::rate};
 
 constexpr UnitWords unit(UnitWords words) {
     for (const auto spelling : spellings)
@@ -22,7 +23,7 @@ constexpr std::array table = {
     unit({.usual = "bbl", .full = "Barrels", .capital = "BBL"}),
     unit({.usual = "Qts", .full = "Quarts", .capital = "QTS"}),
     unit({.usual = "L", .full = "Liters"}),
-    unit({.usual = "hL", .full = "Hectoliters"}),
+    unit({.usual = "hL", .full = "Hectoliters", .rate = "hl"}),
     unit({.usual = "Oz",
           .full = "Ounces",
           .small = "oz",

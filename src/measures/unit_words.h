@@ -43,6 +43,7 @@ struct UnitWords {
     const char* row = nullptr;     ///< "Gr", of printed lists of extras
     const char* entry = nullptr;   ///< "Grams", of a printed extra
     const char* stock = nullptr;   ///< "Grams", of the inventory of extras
+    const char* rate = nullptr;    ///< "hl", an hour
 };
 
 const UnitWords& words_of(Unit unit);

@@ -52,7 +52,7 @@ ReportRow evaporation_row(const ReportSource& source) {
     const auto& settings = source.open.settings;
     if (settings.evaporation_by_volume == 0)
         return {"Evaporation Rate:     |%6.2f    |Percent Per Hour\n", {source.evaporation_rate}};
-    return {"Evaporation Rate:     |%6.2f    |" + std::string(volume_unit(settings).usual) + " Per Hour\n",
+    return {"Evaporation Rate:     |%6.2f    |" + std::string(volume_unit(settings).rate) + " Per Hour\n",
             {to_shown_volume(source.evaporation_rate, settings)}};
 }
 

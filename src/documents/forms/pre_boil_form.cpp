@@ -15,18 +15,12 @@ namespace {
 
 constexpr std::string_view title = "Wortlex Pre-Boil Calculator";
 
-// Hectolitres have always been spelt so here.
-std::string kettle_unit(const Settings& settings) {
-    const auto& words = volume_unit(settings);
-    return &words == &words_of(Unit::hectolitres) ? "hl" : words.usual;
-}
-
 float shown_rate(float rate, const Settings& settings) {
     return settings.evaporation_by_volume != 0 ? to_shown_volume(rate, settings) : rate;
 }
 
 std::string rate_unit(const Settings& settings) {
-    return (settings.evaporation_by_volume != 0 ? kettle_unit(settings) : "%") + " Per Hour";
+    return std::string(settings.evaporation_by_volume != 0 ? volume_unit(settings).rate : "%") + " Per Hour";
 }
 
 void print_line(PageContext& page, const std::string& line) {
@@ -49,7 +43,7 @@ void print_kettle(PageContext& page, const std::string& label, const PreBoil& ke
                   const Settings& settings) {
     const float sg = sg_from_points(kettle.points);
     print_line(page, label + formatted(" Wort Size:\t%0.2f\t", to_shown_volume(kettle.volume, settings)) +
-                         kettle_unit(settings));
+                         volume_unit(settings).usual);
     print_line(page, label + " Gravity:\t" +
                          formatted(sg_pattern(0, settings) + "\tSG\t", trunc_to_precision(sg, 5)) +
                          formatted(plato_pattern(0, settings) + "\tPlato", sg_to_plato(sg)));
@@ -77,7 +71,7 @@ void kettle_rows(Rows& rows, const std::string& key, const std::string& label, c
     rows.shown_number(
             key + "_volume", [volume] { return volume; }, "%0.2f")
         .label(label + " Wort Size:")
-        .unit(kettle_unit(settings));
+        .unit(volume_unit(settings).usual);
     rows.shown_sg(
             key + "_sg", [sg] { return sg; }, settings)
         .label(label + " Gravity:")
