@@ -294,13 +294,13 @@ TEST(SystemFiles, StandAsTheirTablesSayAndHaveBuiltInValues) {
 
 TEST(PaperChoice, IsRememberedInAText) {
     const TemporaryFolder folder;
-    const PaperChoice usual{PaperKind::letter, PaperTurn::portrait},
+    const PaperChoice first{PaperKind::letter, PaperTurn::portrait},
         other{PaperKind::a4, PaperTurn::landscape};
-    EXPECT_EQ(LoadPaperChoice(folder.path(), usual), usual);
+    EXPECT_EQ(LoadPaperChoice(folder.path(), first), first);
     EXPECT_TRUE(SavePaperChoice(folder.path(), other));
-    EXPECT_EQ(LoadPaperChoice(folder.path(), usual), other);
+    EXPECT_EQ(LoadPaperChoice(folder.path(), first), other);
     ASSERT_TRUE(save_atomically(folder / "WlxPaper.txt", std::as_bytes(std::span("paper: A4\nrubbish"))));
-    EXPECT_EQ(LoadPaperChoice(folder.path(), usual), (PaperChoice{PaperKind::a4, PaperTurn::portrait}));
+    EXPECT_EQ(LoadPaperChoice(folder.path(), first), (PaperChoice{PaperKind::a4, PaperTurn::portrait}));
 }
 
 TEST(PrintSelection, EachDocumentKindHasItsFileAndHtmlExcludesTheClipboard) {
