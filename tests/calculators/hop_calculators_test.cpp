@@ -15,7 +15,7 @@ using testing::Contains;
 using testing::EndsWith;
 using testing::Not;
 
-void type(Form& form, std::string_view key, std::string text) {
+void enter(Form& form, std::string_view key, std::string text) {
     PlainField field(std::move(text));
     form.type(dynamic_cast<EntryRow&>(form.row(key)), field);
 }
@@ -73,21 +73,21 @@ TEST(HopDegradation, ItsFieldsFollowEachOther) {
     auto hop = start_degradation(picked_hop(fading_hop(), {}, store_settings()), store_settings());
     Form form;
     hop_degradation_form(form, hop);
-    type(form, "celsius", "-10");
+    enter(form, "celsius", "-10");
     EXPECT_EQ(shown(form, "fahrenheit"), "14.00");
     EXPECT_NEAR(hop.adjusted_alpha, 4.0228193, 1e-5);
-    type(form, "celsius", "34.5");
+    enter(form, "celsius", "34.5");
     spin(form, "celsius", Spin::up);
     EXPECT_EQ(std::pair(shown(form, "celsius"), shown(form, "fahrenheit")),
               (std::pair<std::string, std::string>("35.00", "95.00")))
         << "not beyond the range";
     EXPECT_EQ(shown(form, "adjusted_alpha"), "1.84");
-    type(form, "fahrenheit", "59");
+    enter(form, "fahrenheit", "59");
     EXPECT_EQ(hop.celsius, 15);
     EXPECT_EQ(shown(form, "adjusted_alpha"), "3.15");
-    type(form, "months", "99");
+    enter(form, "months", "99");
     form.choose(dynamic_cast<ChoiceRow&>(form.row("storage")), 2);
-    type(form, "fahrenheit", "200");
+    enter(form, "fahrenheit", "200");
     EXPECT_EQ((std::tuple{hop.months, hop.storage, hop.celsius}),
               (std::tuple{60, StorageKind::inert_gas, 35.0F}));
     EXPECT_EQ(shown(form, "adjusted_alpha"), "0.01");

@@ -2,7 +2,7 @@
 #include "databases/hops.h"
 #include "databases/malts.h"
 #include "databases/yeasts.h"
-#include "support/desk.h"
+#include "support/scripted_prompts.h"
 #include "support/process.h"
 
 #include <gtest/gtest.h>

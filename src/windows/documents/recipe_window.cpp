@@ -255,8 +255,8 @@ void RecipeWindow::add_keys(RecipePage& page) {
             connect(new QShortcut(sequence, &page), &QShortcut::activated, this, action);
     };
     add(QKeySequence::Save, [this] { save_recipe(SaveAs::no); });
-    add(QKeySequence::Undo, [this] { travel(undo); });
-    add(QKeySequence::Redo, [this] { travel(redo); });
+    add(QKeySequence::Undo, [this] { wortlex::undo(editor_); });
+    add(QKeySequence::Redo, [this] { wortlex::redo(editor_); });
 }
 
 void RecipeWindow::show_yeast_and_water() {

@@ -87,10 +87,10 @@ TEST(RecipeEditor, LinesScaleFromWhatTheyWereAsTheEditBegan) {
 
 TEST(RecipeEditor, GravityHoldsUnderTheEfficiencyLock) {
     Work work;
-    const auto points = work.document.og_points;
+    const auto og = work.document.og_points;
     lock_efficiency(work.editor, true);
     work.type("efficiency", "60");
-    EXPECT_EQ(work.document.og_points, points);
+    EXPECT_EQ(work.document.og_points, og);
     EXPECT_NEAR(work.document.malts[0].amount, 8.1 * 0.75 / 0.6, 1e-6);
     EXPECT_EQ(work.document.malts[1].amount, 0.7F) << "sugar knows no efficiency";
     undo(work.editor);
@@ -99,7 +99,7 @@ TEST(RecipeEditor, GravityHoldsUnderTheEfficiencyLock) {
     EXPECT_NEAR(work.document.malts[0].amount, 8.1 * 0.75 / 0.5, 1e-6) << "locked to what undo brought back";
     lock_efficiency(work.editor, false);
     work.type("efficiency", "75");
-    EXPECT_NE(work.document.og_points, points);
+    EXPECT_NE(work.document.og_points, og);
 }
 
 TEST(RecipeEditor, TypingKeepsToTheRules) {
