@@ -6,6 +6,7 @@
 #include "measures/units.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace wortlex {
 namespace {
@@ -14,11 +15,15 @@ constexpr float most_alpha = 100;
 constexpr float coldest_fahrenheit = -21, warmest_fahrenheit = 95;
 constexpr float coldest_celsius = -30, warmest_celsius = 35;
 
+// Freezing point is no store yet where the age is not told either.
+bool has_store(const HopUse& hop) {
+    return std::isfinite(hop.storage_temperature) && (hop.storage_temperature != 0 || hop.age_months > 0);
+}
+
 // The settings tell degrees F, a line holds degrees C.
 void fill_in_storage(HopUse& hop, const Settings& settings) {
+    if (!has_store(hop)) hop.storage_temperature = celsius_from_fahrenheit(settings.hop_storage_temperature);
     if (hop.age_months < 1) hop.age_months = 6;
-    if (!(hop.storage_temperature > 0))
-        hop.storage_temperature = celsius_from_fahrenheit(settings.hop_storage_temperature);
     if (hop.storage_kind == StorageKind::none) hop.storage_kind = StorageKind::airtight;
 }
 

@@ -21,7 +21,7 @@ struct HopDegradation {
 /// A hop of the database as the calculators work on it: stored as remembered, or else as `settings` say.
 HopUse picked_hop(const HopRecord& hop, const HopMemory& memory, const Settings& settings);
 
-/// From the hop's alpha; an age below a month, a temperature not above 0 and storage without a kind are taken
+/// From the hop's alpha; an age below a month, 0 degrees without an age and storage without a kind are taken
 /// for not set.
 HopDegradation start_degradation(const HopUse& hop, const Settings& settings);
 

@@ -15,7 +15,7 @@ struct HopMemory {
     bool bag_used = false;
     bool beer_filtered = false;
 
-    std::int16_t age_months = 0; ///< below 1: not set yet, as are the next two at 0
+    std::int16_t age_months = 0; ///< below 1: not set yet, as are then the next two at 0
     float storage_temperature = 0;
     StorageKind storage_kind{};
 

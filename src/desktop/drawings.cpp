@@ -22,7 +22,7 @@ QSize SwatchButton::sizeHint() const {
 void SwatchButton::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setBrush(colour_of(colour_()));
-    painter.setPen(palette().color(QPalette::Mid));
+    painter.setPen(Qt::black);
     painter.drawRect(rect().adjusted(0, 0, -1, -1));
     if (!hasFocus()) return;
     QStyleOptionFocusRect option;

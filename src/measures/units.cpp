@@ -4,6 +4,7 @@
 #include "measures/degrees.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace wortlex {
 namespace {
@@ -104,6 +105,10 @@ float celsius_from_fahrenheit(float fahrenheit) {
 
 float fahrenheit_from_celsius(float degrees) {
     return narrow(fahrenheit(degrees));
+}
+
+std::int32_t whole_percent(float fraction) {
+    return truncate(std::floor(fraction * 100.0 + 0.5));
 }
 
 float to_shown_colour(float srm, const Settings& settings) {

@@ -49,6 +49,9 @@ float to_shown_temperature(float fahrenheit, const Settings& settings);
 float celsius_from_fahrenheit(float fahrenheit);
 float fahrenheit_from_celsius(float celsius);
 
+/// A fraction as the nearest whole percent.
+std::int32_t whole_percent(float fraction);
+
 /// SRM as SRM or one of the two EBC scales, of which the traditional one never shows below 0.
 float to_shown_colour(float srm, const Settings& settings);
 float from_shown_colour(float shown, const Settings& settings);

@@ -65,8 +65,10 @@ TEST(HopDegradation, StartsFromWhatWasLastToldOfTheStore) {
     remember_storage(work, memory);
     EXPECT_NEAR(start_degradation(picked_hop(fading_hop(), memory, settings), settings).adjusted_alpha, 2.475,
                 1e-5);
-    memory.storage_temperature = -18;
-    EXPECT_FLOAT_EQ(picked_hop(fading_hop(), memory, settings).storage_temperature, 15.555555F);
+    for (const float frozen : {-18.0F, 0.0F}) {
+        memory.storage_temperature = frozen;
+        EXPECT_EQ(picked_hop(fading_hop(), memory, settings).storage_temperature, frozen);
+    }
 }
 
 TEST(HopDegradation, ItsFieldsFollowEachOther) {

@@ -59,9 +59,12 @@ void gravity_rows(Rows& rows, const OpenDocument& open, const LineFigures& gives
 void colour_rows(Rows& rows, const OpenDocument& open, const MaltUse& malt) {
     const double mcu = mcu_of(malt, open.document);
     const float total = open.figures.colour.mcu;
-    figure(rows, "mcu", "MCU Contributed:", narrow(mcu));
+    figure(rows, "mcu", "MCU's Contibuted:", narrow(mcu));
     figure(rows, "total_mcu", "Total Recipe MCU:", total);
     figure(rows, "mcu_share", "% of Total MCU:", percent_of(mcu, total)).unit("%");
+    rows.note("note",
+              "( SRM/EBC cannot be accurately calculated for individual entries, choose 'Help' for more "
+              "details. )");
 }
 
 } // namespace

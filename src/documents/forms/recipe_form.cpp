@@ -119,13 +119,12 @@ void wort_row(Rows& rows, RecipeEditor& editor) {
 void efficiency_rows(Rows& rows, RecipeEditor& editor) {
     const auto& document = editor.open.document;
     const auto mashes = [&document] { return !is_extract(document); };
-    const auto& efficiency = recipe_figure::efficiency;
-    rows.number(std::string(efficiency.key), {shown_of(efficiency, editor.open),
-                                              [&editor](float percent) { set_efficiency(editor, percent); }})
+    rows.integer(std::string(recipe_figure::efficiency.key),
+                 {[&document] { return whole_percent(document.efficiency); },
+                  [&editor](std::int32_t percent) { set_efficiency(editor, static_cast<float>(percent)); }})
         .label("% &Efficiency")
-        .range(5.0F, 100.0F)
-        .step(1.0F)
-        .format("%0.0f")
+        .range(5, 100)
+        .step(1)
         .outside(Outside::clamp)
         .enabled(mashes)
         .when_disabled(" ") // no text at all would leave the figure standing

@@ -98,8 +98,7 @@ void setup_buttons(Rows& rows, SystemSettings& image) {
 } // namespace
 
 void efficiency_settings_form(Form& form, SystemSettings& image, const EfficiencyButtons& buttons) {
-    percent_row(form.group(), "efficiency", image.efficiency, 0.0F, 100.0F)
-        .label("Default &Brewhouse Efficiency:");
+    percent_row(form.group(), "efficiency", image.efficiency, 0, 100).label("Default &Brewhouse Efficiency:");
     potential_row(form.group("Show Extract Potential As:"), image);
     contribution_row(form.group("Show Actual Extract Contribution As:"), image);
     form.group("Within A Recipe Grain List, Default to View Ingredient Contribution As:")

@@ -32,13 +32,11 @@ void increase_rows(Rows& rows, SystemSettings& image) {
     const auto in_use = [&image] { return image.use_additional_utilization != 0; };
     rows.check("use_additional", image.use_additional_utilization)
         .label("Use &Additional Utlilization For Plug and Pellet Hops in IBU Calculations?");
-    percent_row(rows, "plug_increase", image.plug_increase, 0.0F, 100.0F)
+    percent_row(rows, "plug_increase", image.plug_increase, 0, 100)
         .label("%Utilization Increase for &Plug Type Hops:")
-        .format("%0.0f")
         .enabled(in_use);
-    percent_row(rows, "pellet_increase", image.pellet_increase, 0.0F, 100.0F)
+    percent_row(rows, "pellet_increase", image.pellet_increase, 0, 100)
         .label("%Utilization Increase for Pe&llet Type Hops:")
-        .format("%0.0f")
         .enabled(in_use);
 }
 

@@ -70,14 +70,12 @@ void mash_water_rows(Rows& rows, SystemSettings& image) {
         .format("%6.2f")
         .unit(by_volume(image, "Gallons Per LBS", "Liters Per kg"));
     scaled_row(rows, "grain_water_volume", image.grain_water_volume, litres_per_quart, image)
-        .label(by_volume(image, "&1 Qt Water + 1 LBS Grain:", "&0.95 L Water + 0.45 kg Grain:"))
+        .label("&1 Qt Water + 1 LBS Grain:")
         .typed(1.0F, 5.0F)
         .spun([&image] { return has_metric_volumes(image) ? 0.75F : 1.0F; }, 5.0F, 0.0025F)
         .format("%6.4f")
         .unit(by_volume(image, "Volume (Qts)", "Volume (L)"));
-    percent_row(rows, "cooling_shrink", image.cooling_shrink, 1.0F, 100.0F)
-        .label("Wort &Cooling Shrinkage:")
-        .format("%5.0f");
+    percent_row(rows, "cooling_shrink", image.cooling_shrink, 1, 100).label("Wort &Cooling Shrinkage:");
 }
 
 void heat_rows(Rows& rows, SystemSettings& image, Ratios& ratios) {

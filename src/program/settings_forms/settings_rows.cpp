@@ -6,12 +6,12 @@
 
 namespace wortlex {
 
-NumberRow& percent_row(Rows& rows, std::string key, float& fraction, float low, float high) {
-    return rows.number(std::move(key), fraction)
-        .shown_as([](float stored) { return narrow(stored * 100.0); },
-                  [](float shown) { return narrow(shown / 100.0); })
+IntegerRow& percent_row(Rows& rows, std::string key, float& fraction, std::int32_t low, std::int32_t high) {
+    return rows
+        .integer(std::move(key), {[&fraction] { return whole_percent(fraction); },
+                                  [&fraction](std::int32_t percent) { fraction = narrow(percent / 100.0); }})
         .range(low, high)
-        .step(1.0F)
+        .step(1)
         .outside(Outside::hold)
         .unit("%");
 }

@@ -5,8 +5,8 @@
 
 namespace wortlex {
 
-/// A fraction, edited as a percentage. The range is in percent.
-NumberRow& percent_row(Rows& rows, std::string key, float& fraction, float low, float high);
+/// A fraction, edited in whole percents. The range is in percent.
+IntegerRow& percent_row(Rows& rows, std::string key, float& fraction, std::int32_t low, std::int32_t high);
 
 /// A percentage that is kept as a whole number and may be a decrease: -100 to 100.
 NumberRow& change_row(Rows& rows, std::string key, std::int32_t& percent);

@@ -21,6 +21,7 @@ ColorSwatchWindow::ColorSwatchWindow(Program& program, Opener opener, QWidget* o
     : ToolWindow(window_info("COLORSWATCHDIALOG"), 0, opener, origin, places(program)),
       srm_(program.document.figures.colour.srm), swatch_{program.color_table, program.settings},
       form_(made_form(swatch_)), widgets_(form_, places(program), *this) {
+    setParent(origin, Qt::Dialog); // stays above its document, where desktops stack by kind too
     lay_out_rows();
     set_swatch(swatch_, srm_);
     widgets_.refresh();

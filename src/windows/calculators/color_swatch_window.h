@@ -8,7 +8,7 @@
 
 namespace wortlex {
 
-/// Open once at most: who opens it keeps it, until `closed` is called.
+/// Open once at most: who opens it keeps it, until `closed` is called. It stays above `origin`.
 class ColorSwatchWindow : public ToolWindow {
 public:
     ColorSwatchWindow(Program& program, Opener opener, QWidget* origin);

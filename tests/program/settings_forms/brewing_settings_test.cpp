@@ -191,7 +191,7 @@ TEST(HopSettings, PercentsKeepTheirRange) {
     EXPECT_FALSE(dialog.form.row("plug_increase").is_enabled());
     dialog.form.check(dialog.row<CheckRow>("use_additional"), true);
     EXPECT_TRUE(dialog.form.row("plug_increase").is_enabled());
-    dialog.type("plug_increase", "7");
+    dialog.type("plug_increase", "7.5"); // whole percents alone are shown, so no others are taken
     EXPECT_EQ(image.plug_increase, 0.07F);
 }
 
