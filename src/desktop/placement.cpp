@@ -6,6 +6,7 @@
 #include <QScreen>
 
 #include <algorithm>
+#include <limits>
 #include <utility>
 
 namespace wortlex {
@@ -38,6 +39,13 @@ Rectangle within_screens(const Rectangle& wanted, std::span<const Rectangle> scr
     const auto height = extent(wanted.top, wanted.bottom, std::int64_t{screen.bottom} - screen.top);
     const auto left = moved_in(wanted.left, width, screen.left, screen.right);
     const auto top = moved_in(wanted.top, height, screen.top, screen.bottom);
+    return {left, top, left + width, top + height};
+}
+
+Rectangle rectangle_at(std::int32_t left, std::int32_t top, int width, int height) {
+    constexpr auto end = std::numeric_limits<std::int32_t>::max();
+    left = std::min(left, end - width);
+    top = std::min(top, end - height);
     return {left, top, left + width, top + height};
 }
 
@@ -75,14 +83,18 @@ WindowPlace::WindowPlace(QWidget& window, QWidget* origin, int slot, const Place
 }
 
 bool WindowPlace::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() == QEvent::Hide && !event->spontaneous() && is_to_be_remembered()) remember();
+    if (is_to_be_remembered(*event)) remember();
     return QObject::eventFilter(watched, event);
 }
 
-// A dialog that was left keeps the place it had.
-bool WindowPlace::is_to_be_remembered() const {
-    const auto* const dialog = qobject_cast<const QDialog*>(&window_);
-    return dialog == nullptr || dialog->result() == QDialog::Accepted;
+// A dialog that was left keeps the place it had. What stays open may still be so at the program's end, so its
+// place is known at any time.
+bool WindowPlace::is_to_be_remembered(const QEvent& event) const {
+    const bool has_gone = event.type() == QEvent::Hide && !event.spontaneous();
+    if (const auto* const dialog = qobject_cast<const QDialog*>(&window_))
+        return has_gone && dialog->result() == QDialog::Accepted;
+    const bool has_moved = event.type() == QEvent::Move || event.type() == QEvent::Resize;
+    return has_gone || (has_moved && window_.isVisible());
 }
 
 void WindowPlace::put() {

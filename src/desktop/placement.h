@@ -16,6 +16,9 @@ namespace wortlex {
 /// screen at all it stays. A window that lies on none goes to the first.
 Rectangle within_screens(const Rectangle& wanted, std::span<const Rectangle> screens);
 
+/// A window of this size with its corner there, or as far that way as numbers go.
+Rectangle rectangle_at(std::int32_t left, std::int32_t top, int width, int height);
+
 /// A window of this size centred over `origin`.
 Rectangle centred_over(const Rectangle& origin, int width, int height);
 
@@ -25,7 +28,8 @@ Rectangle rectangle_of(const QWidget& window);
 /// Moves a window that is open to where it would come up without a remembered place.
 void centre_over_owner(QWidget& window);
 
-/// Puts a window to its place in `slot`, or centres it over `origin`, and remembers its place when it goes.
+/// Puts a window to its place in `slot`, or centres it over `origin`, and remembers its place: a dialog's
+/// when it is accepted, another window's whenever it moves.
 class WindowPlace : public QObject {
 public:
     /// The window owns it. `slot` may be `no_place`.
@@ -35,7 +39,7 @@ public:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    bool is_to_be_remembered() const;
+    bool is_to_be_remembered(const QEvent& event) const;
     void remember();
 
     QWidget& window_;

@@ -31,6 +31,7 @@ TEST(Placement, KeepsWindowsOnTheScreensThatThereAre) {
              {{5000, 5000, 5200, 5100}, {800, 700, 1000, 800}}, // on none
              {{0, 0, 4000, 3000}, {0, 0, 1000, 800}}, // larger than the screen
              {{500, 500, 400, 400}, {500, 500, 501, 501}}, // inside out
+             {rectangle_at(2147483647, 2147483600, 200, 100), {800, 700, 1000, 800}}, // at the end of numbers
              {{-2147483647, -2147483647, 2147483647, 2147483647}, {0, 0, 1000, 800}}}) {
         // clang-format on
         const auto result = within_screens(wanted, screens);
@@ -223,8 +224,10 @@ TEST(WindowPlace, IsRememberedInItsSlot) {
         if (x == 0) {
             EXPECT_EQ(window.geometry(), QRect(60, 50, 200, 100)) << "as the first one left it";
         }
-        window.move(x, 50);
+        window.move(x, 40);
         window.show();
+        window.move(x, 50);
+        EXPECT_EQ(desk.positions.slots[7].top, 50) << "known before it goes";
         window.hide();
     }
     EXPECT_EQ(desk.positions.slots[7], (Rectangle{1, 50, 201, 150})) << "a left of zero would be no place";

@@ -32,6 +32,7 @@ MainWindow::MainWindow(const WindowPorts& ports)
     const auto& info = window_info("GENERIC");
     setObjectName(string_of(info.template_name));
     setWindowTitle(string_of(info.captions[0]));
+    setWindowFlag(Qt::MSWindowsFixedSizeDialogHint); // no sizing border; it can still be maximized
     setAcceptDrops(true);
     setCentralWidget(board_);
     carry_out_commands();
@@ -87,7 +88,7 @@ void MainWindow::put() {
     resize(sizeHint());
     const auto& last = program_.main_position.window;
     const auto place =
-        within_screens({last.left, last.top, last.left + width(), last.top + height()}, screen_rectangles());
+        within_screens(rectangle_at(last.left, last.top, width(), height()), screen_rectangles());
     move(place.left, place.top);
 }
 

@@ -70,7 +70,7 @@ void leave_program(const WindowPorts&, QWidget* main) {
     main->close();
 }
 
-constexpr WindowInfo recipe_window = {"RECIPEDIALOG", {"Wortlex Recipe Formulation"}};
+constexpr WindowInfo recipe_window = {"RECIPEDIALOG", {"Wortlex Recipe Formulation"}, from_main(100)};
 constexpr WindowInfo session_window = {"BATCH1DIALOG", {""}};
 
 // clang-format off
