@@ -1,5 +1,6 @@
 #include "desktop/form_widgets.h"
 
+#include "desktop/button_pictures.h"
 #include "desktop/captions.h"
 #include "desktop/colours.h"
 #include "desktop/drawings.h"
@@ -342,7 +343,10 @@ void FormWidgets::visit(ListRow& row) {
 
 void FormWidgets::visit(ButtonRow& row) {
     auto* const button = new QPushButton(&parent_);
-    keep(row, *button, [&row, button] { button->setText(string_of(row.label_text())); });
+    keep(row, *button,
+         [this, &row, button] { show_caption(*button, row.key, string_of(row.label_text()), colours_); });
+    if (has_picture(row.key) && row.hint_text().empty())
+        row.hint(spoken(string_of(row.label_text())).toStdString());
     if (!row.press) row.enabled(false);
     QObject::connect(button, &QPushButton::clicked, &alive_, [this, &row] {
         const QPointer<QObject> still(&alive_); // what a button does may close the window

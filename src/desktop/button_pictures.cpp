@@ -1,0 +1,63 @@
+#include "desktop/button_pictures.h"
+
+#include "desktop/qt_text.h"
+
+#include <QFile>
+#include <QIconEngine>
+#include <QKeySequence>
+#include <QPainter>
+#include <QSvgRenderer>
+
+namespace wortlex {
+namespace {
+
+QString source_of(std::string_view key) {
+    return QStringLiteral(":/artwork/buttons/") + string_of(key) + QStringLiteral(".svg");
+}
+
+// Drawn anew for each size and screen.
+class VectorPicture : public QIconEngine {
+public:
+    explicit VectorPicture(QString source) : source_(std::move(source)), renderer_(source_) {}
+
+    void paint(QPainter* painter, const QRect& place, QIcon::Mode mode, QIcon::State) override {
+        constexpr double faint = 0.4;
+        if (mode == QIcon::Disabled) painter->setOpacity(faint);
+        renderer_.render(painter, place);
+    }
+    QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
+        QPixmap picture(size);
+        picture.fill(Qt::transparent);
+        QPainter painter(&picture);
+        paint(&painter, picture.rect(), mode, state);
+        return picture;
+    }
+    QIconEngine* clone() const override { return new VectorPicture(source_); } // the icon owns it
+
+private:
+    QString source_;
+    QSvgRenderer renderer_;
+};
+
+} // namespace
+
+bool has_picture(std::string_view key) {
+    return (key == "print" || key == "help") && QFile::exists(source_of(key));
+}
+
+void show_caption(QPushButton& button, std::string_view key, const QString& caption,
+                  const SystemSettings& settings) {
+    const bool is_picture = settings.hide_print_help_bitmaps == 0 && has_picture(key);
+    if (!is_picture) {
+        button.setIcon({});
+        button.setText(caption); // brings its mnemonic
+        return;
+    }
+    if (button.icon().isNull()) button.setIcon(QIcon(new VectorPicture(source_of(key))));
+    const int side = button.fontMetrics().height();
+    button.setIconSize({side, side});
+    button.setText({});
+    button.setShortcut(QKeySequence::mnemonic(caption));
+}
+
+} // namespace wortlex
