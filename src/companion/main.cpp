@@ -2,7 +2,9 @@
 #include "base/ports/quiet_prompts.h"
 #include "companion/full_report.h"
 #include "companion/report_format.h"
+#include "companion/terminal.h"
 
+#include <algorithm>
 #include <cstdio>
 #include <filesystem>
 #include <set>
@@ -22,7 +24,7 @@ constexpr std::string_view usage =
     "                   it holds the sections that are chosen as default in the program\n"
     "  --html           the same as a web page in the default theme, without the pictures of charts\n"
     "  --output FOLDER  write each of these to a file of its own, named after the document's file,\n"
-    "                   instead of one after the other\n"
+    "                   instead of one after the other; the folder is made if it is not there\n"
     "  --save-as FILE   write the one input to FILE as it was loaded, before anything is worked out\n";
 
 enum class Form { summary, json, text, html };
@@ -85,9 +87,9 @@ void print(std::FILE* to, std::string_view text) {
 }
 
 void complain(const std::string& file, std::string_view what) {
-    std::string line = "wortlex-report: " + file + ": ";
-    for (const char c : what) line += c == '\n' ? ' ' : c;
-    print(stderr, line + "\n");
+    std::string line(what);
+    std::replace(line.begin(), line.end(), '\n', ' ');
+    print(stderr, one_line("wortlex-report: " + file + ": " + line) + "\n");
 }
 
 // Messages go to standard error.
@@ -113,6 +115,12 @@ bool save_as(Reporter& reporter, const std::string& path) {
     return save_document(path, image, reporter.prompts);
 }
 
+// A folder that cannot be made is told by the save that fails in it.
+void make_folder(const std::string& path) {
+    std::error_code error;
+    std::filesystem::create_directories(path, error);
+}
+
 // A name for each input; those of the same name are numbered.
 std::string output_path(Reporter& reporter, const std::string& file, std::string_view ending) {
     const auto stem = std::filesystem::path(*reporter.options.output) / std::filesystem::path(file).stem();
@@ -127,15 +135,16 @@ bool report_whole(Reporter& reporter, const std::string& file) {
     const auto text = is_text ? reporter.full->text() : TextSink();
     const auto html = is_text ? std::optional<HtmlWriter>() : reporter.full->html();
     if (!reporter.options.output) {
-        print(stdout, is_text ? text.text() : html->page());
+        print(stdout, terminal_text(is_text ? text.text() : html->page()));
         return true;
     }
+    make_folder(*reporter.options.output);
     const auto path = output_path(reporter, file, is_text ? ".txt" : ".html");
     reporter.prompts.subject = path;
     return is_text ? save_text(path, text, reporter.prompts) : save_html(path, *html, reporter.prompts);
 }
 
-// Returns whether all went well.
+// Returns whether all went well; an incomplete file gives its figures all the same.
 bool report_file(Reporter& reporter, const std::string& file) {
     auto& program = reporter.program;
     const auto kind = document_kind(file);
@@ -146,12 +155,13 @@ bool report_file(Reporter& reporter, const std::string& file) {
     const auto load = load_document(program, file, *kind);
     if (load != LoadResult::loaded) complain(file, load_fault(load));
     if (!is_sound(load)) return false;
-    if (reporter.options.save_as) return save_as(reporter, *reporter.options.save_as);
+    const bool is_whole = load == LoadResult::loaded;
+    if (reporter.options.save_as) return save_as(reporter, *reporter.options.save_as) && is_whole;
     const auto evaluation = evaluate(program, file, load);
-    if (is_whole_report(reporter.options.form)) return report_whole(reporter, file);
+    if (is_whole_report(reporter.options.form)) return report_whole(reporter, file) && is_whole;
     const bool is_json = reporter.options.form == Form::json;
     print(stdout, (is_json ? json_line(program, evaluation) : summary(program, evaluation)) + "\n");
-    return true;
+    return is_whole;
 }
 
 int run(std::span<char* const> arguments) {

@@ -1,6 +1,6 @@
-#include "base/windows1252.h"
 #include "brewing/hop_bitterness.h"
 #include "companion/report_format.h"
+#include "companion/terminal.h"
 #include "documents/figure_catalogue.h"
 #include "measures/gravity.h"
 #include "measures/precision.h"
@@ -13,7 +13,7 @@ namespace {
 // Columns of a page: texts are cut and filled on the right, figures filled on the left.
 std::string column(std::string_view windows1252, std::size_t width) {
     const auto cut = windows1252.substr(0, width);
-    return utf8_from_windows1252(cut) + std::string(width - cut.size(), ' ');
+    return one_line_of(cut) + std::string(width - cut.size(), ' ');
 }
 
 std::string figure(double value, int decimals, std::size_t width) {
@@ -73,13 +73,13 @@ std::string brew_date(const SessionDocument& session) {
 std::string heading(const Program& program, const Evaluation& evaluation) {
     const auto& document = program.document.recipe;
     const auto& settings = program.settings;
-    std::string out = utf8_from_windows1252(document.title.view());
+    std::string out = one_line_of(document.title.view());
     out += program.document.kind == DocumentKind::session
                ? " - Brewing Session" + brew_date(program.document.session)
                : " - Recipe";
     out += "\n";
-    out += "  " + evaluation.file + "\n  " + std::string(long_kind_word(document.recipe_kind));
-    if (!document.style.name.empty()) out += ", " + utf8_from_windows1252(document.style.name.view());
+    out += "  " + one_line(evaluation.file) + "\n  " + std::string(long_kind_word(document.recipe_kind));
+    if (!document.style.name.empty()) out += ", " + one_line_of(document.style.name.view());
     using namespace recipe_figure;
     const auto from = source_of(program);
     out += "\n\n  Batch " + with_unit(batch_size, from) + "   Wort " + with_unit(wort_size, from) +
@@ -134,11 +134,9 @@ std::string other_ingredients(const Program& program) {
     if (!out.empty()) out = "\n  Extras\n" + out;
     const auto& yeast = document.yeast.record;
     if (!yeast.name.empty())
-        out += "\n  Yeast: " + utf8_from_windows1252(yeast.lab.view()) + " " +
-               utf8_from_windows1252(yeast.catalog_number.view()) + " " +
-               utf8_from_windows1252(yeast.name.view()) + "\n";
-    if (!document.water.name.empty())
-        out += "  Water: " + utf8_from_windows1252(document.water.name.view()) + "\n";
+        out += "\n  Yeast: " + one_line_of(yeast.lab.view()) + " " +
+               one_line_of(yeast.catalog_number.view()) + " " + one_line_of(yeast.name.view()) + "\n";
+    if (!document.water.name.empty()) out += "  Water: " + one_line_of(document.water.name.view()) + "\n";
     return out;
 }
 

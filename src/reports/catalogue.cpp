@@ -29,7 +29,6 @@ RecipeView default_report_view(const Settings& settings) {
     RecipeView view;
     view.show_potential =
         settings.efficiency_mode < EfficiencyMode::method_2 && settings.view_actual_extract == 0;
-    view.show_ibu = settings.display_home_bittering == 0;
     return view;
 }
 

@@ -30,7 +30,8 @@ TEST(JsonWriter, texts_are_escaped_and_always_utf8) {
     const std::string lost = "\xEF\xBF\xBD", whole = "\xC3\xA9\xE2\x82\xAC\xF0\x9F\x8D\xBA";
     const std::tuple<const char*, std::string, std::string> rows[] = {
         {"quote, backslash, line ends and tab", "\"\\\r\n\t", R"(\"\\\r\n\t)"},
-        {"other control characters, NUL too", std::string("\0\x1F\x7F", 3), "\\u0000\\u001f\x7F"},
+        {"other control characters, NUL too", std::string("\0\x1F\x7F\xC2\x9B", 5),
+         R"(\u0000\u001f\u007f\u009b)"},
         {"two, three and four bytes", whole, whole},
         {"a lone Windows-1252 letter", "K\xF6lsch", "K" + lost + "lsch"},
         {"a start before a quote", "\xC3\"", lost + "\\\""},
@@ -100,6 +101,19 @@ TEST(Report, a_page_to_read_tells_title_units_and_lines) {
         EXPECT_THAT(page, HasSubstr(text));
 }
 
+TEST(Report, control_characters_do_not_reach_the_terminal) {
+    auto recipe = content_of(made_brewery() + bitter);
+    recipe.replace(0, 9, "\x1B[2J\r\n\x9D\x80\0", 9); // the title begins the file
+    const auto name = made_brewery() + "bell\a.rec";
+    write_content(name, recipe);
+    const auto page = report({name});
+    EXPECT_THAT(page.out, testing::StartsWith("?[2J???\u20AC - Recipe\n"));
+    EXPECT_THAT(page.out, HasSubstr("bell?.rec\n"));
+    EXPECT_THAT(report({"--text", name}).out, testing::Not(HasSubstr("\x1B")));
+    std::filesystem::remove(name);
+    EXPECT_THAT(report({name}).err, HasSubstr("bell?.rec: File Not Found!"));
+}
+
 TEST(Report, a_bad_file_is_told_in_one_line_and_the_others_go_on) {
     auto damaged = content_of(made_brewery() + bitter);
     write_content(made_brewery() + "short.rec", damaged.substr(0, 80));
@@ -108,7 +122,7 @@ TEST(Report, a_bad_file_is_told_in_one_line_and_the_others_go_on) {
     for (const std::string bad : {"missing.rec", "missing.brw", "damaged.rec", "HOPS.DAT", "short.rec"}) {
         const bool is_incomplete = bad == "short.rec"; // told, but shown
         const auto ran = report({"--json", bad, bitter});
-        EXPECT_EQ(ran.status, is_incomplete ? 0 : 1) << bad;
+        EXPECT_EQ(ran.status, 1) << bad;
         EXPECT_EQ(lines_of(ran.out).size(), is_incomplete ? 2U : 1U) << bad;
         EXPECT_EQ(ran.out.find(R"("incomplete":true)") != std::string::npos, is_incomplete) << bad;
         EXPECT_EQ(lines_of(ran.err).size(), 1U) << ran.err;
