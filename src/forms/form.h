@@ -131,6 +131,12 @@ public:
         on_cancel([&live, saved = live] { live = saved; });
     }
 
+    /// The same for a dialog that edits some fields of a record, while the dialogs that it opens edit others.
+    template <class Record, class... Field>
+    void restore_on_cancel(Record& live, Field Record::*... fields) requires(sizeof...(fields) > 0) {
+        (restore_on_cancel(live.*fields), ...);
+    }
+
     /// The user's edits. Each answers whether a value changed.
     bool type(EntryRow& row, TextField& field);
     bool spin(EntryRow& row, TextField& field, Spin direction);

@@ -114,7 +114,7 @@ void colour_settings_form(Form& form, SystemSettings& image, std::function<void(
     auto& buttons = form.group();
     buttons.button("calibrate", "&Color Swatch Calibration", std::move(calibrate));
     buttons.button("help", "&Help", std::move(help));
-    form.restore_on_cancel(image);
+    form.restore_on_cancel(image, &SystemSettings::color_formula, &SystemSettings::color_units);
 }
 
 std::int32_t global_alpha(const SystemSettings& image) {

@@ -106,7 +106,10 @@ void efficiency_settings_form(Form& form, SystemSettings& image, const Efficienc
     auto& below = form.group();
     below.button("advanced", "&Advanced Settings", buttons.advanced);
     below.button("help", "Help", buttons.help);
-    form.restore_on_cancel(image);
+    using Image = SystemSettings;
+    form.restore_on_cancel(image, &Image::efficiency, &Image::potential_display,
+                           &Image::percent_yield_selected, &Image::extract_display,
+                           &Image::view_actual_extract);
 }
 
 void advanced_efficiency_form(Form& form, SystemSettings& image, std::function<void()> help) {

@@ -59,7 +59,11 @@ void hop_settings_form(Form& form, SystemSettings& image, const HopSettingsActio
     utilization_rows(utilization, image);
     increase_rows(form.group("Plug and Pellet Hops"), image);
     form.group().button("help", "Help", actions.help);
-    form.restore_on_cancel(image);
+    using Image = SystemSettings;
+    form.restore_on_cancel(
+        image, &Image::HopFormula, &Image::hop_storage_temperature, &Image::display_home_bittering,
+        &Image::bittering_unit, &Image::first_wort_percent, &Image::mash_hop_percent, &Image::kettle_factor,
+        &Image::use_additional_utilization, &Image::plug_increase, &Image::pellet_increase);
 }
 
 void tinseth_form(Form& form, SystemSettings& image) {

@@ -85,8 +85,9 @@ void screen_settings_form(Form& form, SystemSettings& image, Settings& working,
     spike_rows(form.group("Misc."), image);
     picture_rows(form.group("Bitmaps"), image);
     form.group().button("help", "&Help", use.help);
-    form.on_accept([&image, &prompts = use.prompts, in_use = use.art_in_use] {
-        if (image.art_scheme != in_use) prompts.tell({.text = new_art_waits, .icon = Icon::information});
+    form.on_accept([&image, &prompts = use.prompts, before = image.art_scheme, in_use = use.art_in_use] {
+        if (image.art_scheme != before && image.art_scheme != in_use)
+            prompts.tell({.text = new_art_waits, .icon = Icon::information});
     });
     restore_colours_on_cancel(form, working, use.recoloured);
     form.restore_on_cancel(image);

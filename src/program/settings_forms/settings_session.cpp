@@ -45,14 +45,15 @@ void SettingsSession::cancel() {
     desk_.notices.tell(Change::settings);
 }
 
-bool SettingsSession::write_default() {
+bool SettingsSession::write_system_files() {
     take_over();
-    return SaveSystemFiles(desk_.data_folder, desk_.files) && SaveFolders(desk_.data_folder, desk_.folders);
+    return SaveSystemFiles(desk_.data_folder, desk_.files);
 }
 
 void SettingsSession::save_as_default(Prompts& prompts) {
     if (prompts.ask_yes_no({.text = overwrite_default, .icon = Icon::question}) != Answer::yes) return;
-    if (!write_default()) prompts.tell({.text = not_written, .icon = Icon::error});
+    if (!write_system_files() || !SaveFolders(desk_.data_folder, desk_.folders))
+        prompts.tell({.text = not_written, .icon = Icon::error});
 }
 
 void SettingsSession::load(Files& files, Prompts& prompts) {
@@ -77,7 +78,7 @@ void SettingsSession::save(Files& files, Prompts& prompts) {
     written.background = desk_.working.background;
     if (!SaveSettingsFile(*path, written)) return prompts.tell({.text = not_written, .icon = Icon::error});
     if (prompts.ask_yes_no({.text = also_default, .icon = Icon::question}) != Answer::yes) return;
-    if (!write_default()) prompts.tell({.text = not_written, .icon = Icon::error});
+    if (!write_system_files()) prompts.tell({.text = not_written, .icon = Icon::error});
 }
 
 void system_settings_form(Form& form, SettingsSession& session, const SettingsButtons& buttons) {

@@ -37,7 +37,8 @@ public:
     /// Reads a settings file over the image and puts it to work until the program ends. The names in the open
     /// dialog stay.
     void load(Files& files, Prompts& prompts);
-    /// Writes the image to a settings file, and asks whether it is to be the default too.
+    /// Writes the image to a settings file, and asks whether it is to be the default too. The
+    /// folders are not written.
     void save(Files& files, Prompts& prompts);
 
     Text<255> brewer_name; ///< as the dialog shows them
@@ -45,7 +46,7 @@ public:
 
 private:
     void take_over();
-    bool write_default();
+    bool write_system_files();
 
     SettingsDesk desk_;
     SystemFiles saved_files_;

@@ -31,19 +31,38 @@ public:
                     program_.notices}) {}
 
     void run(QWidget* owner) {
-        Form form;
-        system_settings_form(form, session_, buttons());
-        run_dialog(form, {.template_name = "SYSTEMDEFAULTDIALOG"}, places(program_), owner);
+        open(
+            "SYSTEMDEFAULTDIALOG", [this](Form& form) { system_settings_form(form, session_, buttons()); },
+            owner);
     }
 
 private:
     SystemSettings& image() { return session_.image(); }
 
     void open(std::string_view dialog_template, const std::function<void(Form&)>& fill) const {
+        open(dialog_template, fill, QApplication::activeModalWidget());
+    }
+
+    void open(std::string_view dialog_template, const std::function<void(Form&)>& fill,
+              QWidget* owner) const {
         Form form;
         fill(form);
-        run_dialog(form, {.template_name = dialog_template}, places(program_),
-                   QApplication::activeModalWidget());
+        tell_changes(form);
+        run_dialog(form, {.template_name = dialog_template}, places(program_), owner);
+    }
+
+    // What a dialog changes shows at once in those that it was opened from.
+    void tell_changes(Form& form) const {
+        const auto tell = [&notices = program_.notices] { notices.tell(Change::settings); };
+        form.after_edit([tell](Row&) { tell(); });
+        form.for_each([&tell](Row& row) {
+            auto* const button = dynamic_cast<ButtonRow*>(&row);
+            if (button == nullptr || !button->press) return;
+            button->press = [tell, press = button->press] {
+                press();
+                tell();
+            };
+        });
     }
 
     SettingsButtons buttons() {

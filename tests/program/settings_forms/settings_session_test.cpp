@@ -142,6 +142,14 @@ TEST(SettingsSession, SavedFilesHoldWhatTheDialogShows) {
     EXPECT_EQ(std::tuple(written.batch_size, written.brewer_name.view(), written.background[1]),
               std::tuple(9.0F, std::string_view("Grace"), 42U));
     EXPECT_EQ(brewery.batch_sizes(), "9 5 5") << "neither working values nor disk are touched by a No";
+    set_folder(brewery.folders, FolderKind::recipes, "/elsewhere/");
+    ScriptedFiles again({path});
+    brewery.prompts.expect("yes/no",
+                           "Do you also want to overwrite the Default System Settings with these settings?",
+                           Answer::yes, Icon::question);
+    session.save(again, brewery.prompts);
+    EXPECT_EQ(brewery.batch_sizes(), "9 9 9");
+    EXPECT_NE(folder_path(LoadFolders(brewery.folder.path()), FolderKind::recipes), "/elsewhere/");
     EXPECT_EQ(files.offers.at(0),
               "save System Setting File (*.wxt)|*.wxt " + brewery.folder.path() + "  wxt");
 }

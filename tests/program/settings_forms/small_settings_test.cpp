@@ -139,6 +139,9 @@ TEST(ScreenSettings, ColoursShowAtOnceAndCancelPutsThemBack) {
         "Scheme Will Take Effect!",
         Icon::information);
     form.accept();
+    Form again;
+    screen_settings_form(again, image, working, {prompts, 0, {"A", "B"}, nullptr, nullptr});
+    again.accept(); // nothing new to tell
     form.cancel();
     EXPECT_TRUE(image == original);
     EXPECT_EQ(working.background, original.background);
