@@ -29,6 +29,7 @@ std::string meaning(const SourceRecords& records, const SourceMember& member) {
     if (const auto alias = records.aliases.find(member.type); text.empty() && alias != records.aliases.end())
         text = alias->second.comment;
     if (text.empty() && member.name.starts_with("reserved")) text = "kept as found";
+    if (text.ends_with('.')) text.pop_back();
     for (const auto& [name, code] : records.enums) {
         const auto gap = text.empty() ? "" : "; ";
         if (name == innermost(member.type)) text += gap + code.values;
