@@ -116,6 +116,7 @@ TEST(Catalogue, reads_as_it_always_has) {
 
     ReportedRecipe brewery(metric_brewery());
     brewery.document.mash_flags = 1;
+    brewery.view.show_ibu = false;
     expect_golden("metric_brewery.txt", plain_lines(brewery.text()));
     EXPECT_THAT(brewery.html(), HasSubstr("Infuse<BR>Temp"));
 
@@ -212,6 +213,7 @@ TEST(Catalogue, print_has_words_of_its_own) {
 
     ReportedRecipe brewery(metric_brewery());
     brewery.document.mash_flags = 1;
+    brewery.view.show_ibu = false;
     const auto pages = brewery.print();
     EXPECT_THAT(pages, HasSubstr("Batch Size (hL):\t0.19\tWort Size (hL):\t0.19"));
     EXPECT_THAT(pages, HasSubstr("Tun Thermal Mass :\t  0.00"));
