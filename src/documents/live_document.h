@@ -32,7 +32,8 @@ OpenDocument view_of(LiveDocument& live, const Settings& settings);
 /// Puts the schedule kind of the settings in force, as they are applied. No document is open then.
 void take_usual_schedule(LiveDocument& live, const Settings& settings);
 
-/// Makes it an empty one without a file. A recipe keeps the schedule kind in force. A session starts from the brewer's usual water figures.
+/// Makes it an empty one without a file. A recipe keeps the schedule kind in force. A session starts from the
+/// brewer's usual water figures.
 void start_recipe(LiveDocument& live, const Settings& settings);
 void start_session(LiveDocument& live, const WaterNeeds& usual, const Settings& settings);
 

@@ -89,7 +89,8 @@ TEST(FormDialog, ACalculatorSelectsOnEntryAndShowsItsRangeWhileItIsLeft) {
             "sum", [&] { return size + other; }, "%0.2f")
         .label("Sum");
     form.rows().button("press", "&Press && Go", [] {});
-    FormDialog dialog(form, {.template_name = "HOPSHORTTIMEDIALOG", .enter_closes = false}, desk.places, nullptr);
+    FormDialog dialog(form, {.template_name = "HOPSHORTTIMEDIALOG", .enter_closes = false}, desk.places,
+                      nullptr);
     dialog.show();
     EXPECT_TRUE(QTest::qWaitForWindowActive(&dialog));
     const auto& widgets = dialog.widgets();

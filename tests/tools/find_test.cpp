@@ -2,8 +2,8 @@
 #include "databases/hops.h"
 #include "databases/malts.h"
 #include "databases/yeasts.h"
-#include "support/scripted_prompts.h"
 #include "support/process.h"
+#include "support/scripted_prompts.h"
 
 #include <gtest/gtest.h>
 
