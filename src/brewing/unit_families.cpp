@@ -47,55 +47,55 @@ double fahrenheit(double celsius) {
 
 // clang-format off
 constexpr std::array us_fluid = {
-    Unit{"Ounces", same, same},
-    Unit{"Cups", [](double o) { return o / 8; }, [](double x) { return x * 8; }},
-    Unit{"Pints", [](double o) { return o / 16; }, [](double x) { return x * 16; }},
-    Unit{"Quarts", [](double o) { return o / 32; }, [](double x) { return x * 32; }},
-    Unit{"Gallons", us_gallons, [](double x) { return x * 128; }},
-    Unit{"Barrels", [](double o) { return us_gallons(o) / gallons_per_barrel; },
+    FamilyUnit{"Ounces", same, same},
+    FamilyUnit{"Cups", [](double o) { return o / 8; }, [](double x) { return x * 8; }},
+    FamilyUnit{"Pints", [](double o) { return o / 16; }, [](double x) { return x * 16; }},
+    FamilyUnit{"Quarts", [](double o) { return o / 32; }, [](double x) { return x * 32; }},
+    FamilyUnit{"Gallons", us_gallons, [](double x) { return x * 128; }},
+    FamilyUnit{"Barrels", [](double o) { return us_gallons(o) / gallons_per_barrel; },
          [](double x) { return x * gallons_per_barrel * 128; }},
-    Unit{"Milliliter", [](double o) { return us_litres(o) * 1000; },
+    FamilyUnit{"Milliliter", [](double o) { return us_litres(o) * 1000; },
          [](double x) { return x / 1000 * fluid_ounces_per_litre; }},
-    Unit{"Liter", us_litres, [](double x) { return x * fluid_ounces_per_litre; }},
-    Unit{"Hectoliter", [](double o) { return us_litres(o) / 100; }, [](double x) { return x * 26.418 * 128; }}};
+    FamilyUnit{"Liter", us_litres, [](double x) { return x * fluid_ounces_per_litre; }},
+    FamilyUnit{"Hectoliter", [](double o) { return us_litres(o) / 100; }, [](double x) { return x * 26.418 * 128; }}};
 
 constexpr std::array imperial_fluid = {
-    Unit{"Ounces", same, same},
-    Unit{"Pint", [](double o) { return o / 20; }, [](double x) { return x * 20; }},
-    Unit{"Gallon", imperial_gallons, [](double x) { return x * 160; }},
-    Unit{"US Ounces", [](double o) { return o * 0.96; }, [](double x) { return x / 0.96; }},
-    Unit{"US Gallons", [](double o) { return imperial_gallons(o) * 1.201; },
+    FamilyUnit{"Ounces", same, same},
+    FamilyUnit{"Pint", [](double o) { return o / 20; }, [](double x) { return x * 20; }},
+    FamilyUnit{"Gallon", imperial_gallons, [](double x) { return x * 160; }},
+    FamilyUnit{"US Ounces", [](double o) { return o * 0.96; }, [](double x) { return x / 0.96; }},
+    FamilyUnit{"US Gallons", [](double o) { return imperial_gallons(o) * 1.201; },
          [](double x) { return x / 1.201 * 160; }},
-    Unit{"Barrels", [](double o) { return imperial_gallons(o) / 36; }, [](double x) { return x * 36 * 160; }},
-    Unit{"Milliliter", [](double o) { return imperial_litres(o) * 1000; },
+    FamilyUnit{"Barrels", [](double o) { return imperial_gallons(o) / 36; }, [](double x) { return x * 36 * 160; }},
+    FamilyUnit{"Milliliter", [](double o) { return imperial_litres(o) * 1000; },
          [](double x) { return x / imperial_millilitres_per_ounce; }},
-    Unit{"Liter", imperial_litres, [](double x) { return x / imperial_millilitres_per_ounce * 1000; }},
-    Unit{"Hectoliter", [](double o) { return imperial_litres(o) / 100; },
+    FamilyUnit{"Liter", imperial_litres, [](double x) { return x / imperial_millilitres_per_ounce * 1000; }},
+    FamilyUnit{"Hectoliter", [](double o) { return imperial_litres(o) / 100; },
          [](double x) { return x * 100 * imperial_ounces_per_litre; }}};
 
 constexpr std::array weight = {
-    Unit{"Ounces", same, same},
-    Unit{"Pounds", [](double o) { return o / 16; }, [](double x) { return x * 16; }},
-    Unit{"Kilogram", [](double o) { return grams(o) / grams_per_kilogram; },
+    FamilyUnit{"Ounces", same, same},
+    FamilyUnit{"Pounds", [](double o) { return o / 16; }, [](double x) { return x * 16; }},
+    FamilyUnit{"Kilogram", [](double o) { return grams(o) / grams_per_kilogram; },
          [](double x) { return x * grams_per_kilogram / grams_per_ounce; }},
-    Unit{"Grams", grams, [](double x) { return x / grams_per_ounce; }},
-    Unit{"Grains", [](double o) { return o * grains_per_ounce; }, [](double x) { return x / grains_per_ounce; }}};
+    FamilyUnit{"Grams", grams, [](double x) { return x / grams_per_ounce; }},
+    FamilyUnit{"Grains", [](double o) { return o * grains_per_ounce; }, [](double x) { return x / grains_per_ounce; }}};
 
 constexpr std::array temperature = {
-    Unit{"Fahrenheit", same, same},
-    Unit{"Celsius", celsius, fahrenheit},
-    Unit{"Kelvin", [](double f) { return celsius(f) + 273.15; }, [](double x) { return fahrenheit(x - 273.15); }},
-    Unit{"Reaumur", [](double f) { return (f - 32) * 4 / 9; }, [](double x) { return x * 9 / 4 + 32; }},
-    Unit{"Rankine", [](double f) { return f + 459.67; }, [](double x) { return x - 459.67; }}};
+    FamilyUnit{"Fahrenheit", same, same},
+    FamilyUnit{"Celsius", celsius, fahrenheit},
+    FamilyUnit{"Kelvin", [](double f) { return celsius(f) + 273.15; }, [](double x) { return fahrenheit(x - 273.15); }},
+    FamilyUnit{"Reaumur", [](double f) { return (f - 32) * 4 / 9; }, [](double x) { return x * 9 / 4 + 32; }},
+    FamilyUnit{"Rankine", [](double f) { return f + 459.67; }, [](double x) { return x - 459.67; }}};
 
 constexpr std::array gravity = {
-    Unit{"SG", same, same},
-    Unit{"Plato", [](double sg) { return double{sg_to_plato(narrow(sg))}; },
+    FamilyUnit{"SG", same, same},
+    FamilyUnit{"Plato", [](double sg) { return double{sg_to_plato(narrow(sg))}; },
          [](double plato) { return double{plato_to_sg(narrow(plato))}; }}};
 
 constexpr std::array pressure = {
-    Unit{"PSI", same, same},
-    Unit{"kPa", [](double psi) { return psi * kilopascals_per_psi; },
+    FamilyUnit{"PSI", same, same},
+    FamilyUnit{"kPa", [](double psi) { return psi * kilopascals_per_psi; },
          [](double kilopascals) { return kilopascals / kilopascals_per_psi; }}};
 // clang-format on
 

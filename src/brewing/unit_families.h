@@ -10,13 +10,13 @@
 
 namespace wortlex {
 
-struct Unit {
+struct FamilyUnit {
     std::string_view name;
     double (*of_base)(double base);
     double (*to_base)(double value);
 };
 
-using UnitFamily = std::span<const Unit>;
+using UnitFamily = std::span<const FamilyUnit>;
 
 UnitFamily us_fluid_units();       ///< base: US fluid ounce
 UnitFamily imperial_fluid_units(); ///< base: Imperial fluid ounce

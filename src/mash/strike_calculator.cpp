@@ -45,14 +45,6 @@ TwinVolume of_litres(float litres) {
     return {narrow(volume * fluid_ounces_per_litre / 32.0), volume};
 }
 
-TwinDegrees of_fahrenheit(float fahrenheit) {
-    return {fahrenheit, celsius_from_fahrenheit(fahrenheit)};
-}
-
-TwinDegrees of_celsius(float celsius) {
-    return {fahrenheit_from_celsius(celsius), celsius};
-}
-
 StrikeCalculator new_strike_calculator(const Settings& settings) {
     const bool is_brewery = is_pro(settings);
     StrikeCalculator calculator;

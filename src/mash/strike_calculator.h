@@ -2,6 +2,7 @@
 // worked out in the other.
 #pragma once
 
+#include "measures/twins.h"
 #include "settings/settings.h"
 
 namespace wortlex {
@@ -16,18 +17,11 @@ struct TwinVolume {
     float litres = 0;
 };
 
-struct TwinDegrees {
-    float fahrenheit = 0;
-    float celsius = 0;
-};
-
 /// Both units from the one that was typed. An amount below 0 counts as 0.
 TwinWeight of_pounds(float pounds);
 TwinWeight of_kilograms(float kilograms);
 TwinVolume of_quarts(float quarts);
 TwinVolume of_litres(float litres);
-TwinDegrees of_fahrenheit(float fahrenheit);
-TwinDegrees of_celsius(float celsius);
 
 struct StrikeCalculator {
     float thermal_mass = 0;

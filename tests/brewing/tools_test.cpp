@@ -91,7 +91,7 @@ TEST(Carbonation, SugarAndPressure) {
 // The whole family from a value of one of its units, by name.
 std::vector<float> family_of(UnitFamily family, std::string_view name, float value) {
     std::vector<float> values(family.size());
-    const auto named = [&](const Unit& unit) { return unit.name == name; };
+    const auto named = [&](const FamilyUnit& unit) { return unit.name == name; };
     const auto given = std::find_if(family.begin(), family.end(), named) - family.begin();
     values.at(static_cast<std::size_t>(given)) = value;
     follow_unit(family, values, static_cast<std::size_t>(given));

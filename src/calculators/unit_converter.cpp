@@ -1,0 +1,149 @@
+#include "calculators/unit_converter.h"
+
+#include "calculators/tool_page.h"
+
+#include <cmath>
+#include <utility>
+
+namespace wortlex {
+namespace {
+
+constexpr Range any_amount = {0, 100000}, any_pressure = {0, 20000};
+constexpr std::array<Range, 5> degree_ranges = {
+    {{-100, 500}, {-73, 500}, {-25000, 25000}, {-25000, 25000}, {-25000, 25000}}};
+
+// Of one unit: its field of the family, bound so that the others follow.
+template <std::size_t N>
+Binding<float> followed(UnitFamily family, std::array<float, N>& values, std::size_t unit) {
+    return {[&values, unit] { return values.at(unit); },
+            [family, &values, unit](float typed) {
+                values.at(unit) = typed;
+                follow_unit(family, values, unit);
+            }};
+}
+
+std::string key_of(const std::string& prefix, std::string_view name) {
+    std::string key = prefix;
+    for (const char c : name) key += c == ' ' ? '_' : static_cast<char>(c | 0x20);
+    return key;
+}
+
+NumberRow& as_nudged(NumberRow& row, const Range& range) {
+    return row.range(range.low, range.high)
+        .step(1.0F)
+        .format("%4.2f")
+        .width(9)
+        .shown_as(nudged, [](float shown) { return shown; });
+}
+
+template <std::size_t N>
+void unit_amount_rows(Rows& rows, const std::string& prefix, UnitFamily family,
+                      std::array<float, N>& values) {
+    for (std::size_t i = 0; i < N; ++i)
+        as_nudged(rows.number(key_of(prefix, family[i].name), followed(family, values, i)), any_amount)
+            .label(std::string(family[i].name));
+}
+
+void unit_temperature_rows(Rows& rows, std::array<float, 5>& values) {
+    const auto family = temperature_units();
+    for (std::size_t i = 0; i < values.size(); ++i)
+        as_nudged(rows.signed_number(key_of("", family[i].name), followed(family, values, i)),
+                  degree_ranges.at(i))
+            .label(std::string(family[i].name));
+}
+
+void unit_gravity_rows(Rows& rows, UnitConverter& converter, const Settings& settings) {
+    rows.sg("sg", followed(gravity_units(), converter.gravity, 0), settings)
+        .label("SG")
+        .range(1.0F, 2.0F)
+        .step(0.001F);
+    rows.plato("plato", followed(gravity_units(), converter.gravity, 1), settings)
+        .label("Plato")
+        .range(0.0F, 100.0F)
+        .step(0.1F);
+}
+
+void unit_pressure_rows(Rows& rows, std::array<float, 2>& values) {
+    for (std::size_t i = 0; i < values.size(); ++i) {
+        const auto name = pressure_units()[i].name;
+        rows.number(key_of("", name), followed(pressure_units(), values, i))
+            .label(std::string(name))
+            .range(any_pressure.low, any_pressure.high)
+            .step(1.0F);
+    }
+}
+
+std::string figure(std::string_view name, float value) {
+    return std::string(name) + formatted("\t%0.2f", nudged(value));
+}
+
+// The three tables beside each other; the last is the shortest.
+void add_amounts(PageLines& lines, const UnitConverter& converter) {
+    static constexpr std::array us_names = {"Ounces",  "Cups",       "Pints", "Quart",     "Gallons",
+                                            "Barrels", "Milliliter", "Liter", "Hectoliter"};
+    for (std::size_t i = 0; i < us_names.size(); ++i) {
+        lines.push_back(figure(us_names.at(i), converter.us_fluid.at(i)) + "\t" +
+                        figure(imperial_fluid_units()[i].name, converter.imperial_fluid.at(i)));
+        if (i < converter.weight.size())
+            lines.back() += "\t" + figure(weight_units()[i].name, converter.weight.at(i));
+    }
+}
+
+void add_degrees(PageLines& lines, const UnitConverter& converter) {
+    static constexpr std::array names = {"Fahrenheit", "Celcius", "Kelvin", "Reaumur", "Rankine"};
+    lines.insert(lines.end(), {"", "Temperature"});
+    for (std::size_t i = 0; i < names.size(); ++i)
+        lines.push_back(figure(names.at(i), converter.temperature.at(i)));
+}
+
+} // namespace
+
+void UnitConverter::reset() {
+    us_fluid = imperial_fluid = {};
+    weight = {};
+    temperature[0] = 60;
+    follow_unit(temperature_units(), temperature, 0);
+    gravity[0] = 1;
+    follow_unit(gravity_units(), gravity, 0);
+    pressure[0] = 1;
+    follow_unit(pressure_units(), pressure, 0);
+}
+
+// Beyond what the program's own rounding can hold, since a hundred thousand barrels are many ounces.
+float nudged(float value) {
+    return narrow(std::trunc((value + (value >= 1 ? 0.0019 : 0.0009)) * 100) / 100);
+}
+
+void unit_converter_form(Form& form, UnitConverter& converter, const Settings& settings,
+                         ToolActions actions) {
+    unit_amount_rows(form.group("US Fluid"), "us_", us_fluid_units(), converter.us_fluid);
+    form.next_column();
+    unit_amount_rows(form.group("Imperial Fluid"), "imperial_", imperial_fluid_units(),
+                     converter.imperial_fluid);
+    form.next_column();
+    unit_amount_rows(form.group("Weight"), "weight_", weight_units(), converter.weight);
+    unit_pressure_rows(form.group("Pressure"), converter.pressure);
+    form.next_column();
+    unit_temperature_rows(form.group("Temperature"), converter.temperature);
+    unit_gravity_rows(form.group("Gravity"), converter, settings);
+    auto& buttons = form.group();
+    buttons.button("reset", "&Reset", [&converter] { converter.reset(); });
+    tool_buttons(buttons, std::move(actions));
+}
+
+PrintRequest unit_converter_printout(const UnitConverter& converter, const Settings& settings) {
+    PageLines lines = {"US\t\tImperial\t", "Fluid Measurements\tFluid Measurements\tWeight Measurements"};
+    add_amounts(lines, converter);
+    add_degrees(lines, converter);
+    lines.insert(
+        lines.end(),
+        {"", "Gravity",
+         "SG" + formatted("\t" + sg_pattern(0, settings), converter.gravity[0]) + "\tPlato" +
+             formatted("\t" + plato_pattern(0, settings), converter.gravity[1]),
+         "", "Pressure",
+         formatted("PSI\t%0.3f", converter.pressure[0]) + formatted("\tkPa\t%0.2f", converter.pressure[1])});
+    return tool_page("Wortlex Measurements And Conversions", std::move(lines), {105, 220, 325, 420, 515},
+                     settings);
+}
+
+} // namespace wortlex
