@@ -15,6 +15,13 @@ QString source_of(std::string_view key) {
     return QStringLiteral(":/artwork/buttons/") + string_of(key) + QStringLiteral(".svg");
 }
 
+// Of the instrument that a button leads to; empty for other buttons.
+std::string_view instrument_of(std::string_view key) {
+    for (const std::string_view instrument : {"refractometer", "hydrometer"})
+        if (key.ends_with(instrument)) return instrument;
+    return {};
+}
+
 // Drawn anew for each size and screen.
 class VectorPicture : public QIconEngine {
 public:
@@ -39,6 +46,17 @@ private:
     QSvgRenderer renderer_;
 };
 
+// Beside the words, as high as they are.
+void show_instrument(QPushButton& button, std::string_view instrument, const SystemSettings& settings) {
+    if (settings.use_tool_bitmaps == 0) return button.setIcon({});
+    if (!button.icon().isNull()) return;
+    const auto source = source_of(instrument);
+    const QSizeF drawn = QSvgRenderer(source).defaultSize();
+    const int height = button.fontMetrics().height();
+    button.setIcon(QIcon(new VectorPicture(source)));
+    button.setIconSize(drawn.scaled(QSizeF(10.0 * height, height), Qt::KeepAspectRatio).toSize());
+}
+
 } // namespace
 
 bool has_picture(std::string_view key) {
@@ -47,6 +65,10 @@ bool has_picture(std::string_view key) {
 
 void show_caption(QPushButton& button, std::string_view key, const QString& caption,
                   const SystemSettings& settings) {
+    if (const auto instrument = instrument_of(key); !instrument.empty()) {
+        button.setText(caption);
+        return show_instrument(button, instrument, settings);
+    }
     const bool is_picture = settings.hide_print_help_bitmaps == 0 && has_picture(key);
     if (!is_picture) {
         button.setIcon({});

@@ -15,8 +15,8 @@ WindowPlace& dress_window(QWidget& window, const WindowInfo& info, std::size_t u
                           QWidget* origin, const Places& places) {
     window.setObjectName(string_of(info.template_name));
     window.setWindowTitle(string_of(info.captions.at(use)));
-    return *new WindowPlace(window, origin, info.places.at(static_cast<std::size_t>(opener)),
-                            places); // the window owns it
+    const auto place = info.places_by_use ? use : static_cast<std::size_t>(opener);
+    return *new WindowPlace(window, origin, info.places.at(place), places); // the window owns it
 }
 
 bool show_modal_child(const QWidget& window) {

@@ -6,8 +6,8 @@
 namespace wortlex {
 namespace {
 
-constexpr std::array<int, 3> from_documents(int recipe, int session) {
-    return {no_place, recipe, session};
+constexpr std::array<int, 4> from_documents(int recipe, int session) {
+    return {no_place, recipe, session, no_place};
 }
 
 constexpr std::array windows = {
@@ -82,6 +82,29 @@ constexpr std::array windows = {
     WindowInfo{"SYSTEMFILEDIRS", {"Default File Folders"}, from_main(98), 70003},
     WindowInfo{"FILEDIRNAGDIALOG", {" Wortlex Reminder Message! Auto Folder Saving."}, no_places, 0},
     WindowInfo{"SYSTEMBEERCOLOR", {"System Settings - Beer and Malt Color"}, from_main(99), 70002},
+    // Of one gravity: a mash's, or (by use) that of dilution, boil off, and two pages of a session.
+    WindowInfo{"BATCHHYDROMETERDIALOG", {"Hydrometer Correction Calculator"}, {88, 88, 88}, 0},
+    WindowInfo{"BATCHYEASTHYDROMETERDIALOG",
+               {"Hydrometer Correction Calculator", "Hydrometer Correction Calculator",
+                "Hydrometer Correction Calculator", "Hydrometer Correction Calculator"},
+               {96, 97, 89, 90},
+               0,
+               true},
+    WindowInfo{"REFRACTOMETERDIALOG1_1",
+               {"Refractometer - Runnings Stopped At SG", "Refractometer - Recorded Efficiency OG",
+                "Refractometer - Recorded Original Gravity"},
+               {91, 92, 93, no_place},
+               0,
+               true},
+    WindowInfo{"REFRACTOMETERDIALOG2_2",
+               {"Refractometer - Recorded Finishing Gravity"},
+               from_documents(no_place, 94),
+               0},
+    WindowInfo{"REFRACTOMETERDIALOG3_3",
+               {"Refractometer - %Alcohol, OG, Residual Extract"},
+               from_documents(no_place, 95),
+               0},
+    WindowInfo{"TIMELINEENTRYDIALOG", {"Time Line Comment"}, no_places, 0},
     WindowInfo{"PRINTPREVIEW", {"Print Preview"}, no_places, 0},
     WindowInfo{"HTMLDIALOG", {"HTML Theme Settings"}, no_places, 0},
     WindowInfo{"ABOUTDIALOG", {"About Wortlex"}, no_places, 0},

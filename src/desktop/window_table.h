@@ -11,18 +11,19 @@ namespace wortlex {
 enum class Opener { main, recipe, session };
 
 inline constexpr int no_place = -1;
-inline constexpr std::array no_places = {no_place, no_place, no_place};
+inline constexpr std::array no_places = {no_place, no_place, no_place, no_place};
 
 /// Of a window that only the main window opens.
-constexpr std::array<int, 3> from_main(int slot) {
-    return {slot, no_place, no_place};
+constexpr std::array<int, 4> from_main(int slot) {
+    return {slot, no_place, no_place, no_place};
 }
 
 struct WindowInfo {
     std::string_view template_name;
     std::array<std::string_view, 4> captions; ///< by use, as the window tells
-    std::array<int, 3> places = no_places;    ///< slots of `ToolPositions`, by opener
+    std::array<int, 4> places = no_places;    ///< slots of `ToolPositions`, by opener
     int help_topic = 0;                       ///< 0: none
+    bool places_by_use = false;               ///< `places` goes by use instead
 };
 
 /// The row of a template; it must be there.

@@ -7,7 +7,7 @@ namespace {
 
 // The windows that may hold unsaved work, in the order in which they are asked.
 constexpr std::array asked_to_close = {command::new_recipe, command::new_session, command::water_profile,
-                                       command::mash_designer};
+                                       command::mash_designer, command::time_line};
 
 } // namespace
 

@@ -3,6 +3,7 @@
 
 #include "base/ports/prompts.h"
 #include "brewing/beer_colour.h"
+#include "calculators/calculator_states.h"
 #include "calculators/hop_memory.h"
 #include "databases/ingredient_list.h"
 #include "documents/live_document.h"
@@ -54,6 +55,7 @@ struct Program {
     ColorTable color_table;
     CalculatorDefaults calculator_defaults;
     HopMemory hop_memory;
+    CalculatorStates calculators;
     std::optional<StrikeCalculator> strike_calculator; ///< none before its window first opens
     PickChoices picks;
 

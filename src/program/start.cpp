@@ -5,10 +5,13 @@
 namespace wortlex {
 namespace {
 
-// Before the settings: where files are, how HTML pages look, and where windows were.
+// Before the settings: where files are, how HTML pages look, what calculators begin with, and where windows
+// were.
 void read_places(Program& program, const std::string& data_folder) {
     program.folders = LoadFolders(data_folder);
     program.html_theme = LoadDefaultTheme(data_folder);
+    LoadDilution(data_folder, program.calculators.dilution);
+    LoadBoilOff(data_folder, program.calculators.boil_off);
     program.main_position = LoadMainPosition(data_folder);
     program.tool_positions = LoadToolPositions(data_folder);
 }
@@ -30,14 +33,13 @@ void read_color_table(Program& program, Prompts& prompts) {
 } // namespace
 
 bool start(Program& program, const std::string& data_folder, Prompts& prompts) {
-    // The states of dilution and boil off come behind the theme of HTML pages, once there is something to
-    // read them into.
     read_places(program, data_folder);
     if (!start_core(program, data_folder, prompts)) return false;
     read_print_options(program);
     program.art_scheme = program.system.settings.art_scheme;
     LoadWater(data_folder, program.water_database, prompts);
     program.calculator_defaults = calculator_defaults(program.settings.system_mode);
+    program.calculators.carbonation.beer = of_gallons(program.calculator_defaults.carbonation_gallons);
     read_color_table(program, prompts);
     program.recent_documents = LoadRecent(data_folder);
     return true;

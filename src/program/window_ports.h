@@ -5,6 +5,7 @@
 #include "base/ports/file_dialogs.h"
 #include "base/ports/prompts.h"
 #include "page/page.h"
+#include "program/commands.h"
 
 namespace wortlex {
 
@@ -16,6 +17,7 @@ struct WindowPorts {
     Files& files;
     PageDesk& pages;
     Clipboard& clipboard;
+    CommandTable* commands = nullptr; ///< the main window's, which puts them here
 };
 
 } // namespace wortlex

@@ -9,8 +9,9 @@ namespace wortlex {
 
 /// What a change was about.
 enum class Change {
-    document, ///< the live one: what it holds, or where it comes from
-    settings  ///< the working values
+    document,   ///< the live one: what it holds, or where it comes from
+    settings,   ///< the working values
+    calibration ///< of the refractometers, for this run
 };
 
 /// Kept by who listens; with its end he hears nothing more, and it may end after the board.

@@ -1,5 +1,6 @@
 #include "windows/main/main_window.h"
 
+#include "calculators/time_sheet.h"
 #include "desktop/menus.h"
 #include "desktop/qt_text.h"
 #include "program/exit.h"
@@ -29,6 +30,7 @@ MainWindow::MainWindow(const WindowPorts& ports)
     : ports_(ports), program_(ports.program), prompts_(ports.prompts),
       board_(new PictureBoard(program_.data_folder, art_scheme(program_.art_scheme), main_screen_buttons(),
                               commands_, prompts_, this)) {
+    ports_.commands = &commands_;
     const auto& info = window_info("GENERIC");
     setObjectName(string_of(info.template_name));
     setWindowTitle(string_of(info.captions[0]));
@@ -94,6 +96,8 @@ void MainWindow::put() {
 
 void MainWindow::offer_unsaved_work() {
     if (offer_work(program_, prompts_)) show_document(DocumentKind::recipe);
+    // Its window offers it.
+    if (is_time_line_kept(program_.data_folder)) commands_.start(command::time_line);
 }
 
 void MainWindow::open_file(const std::string& path) {
@@ -121,7 +125,7 @@ void MainWindow::closeEvent(QCloseEvent* event) {
     if (!isMinimized()) position = {rectangle_of(*this), static_cast<std::uint8_t>(isMaximized() ? 1 : 0)};
     if (!leave(program_, position)) return event->ignore();
     event->accept();
-    // The calculators that are still open have nothing to lose.
+    // The tools that are still open have nothing to lose.
     QMetaObject::invokeMethod(qApp, &QCoreApplication::quit, Qt::QueuedConnection);
 }
 

@@ -1,0 +1,79 @@
+#include "windows/calculators/calculator_window.h"
+
+#include "desktop/qt_text.h"
+#include "program/program.h"
+
+#include <QCloseEvent>
+#include <QDialogButtonBox>
+#include <QPushButton>
+#include <QShortcut>
+#include <QVBoxLayout>
+
+namespace wortlex {
+namespace {
+
+constexpr int title_bar_buttons = 80; // pixels
+
+Form filled(const CalculatorWindow::Fill& fill, QWidget& window) {
+    Form form;
+    fill(form, window);
+    return form;
+}
+
+void finish_line(const GridRow& grid, const GridRow::Line& line, const FormWidgets& widgets) {
+    std::string word;
+    for (std::size_t column = 0; column < line.cells.rows().size(); ++column) {
+        const auto& cell = *line.cells.rows()[column];
+        if (dynamic_cast<const NoteRow*>(&cell) != nullptr) {
+            word = cell.label_text();
+            if (auto* const label = qobject_cast<QLabel*>(&widgets.field(cell))) label->setWordWrap(false);
+            continue;
+        }
+        if (column < grid.captions.size()) word = grid.captions[column]();
+        widgets.field(cell).setMaximumWidth(QWIDGETSIZE_MAX); // figures as wide as the fields above them
+        auto name = string_of(line.label() + " " + word).remove(QLatin1Char('&'));
+        widgets.field(cell).setAccessibleName(name.replace(QLatin1Char('\n'), QLatin1Char(' ')).trimmed());
+    }
+}
+
+} // namespace
+
+void finish_tables(const Form& form, const FormWidgets& widgets) {
+    form.for_each([&](Row& row) {
+        const auto* const grid = dynamic_cast<const GridRow*>(&row);
+        if (grid == nullptr) return;
+        for (const auto& line : grid->lines) finish_line(*grid, *line, widgets);
+    });
+}
+
+CalculatorWindow::CalculatorWindow(const WindowPorts& ports, const WindowInfo& info, QWidget* origin,
+                                   const Fill& fill, Buttons buttons)
+    : ToolWindow(info, 0, Opener::main, origin, places(ports.program)), form_(filled(fill, *this)),
+      widgets_(form_, places(ports.program), *this) {
+    auto* const layout = new QVBoxLayout(this);
+    layout->addStrut(fontMetrics().horizontalAdvance(windowTitle()) + title_bar_buttons);
+    layout->addLayout(lay_out(form_, widgets_));
+    layout->addStretch();
+    finish_tables(form_, widgets_);
+    add_buttons(buttons);
+    if (auto* const first = widgets_.first_field()) first->setFocus();
+    connect(new QShortcut(QKeySequence::Cancel, this), &QShortcut::activated, this, &QWidget::close);
+}
+
+void CalculatorWindow::add_buttons(Buttons buttons) {
+    auto* const box = new QDialogButtonBox(QDialogButtonBox::Ok, this);
+    if (buttons == Buttons::ok_and_cancel) box->addButton(QDialogButtonBox::Cancel);
+    connect(box, &QDialogButtonBox::accepted, this, [this] {
+        is_accepted_ = true;
+        close();
+    });
+    connect(box, &QDialogButtonBox::rejected, this, &QWidget::close);
+    layout()->addWidget(box);
+}
+
+void CalculatorWindow::closeEvent(QCloseEvent* event) {
+    ToolWindow::closeEvent(event);
+    if (event->isAccepted() && !is_accepted_) form_.cancel();
+}
+
+} // namespace wortlex
