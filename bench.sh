@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Prints how fast the program is: its start beside that of an empty window, one recalculation, a load and a save, a hop
-# list of 999 entries, the recipe window and its report, and wortlex-report over 10,000 recipes, each from 25 to 400
-# lines of malts and hops.
+# list of 999 entries, the recipe window and its report, the brewer's tools, and wortlex-report over 10,000 recipes,
+# each from 25 to 400 lines of malts and hops.
 set -eu
 cd "$(dirname "$0")"
 . tools/install.sh
@@ -15,6 +15,7 @@ build/bench/bench/documents_bench --benchmark_counters_tabular=true
 build/bench/bench/lists_bench
 build/bench/bench/recipe_window_bench
 build/bench/bench/reports_bench
+build/bench/bench/tools_bench
 
 folder=$(mktemp -d)
 trap 'rm -rf "$folder"' EXIT

@@ -11,7 +11,7 @@ minutes=${1:-5}
 cmake --preset fuzz > /dev/null
 cmake --build --preset fuzz
 [ -d build/fuzz/brewery ] || build/fuzz/tools/make-brewery data build/fuzz/brewery
-[ $# -gt 0 ] || set -- recipe session settings schedule color_table database import sort_file jpeg
+[ $# -gt 0 ] || set -- recipe session settings schedule color_table database import sort_file jpeg time_line calculator_state
 
 # The first entries of a database behind the bytes of HEAD.
 seed_entries() {
@@ -40,6 +40,8 @@ run() {
     database) cp build/fuzz/brewery/WATER.DAT "$corpus" ;;
     import) seed_import "$corpus" ;;
     jpeg) printf '\1\20\20' > "$corpus/picture" ;;
+    time_line) printf '\1\0\0\0\1\2\3\4mash in' > "$corpus/day" ;;
+    calculator_state) printf '\0\0\240@ff\206?\0\0\200?<\0\0\0\0\0\240@\0\0\200@<\0\0\0\1' > "$corpus/boil" ;;
     sort_file) seed_entries HOPS.DAT '\0\1\0\1\0\0\1' > "$corpus/hops" ;;
     esac
     if build/fuzz/fuzz/"$target"_fuzz "$corpus" -max_total_time=$((minutes * 60)) -max_len=1500000 -rss_limit_mb=4096 \

@@ -1,5 +1,6 @@
-// picture-windows [--scheme N] [--dark] TARGET_DIR RECIPE: run in a brewery folder, it opens the main window
-// and a recipe, and saves a picture of each as main-window.png and recipe-window.png.
+// picture-windows [--scheme N] [--dark] TARGET_DIR RECIPE: run in a brewery folder, it opens the main window,
+// every tool and a recipe, and saves a picture of each: main-window.png, recipe-window.png, and the tools by
+// their names.
 #include "base/number.h"
 #include "base/ports/quiet_prompts.h"
 #include "desktop/print_preview.h"
@@ -83,10 +84,26 @@ bool save_picture(QWidget& window, const QDir& target, const QString& name) {
     return window.grab().save(path) || complain(path + QStringLiteral(": cannot be written"));
 }
 
-QWidget* document_window(const MainWindow& main) {
+QWidget* other_window(const MainWindow& main) {
     for (auto* const window : QApplication::topLevelWidgets())
         if (window != &main && window->isVisible() && !window->isModal()) return window;
     return nullptr;
+}
+
+// Those that open by themselves; a document has to be chosen first.
+bool picture_tools(MainWindow& main, const QDir& target) {
+    bool saved = true;
+    for (const auto& tool : tools()) {
+        if (!has_window(tool) || tool.prepare != nullptr) continue;
+        main.commands().start(tool.command);
+        settle();
+        auto* const window = other_window(main);
+        const auto name = string_of(tool.window.template_name) + QStringLiteral(".png");
+        saved = window != nullptr && save_picture(*window, target, name) && saved;
+        if (window != nullptr) window->close();
+        settle();
+    }
+    return saved;
 }
 
 bool picture(Program& program, Prompts& prompts, const QDir& target, const std::string& recipe) {
@@ -96,10 +113,11 @@ bool picture(Program& program, Prompts& prompts, const QDir& target, const std::
     MainWindow main({program, prompts, files, pages, clipboard});
     main.show();
     settle();
-    const bool saved = save_picture(main, target, QStringLiteral("main-window.png"));
+    const bool saved =
+        save_picture(main, target, QStringLiteral("main-window.png")) && picture_tools(main, target);
     main.open_file(recipe);
     settle();
-    auto* const document = document_window(main);
+    auto* const document = other_window(main);
     if (document == nullptr) return complain(QStringLiteral("the recipe did not open"));
     return save_picture(*document, target, QStringLiteral("recipe-window.png")) && saved;
 }
