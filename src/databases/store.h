@@ -481,13 +481,13 @@ void Store<Record>::save(Prompts& prompts) {
 template <class Record>
 bool Store<Record>::close(Prompts& prompts) {
     if (side() == ListSide::maintenance && is_changed()) {
-        const bool wants_save = prompts.ask_yes_no({.text = catalogue_.words.closing_question,
-                                                    .icon = Icon::warning}) == Answer::yes;
-        if (wants_save && !write(prompts)) {
+        const auto answer = prompts.ask_yes_no_or_stay(
+            {.text = catalogue_.words.closing_question, .icon = Icon::warning, .safe = Answer::yes});
+        if (answer == Answer::cancel || (answer == Answer::yes && !write(prompts))) {
             show_again();
             return false;
         }
-        if (!wants_save) reload(prompts);
+        if (answer == Answer::no) reload(prompts);
     }
     auto sort = sort_;
     sort.descending[sort.column] ^= 1; // the click that opens the list next time repeats the order last seen

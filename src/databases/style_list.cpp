@@ -56,8 +56,9 @@ void StyleStore::choose_filter(std::int32_t chosen, Prompts& prompts) {
     if (book == book_) return;
     if (side() == ListSide::maintenance && is_changed()) {
         const auto question = switch_question(book_);
-        const bool wants_save = prompts.ask_yes_no({.text = question, .icon = Icon::warning}) == Answer::yes;
-        if (wants_save && !write(prompts)) return show_again();
+        const auto answer =
+            prompts.ask_yes_no_or_stay({.text = question, .icon = Icon::warning, .safe = Answer::yes});
+        if (answer == Answer::cancel || (answer == Answer::yes && !write(prompts))) return show_again();
     }
     take(book);
     reload(prompts);
@@ -68,7 +69,8 @@ void StyleStore::save(Prompts& prompts) {
     const auto question = save_question(book_);
     if (!is_changed())
         prompts.tell({.text = nothing_changed, .icon = Icon::information});
-    else if (prompts.ask_yes_no({.text = question, .icon = Icon::warning}) == Answer::yes)
+    else if (prompts.ask_yes_no({.text = question, .icon = Icon::warning, .safe = Answer::yes}) ==
+             Answer::yes)
         write(prompts);
     show_again();
 }

@@ -10,6 +10,7 @@
 #include <QFile>
 #include <QFileDialog>
 #include <QMessageBox>
+#include <QPushButton>
 
 namespace wortlex {
 namespace {
@@ -36,8 +37,7 @@ void prepare(QMessageBox& box, const Message& message, QMessageBox::StandardButt
     box.setText(string_of(message.text));
     box.setIcon(icon_of(message.icon));
     box.setStandardButtons(buttons);
-    if (message.icon == Icon::warning)
-        box.setDefaultButton(QMessageBox::No); // what warns is not done by Enter alone
+    box.setDefaultButton(message.safe == Answer::yes ? QMessageBox::Yes : QMessageBox::No);
     box.setTextInteractionFlags(Qt::TextSelectableByMouse);
 }
 
@@ -73,6 +73,14 @@ void MessageBoxes::tell(const Message& message) {
 // Closing a yes/no box without a word is the careful answer.
 Answer MessageBoxes::ask_yes_no(const Message& question) {
     return show(question, QMessageBox::Yes | QMessageBox::No) == QMessageBox::Yes ? Answer::yes : Answer::no;
+}
+
+// Esc and the box's own close button press Cancel, so there is one, and it is not to be seen.
+Answer MessageBoxes::ask_yes_no_or_stay(const Message& question) {
+    QMessageBox box(window_in_use());
+    prepare(box, question, QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel);
+    box.button(QMessageBox::Cancel)->hide();
+    return answer_of(box.exec());
 }
 
 Answer MessageBoxes::ask_yes_no_cancel(const Message& question) {

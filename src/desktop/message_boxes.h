@@ -12,6 +12,7 @@ class MessageBoxes : public Prompts {
 public:
     void tell(const Message& message) override;
     Answer ask_yes_no(const Message& question) override;
+    Answer ask_yes_no_or_stay(const Message& question) override;
     Answer ask_yes_no_cancel(const Message& question) override;
     ReplaceAnswer ask_replace(std::string_view existing, std::string_view consequence) override;
     std::optional<std::uint32_t> choose_colour(std::uint32_t start) override;

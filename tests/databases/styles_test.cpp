@@ -41,8 +41,8 @@ struct Styles {
         list->open(prompts);
         return list;
     }
-    void expect_question(const std::string& text, Answer answer) {
-        prompts.expect("yes/no", "You have made changes to the Style " + text, answer, Icon::warning);
+    void expect_question(const std::string& text, Answer answer, const char* what = "yes/no or stay") {
+        prompts.expect(what, "You have made changes to the Style " + text, answer, Icon::warning);
     }
     void expect_switch(const std::string& book, Answer answer) {
         expect_question("Guidlines Database!\nThese guidlines adhere to " + book +
@@ -88,8 +88,11 @@ TEST(StyleList, SwitchesTheSetInForce) {
     EXPECT_EQ(list->heads()[0].caption() + column_of(*list, 3), "BJCP\n#Sake|Cider|");
     EXPECT_EQ(list->edit_entry(styles.prompts)->caption, 1U);
     rename_first(*list, styles.prompts);
-    styles.expect_switch("BJCP", Answer::yes);
-    list->choose_filter(0, styles.prompts);
+    for (const auto answer : {Answer::cancel, Answer::yes}) { // who leaves the question stays in the set
+        styles.expect_switch("BJCP", answer);
+        list->choose_filter(0, styles.prompts);
+        EXPECT_EQ(styles.settings.style_book == StyleBook::bjcp, answer == Answer::cancel);
+    }
     EXPECT_EQ(column_of(*list, 2), "Other|Helles|Dry Stout|") << "No dropped the change";
     const auto pick = styles.open(ListSide::pick);
     pick->choose_filter(1, styles.prompts);
@@ -107,7 +110,7 @@ TEST(StyleList, WarnsBeforeItSaves) {
     styles.expect_question(
         "Guidelines Database!\nThese guidelines adhere to the pre-2000 AHA guidelines and changing "
         "them may affect validity.\nAre you sure you want to save the changes?",
-        Answer::no);
+        Answer::no, "yes/no");
     list->save(styles.prompts);
     styles.expect_question(
         "Guidlines Database!\nExiting now will not save the changes made.\nThese guidlines adhere "

@@ -25,7 +25,8 @@ TEST(WaterList, WorksOnTheResidentArray) {
     EXPECT_FALSE(dynamic_cast<ButtonRow&>(entry->form.row("from_alkalinity")).press) << "no converter";
     type(entry->form, "name", "Burton");
     entry->form.accept();
-    waters.prompts.expect("yes/no", "The water database has been modified!\nDo you want to save the changes?",
+    waters.prompts.expect("yes/no or stay",
+                          "The water database has been modified!\nDo you want to save the changes?",
                           Answer::no, Icon::warning);
     EXPECT_TRUE(waters->close(waters.prompts));
     EXPECT_EQ(waters.database.count, 2) << "No reads the file again";

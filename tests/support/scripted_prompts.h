@@ -29,6 +29,7 @@ public:
 
     void tell(const Message& message) override { take("tell", message, std::monostate()); }
     Answer ask_yes_no(const Message& m) override { return take("yes/no", m, Answer::no); }
+    Answer ask_yes_no_or_stay(const Message& m) override { return take("yes/no or stay", m, Answer::cancel); }
     Answer ask_yes_no_cancel(const Message& m) override { return take("yes/no/cancel", m, Answer::cancel); }
     ReplaceAnswer ask_replace(std::string_view existing, std::string_view consequence) override {
         return take("replace", {existing, consequence}, ReplaceAnswer::cancel);
@@ -54,6 +55,10 @@ private:
         if (!script_.empty()) script_.pop_front();
         EXPECT_EQ((std::tuple{step.what, step.text, step.caption, step.icon}),
                   (std::tuple{what, message.text, message.caption, message.icon}));
+        // Whatever is asked, Enter loses nothing.
+        const bool keeps =
+            message.text.ends_with("save the changes?") || message.text.starts_with("Wortlex ended");
+        EXPECT_EQ(message.safe, keeps ? Answer::yes : Answer::no) << message.text;
         const auto* const given = std::get_if<Answered>(&step.reply);
         return given ? *given : otherwise;
     }

@@ -10,15 +10,16 @@ namespace wortlex {
 
 enum class Icon { none, information, question, warning, error };
 
+enum class Answer { yes, no, cancel };
+enum class ReplaceAnswer { yes, yes_to_all, no, cancel };
+
 /// What a message box says. Texts are UTF-8; `\n` breaks a line.
 struct Message {
     std::string_view text;
     std::string_view caption = "Wortlex";
     Icon icon = Icon::none;
+    Answer safe = Answer::no; ///< of a question: what Enter answers, the one by which nothing is lost
 };
-
-enum class Answer { yes, no, cancel };
-enum class ReplaceAnswer { yes, yes_to_all, no, cancel };
 
 class Prompts {
 public:
@@ -27,6 +28,8 @@ public:
     virtual void tell(const Message& message) = 0;
     /// Yes or no; never `cancel`.
     virtual Answer ask_yes_no(const Message& question) = 0;
+    /// Yes or no on the way out of something; `cancel` when the user leaves the question itself: he stays.
+    virtual Answer ask_yes_no_or_stay(const Message& question) = 0;
     virtual Answer ask_yes_no_cancel(const Message& question) = 0;
     /// Whether an entry that exists already is to be replaced; `existing` and `consequence` are the
     /// two texts of the question.

@@ -10,6 +10,7 @@ class QuietPrompts : public Prompts {
 public:
     void tell(const Message&) override {}
     Answer ask_yes_no(const Message&) override { return Answer::no; }
+    Answer ask_yes_no_or_stay(const Message&) override { return Answer::cancel; }
     Answer ask_yes_no_cancel(const Message&) override { return Answer::cancel; }
     ReplaceAnswer ask_replace(std::string_view, std::string_view) override { return ReplaceAnswer::cancel; }
     std::optional<std::uint32_t> choose_colour(std::uint32_t) override { return std::nullopt; }

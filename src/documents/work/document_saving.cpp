@@ -41,14 +41,12 @@ FileChoice choice_of(const DocumentSaving& saving, const std::string& suggestion
     return {traits.filter, folder, std::move(name), traits.extension};
 }
 
-// A new document is offered its title for a name. Who then leaves the dialog has neither.
-std::optional<std::string> ask_name(DocumentSaving& saving) {
-    auto& document = saving.editor.open.document;
-    const auto title = utf8_from_windows1252(document.title.view());
-    const bool takes_title = saving.file.path.empty() && !title.empty();
-    auto chosen = saving.files.choose_to_save(choice_of(saving, takes_title ? title : saving.file.path));
-    if (!chosen && takes_title) set_title(saving.editor, "");
-    return chosen;
+// A new document is offered its title for a name; who leaves the dialog keeps a document without one.
+std::optional<std::string> ask_name(const DocumentSaving& saving) {
+    const auto& path = saving.file.path;
+    const auto& title = saving.editor.open.document.title;
+    return saving.files.choose_to_save(
+        choice_of(saving, path.empty() ? utf8_from_windows1252(title.view()) : path));
 }
 
 // Nobody loses what another program wrote into the file meanwhile, unless he says so.
@@ -92,7 +90,7 @@ bool may_leave(DocumentSaving& saving) {
     const auto& open = saving.editor.open;
     if (!is_modified(open, saving.saved, saving.file)) return true;
     const auto answer = saving.prompts.ask_yes_no_cancel(
-        {.text = document_traits(kind_of(open)).modified, .icon = Icon::question});
+        {.text = document_traits(kind_of(open)).modified, .icon = Icon::question, .safe = Answer::yes});
     if (answer == Answer::cancel) return false;
     return answer == Answer::no || save(saving, SaveAs::no);
 }

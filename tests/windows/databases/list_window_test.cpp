@@ -170,11 +170,14 @@ TEST(ListWindow, EscAsksAboutChangesAndOnlyOkRemembersThePlace) {
     const auto change_and_leave = [&](Answer answer) {
         desk.answer_dialog("name", "Admiral", Qt::Key_Return);
         desk.click("new");
-        desk.prompts.expect("yes/no", "The hop database has been modified!\nDo you want to save the changes?",
-                            answer, Icon::warning);
+        desk.prompts.expect("yes/no or stay",
+                            "The hop database has been modified!\nDo you want to save the changes?", answer,
+                            Icon::warning);
         if (answer == Answer::yes) desk.prompts.expect_tell(std::string(not_saved), Icon::error);
         QTest::keyClick(desk.window.get(), Qt::Key_Escape);
     };
+    change_and_leave(Answer::cancel);
+    EXPECT_TRUE(desk.window->isVisible()) << "Esc at the question, too, loses nothing";
     change_and_leave(Answer::no);
     EXPECT_EQ(desk.positions.slots[40], Rectangle{});
     desk.show();
