@@ -1,5 +1,6 @@
 #include "databases/inventory.h"
 
+#include "base/number.h"
 #include "databases/messages.h"
 
 #include <memory>

@@ -1,6 +1,7 @@
 #include "base/windows1252.h"
 #include "databases/yeasts.h"
 #include "documents/forms/page_forms.h"
+#include "measures/units.h"
 
 namespace wortlex {
 namespace {
