@@ -1,36 +1,18 @@
 #include "base/files.h"
 
+#include "base/open_file.h"
+
 #include <algorithm>
 #include <cerrno>
 #include <fcntl.h>
 #include <filesystem>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 #include <utility>
 
 namespace wortlex {
 namespace {
-
-// Owns a file descriptor.
-class OpenFile {
-public:
-    explicit OpenFile(int descriptor) : descriptor_(descriptor) {}
-    OpenFile(OpenFile&& other) noexcept : descriptor_(std::exchange(other.descriptor_, -1)) {}
-    OpenFile(const OpenFile&) = delete;
-    OpenFile& operator=(const OpenFile&) = delete;
-    OpenFile& operator=(OpenFile&&) = delete;
-    ~OpenFile() { close(); }
-
-    int get() const { return descriptor_; }
-    bool is_open() const { return descriptor_ >= 0; }
-    bool close() {
-        const int descriptor = std::exchange(descriptor_, -1);
-        return descriptor < 0 || ::close(descriptor) == 0;
-    }
-
-private:
-    int descriptor_;
-};
 
 // Non-blocking, so that a named pipe in place of a file does not hang the program.
 OpenFile open_regular(const std::string& path, int mode, struct stat& status) {
@@ -97,6 +79,18 @@ bool take_mode_and_owner(int descriptor, const OldFile& old) {
 
 constexpr std::string_view temporary_name = ".wortlex-XXXXXX";
 
+bool is_temporary(const std::string& name) {
+    return name.size() == temporary_name.size() &&
+           name.starts_with(temporary_name.substr(0, temporary_name.find('X')));
+}
+
+// A save holds its temporary file locked, so what can be locked was left by one that was killed.
+bool is_abandoned(const std::string& path) {
+    struct stat status = {};
+    const auto file = open_regular(path, O_RDONLY, status);
+    return file.is_open() && ::flock(file.get(), LOCK_EX | LOCK_NB) == 0;
+}
+
 constexpr std::string_view write_error =
     "Wortlex has experienced an error in writing this file.\n\nPossible reasons include:\n\n"
     "a) The file has somehow been tagged as read-only by the system.\n\n"
@@ -136,13 +130,14 @@ bool save_atomically(const std::string& path, ByteView content) {
 
     const auto parent = std::filesystem::path(target).parent_path().string();
     const auto folder = parent.empty() ? std::string(".") : parent;
+    remove_broken_saves(folder);
     auto temporary = folder + "/" + std::string(temporary_name);
     OpenFile file(::mkostemp(temporary.data(), O_CLOEXEC));
     if (!file.is_open()) return false;
+    ::flock(file.get(), LOCK_EX | LOCK_NB); // until it has its name; a file system without locks keeps none
 
     const bool written = write_all(file.get(), content) && take_mode_and_owner(file.get(), old) &&
-                         ::fsync(file.get()) == 0 && file.close() &&
-                         ::rename(temporary.c_str(), target.c_str()) == 0;
+                         ::fsync(file.get()) == 0 && ::rename(temporary.c_str(), target.c_str()) == 0;
     if (!written) {
         ::unlink(temporary.c_str());
         return false;
@@ -158,13 +153,11 @@ bool save_or_tell(const std::string& path, ByteView content, Prompts& prompts) {
 }
 
 void remove_broken_saves(const std::string& folder) {
-    const auto fixed_part = temporary_name.substr(0, temporary_name.find('X'));
     std::error_code error;
-    for (const auto& entry : std::filesystem::directory_iterator(folder, error)) {
-        const auto name = entry.path().filename().string();
-        if (name.starts_with(fixed_part) && name.size() == temporary_name.size() &&
-            entry.is_regular_file(error))
-            std::filesystem::remove(entry.path(), error);
+    auto entry = std::filesystem::directory_iterator(folder, error);
+    for (; !error && entry != std::filesystem::directory_iterator(); entry.increment(error)) {
+        const auto path = entry->path().string();
+        if (is_temporary(entry->path().filename().string()) && is_abandoned(path)) ::unlink(path.c_str());
     }
 }
 

@@ -28,8 +28,8 @@ bool save_atomically(const std::string& path, ByteView content);
 /// Saves so, or tells the user that the file could not be written and what may be the reason.
 bool save_or_tell(const std::string& path, ByteView content, Prompts& prompts);
 
-/// Removes what saves left in a folder that were killed before they came to their end. Nobody may be saving
-/// there.
+/// Removes what saves left in a folder that were killed before they came to their end. Each save does so in
+/// its own folder; what others are saving there is left alone.
 void remove_broken_saves(const std::string& folder);
 
 /// Enough of a file to notice that somebody else has written it.

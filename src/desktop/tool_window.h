@@ -29,6 +29,9 @@ public:
     /// What is left to tell the user once the window stands.
     virtual void tell_once_shown() {}
 
+    /// Keeps unsaved work for a run that breaks off, without a word; false if it could not be written.
+    virtual bool keep_work() { return true; }
+
     std::function<void()> closed; ///< told once, when it is gone from the screen
 
 protected:

@@ -61,6 +61,11 @@ bool show_modal_child(const OpenTools& tools) {
     });
 }
 
+void keep_work(const OpenTools& tools) {
+    for (const auto& [command, tool] : tools.windows)
+        if (const auto window = tool.lock()) window->keep_work();
+}
+
 bool may_edit_settings(const OpenTools& tools, Prompts& prompts) {
     if (!any_open(tools)) return true;
     prompts.tell({.text = settings_are_in_use, .icon = Icon::information});

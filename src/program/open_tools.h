@@ -18,6 +18,8 @@ public:
     virtual bool close() = 0;
     /// Shows a modal dialog that is open over the window; false if there is none.
     virtual bool show_modal_child() = 0;
+    /// Keeps unsaved work, asking nothing.
+    virtual void keep_work() = 0;
 };
 
 /// The open tools by the command that opens them; a document's window by the command of a new one. A window
@@ -43,6 +45,9 @@ bool close_tool(const OpenTools& tools, int command);
 
 /// Shows the modal dialog of the first open tool that has one; false if none has.
 bool show_modal_child(const OpenTools& tools);
+
+/// Keeps the unsaved work of all of them: the program is about to end, unasked.
+void keep_work(const OpenTools& tools);
 
 /// Whether the system settings may be opened; tells if not.
 bool may_edit_settings(const OpenTools& tools, Prompts& prompts);

@@ -60,7 +60,8 @@ struct Program {
     PickChoices picks;
 
     OpenTools tools;
-    MainPosition main_position; ///< as it was at the start
+    bool told_of_unkept_work = false; ///< that the copy of unsaved work cannot be written
+    MainPosition main_position;       ///< as it was at the start
     ToolPositions tool_positions;
     NoticeBoard notices; ///< whoever changes the document or the settings tells it here
 };

@@ -3,18 +3,51 @@
 #include "base/windows1252.h"
 #include "program/program.h"
 
+#include <algorithm>
 #include <charconv>
 #include <filesystem>
+#include <set>
 #include <utility>
 
 namespace wortlex {
 namespace {
 
-constexpr std::string_view work_file = "WlxWork.rcv";
-constexpr std::string_view put_aside = ".later"; // behind the name of work that is to be offered again
+// WlxWork.rcv is the work of now; with a number behind the name it was put aside, with another ending it
+// cannot be read.
+constexpr std::string_view work_name = "WlxWork";
+constexpr std::string_view to_offer = ".rcv";
+constexpr std::string_view damaged = ".damaged";
 
 std::string path_in(const std::string& data_folder) {
-    return data_folder + std::string(work_file);
+    return data_folder + std::string(work_name).append(to_offer);
+}
+
+// Renames a file to the first number that is free, so that no work takes another's place. Where it then is.
+std::string put_aside(const std::string& data_folder, const std::string& path, std::string_view ending) {
+    std::error_code error;
+    for (int number = 1;; ++number) {
+        auto aside =
+            data_folder + std::string(work_name).append("-").append(std::to_string(number)).append(ending);
+        if (std::filesystem::exists(aside, error)) continue;
+        std::filesystem::rename(path, aside, error);
+        return error ? path : aside;
+    }
+}
+
+// All that is to be offered: what broke off last, then what was put aside.
+std::vector<std::string> left_work(const std::string& data_folder) {
+    std::set<std::string> aside;
+    std::error_code error;
+    auto entry = std::filesystem::directory_iterator(data_folder, error);
+    for (; !error && entry != std::filesystem::directory_iterator(); entry.increment(error)) {
+        const auto name = entry->path().filename().string();
+        if (name.starts_with(std::string(work_name) + "-") && name.ends_with(to_offer))
+            aside.insert(data_folder + name);
+    }
+    std::vector<std::string> work{path_in(data_folder)};
+    if (!std::filesystem::exists(work.front(), error)) work.clear();
+    work.insert(work.end(), aside.begin(), aside.end());
+    return work;
 }
 
 // The head is text: what it is, the path and the stamp of the file, a line each. A path may hold anything but
@@ -60,6 +93,38 @@ std::string question_about(const RecoveredWork& work, const BrewDocument& recipe
            "start.";
 }
 
+constexpr std::string_view unkept_work =
+    "The copy of your unsaved work could not be written. Is the disk full, or the folder read-only?\nUntil "
+    "you save it, your work is lost if the program breaks off.";
+
+void tell_damaged(const Program& program, const std::string& path, Prompts& prompts) {
+    const auto kept = put_aside(program.data_folder, path, damaged);
+    const auto text = "Unsaved work of an earlier run is damaged and cannot be opened.\nIt is kept as " +
+                      file_name(kept) + " in the brewery folder.";
+    prompts.tell({.text = text, .icon = Icon::warning});
+}
+
+// Whether the work of one file is the live document now.
+bool offer(Program& program, const std::string& path, Prompts& prompts) {
+    const auto current = path_in(program.data_folder);
+    const auto work = ReadWork(path);
+    LiveDocument found;
+    if (!work || !restore_work(found, *work, program.settings)) {
+        tell_damaged(program, path, prompts);
+        return false;
+    }
+    const auto question = question_about(*work, found.recipe);
+    const auto answer =
+        prompts.ask_yes_no_cancel({.text = question, .icon = Icon::question, .safe = Answer::yes});
+    std::error_code error;
+    if (answer == Answer::cancel && path == current) put_aside(program.data_folder, path, to_offer);
+    if (answer == Answer::no) std::filesystem::remove(path, error);
+    if (answer != Answer::yes) return false;
+    if (path != current) std::filesystem::rename(path, current, error);
+    program.document = std::move(found);
+    return true;
+}
+
 } // namespace
 
 bool KeepWork(const std::string& data_folder, const DocumentImage& image, const DocumentFile& file) {
@@ -76,19 +141,19 @@ void DropWork(const std::string& data_folder) {
     std::filesystem::remove(path_in(data_folder), error);
 }
 
-std::optional<RecoveredWork> FindWork(const std::string& data_folder) {
-    const auto file = read_file(path_in(data_folder));
+std::optional<RecoveredWork> ReadWork(const std::string& path) {
+    const auto file = read_file(path);
     if (!file) return std::nullopt;
     std::string content;
     for (const auto byte : *file) content += static_cast<char>(byte);
     std::string_view rest = content;
     const auto kind = kind_signed(take_line(rest));
     if (!kind) return std::nullopt;
-    const auto path = take_line(rest);
-    const auto stamp = path ? take_line(rest) : std::nullopt;
+    const auto document_path = take_line(rest);
+    const auto stamp = document_path ? take_line(rest) : std::nullopt;
     if (!stamp) return std::nullopt;
     const auto document = std::as_bytes(std::span(rest));
-    return RecoveredWork{*kind, std::string(*path), stamp_from(*stamp),
+    return RecoveredWork{*kind, std::string(*document_path), stamp_from(*stamp),
                          Bytes(document.begin(), document.end())};
 }
 
@@ -103,27 +168,15 @@ bool restore_work(LiveDocument& live, const RecoveredWork& work, const Settings&
     return true;
 }
 
+void tell_unkept_work(Program& program, Prompts& prompts) {
+    if (std::exchange(program.told_of_unkept_work, true)) return;
+    prompts.tell({.text = unkept_work, .icon = Icon::warning});
+}
+
 bool offer_work(Program& program, Prompts& prompts) {
-    const auto path = path_in(program.data_folder);
-    const auto aside = path + std::string(put_aside);
-    std::error_code error;
-    if (!std::filesystem::exists(path, error)) std::filesystem::rename(aside, path, error);
-    const auto work = FindWork(program.data_folder);
-    if (!work) return false;
-    LiveDocument found;
-    if (!restore_work(found, *work, program.settings)) {
-        DropWork(program.data_folder);
-        return false;
-    }
-    const auto question = question_about(*work, found.recipe);
-    const auto answer = prompts.ask_yes_no_cancel({.text = question, .icon = Icon::question});
-    if (answer == Answer::yes) {
-        program.document = std::move(found);
-        return true;
-    }
-    if (answer == Answer::cancel) std::filesystem::rename(path, aside, error);
-    DropWork(program.data_folder);
-    return false;
+    const auto left = left_work(program.data_folder);
+    return std::any_of(left.begin(), left.end(),
+                       [&](const std::string& path) { return offer(program, path, prompts); });
 }
 
 } // namespace wortlex

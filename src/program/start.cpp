@@ -16,6 +16,13 @@ void read_places(Program& program, const std::string& data_folder) {
     program.tool_positions = LoadToolPositions(data_folder);
 }
 
+// Runs that were killed in a save left their halves in the folders that this program saves to.
+void clear_broken_saves(const Program& program) {
+    remove_broken_saves(program.data_folder);
+    for (std::size_t kind = 0; kind < folder_kinds; ++kind)
+        remove_broken_saves(folder_path(program.folders, static_cast<FolderKind>(kind)));
+}
+
 void read_print_options(Program& program) {
     const float scale = program.settings.printer_scale;
     program.recipe_print = LoadPrintSelection(program.data_folder, DocumentKind::recipe, scale);
@@ -35,6 +42,7 @@ void read_color_table(Program& program, Prompts& prompts) {
 bool start(Program& program, const std::string& data_folder, Prompts& prompts) {
     read_places(program, data_folder);
     if (!start_core(program, data_folder, prompts)) return false;
+    clear_broken_saves(program);
     read_print_options(program);
     program.art_scheme = program.system.settings.art_scheme;
     LoadWater(data_folder, program.water_database, prompts);

@@ -1,3 +1,4 @@
+#include "base/open_file.h"
 #include "documents/opening.h"
 #include "documents/work/document_saving.h"
 #include "program/export_report.h"
@@ -12,7 +13,9 @@
 
 #include <gmock/gmock.h>
 
+#include <fcntl.h>
 #include <fstream>
+#include <sys/file.h>
 
 namespace wortlex {
 namespace {
@@ -65,6 +68,30 @@ TEST(Recovery, BringsBackWhatABrokenRunLeft) {
     run.prompts.expect("yes/no/cancel", question_about_file, Answer::no, Icon::question);
     EXPECT_FALSE(offer_work(run.program, run.prompts));
     EXPECT_FALSE(offer_work(run.program, run.prompts)) << "discarded: nothing more to ask";
+}
+
+TEST(Recovery, WorkThatIsPutAsideOutlivesTheNext) {
+    Kitchen run;
+    const auto expect_offer = [&](const std::string& name, Answer answer) {
+        run.prompts.expect("yes/no/cancel",
+                           "Wortlex ended before your work on " + name +
+                               " was saved.\nDo you want to open it as it was? No discards it, Cancel asks "
+                               "again at the next start.",
+                           answer, Icon::question);
+    };
+    for (const std::string name : {"Alt", "Bock"}) {
+        run.program.document.recipe.title.assign(name);
+        run.keep();
+        expect_offer(name, Answer::cancel);
+        if (name == "Bock") expect_offer("Alt", Answer::cancel);
+        EXPECT_FALSE(offer_work(run.program, run.prompts));
+    }
+    expect_offer("Alt", Answer::yes);
+    EXPECT_TRUE(offer_work(run.program, run.prompts));
+    EXPECT_EQ(run.program.document.recipe.title.view(), "Alt");
+    DropWork(run.folder.path()); // saved
+    expect_offer("Bock", Answer::no);
+    EXPECT_FALSE(offer_work(run.program, run.prompts));
 }
 
 // A session that was saved, opened again and is under work.
@@ -149,9 +176,12 @@ TEST(Recovery, ClearsAwayOnlyWhatKilledSavesLeft) {
     std::ofstream(run.folder / ".wortlex-a1B2c3") << "half";
     std::ofstream(run.folder / ".wortlex.lock") << "ours";
     std::ofstream(run.folder / ".wortlex-notes.txt") << "the brewer's";
+    std::ofstream(run.folder / ".wortlex-d4E5f6") << "another program's, at it";
+    const OpenFile other(::open((run.folder / ".wortlex-d4E5f6").c_str(), O_RDONLY));
+    ASSERT_EQ(::flock(other.get(), LOCK_EX), 0);
     const auto before = run.folder.entries();
-    remove_broken_saves(run.folder.path());
-    EXPECT_EQ(run.folder.entries(), before - 1);
+    ASSERT_TRUE(save_atomically(run.folder / "Alt.rec", {}));
+    EXPECT_EQ(run.folder.entries(), before) << "one comes, one goes";
     EXPECT_FALSE(std::filesystem::exists(run.folder / ".wortlex-a1B2c3"));
 }
 
@@ -162,13 +192,20 @@ TEST(Recovery, TrustsNoFile) {
     const auto whole = *read_file(path);
     for (std::size_t length = 0; length < whole.size(); length += length < 200 ? 1 : 997) {
         save_atomically(path, ByteView(whole).first(length));
-        if (const auto work = FindWork(run.folder.path()))
-            restore_work(run.program.document, *work, run.program.settings);
+        if (const auto work = ReadWork(path)) restore_work(run.program.document, *work, run.program.settings);
     }
     std::ofstream(path) << "Wortlex unsaved recipe 1\nx.rec\n9 junk";
-    EXPECT_EQ(FindWork(run.folder.path()), std::nullopt);
-    save_atomically(path, Bytes(10000, std::byte{0xFF}));
-    EXPECT_FALSE(offer_work(run.program, run.prompts));
+    EXPECT_EQ(ReadWork(path), std::nullopt);
+    for (const std::string number : {"1", "2"}) {
+        save_atomically(path, Bytes(10000, std::byte{0xFF}));
+        run.prompts.expect_tell("Unsaved work of an earlier run is damaged and cannot be opened.\nIt is kept "
+                                "as WlxWork-" +
+                                    number + ".damaged in the brewery folder.",
+                                Icon::warning);
+        EXPECT_FALSE(offer_work(run.program, run.prompts));
+        EXPECT_EQ(read_file(run.folder / "WlxWork-" + number + ".damaged"), Bytes(10000, std::byte{0xFF}));
+    }
+    EXPECT_FALSE(offer_work(run.program, run.prompts)) << "told, and not again";
 }
 
 // The four ways out of a recipe's report.

@@ -66,7 +66,7 @@ RecipeWindow::RecipeWindow(const WindowPorts& ports, const WindowInfo& info, QWi
     for (auto* const field : panel_.findChildren<QWidget*>())
         if (qobject_cast<QLineEdit*>(field) != nullptr || qobject_cast<QAbstractSpinBox*>(field) != nullptr)
             field->installEventFilter(this);
-    connect(&keeper_, &QTimer::timeout, this, [this] { keep_work(); });
+    connect(&keeper_, &QTimer::timeout, this, [this] { keep_or_tell(); });
     keeper_.start(between_keeps);
     reopen();
     resize(
@@ -174,7 +174,7 @@ void RecipeWindow::start_new() {
     close_pages();
     new_recipe(program_);
     reopen();
-    keep_work();
+    keep_or_tell();
 }
 
 void RecipeWindow::open_another() {
@@ -182,7 +182,7 @@ void RecipeWindow::open_another() {
     if (!choose_and_open(program_, DocumentKind::recipe, ports_.files, ports_.prompts)) return;
     close_pages();
     reopen();
-    keep_work();
+    keep_or_tell();
     tell_once_shown();
 }
 
@@ -195,7 +195,7 @@ bool RecipeWindow::save_recipe(SaveAs save_as) {
         follow_user(program_.folders, FolderKind::recipes, path);
         remember_document(program_, path);
     }
-    keep_work();
+    keep_or_tell();
     tell_change(editor_);
     return saved;
 }
@@ -228,11 +228,15 @@ void RecipeWindow::show_name() {
     setWindowTitle(name_in_caption(document_) + mark + QStringLiteral(" - ") + caption_);
 }
 
-void RecipeWindow::keep_work() {
+bool RecipeWindow::keep_work() {
     if (is_modified(editor_.open, saved_, document_.file))
-        KeepWork(program_.data_folder, image_of(editor_.open), document_.file);
-    else
-        DropWork(program_.data_folder);
+        return KeepWork(program_.data_folder, image_of(editor_.open), document_.file);
+    DropWork(program_.data_folder);
+    return true;
+}
+
+void RecipeWindow::keep_or_tell() {
+    if (!keep_work()) tell_unkept_work(program_, ports_.prompts);
 }
 
 void RecipeWindow::show_colour() {

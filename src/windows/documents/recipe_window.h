@@ -26,6 +26,7 @@ public:
     void reopen();
     /// A recipe of the other efficiency method.
     void tell_once_shown() override;
+    bool keep_work() override;
     ~RecipeWindow() override;
 
 protected:
@@ -50,7 +51,7 @@ private:
     void print();
 
     void show_name();
-    void keep_work();
+    void keep_or_tell();
 
     void show_colour();
     void add_keys(RecipePage& page);

@@ -18,6 +18,9 @@ public:
     }
     bool close() override { return window_ == nullptr || window_->close(); }
     bool show_modal_child() override { return window_ != nullptr && wortlex::show_modal_child(*window_); }
+    void keep_work() override {
+        if (window_ != nullptr) window_->keep_work();
+    }
 
 private:
     QPointer<ToolWindow> window_;

@@ -235,7 +235,7 @@ TEST(RecipeWindow, ShowsRecoveredWorkAsItWas) {
                            "The current recipe has been modified!\nDo you want to save the changes?",
                            Answer::no, Icon::question);
     EXPECT_TRUE(recipe->close());
-    EXPECT_EQ(FindWork(kitchen.folder.path()), std::nullopt) << "left knowingly";
+    EXPECT_EQ(ReadWork(kitchen.folder / "WlxWork.rcv"), std::nullopt) << "left knowingly";
 }
 
 } // namespace
