@@ -11,6 +11,15 @@ DocumentKind other(DocumentKind kind) {
     return kind == DocumentKind::recipe ? DocumentKind::session : DocumentKind::recipe;
 }
 
+// A file that is named is to be seen: another document of its kind makes room for it, unless it is the open
+// one or its user stays in it.
+bool makes_room(const Program& program, const std::string& path, DocumentKind kind) {
+    std::error_code error;
+    return !is_open(program.tools, open_command(kind)) ||
+           std::filesystem::equivalent(path, program.document.file.path, error) ||
+           close_tool(program.tools, open_command(kind));
+}
+
 void tell_fault(LoadResult result, const std::string& path, Prompts& prompts) {
     if (result == LoadResult::loaded) return;
     if (result == LoadResult::not_found) {
@@ -78,7 +87,8 @@ bool open_document_file(Program& program, const std::string& path, Prompts& prom
         prompts.tell({.text = text, .icon = Icon::error});
         return false;
     }
-    return want_document(program.tools, *kind, prompts) == Wanted::go_on &&
+    return makes_room(program, path, *kind) &&
+           want_document(program.tools, *kind, prompts) == Wanted::go_on &&
            open_document(program, path, *kind, prompts);
 }
 

@@ -36,8 +36,8 @@ bool open_document(Program& program, const std::string& path, DocumentKind kind,
 /// The same for a file that the user chooses in the folder of its kind; false if he leaves the dialog.
 bool choose_and_open(Program& program, DocumentKind kind, Files& files, Prompts& prompts);
 
-/// The same for a file from outside, a dropped or a recent one: its ending tells its kind. Asks for an open
-/// document first; true if a window is to be opened on the new one.
+/// The same for a file from outside, a dropped or a recent one: its ending tells its kind. An open document
+/// is left first, if its user lets it go; true if a window is to be opened on the new one.
 bool open_document_file(Program& program, const std::string& path, Prompts& prompts);
 
 /// Puts a document that was opened or saved first among the recent ones, and saves the list.

@@ -1,4 +1,5 @@
 #include "base/files.h"
+#include "base/folder_guard.h"
 #include "base/number.h"
 #include "base/text.h"
 #include "base/windows1252.h"
@@ -88,6 +89,21 @@ TEST(SaveAtomically, WriteThatEndsHalfWayLeavesTheOldFileWhole) {
     EXPECT_FALSE(saved);
     EXPECT_EQ(read_file(folder / "kept"), bytes_of("old"));
     EXPECT_EQ(folder.entries(), 1);
+}
+
+TEST(FolderGuard, KeepsASecondProgramOutAndNobodyElse) {
+    const TemporaryFolder folder;
+    for (const std::string left : {"", "4711\nwortlex\nanother-machine\n", "\xFF\xFE rubbish"}) {
+        const auto brewery = folder / "Br\xE4u/"; // a name in another encoding than ours
+        fs::create_directory(brewery);
+        ASSERT_TRUE(save_atomically(brewery + ".wortlex.lock", bytes_of(left)));
+        const FolderGuard first(brewery);
+        EXPECT_FALSE(first.is_open_elsewhere()) << left;
+        EXPECT_TRUE(FolderGuard(brewery).is_open_elsewhere());
+    }
+    fs::create_directory(folder / ".wortlex.lock");
+    EXPECT_FALSE(FolderGuard(folder.path()).is_open_elsewhere());
+    EXPECT_FALSE(FolderGuard(folder / "none/").is_open_elsewhere());
 }
 
 TEST(Files, AreReadIfRegularAndFoundWithoutRegardToCapitals) {

@@ -1,5 +1,8 @@
 #include "desktop/form_dialog.h"
+#include "desktop/message_boxes.h"
+#include "desktop/second_start.h"
 #include "support/qt_keys.h"
+#include "support/temporary_folder.h"
 
 #include <gtest/gtest.h>
 
@@ -8,6 +11,9 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QTimer>
+
+#include <thread>
 
 namespace wortlex {
 namespace {
@@ -209,6 +215,41 @@ TEST(FormWidgets, FollowWhatIsToldButForTheFieldTypedIn) {
     QTest::keyClicks(&field, "4.5");
     EXPECT_EQ(field.text(), "4.5");
     EXPECT_EQ(dynamic_cast<QLineEdit&>(shown_widgets.field("amount")).text(), "4.50");
+}
+
+// What a box answers to one key.
+template <class Ask>
+Answer answer_to(Qt::Key key, Ask ask) {
+    QTimer once_open;
+    QObject::connect(&once_open, &QTimer::timeout, [key] {
+        if (auto* const box = QApplication::activeModalWidget()) QTest::keyClick(box, key);
+    });
+    once_open.start(20);
+    MessageBoxes boxes;
+    return ask(boxes);
+}
+
+TEST(MessageBoxes, EnterIsSafeAndEscStays) {
+    for (const auto safe : {Answer::yes, Answer::no}) {
+        const Message question{.text = "Save the changes?", .icon = Icon::warning, .safe = safe};
+        const auto or_stay = [&](Prompts& prompts) { return prompts.ask_yes_no_or_stay(question); };
+        const auto or_not = [&](Prompts& prompts) { return prompts.ask_yes_no(question); };
+        EXPECT_EQ(answer_to(Qt::Key_Return, or_stay), safe);
+        EXPECT_EQ(answer_to(Qt::Key_Return, or_not), safe);
+        EXPECT_EQ(answer_to(Qt::Key_Escape, or_stay), Answer::cancel);
+        EXPECT_EQ(answer_to(Qt::Key_Escape, or_not), Answer::no);
+    }
+}
+
+TEST(SecondStarts, HandTheBytesOfANameToTheFirst) {
+    const TemporaryFolder folder;
+    const std::string name = "/Br\xE4u/two\nlines.rec";
+    std::string received;
+    std::thread second([&] { EXPECT_TRUE(hand_over(folder.path(), name)); });
+    QTest::qWait(60); // the first is not much earlier
+    const SecondStarts first(folder.path(), [&](const std::string& path) { received = path; });
+    EXPECT_TRUE(QTest::qWaitFor([&] { return received == name; }));
+    second.join();
 }
 
 TEST(ToolWindow, StaysWhileItsModalDialogIsOpen) {

@@ -38,6 +38,7 @@ struct FakeTool : OpenTool {
     void note(const char* what) { log += name + what; }
     void activate() override { note(" forward "); }
     bool close() override { return note(" close "), closes; }
+    void keep_work() override { note(" keep "); }
     bool show_modal_child() override { return has_dialog && (note(" dialog "), true); }
 
     std::string &log, name;
@@ -207,6 +208,22 @@ TEST_F(Documents, KeepTheScheduleKindInForceWhenNew) {
     take_usual_schedule(program.document, program.settings);
     new_recipe(program);
     EXPECT_FALSE(has_complex_schedule(program.document.recipe));
+}
+
+TEST_F(Documents, MakeRoomForANamedFileIfTheirUserLetsThemGo) {
+    std::string log;
+    const auto window = std::make_shared<FakeTool>(log, 1);
+    const auto other = folder / "other.rec";
+    save_atomically(other, *read_file(pale));
+    ASSERT_TRUE(open_document_file(program, pale, prompts));
+    opened(program.tools, command::open_recipe, window);
+    EXPECT_FALSE(open_document_file(program, pale, prompts));
+    EXPECT_EQ(std::exchange(log, ""), "1 forward ") << "it is the open one";
+    window->closes = false;
+    EXPECT_FALSE(open_document_file(program, other, prompts));
+    EXPECT_EQ(std::exchange(log, ""), "1 close ") << "its user stays";
+    closed(program.tools, command::open_recipe);
+    EXPECT_TRUE(open_document_file(program, other, prompts));
 }
 
 TEST_F(Documents, StayWhereAFileCannotBeOpened) {

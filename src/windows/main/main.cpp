@@ -1,25 +1,29 @@
 // wortlex: run in a brewery folder, it opens the main window on it, and a document given by name.
-#include "base/files.h"
+#include "base/folder_guard.h"
+#include "desktop/end_of_session.h"
 #include "desktop/message_boxes.h"
 #include "desktop/print_preview.h"
+#include "desktop/second_start.h"
 #include "desktop/system_ports.h"
 #include "program/start.h"
 #include "windows/main/main_window.h"
 
 #include <QApplication>
-#include <QFile>
 #include <QIcon>
-#include <QLockFile>
 #include <QTimer>
+
+#include <filesystem>
 
 namespace wortlex {
 namespace {
 
-// Two programs on one brewery folder would overwrite each other's databases. A folder that cannot be written
-// to needs no guard.
-bool is_open_elsewhere(QLockFile& lock) {
-    lock.setStaleLockTime(0); // only the end of the other program frees the folder, not the hour
-    return !lock.tryLock() && lock.error() == QLockFile::LockFailedError;
+// The document on the command line, after the toolkit has taken its own words out. A file's name is bytes,
+// which need not be letters.
+std::string named_document(int count, char** arguments) {
+    if (count < 2 || *arguments[1] == '\0') return {};
+    std::error_code error;
+    const auto whole = std::filesystem::absolute(arguments[1], error).string();
+    return error ? arguments[1] : whole;
 }
 
 void set_icon() {
@@ -34,12 +38,14 @@ int run(int count, char** arguments) {
     QApplication::setQuitOnLastWindowClosed(false);
     MessageBoxes prompts;
     const auto folder = working_folder();
-    QLockFile lock(QString::fromLocal8Bit(folder) + QStringLiteral(".wortlex.lock"));
-    if (is_open_elsewhere(lock)) {
-        prompts.tell({.text = "Wortlex is already open in this brewery folder.", .icon = Icon::information});
+    const auto named = named_document(count, arguments);
+    const FolderGuard guard(folder);
+    if (guard.is_open_elsewhere()) {
+        if (!hand_over(folder, named))
+            prompts.tell(
+                {.text = "Wortlex is already open in this brewery folder.", .icon = Icon::information});
         return 0;
     }
-    remove_broken_saves(folder); // it is ours alone now
     Program program;
     if (!start(program, folder, prompts)) return 0;
     FileDialogs files;
@@ -47,14 +53,18 @@ int run(int count, char** arguments) {
     PreviewDesk pages(files, prompts, places(program), program.folders, program.data_folder);
     MainWindow window({program, prompts, files, pages, clipboard});
     window.show();
+    const EndOfSession end_of_session([&program] { keep_work(program.tools); });
+    const SecondStarts second_starts(folder, [&window](const std::string& path) { window.take_over(path); });
     // Drawing the icon in all its sizes takes a tenth of the start: the window need not wait for it.
+    // Questions wait until the program runs, and can end.
     QTimer once_shown;
     once_shown.setSingleShot(true);
-    QObject::connect(&once_shown, &QTimer::timeout, set_icon);
+    QObject::connect(&once_shown, &QTimer::timeout, [&window, &named] {
+        set_icon();
+        window.offer_unsaved_work();
+        if (!named.empty()) window.open_file(named);
+    });
     once_shown.start(0);
-    window.offer_unsaved_work();
-    if (const auto named = QApplication::arguments(); named.size() > 1)
-        window.open_file(QFile::encodeName(named.at(1)).toStdString());
     return QApplication::exec();
 }
 

@@ -106,6 +106,11 @@ void MainWindow::open_file(const std::string& path) {
     if (open_document_file(program_, path, prompts_)) show_document(*kind);
 }
 
+void MainWindow::take_over(const std::string& path) {
+    bring_forward(*this);
+    if (!path.empty()) open_file(path);
+}
+
 void MainWindow::show_document(DocumentKind kind) {
     show_window(tool_of(open_command(kind)));
 }

@@ -20,6 +20,8 @@ public:
     void offer_unsaved_work();
     /// Opens a document file as if it were dropped on the window.
     void open_file(const std::string& path);
+    /// Comes forward for a second start in its folder, and opens its file; an empty path names none.
+    void take_over(const std::string& path);
 
 protected:
     void closeEvent(QCloseEvent* event) override;

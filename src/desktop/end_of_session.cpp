@@ -1,0 +1,54 @@
+#include "desktop/end_of_session.h"
+
+#include <QGuiApplication>
+#include <QSocketNotifier>
+
+#include <array>
+#include <cerrno>
+#include <csignal>
+#include <fcntl.h>
+
+namespace wortlex {
+namespace {
+
+int told_to_end = -1; // a handler reaches nothing else; open until the process ends
+
+extern "C" void note_signal(int /*signal*/) {
+    const int before = errno;
+    [[maybe_unused]] const auto written = ::write(told_to_end, "", 1);
+    errno = before;
+}
+
+// What whoever started the program had it ignore stays ignored.
+void catch_signal(int signal) {
+    struct sigaction action = {};
+    if (::sigaction(signal, nullptr, &action) != 0 || action.sa_handler == SIG_IGN) return;
+    action = {};
+    action.sa_handler = note_signal;
+    action.sa_flags = SA_RESTART;
+    ::sigaction(signal, &action, nullptr);
+}
+
+} // namespace
+
+EndOfSession::EndOfSession(const std::function<void()>& keep) {
+    for (const auto request : {&QGuiApplication::commitDataRequest, &QGuiApplication::saveStateRequest})
+        connect(qGuiApp, request, this, keep, Qt::DirectConnection);
+    follow_signals(keep);
+}
+
+void EndOfSession::follow_signals(const std::function<void()>& keep) {
+    std::array<int, 2> ends{};
+    if (::pipe2(ends.data(), O_CLOEXEC | O_NONBLOCK) != 0) return;
+    signals_ = OpenFile(ends[0]);
+    told_to_end = ends[1];
+    auto* const notifier = new QSocketNotifier(signals_.get(), QSocketNotifier::Read, this);
+    connect(notifier, &QSocketNotifier::activated, this, [keep, notifier] {
+        notifier->setEnabled(false);
+        keep();
+        QCoreApplication::exit(); // not quit, which would ask the windows
+    });
+    for (const int signal : {SIGTERM, SIGINT, SIGHUP}) catch_signal(signal);
+}
+
+} // namespace wortlex
