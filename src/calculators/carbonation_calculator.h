@@ -11,7 +11,7 @@ struct CarbonationCalculator {
     TwinGallons beer = of_gallons(5);
     TwinDegrees fermentation = of_fahrenheit(68);
     TwinDegrees forced = of_fahrenheit(42);
-    float level = 2.5F; ///< volumes of CO2
+    float level = 2.5F;                               ///< volumes of CO2
     PrimingMedium medium = PrimingMedium::corn_sugar; ///< or DME
 };
 
