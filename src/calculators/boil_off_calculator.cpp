@@ -12,15 +12,15 @@ namespace {
 
 constexpr std::string_view boil_off_file = "boil.wxs";
 
-using BoilOff = BoilOffCalculator;
-constexpr auto boil_off_layout = layout<BoilOff, 29>(
-    at(0, via(&BoilOff::wort, &TwinGallons::gallons)), at(4, via(&BoilOff::gravity, &TwinGravity::sg)),
-    at(8, via(&BoilOff::evaporated, &TwinGallons::gallons)), at(12, &BoilOff::minutes),
-    at(16, via(&BoilOff::rate_start, &TwinGallons::gallons)),
-    at(20, via(&BoilOff::rate_final, &TwinGallons::gallons)), at(24, &BoilOff::rate_minutes),
-    at(28, &BoilOff::method));
+constexpr auto boil_off_layout = layout<BoilOffCalculator, 29>(
+    at(0, via(&BoilOffCalculator::wort, &TwinGallons::gallons)),
+    at(4, via(&BoilOffCalculator::gravity, &TwinGravity::sg)),
+    at(8, via(&BoilOffCalculator::evaporated, &TwinGallons::gallons)), at(12, &BoilOffCalculator::minutes),
+    at(16, via(&BoilOffCalculator::rate_start, &TwinGallons::gallons)),
+    at(20, via(&BoilOffCalculator::rate_final, &TwinGallons::gallons)),
+    at(24, &BoilOffCalculator::rate_minutes), at(28, &BoilOffCalculator::method));
 
-float evaporated_gallons(const BoilOff& calculator) {
+float evaporated_gallons(const BoilOffCalculator& calculator) {
     const auto rate = rate_of(calculator);
     if (calculator.method == BoilOffMethod::percent_per_hour)
         return evaporated_by_percent(calculator.wort.gallons, rate.percent_per_hour, calculator.minutes);
@@ -72,7 +72,7 @@ void settle_boil_off(BoilOffCalculator& calculator) {
 }
 
 bool read_boil_off(ByteView file, BoilOffCalculator& calculator) {
-    const auto numbers = [](const BoilOff& read) {
+    const auto numbers = [](const BoilOffCalculator& read) {
         return std::array{read.wort.gallons, read.gravity.sg, read.evaporated.gallons,
                           read.rate_start.gallons, read.rate_final.gallons};
     };

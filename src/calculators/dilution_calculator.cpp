@@ -9,13 +9,14 @@ namespace {
 
 constexpr std::string_view dilution_file = "dilute.wxs";
 
-using Dilution = DilutionCalculator;
-constexpr auto dilution_layout = layout<Dilution, 28>(
-    at(0, via(&Dilution::wort, &TwinGallons::gallons)), at(4, via(&Dilution::gravity, &TwinGravity::sg)),
-    at(8, via(&Dilution::water, &TwinGallons::gallons)), at(12, via(&Dilution::first, &TwinGallons::gallons)),
-    at(16, via(&Dilution::first_gravity, &TwinGravity::sg)),
-    at(20, via(&Dilution::second, &TwinGallons::gallons)),
-    at(24, via(&Dilution::second_gravity, &TwinGravity::sg)));
+constexpr auto dilution_layout =
+    layout<DilutionCalculator, 28>(at(0, via(&DilutionCalculator::wort, &TwinGallons::gallons)),
+                                   at(4, via(&DilutionCalculator::gravity, &TwinGravity::sg)),
+                                   at(8, via(&DilutionCalculator::water, &TwinGallons::gallons)),
+                                   at(12, via(&DilutionCalculator::first, &TwinGallons::gallons)),
+                                   at(16, via(&DilutionCalculator::first_gravity, &TwinGravity::sg)),
+                                   at(20, via(&DilutionCalculator::second, &TwinGallons::gallons)),
+                                   at(24, via(&DilutionCalculator::second_gravity, &TwinGravity::sg)));
 
 TwinGallons sum_of(const TwinGallons& a, const TwinGallons& b) {
     return {narrow(double{a.gallons} + b.gallons), narrow(double{a.litres} + b.litres)};
@@ -41,7 +42,7 @@ TwinGravity blended_gravity(const DilutionCalculator& calculator) {
 }
 
 bool read_dilution(ByteView file, DilutionCalculator& calculator) {
-    const auto numbers = [](const Dilution& read) {
+    const auto numbers = [](const DilutionCalculator& read) {
         return std::array{read.wort.gallons,     read.gravity.sg,       read.water.gallons,
                           read.first.gallons,    read.first_gravity.sg, read.second.gallons,
                           read.second_gravity.sg};

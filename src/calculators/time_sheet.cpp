@@ -17,11 +17,13 @@ constexpr Message stop_question = {
     .text = "Are you sure you want to stop recording time increments and comments?", .icon = Icon::question};
 constexpr Message save_question = {
     .text = "The current time line has been modified!\nDo you want to save the changes?",
-    .icon = Icon::question};
+    .icon = Icon::question,
+    .safe = Answer::yes};
 constexpr Message kept_question = {
     .text = "A time line was left before it was saved.\nDo you want to go on with it? No discards it, Cancel "
             "asks again the next time.",
-    .icon = Icon::question};
+    .icon = Icon::question,
+    .safe = Answer::yes};
 
 std::string kept_path(const std::string& data_folder) {
     return data_folder + std::string(kept_file);
