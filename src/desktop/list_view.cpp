@@ -1,9 +1,12 @@
 #include "desktop/list_view.h"
 
+#include "desktop/colours.h"
 #include "desktop/qt_text.h"
+#include "forms/glossary.h"
 
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QPainter>
 #include <QPointer>
 #include <QProxyStyle>
 
@@ -20,18 +23,12 @@ public:
     int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override {
         const int usual = QProxyStyle::pixelMetric(metric, option, widget);
         if (metric == PM_FocusFrameHMargin) return usual + 4;
+        if (metric == PM_HeaderMargin) return usual + 4; // captions in line with the cells
         return metric == PM_FocusFrameVMargin ? usual + 1 : usual;
     }
 };
 
-// The ground of a marked row: that of the list with a quarter of the text's colour, which any pair of colours
-// shows and which leaves the text its contrast.
-QColor marked_ground(const QPalette& palette) {
-    const auto base = palette.color(QPalette::Base), text = palette.color(QPalette::Text);
-    const auto mixed = [](int ground, int letters) { return (3 * ground + letters) / 4; };
-    return {mixed(base.red(), text.red()), mixed(base.green(), text.green()),
-            mixed(base.blue(), text.blue())};
-}
+constexpr int mark_percent = 25; // of the text in the ground of a marked row
 
 } // namespace
 
@@ -50,7 +47,7 @@ QVariant ListModel::alignment(int column) const {
 
 QVariant ListModel::ground(std::size_t row) const {
     if (!row_.is_marked || !row_.is_marked(row)) return {};
-    return marked_ground(dynamic_cast<const QWidget*>(QObject::parent())->palette());
+    return toned_ground(dynamic_cast<const QWidget*>(QObject::parent())->palette(), mark_percent);
 }
 
 QVariant ListModel::data(const QModelIndex& index, int role) const {
@@ -65,8 +62,9 @@ QVariant ListModel::data(const QModelIndex& index, int role) const {
 QVariant ListModel::headerData(int section, Qt::Orientation orientation, int role) const {
     if (orientation != Qt::Horizontal) return {};
     if (role == Qt::TextAlignmentRole) return alignment(section);
-    if (role != Qt::DisplayRole) return {};
-    return QString::fromStdString(row_.columns[static_cast<std::size_t>(section)].caption());
+    const auto caption = row_.columns[static_cast<std::size_t>(section)].caption();
+    if (role == Qt::ToolTipRole) return string_of(meaning_of(caption));
+    return role == Qt::DisplayRole ? QString::fromStdString(caption) : QVariant();
 }
 
 void ListModel::reload() {
@@ -89,6 +87,7 @@ ListView::ListView(const ListRow& row, QWidget* parent)
     setModel(model_);
     setRootIsDecorated(false);
     setUniformRowHeights(true);
+    setAlternatingRowColors(true);
     setAllColumnsShowFocus(true);
     setTabKeyNavigation(false);
     header()->setSectionsClickable(static_cast<bool>(row.click_header));
@@ -113,6 +112,16 @@ void ListView::keyPressEvent(QKeyEvent* event) {
         act(row_.activate);
     else
         QTreeView::keyPressEvent(event);
+}
+
+// An empty list tells how it is filled.
+void ListView::paintEvent(QPaintEvent* event) {
+    QTreeView::paintEvent(event);
+    const auto words = model_->rowCount() == 0 ? string_of(row_.empty_words()) : QString();
+    if (words.isEmpty()) return;
+    QPainter painter(viewport());
+    painter.setPen(palette().color(isEnabled() ? QPalette::Normal : QPalette::Disabled, QPalette::Text));
+    painter.drawText(viewport()->rect(), Qt::AlignCenter | Qt::TextWordWrap, words);
 }
 
 void ListView::act(const std::function<void()>& action) {

@@ -43,6 +43,7 @@ public:
 protected:
     void keyboardSearch(const QString& text) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
 
 private:
     void act(const std::function<void()>& action);

@@ -133,6 +133,11 @@ public:
         is_marked = std::move(test);
         return *this;
     }
+    /// What stands in its place while it is empty.
+    ListRow& when_empty(const Live<std::string>& words) {
+        empty_words = words;
+        return *this;
+    }
     ListRow& activated(std::function<void()> then) {
         activate = std::move(then);
         return *this;
@@ -145,6 +150,7 @@ public:
     std::function<void(std::size_t column)> click_header;
     std::function<SortMark()> sort_mark;
     std::function<bool(std::size_t row)> is_marked;
+    Live<std::string> empty_words = "";
     std::function<void()> activate; ///< double click or Enter on a row
 };
 
