@@ -58,7 +58,7 @@ float transparency(std::int32_t alpha) {
 }
 
 void color_swatch_form(Form& form, ColorSwatch& swatch) {
-    form.group().swatch("swatch", [&swatch] { return painted_swatch(swatch); });
+    form.group().swatch("swatch", [&swatch] { return painted_swatch(swatch); }).named("Color of the beer");
     form.next_column();
     auto& rows = form.group();
     figure_rows(rows, swatch);

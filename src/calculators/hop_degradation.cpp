@@ -142,9 +142,10 @@ void hop_degradation_form(Form& form, HopDegradation& degradation, DegradationAc
     buttons.button("print", "&Print", std::move(actions.print));
     buttons.button("help", "&Help", std::move(actions.help));
     form.next_column();
-    form.group().canvas("chart", degradation_chart_size(false), [&degradation](Surface& surface) {
-        draw_degradation_chart(surface, degradation, false);
-    });
+    form.group()
+        .canvas("chart", degradation_chart_size(false),
+                [&degradation](Surface& surface) { draw_degradation_chart(surface, degradation, false); })
+        .named("Chart of the alpha acid over the months");
     form.after_edit(
         [&degradation](Row&) { degradation.adjusted_alpha = alpha_after(degradation, degradation.months); });
 }

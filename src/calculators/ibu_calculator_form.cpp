@@ -203,6 +203,7 @@ void ibu_calculator_form(Form& form, HopCalculator& calculator, const Settings& 
 void formula_type_form(Form& form, Settings& settings) {
     auto& rows = form.rows();
     rows.choice("formula", settings.HopFormula, {"&Rager", "&Garetz", "&Tinseth", "G&eneric"})
+        .named("Formula")
         .look(ChoiceRow::Look::down);
     rows.note("credit_0", "Jackie Rager, \"Calculating Hop Bitterness in Beer\", Zymurgy, 1990");
     rows.note("credit_1", "Mark Garetz, \"Using Hops\", HopTech, 1994");

@@ -74,8 +74,10 @@ void time_rows(Rows& rows, ExtraRecord& extra) {
         .range(0, most_time)
         .step(1)
         .outside(Outside::clamp);
-    rows.choice("time_unit", extra.time_unit, {"Time in &Days", "Time &in Minutes"});
+    rows.choice("time_unit", extra.time_unit, {"Time in &Days", "Time &in Minutes"})
+        .named("Unit of the time");
     rows.choice("time_place", extra.time_place, {"Time in Boi&l.", "Time in Fe&rmenter", "Time in &Mash"})
+        .named("Place of the time")
         .look(ChoiceRow::Look::down);
 }
 

@@ -145,15 +145,17 @@ void hop_entry_form(Form& form, HopRecord& hop) {
     auto& texts = form.group("Hop");
     texts.text("name", hop.name).label("&Name").limit(52).width(30);
     texts.text("origin", hop.origin).label("&Origin").limit(52).width(30);
-    texts.choice("usage", hop.usage, {"B&ittering Hop", "Aroma Ho&p", "Both"}).codes({1, 2, 3});
+    texts.choice("usage", hop.usage, {"B&ittering Hop", "Aroma Ho&p", "Both"}).codes({1, 2, 3}).named("Use");
     texts
         .check("noble",
                {[&hop] { return hop.noble != 0; }, [&hop](bool noble) { hop.noble = noble ? 1 : 0; }})
         .label("Nob&le");
-    texts.choice("form",
-                 {[&hop] { return static_cast<std::int32_t>(wortlex::form(hop)); },
-                  [&hop](std::int32_t code) { set_form(hop, static_cast<HopForm>(code)); }},
-                 {"&Whole", "Plu&g", "Pelle&t"});
+    texts
+        .choice("form",
+                {[&hop] { return static_cast<std::int32_t>(wortlex::form(hop)); },
+                 [&hop](std::int32_t code) { set_form(hop, static_cast<HopForm>(code)); }},
+                {"&Whole", "Plu&g", "Pelle&t"})
+        .named("Form");
     storage_rows(form.group("Storage"), hop);
     form.next_column();
     acid_rows(form.group("Percent"), hop);

@@ -73,10 +73,12 @@ void ion_rows(Rows& rows, Form& form, WaterRecord& water) {
             .step(1.0F)
             .outside(Outside::clamp);
     rows.number("ph", water.ph).label("P&H").range(0.0F, most_ph).step(0.1F).outside(Outside::clamp);
-    rows.button("calculate_ph", "C&alc", [&form, &water] {
-        water.ph = ph_of_bicarbonate(water.bicarbonate);
-        if (form.show_again) form.show_again(nullptr);
-    });
+    rows.button("calculate_ph", "C&alc",
+                [&form, &water] {
+                    water.ph = ph_of_bicarbonate(water.bicarbonate);
+                    if (form.show_again) form.show_again(nullptr);
+                })
+        .hint("The pH that goes with the bicarbonate");
 }
 
 void converter_rows(Rows& rows, Form& form, WaterRecord& water, const WaterConverters& converters) {

@@ -3,7 +3,10 @@
 namespace wortlex {
 namespace {
 
-constexpr auto extra_key = "key"; // a property of the button
+// Properties of the button.
+constexpr auto extra_key = "key";
+constexpr auto own_meaning = "meaning";
+constexpr auto own_reason = "reason";
 
 QString words_of(const QKeySequence& key) {
     return key.toString(QKeySequence::NativeText);
@@ -18,17 +21,20 @@ QString spoken(QString caption) {
     return caption;
 }
 
-void set_tip(QPushButton& button, const QString& meaning) {
+void set_tip(QPushButton& button, const QString& meaning, const QString& reason) {
+    button.setProperty(own_meaning, meaning);
+    button.setProperty(own_reason, reason);
     QStringList keys = {words_of(button.shortcut()), button.property(extra_key).toString()};
     keys.removeAll(QString());
     const auto words = meaning.isEmpty() ? spoken(button.text()) : meaning;
-    button.setToolTip(keys.isEmpty() ? words
-                                     : QStringLiteral("%1 (%2)").arg(words, keys.join(QLatin1String(", "))));
+    auto tip = keys.isEmpty() ? words : QStringLiteral("%1 (%2)").arg(words, keys.join(QLatin1String(", ")));
+    if (!reason.isEmpty()) tip += QLatin1Char('\n') + reason;
+    button.setToolTip(tip);
 }
 
 void add_key(QPushButton& button, const QKeySequence& key) {
     button.setProperty(extra_key, words_of(key));
-    set_tip(button, {});
+    set_tip(button, button.property(own_meaning).toString(), button.property(own_reason).toString());
 }
 
 void set_tips(const QDialogButtonBox& buttons, bool enter_is_ok) {

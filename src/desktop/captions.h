@@ -9,8 +9,9 @@ namespace wortlex {
 /// A caption without its mnemonic and colon, "&&" as "and".
 QString spoken(QString caption);
 
-/// Gives a button the tooltip `meaning`, or its caption, and behind it the keys that press it.
-void set_tip(QPushButton& button, const QString& meaning);
+/// Gives a button the tooltip `meaning`, or its caption, behind it the keys that press it, and below it why
+/// it cannot be pressed.
+void set_tip(QPushButton& button, const QString& meaning, const QString& reason = {});
 
 /// A key that presses the button besides its mnemonic, to be told in its tooltip.
 void add_key(QPushButton& button, const QKeySequence& key);

@@ -19,7 +19,7 @@ FormDialog::FormDialog(Form& form, const DialogUse& use, const Places& places, Q
     setWindowModality(Qt::WindowModal);
     auto* const layout = new QVBoxLayout(this);
     layout->addStrut(fontMetrics().horizontalAdvance(windowTitle()) + title_buttons);
-    layout->addLayout(lay_out(form, widgets_));
+    layout->addLayout(lay_out(form, widgets_, buttons_));
     if (use.has_cancel) buttons_->addButton(QDialogButtonBox::Cancel);
     set_tips(*buttons_, enter_closes_);
     layout->addWidget(buttons_);

@@ -3,23 +3,30 @@
 #include "desktop/form_widgets.h"
 #include "desktop/qt_text.h"
 
+#include <QAbstractScrollArea>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
-#include <QPlainTextEdit>
 
 namespace wortlex {
 namespace {
 
+// What many windows offer stands in one place, behind OK and Cancel.
+bool stands_beside_ok(const Row& row) {
+    return row.key == "print" || row.key == "help" || row.key == "jpg";
+}
+
 // Rows below each other, labels in the first of two columns.
 class RowsLayout : private RowVisitor {
 public:
-    RowsLayout(const FormWidgets& widgets, QGridLayout& grid) : widgets_(widgets), grid_(grid) {}
+    RowsLayout(const FormWidgets& widgets, QGridLayout& grid, QDialogButtonBox* beside_ok)
+        : widgets_(widgets), grid_(grid), beside_ok_(beside_ok) {}
 
     void add(const Rows& rows) {
         stacks_buttons_ = rows.has_stacked_buttons();
         for (const auto& row : rows.rows()) row->accept(*this);
         grid_.setColumnStretch(1, 1);
+        if (!has_tall_field_) grid_.setRowStretch(grid_.rowCount(), 1); // else that takes the room
     }
 
 private:
@@ -33,6 +40,11 @@ private:
 
     // Buttons that follow each other stand side by side, unless their group wants them below each other.
     void visit(ButtonRow& row) override {
+        if (beside_ok_ != nullptr && stands_beside_ok(row)) {
+            beside_ok_->addButton(qobject_cast<QPushButton*>(&widgets_.field(row)),
+                                  QDialogButtonBox::HelpRole);
+            return;
+        }
         if (stacks_buttons_) return add_field(row);
         if (buttons_ == nullptr) {
             buttons_ = new QHBoxLayout;
@@ -78,7 +90,8 @@ private:
         buttons_ = nullptr;
         auto* const label = widgets_.label(row);
         const int place = grid_.rowCount();
-        const bool is_tall = qobject_cast<QPlainTextEdit*>(&widgets_.field(row)) != nullptr;
+        const bool is_tall = qobject_cast<QAbstractScrollArea*>(&widgets_.field(row)) != nullptr;
+        has_tall_field_ = has_tall_field_ || is_tall;
         if (label != nullptr) grid_.addWidget(label, place, 0, is_tall ? Qt::AlignTop : Qt::Alignment());
         const int column = label == nullptr ? 0 : 1;
         auto* const unit = widgets_.unit(row);
@@ -91,19 +104,43 @@ private:
 
     const FormWidgets& widgets_;
     QGridLayout& grid_;
+    QDialogButtonBox* beside_ok_;
     QHBoxLayout* buttons_ = nullptr;
     bool stacks_buttons_ = false;
+    bool has_tall_field_ = false;
 };
 
-QLayout* rows_layout(const Rows& rows, const FormWidgets& widgets) {
+QLayout* rows_layout(const Rows& rows, const FormWidgets& widgets, QDialogButtonBox* beside_ok) {
     auto* const grid = new QGridLayout;
-    RowsLayout(widgets, *grid).add(rows);
+    RowsLayout(widgets, *grid, beside_ok).add(rows);
     return grid;
+}
+
+void add_group(QVBoxLayout& column, const Group& group, QLayout* rows) {
+    if (rows->isEmpty()) {
+        delete rows; // its buttons stand beside OK
+    } else if (group.heading().empty()) {
+        column.addLayout(rows);
+    } else {
+        auto* const box = new QGroupBox(string_of(group.heading()));
+        box->setAccessibleName(spoken(box->title()));
+        box->setLayout(rows);
+        column.addWidget(box);
+    }
+}
+
+// The last frame reaches down to the end of the longest column.
+void fill_up(QVBoxLayout& column) {
+    const int last = column.count() - 1;
+    if (last >= 0 && column.itemAt(last)->widget() != nullptr)
+        column.setStretch(last, 1);
+    else
+        column.addStretch();
 }
 
 } // namespace
 
-QLayout* lay_out(const Form& form, const FormWidgets& widgets) {
+QLayout* lay_out(const Form& form, const FormWidgets& widgets, QDialogButtonBox* beside_ok) {
     auto* const columns = new QHBoxLayout;
     std::vector<QVBoxLayout*> all;
     for (const auto& group : form.groups()) {
@@ -111,17 +148,9 @@ QLayout* lay_out(const Form& form, const FormWidgets& widgets) {
             all.push_back(new QVBoxLayout);
             columns->addLayout(all.back(), 1);
         }
-        auto* const column = all.back();
-        auto* const rows = rows_layout(group->content, widgets);
-        if (group->heading().empty()) {
-            column->addLayout(rows);
-            continue;
-        }
-        auto* const box = new QGroupBox(string_of(group->heading()));
-        box->setLayout(rows);
-        column->addWidget(box);
+        add_group(*all.back(), *group, rows_layout(group->content, widgets, beside_ok));
     }
-    for (auto* const column : all) column->addStretch();
+    for (auto* const column : all) fill_up(*column);
     return columns;
 }
 

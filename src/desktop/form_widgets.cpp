@@ -7,6 +7,7 @@
 #include "desktop/fields.h"
 #include "desktop/list_view.h"
 #include "desktop/qt_text.h"
+#include "forms/glossary.h"
 
 #include <QButtonGroup>
 #include <QCheckBox>
@@ -17,18 +18,36 @@
 #include <QStyle>
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <utility>
 
 namespace wortlex {
 namespace {
 
-// What may be typed stands below what it means.
+// Why a disabled row is so; empty where its form does not tell.
+QString reason_of(const Row& row) {
+    if (row.is_enabled()) return {};
+    const auto* const button = dynamic_cast<const ButtonRow*>(&row);
+    if (button != nullptr && !button->press) return string_of(not_yet);
+    return string_of(row.reason_text());
+}
+
+// The form's own words, or those of the glossary.
+QString meaning(const Row& row) {
+    const auto own = string_of(row.hint_text());
+    if (!own.isEmpty() || dynamic_cast<const NoteRow*>(&row) != nullptr) return own;
+    auto caption = row.label_text();
+    caption.erase(std::remove(caption.begin(), caption.end(), '&'), caption.end());
+    return string_of(meaning_of(caption));
+}
+
+// What may be typed, and why nothing may, stand below what it means.
 QString tip_of(const Row& row) {
-    auto tip = string_of(row.hint_text());
     const auto* const entry = dynamic_cast<const EntryRow*>(&row);
-    const auto range = entry == nullptr ? QString() : string_of(entry->range_words());
-    if (!tip.isEmpty() && !range.isEmpty()) tip += QLatin1Char('\n');
-    return tip + range;
+    QStringList lines = {meaning(row), entry == nullptr ? QString() : string_of(entry->range_words()),
+                         reason_of(row)};
+    lines.removeAll(QString());
+    return lines.join(QLatin1Char('\n'));
 }
 
 bool is_to_fill_in(const Row& row) {
@@ -48,6 +67,12 @@ QString broken(QString caption) {
         start = blank + 1;
     }
     return caption;
+}
+
+// A word chosen from, and what for: lists of the same words are told apart.
+QString option_name(const QString& word, const QWidget& choice) {
+    const auto what = choice.accessibleName();
+    return what.isEmpty() ? spoken(word) : spoken(word) + QLatin1String(", ") + what;
 }
 
 void aim_at_width(QLineEdit& line, const EntryRow& row, int beside) {
@@ -143,15 +168,41 @@ void FormWidgets::add_unit(Shown& shown, const EntryRow& row) {
     };
 }
 
+// A row without words of its own goes by the heading of its group; in a grid the layout names it.
+QString FormWidgets::plain_name(const Row& row) const {
+    auto words = row.name_text().empty() ? row.label_text() : row.name_text();
+    if (words.empty() && dynamic_cast<const SwatchRow*>(&row) != nullptr) words = row.hint_text();
+    if (words.empty() && dynamic_cast<const EntryRow*>(&row) == nullptr) words = form_.heading_of(row);
+    return spoken(string_of(words));
+}
+
+// Fields of one label in two groups are told apart by the headings.
+void FormWidgets::name(const Row& row, QWidget& field) const {
+    auto words = plain_name(row);
+    if (words.isEmpty()) return;
+    if (const auto met = names_.find(words); met != names_.end() && met->second > 1) {
+        const auto heading = spoken(string_of(form_.heading_of(row)));
+        if (!heading.isEmpty() && heading != words) words += QLatin1String(", ") + heading;
+    }
+    field.setAccessibleName(words);
+}
+
+void FormWidgets::count_names() {
+    names_.clear();
+    for (const auto& [row, shown] : shown_)
+        if (row->is_visible()) ++names_[plain_name(*row)];
+}
+
 void FormWidgets::show_state(const Row& row, const Shown& shown) const {
     const auto text = string_of(row.label_text());
     if (shown.label != nullptr) shown.label->setText(text);
-    if (!text.isEmpty()) shown.field->setAccessibleName(spoken(text));
+    name(row, *shown.field);
     const auto tip = tip_of(row);
     if (auto* const button = qobject_cast<QPushButton*>(shown.field))
-        set_tip(*button, tip);
+        set_tip(*button, meaning(row), reason_of(row));
     else
         shown.field->setToolTip(tip);
+    if (shown.label != nullptr) shown.label->setToolTip(tip);
     shown.field->setAccessibleDescription(tip);
     shown.field->setEnabled(row.is_enabled());
     const bool visible = row.is_visible();
@@ -161,14 +212,16 @@ void FormWidgets::show_state(const Row& row, const Shown& shown) const {
 
 // The user may be changing the very colours that the fields bear.
 void FormWidgets::recolour() {
-    if (borne_ == std::pair(colours_.foreground, colours_.background)) return;
-    borne_ = {colours_.foreground, colours_.background};
+    const auto wanted = colours_of(colours_);
+    if (borne_ == wanted) return;
+    borne_ = wanted;
     for (const auto& [row, shown] : shown_)
         if (row->area) apply_colours(*shown.field, *row->area, colours_);
 }
 
 void FormWidgets::refresh(const Row* except) {
     recolour();
+    count_names();
     for (const auto& [row, shown] : shown_) {
         if (row != except && shown.refresh) shown.refresh();
         show_state(*row, shown);
@@ -289,12 +342,16 @@ void FormWidgets::make_buttons(ChoiceRow& row) {
     }
     if (row.shape == ChoiceRow::Look::across) layout->addStretch();
     frame->setFocusPolicy(Qt::StrongFocus); // the label's mnemonic goes to the chosen button
-    auto show = [&row, buttons, frame] {
+    auto show = [this, &row, buttons, frame] {
+        name(row, *frame);
         const auto chosen = row.chosen();
         buttons->setExclusive(chosen.has_value()); // none is marked where the value is none of them
         for (auto* const button : buttons->buttons()) {
             const auto option = static_cast<std::size_t>(buttons->id(button));
-            button->setText(broken(string_of(row.words[option]())));
+            const auto word = string_of(row.words[option]());
+            button->setText(broken(word));
+            button->setAccessibleName(option_name(word, *frame));
+            button->setToolTip(string_of(meaning_of(spoken(word).toStdString())));
             button->setEnabled(!row.option_when || row.option_when(option));
             button->setChecked(chosen == option);
             if (chosen == option) frame->setFocusProxy(button);

@@ -4,7 +4,9 @@
 #include "desktop/range_hint.h"
 #include "forms/form.h"
 #include "forms/places.h"
+#include "settings/screen_colours.h"
 
+#include <QDialogButtonBox>
 #include <QLabel>
 #include <QWidget>
 
@@ -51,14 +53,15 @@ private:
     void visit(ButtonRow& row) override;
     void visit(GridRow& row) override;
 
-    using AreaColours = decltype(SystemSettings::foreground);
-
     void make(Row& row);
     void edit(const std::function<void()>& change);
     void recolour();
     Shown& keep(Row& row, QWidget& field, std::function<void()> refresh);
     void add_label(Shown& shown, const Row& row);
     void add_unit(Shown& shown, const EntryRow& row);
+    QString plain_name(const Row& row) const;
+    void name(const Row& row, QWidget& field) const;
+    void count_names();
     void show_state(const Row& row, const Shown& shown) const;
     void make_page(EntryRow& row);
     void make_line(EntryRow& row);
@@ -70,16 +73,17 @@ private:
     const SystemSettings& colours_;
     QWidget& parent_;
     std::unordered_map<const Row*, Shown> shown_;
-    std::optional<std::pair<AreaColours, AreaColours>>
-        borne_;              ///< text and ground; none yet before the first refresh
-    bool is_edited_ = false; ///< what is told meanwhile waits until the rows are shown again
+    std::unordered_map<QString, int> names_; ///< how many visible rows go by each
+    std::optional<ScreenColours> borne_;     ///< none yet before the first refresh
+    bool is_edited_ = false;                 ///< what is told meanwhile waits until the rows are shown again
     bool has_missed_ = false;
     QPointer<RangeHint> hint_;
     Listening listening_;
     QObject alive_; ///< its end cuts every connection, before the fields that it served go
 };
 
-/// A form's groups laid out in their columns, labels before fields.
-QLayout* lay_out(const Form& form, const FormWidgets& widgets);
+/// A form's groups laid out in their columns, labels before fields. The buttons for print, picture and help
+/// join those of `beside_ok`, where there is one.
+QLayout* lay_out(const Form& form, const FormWidgets& widgets, QDialogButtonBox* beside_ok = nullptr);
 
 } // namespace wortlex

@@ -1,14 +1,17 @@
 #include "desktop/menus.h"
 
 #include "desktop/qt_text.h"
+#include "forms/row.h"
 
 namespace wortlex {
 
 QAction& add_action(QMenu& menu, std::string_view caption, int command, const MenuAction& does) {
+    menu.setToolTipsVisible(true);
     auto* const action = menu.addAction(string_of(caption));
     action->setObjectName(QString::number(command));
     action->setShortcuts(does.key);
     action->setEnabled(static_cast<bool>(does.action));
+    if (!does.action) action->setToolTip(string_of(not_yet));
     if (does.action) QObject::connect(action, &QAction::triggered, action, does.action);
     return *action;
 }

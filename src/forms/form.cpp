@@ -185,4 +185,13 @@ Row& Form::row(std::string_view key) const {
     return *found;
 }
 
+std::string Form::heading_of(const Row& row) const {
+    for (const auto& group : groups_) {
+        bool is_here = false;
+        group->content.walk([&](const Row& one) { is_here = is_here || &one == &row; });
+        if (is_here) return group->heading();
+    }
+    return {};
+}
+
 } // namespace wortlex

@@ -153,6 +153,8 @@ public:
     void for_each(const std::function<void(Row&)>& action) const;
     /// The row of a key; it must be there.
     Row& row(std::string_view key) const;
+    /// Of the group that a row stands in; empty where it has none.
+    std::string heading_of(const Row& row) const;
     std::span<const std::unique_ptr<Group>> groups() const { return groups_; }
 
     /// Called when all rows but the given one are to be shown again.

@@ -9,6 +9,9 @@
 
 namespace wortlex {
 
+/// Why a command is disabled whose window does not exist yet.
+inline constexpr const char* not_yet = "Not available yet";
+
 class EntryRow;
 class ChoiceRow;
 class CheckRow;
@@ -45,10 +48,12 @@ public:
     /// This row and those in it.
     virtual void walk(const std::function<void(Row&)>& action) { action(*this); }
 
-    const std::string key;             ///< names it in its form, in tests and to assistive tools
-    std::optional<ColorArea> area;     ///< its pair of colours; none: those of the desktop
-    Live<std::string> label_text = ""; ///< UTF-8, with `&` before the mnemonic
-    Live<std::string> hint_text = "";  ///< a tooltip
+    const std::string key;              ///< names it in its form, in tests and to assistive tools
+    std::optional<ColorArea> area;      ///< its pair of colours; none: those of the desktop
+    Live<std::string> label_text = "";  ///< UTF-8, with `&` before the mnemonic
+    Live<std::string> hint_text = "";   ///< a tooltip
+    Live<std::string> name_text = "";   ///< to assistive tools, where the label is not enough
+    Live<std::string> reason_text = ""; ///< why it is disabled
     Live<bool> is_enabled = true;
     Live<bool> is_visible = true;
     std::function<void()> after_edit; ///< what else a user's edit changes
@@ -66,6 +71,16 @@ public:
     }
     Self& hint(const Live<std::string>& text) {
         this->hint_text = text;
+        return self();
+    }
+    /// For those who cannot see beside what it stands.
+    Self& named(const Live<std::string>& words) {
+        this->name_text = words;
+        return self();
+    }
+    /// Told with a row that is disabled.
+    Self& disabled_because(const Live<std::string>& words) {
+        this->reason_text = words;
         return self();
     }
     Self& enabled(const Live<bool>& when) {

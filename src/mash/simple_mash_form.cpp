@@ -132,8 +132,7 @@ void total_rows(Rows& rows, const SimpleMashWork& work, const Settings& settings
 }
 
 void add_button(Rows& rows, const char* key, const char* caption, std::function<void()> action) {
-    const auto* const hint = action ? "" : "Not available yet";
-    rows.button(key, caption, std::move(action)).hint(hint);
+    rows.button(key, caption, std::move(action));
 }
 
 // Quarts per pound; 0 without water or grain.

@@ -42,13 +42,17 @@ void draw_patch(Surface& surface, std::uint32_t background, std::uint32_t text) 
 void area_line(GridRow& grid, const Area& area, HtmlThemeEditor& editor) {
     const std::string key = area.key, name = area.name;
     auto& line = grid.line(name);
-    line.canvas(key, patch, [&editor, area](Surface& surface) {
-        draw_patch(surface, editor.work.*area.background, editor.work.*area.text);
-    });
+    line.canvas(key, patch,
+                [&editor, area](Surface& surface) {
+                    draw_patch(surface, editor.work.*area.background, editor.work.*area.text);
+                })
+        .named("Sample of " + name);
     line.button(key + "_background", "Background",
                 [&editor, area] { editor.choose_colour(editor.work.*area.background); })
+        .named("Background of " + name)
         .hint("Background of " + name);
     line.button(key + "_text", "Text", [&editor, area] { editor.choose_colour(editor.work.*area.text); })
+        .named("Text of " + name)
         .hint("Text of " + name);
 }
 

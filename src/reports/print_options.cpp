@@ -5,8 +5,6 @@
 namespace wortlex {
 namespace {
 
-constexpr const char* not_yet = "Not available yet";
-
 void text_rows(Rows& rows, PrintSelection& selection, bool has_mash) {
     const auto section = [&](const char* key, const char* label, PrintSection place) -> CheckRow& {
         return rows.check(key, selection[place]).label(label);
@@ -22,7 +20,7 @@ void text_rows(Rows& rows, PrintSelection& selection, bool has_mash) {
 // There is no chart to print yet: the switches keep what the file says.
 void graph_rows(Rows& rows, PrintSelection& selection) {
     const auto disabled = [&](const char* key, const char* label, std::uint8_t& flag) {
-        rows.check(key, flag).label(label).enabled(false).hint(not_yet);
+        rows.check(key, flag).label(label).enabled(false).disabled_because(not_yet);
     };
     disabled("mash_graph", "Mash &Graph", selection[PrintSection::mash_graph]);
     disabled("fine_lines", "Fine Temp Lines", selection[PrintOption::fine_temperature_lines]);
@@ -42,11 +40,11 @@ void output_rows(Rows& rows, PrintSelection& selection, const PrintOptionsAction
     rows.check("competition_form", selection[PrintSection::competition_form])
         .label("As Competition Form")
         .enabled(false)
-        .hint(not_yet);
+        .disabled_because(not_yet);
     rows.check("competition_labels", selection[PrintSection::competition_labels])
         .label("As Competition Labels")
         .enabled(false)
-        .hint(not_yet);
+        .disabled_because(not_yet);
     rows.button("html_themes", "HTM&L Themes", actions.html_themes);
 }
 
@@ -70,7 +68,9 @@ void recipe_print_form(Form& form, PrintSelection& selection, bool has_mash,
     text_rows(form.group("Text"), selection, has_mash);
     form.next_column();
     graph_rows(form.group("Graph"), selection);
-    print_scale_row(form.group("Scaling Ratio"), "scale", selection.scale).enabled(false).hint(not_yet);
+    print_scale_row(form.group("Scaling Ratio"), "scale", selection.scale)
+        .enabled(false)
+        .disabled_because(not_yet);
     form.next_column();
     output_rows(form.group("Output"), selection, actions);
     auto& buttons = form.group();

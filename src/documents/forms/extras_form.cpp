@@ -19,24 +19,28 @@ void extras_list(Rows& rows, RecipeEditor& editor, const ExtrasActions& actions)
             [&extras] { return extras.size(); },
             [&extras](std::size_t row, std::size_t column) { return extra_cell(extras[row], column); })
         .label("Extras")
+        .when_empty("Insert adds an extra ingredient")
         .selection(editor.view.selected_extra)
         .header_clicked([&editor](std::size_t column) { sort_extras(editor, column); })
         .activated(actions.edit_extra);
 }
 
 void extras_buttons(Rows& rows, RecipeEditor& editor, const ExtrasActions& actions) {
-    const auto about_line = [&](const char* key, const char* caption, std::function<void()> action) {
-        rows.button(key, caption, std::move(action)).enabled([&editor] {
-            return selected_extra(editor).has_value();
-        });
+    const auto about_line = [&](const char* key, const char* caption, const char* meaning,
+                                std::function<void()> action) {
+        rows.button(key, caption, std::move(action))
+            .named(meaning)
+            .hint(meaning)
+            .enabled([&editor] { return selected_extra(editor).has_value(); })
+            .disabled_because("The list is empty");
     };
-    rows.button("extra_new", "&New", actions.new_extra);
-    about_line("extra_del", "&Del", [&editor] { delete_extra(editor); });
-    about_line("extra_edit", "&Edit", actions.edit_extra);
-    about_line("amount_more", "+&Amt", [&editor] { step_extra(editor, Step::more); });
-    about_line("amount_less", "-A&mt", [&editor] { step_extra(editor, Step::less); });
-    about_line("time_more", "+&Time", [&editor] { step_extra_time(editor, Step::more); });
-    about_line("time_less", "-T&ime", [&editor] { step_extra_time(editor, Step::less); });
+    rows.button("extra_new", "&New", actions.new_extra).hint("Add an extra ingredient");
+    about_line("extra_del", "&Del", "Delete the extra ingredient", [&editor] { delete_extra(editor); });
+    about_line("extra_edit", "&Edit", "Edit the extra ingredient", actions.edit_extra);
+    about_line("amount_more", "+&Amt", "More of it", [&editor] { step_extra(editor, Step::more); });
+    about_line("amount_less", "-A&mt", "Less of it", [&editor] { step_extra(editor, Step::less); });
+    about_line("time_more", "+&Time", "Add it earlier", [&editor] { step_extra_time(editor, Step::more); });
+    about_line("time_less", "-T&ime", "Add it later", [&editor] { step_extra_time(editor, Step::less); });
 }
 
 } // namespace

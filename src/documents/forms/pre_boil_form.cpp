@@ -78,6 +78,7 @@ void kettle_rows(Rows& rows, const std::string& key, const std::string& label, c
         .unit("SG");
     rows.shown_plato(
             key + "_plato", [sg] { return sg_to_plato(sg); }, settings)
+        .named(label + " Plato")
         .label("Plato:");
 }
 

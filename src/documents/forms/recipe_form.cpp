@@ -31,6 +31,7 @@ void band(Rows& rows, std::string key, const std::string& what, const std::funct
                 [figure, &document](Surface& surface) {
                     draw_style_band(surface, has_style(document) ? figure() : StyleBand{});
                 })
+        .named(what + " in the style's range")
         .hint([what, figure, &document]() -> std::string {
             if (!has_style(document)) return "";
             const auto now = figure();
@@ -113,7 +114,9 @@ void wort_row(Rows& rows, RecipeEditor& editor) {
     const auto& settings = editor.open.settings;
     size_row(rows, recipe_figure::wort_size, editor, "&Wort Size", [&editor](float gallons) {
         set_wort_size(editor, gallons);
-    }).enabled([&settings] { return settings.wort_equals_batch == 0; });
+    }).enabled([&settings] {
+          return settings.wort_equals_batch == 0;
+      }).disabled_because("By the settings it always equals the batch size");
 }
 
 void efficiency_rows(Rows& rows, RecipeEditor& editor) {
@@ -126,12 +129,16 @@ void efficiency_rows(Rows& rows, RecipeEditor& editor) {
         .range(5, 100)
         .step(1)
         .outside(Outside::clamp)
+        .disabled_because("An extract recipe has no mash")
         .enabled(mashes)
         .when_disabled(" ") // no text at all would leave the figure standing
         .width(6);
     rows.check("efficiency_lock", {[&editor] { return editor.view.locks.efficiency; },
                                    [&editor](bool locked) { lock_efficiency(editor, locked); }})
         .label("Loc&k")
+        .named("Lock efficiency")
+        .hint("Keeps the gravity: a change of efficiency changes the amounts of grain instead")
+        .disabled_because("An extract recipe has no mash")
         .enabled(mashes);
 }
 
@@ -140,12 +147,14 @@ void size_rows(Rows& rows, const RecipeSubject& subject) {
     auto& editor = subject.editor;
     batch_row(rows, editor);
     boil_row(rows, editor);
-    rows.button("pre_boil", "Pre-Boi&l", subject.actions.pre_boil);
+    rows.button("pre_boil", "Pre-Boi&l", subject.actions.pre_boil)
+        .hint("Volume and gravity of the wort before the boil");
     wort_row(rows, editor);
     efficiency_rows(rows, editor);
     rows.check("lock_to_batch", {[&editor] { return editor.view.locks.to_batch; },
                                  [&editor](bool locked) { lock_to_batch(editor, locked); }})
-        .label("Lock Ingredients to Batc&h Size");
+        .label("Lock Ingredients to Batc&h Size")
+        .hint("A change of the batch size changes all amounts with it: the beer stays the same");
 }
 
 // A figure to read, in its own decimals.
@@ -172,9 +181,13 @@ void figure_rows(Rows& rows, const RecipeSubject& subject) {
 }
 
 // A button about the selected line.
-void line_button(Rows& rows, const std::string& key, const std::string& caption, std::function<void()> action,
-                 const std::function<bool()>& has_line) {
-    rows.button(key, caption, std::move(action)).enabled(has_line);
+void line_button(Rows& rows, const std::string& key, const std::string& caption, const std::string& meaning,
+                 std::function<void()> action, const std::function<bool()>& has_line) {
+    rows.button(key, caption, std::move(action))
+        .named(meaning)
+        .hint(meaning)
+        .enabled(has_line)
+        .disabled_because("The list is empty");
 }
 
 void malt_list(Rows& rows, const RecipeSubject& subject) {
@@ -195,6 +208,7 @@ void malt_list(Rows& rows, const RecipeSubject& subject) {
                 return malt_cell(editor.open, editor.view, row, column);
             })
         .label("Malts")
+        .when_empty("Insert adds a malt")
         .selection(editor.view.selected_malt)
         .header_clicked([&editor](std::size_t column) { sort_malts(editor, column); })
         .activated(subject.actions.edit_malt);
@@ -209,6 +223,8 @@ void malt_rows(Rows& rows, const RecipeSubject& subject) {
                 {[&view] { return view.show_potential ? 0 : 1; },
                  [&view](std::int32_t code) { view.show_potential = code == 0; }},
                 {"Potential", "Extract"})
+        .named("Malts shown with their")
+        .hint("What each malt could yield, or what it yields in this recipe")
         .option_enabled([&settings](std::size_t option) {
             return option != 0 || settings.efficiency_mode != EfficiencyMode::method_2;
         });
@@ -217,15 +233,18 @@ void malt_rows(Rows& rows, const RecipeSubject& subject) {
     });
     const std::string unit = grain_unit(settings).usual;
     const auto has_line = [&editor] { return selected_malt(editor).has_value(); };
-    rows.button("malt_new", "New", subject.actions.new_malt);
+    rows.button("malt_new", "New", subject.actions.new_malt).named("Add a malt").hint("Add a malt");
     line_button(
-        rows, "malt_del", "Del", [&editor] { delete_malt(editor); }, has_line);
-    line_button(rows, "malt_edit", "Edit", subject.actions.edit_malt, has_line);
+        rows, "malt_del", "Del", "Delete the malt", [&editor] { delete_malt(editor); }, has_line);
+    line_button(rows, "malt_edit", "Edit", "Edit the malt", subject.actions.edit_malt, has_line);
     line_button(
-        rows, "malt_more", "+" + unit, [&editor] { step_malt(editor, Step::more); }, has_line);
+        rows, "malt_more", "+" + unit, "More of the malt", [&editor] { step_malt(editor, Step::more); },
+        has_line);
     line_button(
-        rows, "malt_less", "-" + unit, [&editor] { step_malt(editor, Step::less); }, has_line);
-    line_button(rows, "malt_detail", "%", subject.actions.malt_contribution, has_line);
+        rows, "malt_less", "-" + unit, "Less of the malt", [&editor] { step_malt(editor, Step::less); },
+        has_line);
+    line_button(rows, "malt_detail", "%", "What each malt gives to gravity and color",
+                subject.actions.malt_contribution, has_line);
 }
 
 void hop_list(Rows& rows, const RecipeSubject& subject) {
@@ -244,6 +263,7 @@ void hop_list(Rows& rows, const RecipeSubject& subject) {
                 return hop_cell(editor.open, editor.view, row, column);
             })
         .label("Hops")
+        .when_empty("Insert adds a hop")
         .selection(editor.view.selected_hop)
         .header_clicked([&editor](std::size_t column) { sort_hops(editor, column); })
         .activated(subject.actions.edit_hop);
@@ -253,21 +273,24 @@ void hop_buttons(Rows& rows, const RecipeSubject& subject) {
     auto& editor = subject.editor;
     const auto& settings = editor.open.settings;
     const auto has_line = [&editor] { return selected_hop(editor).has_value(); };
-    rows.button("hop_new", "New", subject.actions.new_hop);
+    rows.button("hop_new", "New", subject.actions.new_hop).named("Add a hop").hint("Add a hop");
     line_button(
-        rows, "hop_del", "Del", [&editor] { delete_hop(editor); }, has_line);
-    line_button(rows, "hop_edit", "Edit", subject.actions.edit_hop, has_line);
+        rows, "hop_del", "Del", "Delete the hop", [&editor] { delete_hop(editor); }, has_line);
+    line_button(rows, "hop_edit", "Edit", "Edit the hop", subject.actions.edit_hop, has_line);
     line_button(
-        rows, "hop_more", std::string("+") + hop_list_word(settings),
+        rows, "hop_more", std::string("+") + hop_list_word(settings), "More of the hop",
         [&editor] { step_hop(editor, Step::more); }, has_line);
     line_button(
-        rows, "hop_less", std::string("-") + hop_unit(settings).usual,
+        rows, "hop_less", std::string("-") + hop_unit(settings).usual, "Less of the hop",
         [&editor] { step_hop(editor, Step::less); }, has_line);
-    line_button(rows, "hop_loss", "Loss", subject.actions.lose_alpha, has_line);
+    line_button(rows, "hop_loss", "Loss", "Alpha acid that the hop has lost with age",
+                subject.actions.lose_alpha, has_line);
     line_button(
-        rows, "boil_more", "+Boil", [&editor] { step_boil(editor, Step::more); }, has_line);
+        rows, "boil_more", "+Boil", "Boil the hop longer", [&editor] { step_boil(editor, Step::more); },
+        has_line);
     line_button(
-        rows, "boil_less", "-Boil", [&editor] { step_boil(editor, Step::less); }, has_line);
+        rows, "boil_less", "-Boil", "Boil the hop for less time",
+        [&editor] { step_boil(editor, Step::less); }, has_line);
 }
 
 void hop_rows(Rows& rows, const RecipeSubject& subject) {
@@ -279,6 +302,7 @@ void hop_rows(Rows& rows, const RecipeSubject& subject) {
                 {[&view] { return view.show_ibu ? 0 : 1; },
                  [&view](std::int32_t code) { view.show_ibu = code == 0; }},
                 {"IBU", [&settings] { return std::string(bittering_unit(settings).usual); }})
+        .named("Hops shown in")
         .visible([&settings] { return settings.display_home_bittering != 0; });
     figure_row(rows, "total_hops", recipe_figure::total_hops, editor.open).label([&settings] {
         return hop_unit(settings).usual;
@@ -304,7 +328,7 @@ void page_rows(Rows& rows, const RecipeSubject& subject) {
     rows.button("extras_and_notes", "Extras && &Notes", actions.extras_and_notes);
     rows.button("mash_schedule", "&Mash Schedule", actions.mash_schedule)
         .enabled([&document] { return has_mashable_grain(document) && !has_steps(document); })
-        .hint([&document] { return mash_hint(document); });
+        .disabled_because([&document] { return mash_hint(document); });
     rows.button("save", "&Save", actions.save);
     rows.button("print", "&Print", actions.print);
     rows.button("help", "Help", actions.help);

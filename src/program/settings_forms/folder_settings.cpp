@@ -37,6 +37,7 @@ void folder_line(GridRow& grid, const FolderName& told, const FolderSettingsDesk
         .width(40);
     line.button(key + "_browse", "Browse",
                 [desk, kind = told.kind] { browse_folder(desk.folders, kind, desk.prompts); })
+        .named("Choose Folder For " + name)
         .hint("Choose Folder For " + name);
 }
 

@@ -1,5 +1,7 @@
 #include "program/settings_forms/screen_settings.h"
 
+#include "settings/screen_colours.h"
+
 namespace wortlex {
 namespace {
 
@@ -28,7 +30,7 @@ void tell(const std::function<void()>& hook) {
 }
 
 void choose(std::uint32_t& colour, const ScreenSettingsUse& use) {
-    const auto chosen = use.prompts.choose_colour(colour);
+    const auto chosen = use.prompts.choose_colour(colour & ~desktop_mark);
     if (!chosen) return;
     colour = *chosen;
     tell(use.recoloured);
@@ -41,10 +43,28 @@ void colour_line(GridRow& grid, const AreaName& told, Settings& working, const S
     line.shown(key, [] { return "Text"; }).colours(told.area).width(8);
     line.button(key + "_text", "Foreground",
                 [&colour = working.foreground[pair], use] { choose(colour, use); })
+        .named("Foreground of " + name)
         .hint("Foreground of " + name);
     line.button(key + "_ground", "Background",
                 [&colour = working.background[pair], use] { choose(colour, use); })
+        .named("Background of " + name)
         .hint("Background of " + name);
+}
+
+void preset_row(Rows& rows, Settings& working, const ScreenSettingsUse& use) {
+    constexpr std::int32_t own = -1; // none is marked
+    rows.choice("preset",
+                {[&working] {
+                     const auto preset = preset_of(working);
+                     return preset ? static_cast<std::int32_t>(*preset) : own;
+                 },
+                 [&working, recoloured = use.recoloured](std::int32_t code) {
+                     set_colours(working, colours_of(static_cast<ColourPreset>(code)));
+                     tell(recoloured);
+                 }},
+                {"Wortlex De&fault", "D&esktop", "&Warm", "Da&rk"})
+        .label("Presets:")
+        .hint("Sets all seven pairs at once; Desktop follows the colors of your desktop");
 }
 
 void picture_rows(Rows& rows, SystemSettings& image) {
@@ -76,7 +96,9 @@ void restore_colours_on_cancel(Form& form, Settings& working, const std::functio
 
 void screen_settings_form(Form& form, SystemSettings& image, Settings& working,
                           const ScreenSettingsUse& use) {
-    auto& grid = form.group("System Colors").grid("colours", {});
+    auto& colours = form.group("System Colors");
+    preset_row(colours, working, use);
+    auto& grid = colours.grid("colours", {});
     for (const auto& area : areas) colour_line(grid, area, working, use);
     form.next_column();
     form.group("Main Screen Art")

@@ -1,5 +1,6 @@
 #include "windows/databases/list_window.h"
 
+#include "desktop/captions.h"
 #include "desktop/form_dialog.h"
 #include "desktop/list_view.h"
 #include "desktop/qt_text.h"
@@ -64,6 +65,7 @@ void ListWindow::choice_rows(Rows& rows) {
                 {[this] { return list_.filter; },
                  [this](std::int32_t chosen) { list_.choose_filter(chosen, ports_.prompts); }},
                 std::move(labels))
+        .named("Which entries")
         .visible(has_choice)
         .changed([this] {
             setWindowTitle(string_of(list_.caption()));
@@ -80,6 +82,8 @@ void ListWindow::list_row(Rows& rows) {
     rows.list(
             "list", list_.heads(), [this] { return list_.shown_count(); },
             [this](std::size_t row, std::size_t column) { return list_.cell(row, column); })
+        .label("Entries")
+        .when_empty([this] { return empty_text(); })
         .colours(ColorArea::pick_lists)
         .selection(list_.selected)
         .header_clicked([this](std::size_t column) {
@@ -97,6 +101,11 @@ std::string ListWindow::found_text() const {
     if (query_.empty()) return {};
     const auto count = count_found(list_, query_);
     return count == 0 ? "Nothing found" : std::to_string(count) + " found";
+}
+
+std::string ListWindow::empty_text() const {
+    if (list_.only_in_stock) return "Nothing is in stock";
+    return picked_ ? "There is no entry yet; the database adds them" : "Insert adds an entry";
 }
 
 void ListWindow::seek() {
@@ -165,16 +174,20 @@ bool ListWindow::take_find_key(const QKeyEvent& event) {
 }
 
 void ListWindow::edit_buttons(Rows& rows) {
-    rows.button("new", "&New", [this] { run(list_.new_entry(ports_.prompts)); });
+    rows.button("new", "&New", [this] { run(list_.new_entry(ports_.prompts)); }).hint("Add an entry");
     if (list_.can_clone())
-        rows.button("clone", "&Clone", [this] { change([this] { list_.clone_entry(ports_.prompts); }); });
+        rows.button("clone", "&Clone", [this] { change([this] { list_.clone_entry(ports_.prompts); }); })
+            .hint("Add a copy of the selected entry");
     rows.button("import", "&Import",
-                [this] { change([this] { list_.import(ports_.files, ports_.prompts); }); });
+                [this] { change([this] { list_.import(ports_.files, ports_.prompts); }); })
+        .hint("Add the entries of a transfer file");
     rows.button("edit", "&Edit", [this] { run(list_.edit_entry(ports_.prompts)); });
     rows.button("delete", "&Delete", [this] { change([this] { list_.delete_entry(ports_.prompts); }); });
     if (list_.has_stock())
-        rows.button("inventory", "In&ventory", [this] { run(list_.inventory(ports_.prompts)); });
-    rows.button("save", "&Save", [this] { change([this] { list_.save(ports_.prompts); }); });
+        rows.button("inventory", "In&ventory", [this] { run(list_.inventory(ports_.prompts)); })
+            .hint("Book what was bought or used");
+    rows.button("save", "&Save", [this] { change([this] { list_.save(ports_.prompts); }); })
+        .hint("Write the list to its file");
 }
 
 void ListWindow::print_button(Rows& rows) {
@@ -218,7 +231,14 @@ void ListWindow::add_keys() {
     });
     on(QKeySequence::FindNext, [this] { go_on(false); });
     on(QKeySequence::FindPrevious, [this] { go_on(true); });
+    const auto tell = [this](std::string_view button, const QKeySequence& key) {
+        add_key(*qobject_cast<QPushButton*>(&widgets_->field(button)), key);
+    };
+    tell(picked_ ? "pick" : "edit", Qt::Key_Return);
+    tell(picked_ ? "cancel" : "ok", Qt::Key_Escape);
     if (picked_) return;
+    tell("new", Qt::Key_Insert);
+    tell("delete", QKeySequence::Delete);
     auto& list = widgets_->field("list");
     connect(new QShortcut(QKeySequence::Delete, &list), &QShortcut::activated, this,
             [this] { change([this] { list_.delete_entry(ports_.prompts); }); });

@@ -49,6 +49,7 @@ private:
     void make_find_line();
     bool take_find_key(const QKeyEvent& event);
     std::string found_text() const;
+    std::string empty_text() const;
     /// Selects what is found best; nothing where nothing is found.
     void seek();
     void go_on(bool backwards);

@@ -37,10 +37,10 @@ Form RecipePage::made_form() {
 
 void RecipePage::lay_out_rows() {
     auto* const layout = new QVBoxLayout(this);
-    layout->addLayout(use_.arrange ? use_.arrange(widgets_) : lay_out(form_, widgets_), 1);
+    auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
+    layout->addLayout(use_.arrange ? use_.arrange(widgets_) : lay_out(form_, widgets_, buttons), 1);
     auto* const bottom = new QHBoxLayout;
     bottom->addStretch();
-    auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
     buttons->button(QDialogButtonBox::Ok)->setDefault(false); // Enter is for the fields
     buttons->button(QDialogButtonBox::Ok)->setAutoDefault(false);
     bottom->addWidget(buttons);

@@ -1,6 +1,7 @@
 #include "windows/documents/recipe_window.h"
 
 #include "base/windows1252.h"
+#include "desktop/captions.h"
 #include "desktop/menus.h"
 #include "desktop/qt_text.h"
 #include "documents/method_check.h"
@@ -103,6 +104,7 @@ void RecipeWindow::add_menu() {
 
 void RecipeWindow::add_edit_menu(QMenuBar& bar) {
     auto* const menu = bar.addMenu(tr("E&dit"));
+    menu->setToolTipsVisible(true);
     undo_ = menu->addAction(tr("&Undo"), this, [this] { undo(editor_); });
     undo_->setObjectName(QStringLiteral("undo"));
     undo_->setShortcuts(QKeySequence::Undo);
@@ -120,6 +122,7 @@ QLayout* RecipeWindow::page_part() {
     for (const auto* const key : {"save", "print", "help"}) line->addWidget(&widgets.field(key));
     auto* const ok = new QPushButton(tr("&OK"), this);
     ok->setObjectName(QStringLiteral("ok"));
+    set_tip(*ok, QStringLiteral("Closes the recipe, after asking for unsaved changes"));
     connect(ok, &QPushButton::clicked, this, &QWidget::close);
     line->addWidget(ok);
     return line;
@@ -218,6 +221,8 @@ void RecipeWindow::follow(Change) {
                                              std::tuple(redo_, tr("&Redo"), editor_.history.to_redo())}) {
         action->setEnabled(!step.empty());
         const auto name = string_of(step).replace(QLatin1Char('&'), QLatin1String("&&"));
+        action->setToolTip(step.empty() ? QStringLiteral("Nothing to %1").arg(spoken(word).toLower())
+                                        : QString());
         action->setText(step.empty() ? word : word + QLatin1Char(' ') + name);
     }
 }

@@ -1,5 +1,7 @@
 #include "windows/documents/simple_mash_window.h"
 
+#include "desktop/captions.h"
+
 #include <QDialogButtonBox>
 #include <QShortcut>
 #include <QVBoxLayout>
@@ -27,8 +29,9 @@ SimpleMashWindow::SimpleMashWindow(const SimpleMashWork& work, const Settings& s
                     {.revert = revert_action(), .graph = nullptr, .print = print_action(), .help = nullptr})),
       widgets_(form_, places, *this) {
     auto* const layout = new QVBoxLayout(this);
-    layout->addLayout(lay_out(form_, widgets_));
     auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
+    set_tips(*buttons, true);
+    layout->addLayout(lay_out(form_, widgets_, buttons));
     layout->addWidget(buttons);
     connect(buttons, &QDialogButtonBox::accepted, this, &SimpleMashWindow::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QWidget::close);

@@ -1,5 +1,6 @@
 #include "windows/main/about_window.h"
 
+#include "desktop/captions.h"
 #include "desktop/tool_window.h"
 #include "windows/main/picture_board.h"
 
@@ -63,6 +64,7 @@ private:
 
     void add_button(QVBoxLayout& layout) {
         auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Ok, this);
+        set_tips(*buttons, true);
         connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
         layout.addWidget(buttons);
     }

@@ -1,6 +1,7 @@
 #include "windows/main/picture_board.h"
 
 #include "desktop/qt_text.h"
+#include "forms/row.h"
 
 #include <QPainter>
 #include <QTimer>
@@ -18,7 +19,6 @@ constexpr double asleep = 0.35;  // of a button whose command is not to be had
 PictureButton::PictureButton(const ButtonPicture& told, QWidget* parent) : QAbstractButton(parent) {
     setObjectName(string_of(told.bitmap));
     setAccessibleName(string_of(told.name));
-    setToolTip(string_of(told.name));
     setFocusPolicy(Qt::NoFocus);
     setFixedSize(button_side, button_side);
 }
@@ -48,8 +48,12 @@ PictureBoard::PictureBoard(const std::string& data_folder, const ArtScheme& sche
 }
 
 void PictureBoard::show_commands() {
-    for (std::size_t i = 0; i < buttons_.size(); ++i)
-        buttons_[i]->setEnabled(commands_.is_built(told_[i].command));
+    for (std::size_t i = 0; i < buttons_.size(); ++i) {
+        const bool is_built = commands_.is_built(told_[i].command);
+        buttons_[i]->setEnabled(is_built);
+        const auto name = string_of(told_[i].picture.name);
+        buttons_[i]->setToolTip(is_built ? name : name + QLatin1Char('\n') + string_of(not_yet));
+    }
 }
 
 void PictureBoard::load(double device_scale) {

@@ -1,5 +1,6 @@
 #include "windows/mash/strike_calculator_window.h"
 
+#include "desktop/captions.h"
 #include "mash/strike_calculator_printout.h"
 #include "program/program.h"
 
@@ -50,7 +51,7 @@ void StrikeCalculatorWindow::lay_out_rows() {
         for (const auto key : {first, second}) {
             auto& field = widgets_.field(key);
             auto* const unit = widgets_.unit(form_.row(key));
-            field.setAccessibleName(label->text().remove(QLatin1Char('&')) + QLatin1Char(' ') + unit->text());
+            field.setAccessibleName(spoken(label->text()) + QLatin1Char(' ') + unit->text());
             field.setMaximumWidth(QWIDGETSIZE_MAX); // figures as wide as the fields above them
             grid->addWidget(&field, line, column++);
             grid->addWidget(unit, line, column++);
@@ -63,6 +64,7 @@ void StrikeCalculatorWindow::lay_out_rows() {
     buttons->addStretch();
     auto* const ok = new QPushButton(tr("OK"), this);
     ok->setObjectName(QStringLiteral("ok"));
+    add_key(*ok, QKeySequence::Cancel);
     connect(ok, &QPushButton::clicked, this, &QWidget::close);
     buttons->addWidget(ok);
     layout->addStretch();

@@ -9,6 +9,7 @@
 #include "support/temporary_folder.h"
 
 #include "base/number.h"
+#include "settings/screen_colours.h"
 
 #include <gtest/gtest.h>
 
@@ -142,10 +143,14 @@ TEST(ScreenSettings, ColoursShowAtOnceAndCancelPutsThemBack) {
     Form again;
     screen_settings_form(again, image, working, {prompts, 0, {"A", "B"}, nullptr, nullptr});
     again.accept(); // nothing new to tell
+    auto& preset = dynamic_cast<ChoiceRow&>(form.row("preset"));
+    EXPECT_EQ(preset.chosen(), std::nullopt) << "one color is the brewer's own";
+    form.choose(preset, 1);
+    EXPECT_EQ(preset_of(working), ColourPreset::desktop) << "seen before OK";
     form.cancel();
     EXPECT_TRUE(image == original);
-    EXPECT_EQ(working.background, original.background);
-    EXPECT_EQ(recoloured, 2);
+    EXPECT_EQ(colours_of(working), colours_of(original));
+    EXPECT_EQ(recoloured, 3);
 }
 
 TEST(PrinterSettings, StoreScalesOfTheirOwn) {

@@ -1,0 +1,187 @@
+#include "base/ports/quiet_prompts.h"
+#include "desktop/drawings.h"
+#include "desktop/qt_text.h"
+#include "support/started_brewery.h"
+#include "windows/main/tools.h"
+
+#include <QAbstractItemView>
+#include <QAbstractSpinBox>
+#include <QAccessible>
+#include <QButtonGroup>
+#include <QComboBox>
+#include <QDialogButtonBox>
+#include <QHeaderView>
+#include <QPlainTextEdit>
+#include <QPointer>
+#include <QPushButton>
+#include <QTimer>
+#include <QTreeView>
+
+namespace wortlex {
+namespace {
+
+// Wants nothing kept, so that no question holds a window open.
+struct Careless : QuietPrompts {
+    Answer ask_yes_no_cancel(const Message&) override { return Answer::no; }
+};
+
+struct NoFiles : Files {
+    std::optional<std::string> choose_to_open(const FileChoice&) override { return std::nullopt; }
+    std::optional<std::string> choose_to_save(const FileChoice&) override { return std::nullopt; }
+};
+
+QString name_of(QWidget& widget) {
+    auto* const seen = QAccessible::queryAccessibleInterface(&widget);
+    return seen == nullptr ? widget.accessibleName() : seen->text(QAccessible::Name);
+}
+
+bool is_part_of_another(const QWidget& widget) {
+    const auto* const whole = widget.parentWidget();
+    return qobject_cast<const QAbstractSpinBox*>(whole) != nullptr ||
+           qobject_cast<const QLineEdit*>(whole) != nullptr ||
+           qobject_cast<const QComboBox*>(whole) != nullptr ||
+           qobject_cast<const QHeaderView*>(&widget) != nullptr;
+}
+
+bool is_control(const QWidget& widget) {
+    const bool is_choice = widget.findChild<QButtonGroup*>(QString(), Qt::FindDirectChildrenOnly) != nullptr;
+    return is_choice || qobject_cast<const QAbstractButton*>(&widget) != nullptr ||
+           qobject_cast<const QLineEdit*>(&widget) != nullptr ||
+           qobject_cast<const QAbstractSpinBox*>(&widget) != nullptr ||
+           qobject_cast<const QComboBox*>(&widget) != nullptr ||
+           qobject_cast<const QPlainTextEdit*>(&widget) != nullptr ||
+           qobject_cast<const QAbstractItemView*>(&widget) != nullptr ||
+           dynamic_cast<const Canvas*>(&widget) != nullptr;
+}
+
+// What somebody meets who reads a window by ear, and what the pointer tells about its buttons.
+void read(QWidget& window) {
+    constexpr int narrow_screen = 1024;
+    EXPECT_LE(window.minimumSizeHint().width(), narrow_screen) << window.objectName().toStdString();
+    std::map<QString, QString> names;
+    for (auto* const widget : window.findChildren<QWidget*>()) {
+        if (widget->window() != &window || !widget->isVisibleTo(&window)) continue;
+        if (!is_control(*widget) || is_part_of_another(*widget)) continue;
+        const auto where = (window.objectName() + ": " + widget->objectName()).toStdString();
+        const auto name = name_of(*widget);
+        EXPECT_FALSE(name.isEmpty()) << where << " has no name";
+        EXPECT_FALSE(name.contains('&')) << where << ' ' << name.toStdString();
+        const bool is_new = name.isEmpty() || names.try_emplace(name, widget->objectName()).second;
+        EXPECT_TRUE(is_new) << where << " and " << names[name].toStdString() << " are both "
+                            << name.toStdString();
+        if (qobject_cast<QPushButton*>(widget) == nullptr) continue;
+        EXPECT_FALSE(widget->toolTip().isEmpty()) << where << " has no tooltip";
+        EXPECT_TRUE(widget->isEnabled() || widget->toolTip().contains('\n')) << where << " tells no reason";
+    }
+}
+
+// Presses whatever opens something, and what opens is read and treated alike.
+class Visitor {
+public:
+    void press(const std::function<void()>& action) {
+        QTimer look;
+        look.setInterval(0);
+        QObject::connect(&look, &QTimer::timeout, [this] { visit_new(); });
+        look.start();
+        action();
+        for (int round = 0; round < 3; ++round) QApplication::processEvents();
+    }
+
+    std::set<QString> seen;
+
+private:
+    void visit_new() {
+        for (const QPointer<QWidget> window : QApplication::topLevelWidgets()) {
+            if (window.isNull() || !window->isVisible() || !window->isWindow()) continue;
+            const bool is_page = window->windowType() == Qt::Window || window->windowType() == Qt::Dialog;
+            if (!is_page || !open_.insert(window).second) continue;
+            visit(*window);
+            open_.erase(window);
+            if (!window.isNull() && window->isVisible()) window->close();
+        }
+    }
+
+    void visit(QWidget& window) {
+        const auto* const opener = window.parentWidget();
+        const auto from = opener == nullptr ? QString() : opener->objectName() + ' ';
+        if (!seen.insert(from + window.objectName()).second) return;
+        read(window);
+        for (auto* const list : window.findChildren<QTreeView*>())
+            list->setCurrentIndex(list->model()->index(0, 0));
+        QList<QPointer<QAbstractButton>> last, buttons;
+        for (auto* const button : window.findChildren<QAbstractButton*>())
+            (button->objectName() == "pick" ? last : buttons).append(button);
+        for (const auto& button : buttons + last)
+            if (!button.isNull() && opens_something(*button)) press([&] { button->click(); });
+    }
+
+    static bool opens_something(const QAbstractButton& button) {
+        const bool is_pressed = qobject_cast<const QPushButton*>(&button) != nullptr ||
+                                dynamic_cast<const SwatchButton*>(&button) != nullptr;
+        const bool closes = qobject_cast<QDialogButtonBox*>(button.parentWidget()) != nullptr ||
+                            button.objectName() == "ok" || button.objectName() == "cancel";
+        return is_pressed && button.isEnabled() && button.isVisible() && !closes;
+    }
+
+    std::set<QWidget*> open_;
+};
+
+template <class Record>
+Database<Record> one(const char* name) {
+    Database<Record> database;
+    database.count = 1;
+    database.slots.resize(database_slots);
+    database.slots[0].name.assign(name);
+    return database;
+}
+
+void fill_databases(const std::string& folder) {
+    SaveHops(folder, one<HopRecord>("Saaz"));
+    SaveMalts(folder, one<MaltRecord>("Maris Otter"));
+    SaveYeasts(folder, one<YeastRecord>("Ale"));
+    SaveExtras(folder, one<ExtraRecord>("Moss"));
+    SaveStyles(folder, true, one<StyleRecord>("Mild"));
+}
+
+// A line of each kind, so that all their buttons open something.
+std::string save_full_recipe(Brewery& brewery) {
+    auto document = new_document(brewery.program.settings, ScheduleKind::simple);
+    document.malts.resize(1);
+    document.malts[0].record.malt_type = MaltType::grain;
+    document.malts[0].amount = 10;
+    document.hops.resize(1);
+    document.extras.resize(1);
+    auto path = brewery.folder.path() + "Mild.rec";
+    QuietPrompts quiet;
+    EXPECT_TRUE(save_recipe(path, document, quiet));
+    return path;
+}
+
+TEST(EveryWindow, IsReadByEarAndTellsWhatItsButtonsDo) {
+    Brewery brewery;
+    fill_databases(brewery.folder.path());
+    Careless prompts;
+    NoFiles files;
+    auto& program = brewery.program;
+    program.water_database = one<WaterRecord>("Burton");
+    const auto path = save_full_recipe(brewery);
+    MainWindow window({program, prompts, files, brewery.pages, brewery.clipboard});
+    window.show();
+    Visitor visitor;
+    visitor.press([&] { read(window); });
+    visitor.seen.clear();
+    for (const auto& tool : tools()) {
+        if (tool.command == command::exit || !window.commands().is_built(tool.command)) continue;
+        visitor.press([&] { window.commands().start(tool.command); });
+        if (tool.make != nullptr && tool.prepare == nullptr) {
+            EXPECT_TRUE(visitor.seen.count(string_of(tool.window.template_name)))
+                << tool.window.template_name;
+        }
+    }
+    visitor.seen.erase("RECIPEDIALOG"); // that of a new recipe had no lines
+    visitor.press([&] { window.open_file(path); });
+    EXPECT_GT(visitor.seen.size(), 50U) << "not all that can be opened has been";
+}
+
+} // namespace
+} // namespace wortlex
