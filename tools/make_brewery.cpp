@@ -6,6 +6,7 @@
 #include "records/documents/document_files.h"
 #include "records/water/water_needs.h"
 #include "sample_sources.h"
+#include "settings/screen_colours.h"
 
 #include <algorithm>
 #include <cstdio>
@@ -91,6 +92,7 @@ void make_sample(const std::string& folder, const Sample& sample) {
 // All sources are read before the first file is written: a mistake in one makes nothing.
 void make_brewery(const std::string& data, const std::string& target) {
     auto image = WriteDefaultSettings();
+    set_colours(image, colours_of(ColourPreset::desktop));
     const auto databases = read_databases(data + "databases/");
     auto repaired = image;
     const auto samples = read_samples(data + "samples/", databases, settings_from(repaired));

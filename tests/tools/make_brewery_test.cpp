@@ -1,6 +1,7 @@
 #include "base/ports/quiet_prompts.h"
 #include "brewing/beer_colour.h"
 #include "companion/evaluation.h"
+#include "settings/screen_colours.h"
 #include "support/process.h"
 
 #include <gmock/gmock.h>
@@ -77,12 +78,14 @@ TEST(MakeBrewery, entries_are_the_rows_of_the_tables) {
     }
 }
 
-// With the default settings that the brewery has.
+// With the settings that the brewery has: the built-in ones in the colors of the desktop.
 Program load_sample(const std::string& file) {
     Program program;
     QuietPrompts prompts;
     EXPECT_TRUE(start_core(program, made_brewery(), prompts));
-    EXPECT_EQ(LoadSystemFiles(made_brewery()).settings, WriteDefaultSettings());
+    auto expected = WriteDefaultSettings();
+    set_colours(expected, colours_of(ColourPreset::desktop));
+    EXPECT_EQ(LoadSystemFiles(made_brewery()).settings, expected);
     EXPECT_EQ(program.water_usage.evaporation_rate, 10);
     EXPECT_EQ(load_document(program, made_brewery() + file, *document_kind(file)), LoadResult::loaded);
     return program;
