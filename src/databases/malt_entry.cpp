@@ -141,7 +141,6 @@ void malt_entry_form(Form& form, MaltRecord& malt, const Settings& settings) {
     analysis_rows(form.group("Analysis"), malt, settings);
     form.next_column();
     yield_rows(form.group("Extract"), malt, yields, settings);
-    form.next_column();
     auto& notes = form.group("Notes");
     notes.text("use_for", malt.use_for).label("Use For").limit(152).lines();
     notes.text("comments", malt.comments).label("Comments").limit(152).lines();

@@ -79,7 +79,6 @@ void style_entry_form(Form& form, StyleRecord& style, const Settings& settings) 
     auto& look = form.group("Color and Malt");
     look.text("colour_note", style.colour_note).label("Color &Note").limit(152).lines();
     look.text("malt_note", style.malt_note).label("Malt No&te").limit(152).lines();
-    form.next_column();
     auto& hops = form.group("Hops and Yeast");
     hops.text("hop_note", style.hop_note).label("Hop Not&e").limit(152).lines();
     hops.text("yeast_note", style.yeast_note).label("&Yeast Note").limit(152).lines();

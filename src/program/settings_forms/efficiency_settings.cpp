@@ -100,6 +100,7 @@ void setup_buttons(Rows& rows, SystemSettings& image) {
 void efficiency_settings_form(Form& form, SystemSettings& image, const EfficiencyButtons& buttons) {
     percent_row(form.group(), "efficiency", image.efficiency, 0, 100).label("Default &Brewhouse Efficiency:");
     potential_row(form.group("Show Extract Potential As:"), image);
+    form.next_column();
     contribution_row(form.group("Show Actual Extract Contribution As:"), image);
     form.group("Within A Recipe Grain List, Default to View Ingredient Contribution As:")
         .choice("view_actual_extract", image.view_actual_extract, {"Potential E&xtract", "A&ctual Extract"});

@@ -98,11 +98,11 @@ void size_rows(Rows& rows, SystemSettings& image) {
 
 void measure_settings_form(Form& form, SystemSettings& image, std::function<void()> help) {
     units_rows(form.group("Measurements"), image);
-    size_rows(form.group("Sizes"), image);
-    form.next_column();
     auto& sg = form.group("&Decimal Precision for SG Readings:");
     sg.choice("sg_precision", image.sg_precision, {"3", "4", "5"});
     sg.note("sg_precision_note", "(Style Guidlines are locked at 3. Refractometer Readings are locked at 5)");
+    form.next_column();
+    size_rows(form.group("Sizes"), image);
     auto& plato = form.group("Decimal Precision for Pl&ato, Points and HWE Readings:");
     plato.choice("plato_precision", image.plato_precision, {"1", "2", "3"});
     plato.note("plato_precision_note", "(Refractometer Readings are locked at 3)");
