@@ -27,6 +27,7 @@ void method_rows(Form& form, BoilOffCalculator& calculator, const std::function<
                 {"&Calc Using % Per Hour from Evaporation Calculator",
                  "Calc &Using Volume Per Hour From Evaporation Calculator",
                  "&Free Form Entry for Evaporation Amount"})
+        .named("Method")
         .codes({1, 0, 2})
         .look(ChoiceRow::Look::down)
         .changed(settle);

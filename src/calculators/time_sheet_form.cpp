@@ -14,7 +14,7 @@ void time_sheet_form(Form& form, TimeSheet& sheet, TimeSheetActions actions) {
         "lines", {{"Clock Time", false, 8}, {"Running Time", false, 8}, {"Comment", false, 40, true}},
         [&sheet] { return sheet.line_count(); },
         [&sheet](std::size_t line, std::size_t column) { return sheet.cell(line, column); });
-    list.selection(sheet.selected).activated([&sheet] { sheet.comment(); }).changed([&sheet] {
+    list.named("Events").selection(sheet.selected).activated([&sheet] { sheet.comment(); }).changed([&sheet] {
         sheet.tick();
     });
     list.hint("Enter puts a comment on the selected line, Delete takes it away");
@@ -22,15 +22,15 @@ void time_sheet_form(Form& form, TimeSheet& sheet, TimeSheetActions actions) {
     watch.button("start", "Sta&rt Timeline", [&sheet] { sheet.start(); }).enabled([&sheet] {
         return sheet.may_start();
     });
-    watch.button("stop", "St&op Timeline", [&sheet] { sheet.stop(); }).enabled([&sheet] {
-        return sheet.is_running();
-    });
-    watch.button("comment", "&Comment", [&sheet] { sheet.comment(); }).enabled([&sheet] {
-        return sheet.selected >= 0;
-    });
-    watch.button("erase", "&Delete", [&sheet] { sheet.erase(); }).enabled([&sheet] {
-        return !sheet.is_running() && sheet.selected >= 0;
-    });
+    watch.button("stop", "St&op Timeline", [&sheet] { sheet.stop(); })
+        .enabled([&sheet] { return sheet.is_running(); })
+        .disabled_because("The clock is not running");
+    watch.button("comment", "&Comment", [&sheet] { sheet.comment(); })
+        .enabled([&sheet] { return sheet.selected >= 0; })
+        .disabled_because("No event is selected");
+    watch.button("erase", "&Delete", [&sheet] { sheet.erase(); })
+        .enabled([&sheet] { return !sheet.is_running() && sheet.selected >= 0; })
+        .disabled_because("The clock is running, or no event is selected");
     auto& files = form.group();
     files.button("load", "&Load", [&sheet] { sheet.load(); }).enabled(is_idle);
     files.button("save", "&Save", [&sheet] { sheet.save(); }).enabled(is_idle);

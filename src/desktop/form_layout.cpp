@@ -8,6 +8,8 @@
 #include <QGroupBox>
 #include <QHBoxLayout>
 
+#include <set>
+
 namespace wortlex {
 namespace {
 
@@ -19,8 +21,9 @@ bool stands_beside_ok(const Row& row) {
 // Rows below each other, labels in the first of two columns.
 class RowsLayout : private RowVisitor {
 public:
-    RowsLayout(const FormWidgets& widgets, QGridLayout& grid, QDialogButtonBox* beside_ok)
-        : widgets_(widgets), grid_(grid), beside_ok_(beside_ok) {}
+    RowsLayout(const FormWidgets& widgets, QGridLayout& grid, QDialogButtonBox* beside_ok,
+               std::set<QString>& cell_names)
+        : widgets_(widgets), grid_(grid), beside_ok_(beside_ok), cell_names_(cell_names) {}
 
     void add(const Rows& rows) {
         stacks_buttons_ = rows.has_stacked_buttons();
@@ -74,9 +77,16 @@ private:
             if (column == 1) make_buddies(*label, field);
             if (auto* const words = qobject_cast<QLabel*>(&field)) words->setAlignment(Qt::AlignCenter);
             if (field.accessibleName().isEmpty())
-                field.setAccessibleName(cell_name(*label, grid, static_cast<std::size_t>(column) - 1));
+                field.setAccessibleName(
+                    distinct(cell_name(*label, grid, static_cast<std::size_t>(column) - 1), *cell));
             table.addWidget(&field, place, column++);
         }
+    }
+
+    // Cells of lines that are called alike are told apart by their keys.
+    QString distinct(QString name, const Row& cell) const {
+        if (cell_names_.insert(name).second) return name;
+        return name + QLatin1String(", ") + string_of(cell.key).replace(QLatin1Char('_'), QLatin1Char(' '));
     }
 
     // Of its line and its column.
@@ -105,14 +115,16 @@ private:
     const FormWidgets& widgets_;
     QGridLayout& grid_;
     QDialogButtonBox* beside_ok_;
+    std::set<QString>& cell_names_;
     QHBoxLayout* buttons_ = nullptr;
     bool stacks_buttons_ = false;
     bool has_tall_field_ = false;
 };
 
-QLayout* rows_layout(const Rows& rows, const FormWidgets& widgets, QDialogButtonBox* beside_ok) {
+QLayout* rows_layout(const Rows& rows, const FormWidgets& widgets, QDialogButtonBox* beside_ok,
+                     std::set<QString>& cell_names) {
     auto* const grid = new QGridLayout;
-    RowsLayout(widgets, *grid, beside_ok).add(rows);
+    RowsLayout(widgets, *grid, beside_ok, cell_names).add(rows);
     return grid;
 }
 
@@ -143,12 +155,13 @@ void fill_up(QVBoxLayout& column) {
 QLayout* lay_out(const Form& form, const FormWidgets& widgets, QDialogButtonBox* beside_ok) {
     auto* const columns = new QHBoxLayout;
     std::vector<QVBoxLayout*> all;
+    std::set<QString> cell_names;
     for (const auto& group : form.groups()) {
         if (all.empty() || group->begins_column) {
             all.push_back(new QVBoxLayout);
             columns->addLayout(all.back(), 1);
         }
-        add_group(*all.back(), *group, rows_layout(group->content, widgets, beside_ok));
+        add_group(*all.back(), *group, rows_layout(group->content, widgets, beside_ok, cell_names));
     }
     for (auto* const column : all) fill_up(*column);
     return columns;

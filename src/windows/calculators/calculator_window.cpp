@@ -1,5 +1,6 @@
 #include "windows/calculators/calculator_window.h"
 
+#include "desktop/captions.h"
 #include "desktop/qt_text.h"
 #include "program/program.h"
 
@@ -63,6 +64,7 @@ CalculatorWindow::CalculatorWindow(const WindowPorts& ports, const WindowInfo& i
 void CalculatorWindow::add_buttons(Buttons buttons) {
     auto* const box = new QDialogButtonBox(QDialogButtonBox::Ok, this);
     if (buttons == Buttons::ok_and_cancel) box->addButton(QDialogButtonBox::Cancel);
+    set_tips(*box, false);
     connect(box, &QDialogButtonBox::accepted, this, [this] {
         is_accepted_ = true;
         close();

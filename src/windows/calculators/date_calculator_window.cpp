@@ -3,6 +3,8 @@
 #include "brewing/calendar.h"
 #include "program/program.h"
 
+#include "desktop/captions.h"
+
 #include <QDialogButtonBox>
 #include <QGridLayout>
 #include <QShortcut>
@@ -35,6 +37,7 @@ DateCalculatorWindow::DateCalculatorWindow(const WindowPorts& ports, const Windo
     result->addWidget(&widgets_.field("days"));
     result->addStretch();
     auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Ok, this);
+    set_tips(*buttons, false);
     connect(buttons, &QDialogButtonBox::accepted, this, &QWidget::close);
     result->addWidget(buttons);
     grid->addLayout(result, 2, 0, 1, 2);

@@ -1,5 +1,6 @@
 #include "windows/calculators/time_sheet_window.h"
 
+#include "desktop/captions.h"
 #include "desktop/form_dialog.h"
 #include "desktop/list_keys.h"
 #include "program/program.h"
@@ -62,6 +63,7 @@ void TimeSheetWindow::lay_out_rows() {
     for (const auto* const key : {"load", "save", "print", "help"}) buttons->addWidget(&widgets_.field(key));
     layout->addLayout(buttons);
     auto* const ok = new QDialogButtonBox(QDialogButtonBox::Ok, this);
+    set_tips(*ok, false);
     connect(ok, &QDialogButtonBox::accepted, this, &QWidget::close);
     layout->addWidget(ok);
 }

@@ -40,6 +40,7 @@ bool is_part_of_another(const QWidget& widget) {
     return qobject_cast<const QAbstractSpinBox*>(whole) != nullptr ||
            qobject_cast<const QLineEdit*>(whole) != nullptr ||
            qobject_cast<const QComboBox*>(whole) != nullptr ||
+           widget.objectName().startsWith("qt_calendar_") ||
            qobject_cast<const QHeaderView*>(&widget) != nullptr;
 }
 
