@@ -10,8 +10,17 @@
 #include <QShortcut>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace wortlex {
 namespace {
+
+bool is_taken(const QString& name, const QWidget& field) {
+    const auto all = field.window()->findChildren<QWidget*>();
+    return std::any_of(all.begin(), all.end(), [&](const QWidget* other) {
+        return other != &field && other->accessibleName() == name;
+    });
+}
 
 constexpr int title_bar_buttons = 80; // pixels
 
@@ -33,7 +42,10 @@ void finish_line(const GridRow& grid, const GridRow::Line& line, const FormWidge
         if (column < grid.captions.size()) word = grid.captions[column]();
         widgets.field(cell).setMaximumWidth(QWIDGETSIZE_MAX); // figures as wide as the fields above them
         auto name = string_of(line.label() + " " + word).remove(QLatin1Char('&'));
-        widgets.field(cell).setAccessibleName(name.replace(QLatin1Char('\n'), QLatin1Char(' ')).trimmed());
+        name = name.replace(QLatin1Char('\n'), QLatin1Char(' ')).trimmed();
+        if (is_taken(name, widgets.field(cell))) // lines called alike are told apart by their keys
+            name += QLatin1String(", ") + string_of(cell.key).replace(QLatin1Char('_'), QLatin1Char(' '));
+        widgets.field(cell).setAccessibleName(name);
     }
 }
 
