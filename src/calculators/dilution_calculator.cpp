@@ -1,6 +1,7 @@
 #include "calculators/dilution_calculator.h"
 
 #include "base/files.h"
+#include "base/number.h"
 #include "brewing/dilution.h"
 #include "calculators/state_file.h"
 

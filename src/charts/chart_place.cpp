@@ -63,7 +63,7 @@ private:
 } // namespace
 
 void draw_in_place(const ChartPlace& place, Extent chart, const std::function<void(Surface&)>& draw) {
-    constexpr Extent room{445, 320}; // units of a place for a chart
+    constexpr auto room = ChartPlace::units;
     const double scale = place.scale * std::min(static_cast<double>(room.width) / chart.width,
                                                 static_cast<double>(room.height) / chart.height);
     const Point offset{place.offset.x + truncate((room.width * place.scale - chart.width * scale) / 2),

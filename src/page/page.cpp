@@ -18,8 +18,7 @@ constexpr int rule_units = 6;    // thickness of a rule, in tenths
 constexpr int paragraph_columns = 101;
 constexpr int lines_with_paragraph = 4;
 constexpr int box_width = 100, box_gap = 5; // dots
-constexpr Extent chart_units{445, 320};
-constexpr double chart_share = 0.75; // of the page's height, that a chart wants to find free
+constexpr double chart_share = 0.75;        // of the page's height, that a chart wants to find free
 constexpr std::string_view face = "Arial";
 
 struct FontShape {
@@ -297,13 +296,15 @@ ChartPlace PageContext::PlaceChart(ChartForm form) {
     if (y_ > 0 && is_short) EndPage();
     if (y_ == 0) begin_page();
     const int room = height - y_;
-    const double scale = std::min(
-        {printer_scale_ * width / chart_units.width, printer_scale_ * height / chart_units.height,
-         static_cast<double>(width) / chart_units.width, static_cast<double>(room) / chart_units.height});
-    const int free_above = form == ChartForm::alone ? truncate((room - chart_units.height * scale) / 2) : 0;
+    const double scale = std::min({printer_scale_ * width / ChartPlace::units.width,
+                                   printer_scale_ * height / ChartPlace::units.height,
+                                   static_cast<double>(width) / ChartPlace::units.width,
+                                   static_cast<double>(room) / ChartPlace::units.height});
+    const int free_above =
+        form == ChartForm::alone ? truncate((room - ChartPlace::units.height * scale) / 2) : 0;
     const ChartPlace place{
-        page(), {truncate((width - chart_units.width * scale) / 2), y_ + free_above}, scale};
-    y_ = place.offset.y + truncate(chart_units.height * scale);
+        page(), {truncate((width - ChartPlace::units.width * scale) / 2), y_ + free_above}, scale};
+    y_ = place.offset.y + truncate(ChartPlace::units.height * scale);
     return place;
 }
 

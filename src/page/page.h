@@ -20,8 +20,10 @@ enum class PageFont { body, body_italic, title, title_italic, small };
 /// A chart that stands alone on its page, or below the lines of a report.
 enum class ChartForm { alone, in_report };
 
-/// Where a chart of 445 by 320 logical units goes: `offset` is its corner, `scale` the dots of one unit.
+/// Where a chart of so many logical units goes: `offset` is its corner, `scale` the dots of one unit.
 struct ChartPlace {
+    static constexpr Extent units{445, 320};
+
     Surface& surface;
     Point offset;
     double scale = 1;
