@@ -39,7 +39,10 @@ bool DocumentHistory::note(const OpenDocument& open, std::string_view name, std:
     undone_.clear();
     if (!merges) done_.push_back({std::string(name), now_});
     now_ = state_of(open);
-    if (merges && now_.image == done_.back().state.image) done_.pop_back(); // typed back
+    if (merges && now_.image == done_.back().state.image) { // typed back
+        done_.pop_back();
+        merge_key_.clear();
+    }
     if (done_.size() > most_steps) done_.pop_front();
     return true;
 }

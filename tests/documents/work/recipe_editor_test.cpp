@@ -238,6 +238,13 @@ TEST(DocumentHistory, TypingMakesOneStep) {
         work.form.type(dynamic_cast<EntryRow&>(work.form.row("batch_size")), field);
     }
     EXPECT_EQ(work.editor.history.to_undo(), "") << "nothing has changed";
+    work.type("title", "Bitter");
+    for (const char* text : {"9", "5", "9"}) {
+        field.content = text;
+        work.form.type(dynamic_cast<EntryRow&>(work.form.row("batch_size")), field);
+    }
+    undo(work.editor);
+    EXPECT_EQ(work.document.title.view(), "Bitter") << "what is typed after that is a step of its own";
 }
 
 TEST(DocumentHistory, PagesAreOneStepAndSavesAreNone) {
