@@ -13,12 +13,15 @@ namespace {
 constexpr std::size_t most_names_text = std::size_t{1} << 20;
 constexpr std::size_t most_alternatives = 64; // of a query; a file may hold any chain of names
 
-// The letters of Windows-1252 from 0xC0, without their accents.
-constexpr std::string_view plain_letters = "aaaaaaaceeeeiiiidnooooo ouuuuytsaaaaaaaceeeeiiiidnooooo ouuuuyty";
+// The letters of Windows-1252 from 0x80, without their accents.
+constexpr std::string_view plain_letters = "          s o z           s o zy"
+                                           "                                "
+                                           "aaaaaaaceeeeiiiidnooooo ouuuuyts"
+                                           "aaaaaaaceeeeiiiidnooooo ouuuuyty";
 
 char plain_letter(char c) {
     const auto code = static_cast<unsigned char>(c);
-    if (code >= 0xC0) return plain_letters.at(code - 0xC0U);
+    if (code >= 0x80) return plain_letters.at(code - 0x80U);
     return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
 }
 
@@ -120,8 +123,8 @@ FindWords find_words(std::string_view utf8) {
     std::string word;
     const auto text = windows1252_from_utf8(utf8).value_or(std::string(utf8)) + ' ';
     for (const char raw : text) {
+        if (is_within_word(raw)) continue;
         const char c = plain_letter(raw);
-        if (is_within_word(c)) continue;
         if (!separates(c))
             word += c;
         else if (!word.empty())

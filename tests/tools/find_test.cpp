@@ -37,5 +37,10 @@ TEST(Find, FindsWhatABrewerMeansInTheShippedLists) {
     EXPECT_EQ(found(hop_list, "EKG").substr(0, 18), "East Kent Goldings");
 }
 
+TEST(Find, ComparesLettersWithoutTheirAccents) {
+    EXPECT_EQ(find_words("\u0160koda \u017Datec \u0161 \u017E \u0152uf \u0178 \u00B0 O\u2019Hara"),
+              (FindWords{"skoda", "zatec", "s", "z", "ouf", "y", "ohara"}));
+}
+
 } // namespace
 } // namespace wortlex
