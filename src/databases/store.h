@@ -10,17 +10,20 @@
 
 namespace wortlex {
 
+/// A figure that is no number equals itself.
+template <class Record>
+bool is_identical(const Record& a, const Record& b) {
+    return a == b || encoded(a, layout_of(a)) == encoded(b, layout_of(b));
+}
+
 /// Whether two databases have the same entries and leftovers. Entries that sort alike may have changed
-/// places, and a figure that is no number equals itself.
+/// places.
 template <class Record>
 bool holds_the_same(const Database<Record>& a, const Database<Record>& b) {
     if (a.count != b.count) return false;
-    const auto same = [](const Record& x, const Record& y) {
-        return x == y || encoded(x, layout_of(x)) == encoded(y, layout_of(y));
-    };
     const auto end = a.slots.begin() + a.count;
-    return std::is_permutation(a.slots.begin(), end, b.slots.begin(), same) &&
-           std::equal(end, a.slots.end(), b.slots.begin() + b.count, same);
+    return std::is_permutation(a.slots.begin(), end, b.slots.begin(), is_identical<Record>) &&
+           std::equal(end, a.slots.end(), b.slots.begin() + b.count, is_identical<Record>);
 }
 
 template <class Record>
@@ -89,10 +92,14 @@ protected:
     Database<Record>& database_;
 
 private:
+    bool has_selection() const { return selected >= 0 && static_cast<std::size_t>(selected) < shown_.size(); }
     std::optional<std::size_t> selected_entry() const;
     std::size_t first_like(std::size_t entry) const;
     bool passes(const Record& record) const;
     void fill();
+    /// The entry in the selected row, to be found again once the array has been sorted.
+    std::optional<Record> entry_in_row() const;
+    void select(const std::optional<Record>& entry);
     void append(const Record& record);
     bool has_room(Prompts& prompts) const;
     std::unique_ptr<EntryForm> form_on(std::shared_ptr<Record> copy, Prompts& prompts,
@@ -211,8 +218,23 @@ void Store<Record>::show_again() {
 }
 
 template <class Record>
+std::optional<Record> Store<Record>::entry_in_row() const {
+    if (!has_selection()) return std::nullopt;
+    return database_.slots[shown_[static_cast<std::size_t>(selected)]];
+}
+
+// Leaves the selection as it is if the entry is not in the list any more.
+template <class Record>
+void Store<Record>::select(const std::optional<Record>& entry) {
+    const auto found = std::find_if(shown_.begin(), shown_.end(), [&](std::size_t place) {
+        return entry && is_identical(database_.slots[place], *entry);
+    });
+    if (found != shown_.end()) selected = static_cast<std::int32_t>(found - shown_.begin());
+}
+
+template <class Record>
 std::optional<std::size_t> Store<Record>::selected_entry() const {
-    if (selected < 0 || static_cast<std::size_t>(selected) >= shown_.size()) return std::nullopt;
+    if (!has_selection()) return std::nullopt;
     const auto entry = shown_[static_cast<std::size_t>(selected)];
     return entry == cloned_ ? entry : first_like(entry);
 }
@@ -365,7 +387,7 @@ void Store<Record>::delete_entry(Prompts& prompts) {
     std::erase(shown_, *index);
     for (auto& row : shown_)
         if (row > *index) --row;
-    selected = shown_.empty() ? 0 : std::max(selected - 1, 0);
+    selected = shown_.empty() ? -1 : std::max(selected - 1, 0);
 }
 
 template <class Record>
@@ -474,17 +496,21 @@ bool Store<Record>::write(Prompts& prompts) {
 
 template <class Record>
 void Store<Record>::save(Prompts& prompts) {
+    const auto entry = entry_in_row();
     write(prompts);
     show_again();
+    select(entry);
 }
 
 template <class Record>
 bool Store<Record>::close(Prompts& prompts) {
+    const auto entry = entry_in_row();
     if (side() == ListSide::maintenance && is_changed()) {
         const auto answer = prompts.ask_yes_no_or_stay(
             {.text = catalogue_.words.closing_question, .icon = Icon::warning, .safe = Answer::yes});
         if (answer == Answer::cancel || (answer == Answer::yes && !write(prompts))) {
             show_again();
+            select(entry);
             return false;
         }
         if (answer == Answer::no) reload(prompts);

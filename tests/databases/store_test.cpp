@@ -110,8 +110,23 @@ TEST(Store, AddsClonesAndDeletes) {
     EXPECT_EQ(hops.database.count, 1) << "No reloads the file";
 }
 
+TEST(Store, SavingLeavesTheSelectionWhereItIs) {
+    Hops hops({hop("Ella", "AU", 15), hop("Fuggle", "UK", 4.5F), hop("Saaz", "CZ", std::nanf(""))});
+    hops->click(0);
+    for (const std::int32_t row : {0, 2}) {
+        hops->selected = row;
+        hops->save(hops.prompts);
+        EXPECT_EQ(hops->selected, row) << "downwards here, upwards in the file";
+    }
+}
+
 TEST(Store, EmptyDatabaseDoesNoHarm) {
-    Hops hops({});
+    Hops hops({hop("Saaz", "CZ", 3)});
+    hops.prompts.expect("yes/no", "Do you really want to delete the\n\nSaaz\n\nentry?", Answer::yes,
+                        Icon::question);
+    hops->delete_entry(hops.prompts);
+    EXPECT_EQ(hops->selected, -1);
+    hops->save(hops.prompts);
     EXPECT_EQ(hops->edit_entry(hops.prompts), nullptr);
     EXPECT_EQ(hops->inventory(hops.prompts), nullptr);
     hops->delete_entry(hops.prompts);
