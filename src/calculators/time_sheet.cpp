@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <utility>
 
 namespace wortlex {
 namespace {
@@ -28,6 +29,11 @@ constexpr Message kept_question = {
 std::string kept_path(const std::string& data_folder) {
     return data_folder + std::string(kept_file);
 }
+
+constexpr Message cannot_be_kept = {
+    .text = "The time line cannot be kept against a crash: the data folder cannot be written.\nSave it when "
+            "you stop.",
+    .icon = Icon::warning};
 
 // Where it waits while another time line is begun.
 std::string aside_path(const std::string& data_folder) {
@@ -91,11 +97,12 @@ void TimeSheet::add_event(std::int32_t moment, std::string_view comment) {
     changed();
 }
 
-// Kept at once: a brew day cannot be done again.
+// Kept at once: a brew day cannot be done again. Where that fails it is told, but not at every event.
 void TimeSheet::changed() {
     if (line_.entries.empty()) return forget_kept();
     is_modified_ = true;
-    save_atomically(kept_path(desk_.data_folder), time_line_bytes(line_));
+    const bool is_kept = save_atomically(kept_path(desk_.data_folder), time_line_bytes(line_));
+    if (std::exchange(could_keep_, is_kept) && !is_kept) desk_.prompts.tell(cannot_be_kept);
 }
 
 void TimeSheet::forget_kept() {
@@ -174,9 +181,7 @@ void TimeSheet::save() {
 bool TimeSheet::may_drop() {
     if (!is_modified_) return true;
     const auto answer = desk_.prompts.ask_yes_no_cancel(save_question);
-    if (answer == Answer::yes) return store();
-    if (answer == Answer::no) forget_kept();
-    return answer == Answer::no;
+    return answer == Answer::yes ? store() : answer == Answer::no;
 }
 
 void TimeSheet::load() {
@@ -189,6 +194,7 @@ void TimeSheet::load() {
     if (!line)
         return desk_.prompts.tell(
             {.text = file_name(*path) + " is damaged and cannot be loaded.", .icon = Icon::warning});
+    if (is_modified_) forget_kept();
     line_ = std::move(*line);
     line_.path.assign(*path);
     is_loaded_ = true;
@@ -197,7 +203,9 @@ void TimeSheet::load() {
 
 bool TimeSheet::may_close() {
     stop();
-    return !is_running_ && may_drop();
+    if (is_running_ || !may_drop()) return false;
+    if (is_modified_) forget_kept();
+    return true;
 }
 
 void TimeSheet::offer_kept() {

@@ -65,6 +65,7 @@ private:
     void changed();
     void forget_kept();
     bool store();
+    /// Asks about an unsaved time line; true if it is saved, or may be dropped: the caller forgets it then.
     bool may_drop();
 
     TimeSheetDesk desk_;
@@ -74,6 +75,7 @@ private:
     bool is_held_ = false; ///< the live line stands still
     bool is_loaded_ = false;
     bool is_modified_ = false;
+    bool could_keep_ = true; ///< the last time
 };
 
 struct TimeSheetActions {

@@ -10,6 +10,7 @@
 #include <gmock/gmock.h>
 
 #include <cstdlib>
+#include <filesystem>
 #include <fstream>
 
 namespace wortlex {
@@ -166,6 +167,35 @@ TEST(TimeSheet, ABrokenDayIsOfferedAgain) {
     EXPECT_EQ(offered(Answer::no), "");
     EXPECT_FALSE(day.is_kept());
     day.sheet().offer_kept(); // asks nothing
+}
+
+TEST(TimeSheet, IsKeptUntilAnotherIsReallyLoadedAndTellsOnceWhereItCannotBe) {
+    BrewDay day;
+    auto sheet = day.sheet();
+    day.comments = {"mash in", "sparge", "boil"};
+    sheet.start();
+    day.expect_stop(Answer::yes);
+    sheet.stop();
+    day.expect_save(Answer::no);
+    day.files.add(std::nullopt);
+    sheet.load();
+    EXPECT_TRUE(day.is_kept()) << "the file dialog was left";
+    const auto kept = day.folder.path() + "WlxTime.rcv";
+    const auto old = day.folder.path() + "old.tml";
+    std::filesystem::copy_file(kept, old);
+    std::filesystem::remove(kept);
+    std::filesystem::create_directories(kept + "/in the way");
+    day.prompts.expect_tell("The time line cannot be kept against a crash: the data folder cannot be "
+                            "written.\nSave it when you stop.",
+                            Icon::warning);
+    for (int i = 0; i < 2; ++i) sheet.comment();
+    EXPECT_EQ(sheet.cell(0, 2), "boil");
+    std::filesystem::remove_all(kept);
+    day.expect_save(Answer::no);
+    day.files.add(old);
+    sheet.load();
+    EXPECT_EQ(sheet.cell(0, 2), "mash in");
+    EXPECT_TRUE(sheet.may_close()) << "nothing is left to be saved";
 }
 
 TEST(TimeSheet, TakesNoMoreLinesThanItsFileHolds) {
