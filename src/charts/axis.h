@@ -24,7 +24,7 @@ struct Tick {
     std::string label; ///< empty: the line alone
 };
 
-/// A tick at each whole `step` (above 0) from `low` to `high`, both included.
+/// A tick at `low`, which must be whole, and at each `step` (above 0) from there up to `high`, included.
 std::vector<Tick> ticks(const Axis& axis, int step, const std::function<std::string(int)>& label);
 
 } // namespace wortlex
