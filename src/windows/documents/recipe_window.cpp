@@ -166,9 +166,10 @@ bool RecipeWindow::may_leave_recipe() {
     if (is_asking_ || has_dialog(yeast_and_water_) || has_dialog(extras_) || has_dialog(mash_)) return false;
     is_asking_ = true;
     auto current = saving();
+    const auto before = document_.file.path;
     const bool may = may_leave(current);
     is_asking_ = false;
-    tell_change(editor_);
+    follow_save(before);
     return may;
 }
 
@@ -193,14 +194,18 @@ bool RecipeWindow::save_recipe(SaveAs save_as) {
     auto current = saving();
     const auto before = document_.file.path;
     const bool saved = save(current, save_as);
+    follow_save(before);
+    return saved;
+}
+
+void RecipeWindow::follow_save(const std::string& path_before) {
     const auto& path = document_.file.path;
-    if (saved && path != before) {
+    if (path != path_before) {
         follow_user(program_.folders, FolderKind::recipes, path);
         remember_document(program_, path);
     }
     keep_or_tell();
     tell_change(editor_);
-    return saved;
 }
 
 void RecipeWindow::print() {

@@ -47,6 +47,8 @@ private:
     void start_new();
     void open_another();
     bool save_recipe(SaveAs save_as);
+    /// The recipe may have been saved, and may have another file than before.
+    void follow_save(const std::string& path_before);
     DocumentSaving saving();
     void print();
 

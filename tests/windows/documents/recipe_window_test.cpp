@@ -194,8 +194,11 @@ TEST(RecipeWindow, UndoIsTheRecipesInEveryField) {
     EXPECT_FALSE(kitchen.recipe->close());
     kitchen.prompts.expect("yes/no/cancel",
                            "The current recipe has been modified!\nDo you want to save the changes?",
-                           Answer::no, Icon::question);
+                           Answer::yes, Icon::question);
+    const auto path = kitchen.folder / "Stout.rec";
+    kitchen.files.add(path);
     EXPECT_TRUE(kitchen.recipe->close());
+    EXPECT_EQ(kitchen.program.recent_documents, RecentDocuments{path}) << "saved on leaving counts as well";
 }
 
 TEST(RecipeWindow, StaysWhileADialogIsOpenOverAPage) {
