@@ -152,6 +152,13 @@ void fill_up(QVBoxLayout& column) {
 
 } // namespace
 
+void add_field(QGridLayout& grid, const FormWidgets& widgets, std::string_view key, int row, int column,
+               int columns) {
+    if (auto* const label = widgets.label(key))
+        grid.addWidget(label, row, column, Qt::AlignRight | Qt::AlignVCenter);
+    grid.addWidget(&widgets.field(key), row, column + 1, 1, columns);
+}
+
 QLayout* lay_out(const Form& form, const FormWidgets& widgets, QDialogButtonBox* beside_ok) {
     auto* const columns = new QHBoxLayout;
     std::vector<QVBoxLayout*> all;

@@ -105,13 +105,14 @@ FormWidgets::FormWidgets(Form& form, const Places& places, QWidget& parent)
 
 // After an edit the form shows its rows again, but the one being typed in. That edit is told to everyone, and
 // would come back here before.
-void FormWidgets::edit(const std::function<void()>& change) {
+bool FormWidgets::edit(const std::function<void()>& change) {
     const QPointer<QObject> still(&alive_);
     is_edited_ = true;
     change();
-    if (still.isNull()) return;
+    if (still.isNull()) return false;
     is_edited_ = false;
     if (std::exchange(has_missed_, false)) refresh();
+    return true;
 }
 
 QWidget& FormWidgets::field(const Row& row) const {
@@ -219,11 +220,17 @@ void FormWidgets::recolour() {
         if (row->area) apply_colours(*shown.field, *row->area, colours_);
 }
 
+// What was typed out of its range is gone, and what was said about it.
+void FormWidgets::show_value(const Shown& shown) {
+    if (shown.refresh) shown.refresh();
+    if (!hint_.isNull()) hint_->forget(*shown.field);
+}
+
 void FormWidgets::refresh(const Row* except) {
     recolour();
     count_names();
     for (const auto& [row, shown] : shown_) {
-        if (row != except && shown.refresh) shown.refresh();
+        if (row != except) show_value(shown);
         show_state(*row, shown);
     }
 }
@@ -252,50 +259,53 @@ void FormWidgets::make_page(EntryRow& row) {
 }
 
 void FormWidgets::make_line(EntryRow& row) {
-    QLineEdit* line = nullptr;
-    QWidget* widget = nullptr;
-    std::shared_ptr<LineField> field;
-    if (row.has_arrows()) {
-        auto* const arrows = new ArrowField(&parent_);
-        line = &arrows->line();
-        widget = arrows;
-        field = std::make_shared<LineField>(*line);
-        arrows->stepped = [this, &row, field, arrows](Spin direction) {
-            edit([&] { form_.spin(row, *field, direction); });
-            judge(row, *arrows, "");
-        };
-    } else {
-        widget = line = new QLineEdit(&parent_);
-        field = std::make_shared<LineField>(*line);
-    }
-    line->setReadOnly(row.is_read_only());
-    if (row.is_read_only()) widget->setFocusPolicy(Qt::ClickFocus); // to be copied, not to be passed through
-    aim_at_width(*line, row,
-                 widget == line ? 0 : 2 * widget->style()->pixelMetric(QStyle::PM_ScrollBarExtent));
-    select_on_focus(*line);
-    auto show = [&row, field] {
+    const auto line = made_line(row);
+    auto& shown = keep(row, *line.widget, [&row, text = line.text] {
         if (!row.text_when_disabled.empty() && !row.is_enabled())
-            return field->set_text(row.text_when_disabled);
-        row.show(*field);
-    };
-    QObject::connect(line, &QLineEdit::textEdited, &alive_, [this, &row, field, widget] {
-        edit([&] { form_.type(row, *field); });
-        judge(row, *widget, field->text());
+            return text->set_text(row.text_when_disabled);
+        row.show(*text);
     });
-    const auto leave = [this, &row, field, widget, show] {
-        show();
-        judge(row, *widget, "");
-        form_.leave();
-        if (widget->hasFocus()) field->select_all(); // after Enter: what is typed next is another number
-    };
-    // Enter in a field with arrows is told by the field alone.
-    if (auto* const arrows = qobject_cast<QAbstractSpinBox*>(widget))
-        QObject::connect(arrows, &QAbstractSpinBox::editingFinished, &alive_, leave);
-    else
-        QObject::connect(line, &QLineEdit::editingFinished, &alive_, leave);
-    auto& shown = keep(row, *widget, std::move(show));
     add_label(shown, row);
     add_unit(shown, row);
+    follow_typing(row, line);
+    follow_leaving(row, line);
+}
+
+FormWidgets::Line FormWidgets::made_line(EntryRow& row) {
+    auto* const arrows = row.has_arrows() ? new ArrowField(&parent_) : nullptr;
+    auto* const edit = arrows != nullptr ? &arrows->line() : new QLineEdit(&parent_);
+    auto* const widget = arrows != nullptr ? static_cast<QWidget*>(arrows) : edit;
+    edit->setReadOnly(row.is_read_only());
+    if (row.is_read_only()) widget->setFocusPolicy(Qt::ClickFocus); // to be copied, not to be passed through
+    aim_at_width(*edit, row,
+                 arrows == nullptr ? 0 : 2 * widget->style()->pixelMetric(QStyle::PM_ScrollBarExtent));
+    select_on_focus(*edit);
+    return {arrows, edit, widget, std::make_shared<LineField>(*edit)};
+}
+
+void FormWidgets::follow_typing(EntryRow& row, const Line& line) {
+    QObject::connect(line.edit, &QLineEdit::textEdited, &alive_, [this, &row, line] {
+        if (edit([&] { form_.type(row, *line.text); })) judge(row, *line.widget, line.text->text());
+    });
+    if (line.arrows == nullptr) return;
+    line.arrows->stepped = [this, &row, line](Spin direction) {
+        if (edit([&] { form_.spin(row, *line.text, direction); })) judge(row, *line.widget, "");
+    };
+}
+
+void FormWidgets::follow_leaving(EntryRow& row, const Line& line) {
+    const auto leave = [this, &row, line] {
+        show_value(shown_.at(&row));
+        const QPointer<QObject> still(&alive_);
+        form_.leave();
+        if (!still.isNull() && line.widget->hasFocus())
+            line.text->select_all(); // after Enter: what is typed next is another number
+    };
+    // Enter in a field with arrows is told by the field alone.
+    if (line.arrows != nullptr)
+        QObject::connect(line.arrows, &QAbstractSpinBox::editingFinished, &alive_, leave);
+    else
+        QObject::connect(line.edit, &QLineEdit::editingFinished, &alive_, leave);
 }
 
 // Says it at once where a typed number is out of range.

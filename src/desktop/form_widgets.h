@@ -7,12 +7,17 @@
 #include "settings/screen_colours.h"
 
 #include <QDialogButtonBox>
+#include <QGridLayout>
 #include <QLabel>
+#include <QLineEdit>
 #include <QWidget>
 
 #include <unordered_map>
 
 namespace wortlex {
+
+class ArrowField;
+class LineField;
 
 /// Owns no widget: all belong to `parent`. The form and the settings must outlive it.
 class FormWidgets : private RowVisitor {
@@ -43,6 +48,14 @@ private:
         QLabel* unit = nullptr;
     };
 
+    /// A field of one line, with arrows or without.
+    struct Line {
+        ArrowField* arrows; ///< may be null
+        QLineEdit* edit;
+        QWidget* widget; ///< the whole field
+        std::shared_ptr<LineField> text;
+    };
+
     void visit(EntryRow& row) override;
     void visit(ChoiceRow& row) override;
     void visit(CheckRow& row) override;
@@ -54,7 +67,8 @@ private:
     void visit(GridRow& row) override;
 
     void make(Row& row);
-    void edit(const std::function<void()>& change);
+    /// False: the change has ended these widgets.
+    bool edit(const std::function<void()>& change);
     void recolour();
     Shown& keep(Row& row, QWidget& field, std::function<void()> refresh);
     void add_label(Shown& shown, const Row& row);
@@ -62,9 +76,13 @@ private:
     QString plain_name(const Row& row) const;
     void name(const Row& row, QWidget& field) const;
     void count_names();
+    void show_value(const Shown& shown);
     void show_state(const Row& row, const Shown& shown) const;
     void make_page(EntryRow& row);
     void make_line(EntryRow& row);
+    Line made_line(EntryRow& row);
+    void follow_typing(EntryRow& row, const Line& line);
+    void follow_leaving(EntryRow& row, const Line& line);
     void judge(const EntryRow& row, QWidget& field, const std::string& text);
     void make_drop_down(ChoiceRow& row);
     void make_buttons(ChoiceRow& row);
@@ -81,6 +99,10 @@ private:
     Listening listening_;
     QObject alive_; ///< its end cuts every connection, before the fields that it served go
 };
+
+/// A row's field in a grid, over `columns` of them, behind its label, if it has one.
+void add_field(QGridLayout& grid, const FormWidgets& widgets, std::string_view key, int row, int column,
+               int columns = 1);
 
 /// A form's groups laid out in their columns, labels before fields. The buttons for print, picture and help
 /// join those of `beside_ok`, where there is one.

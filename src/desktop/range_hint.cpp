@@ -37,6 +37,10 @@ void RangeHint::tell(QWidget& field, const QString& range) {
     QAccessible::updateAccessibility(&alert);
 }
 
+void RangeHint::forget(const QWidget& field) {
+    if (field_ == &field) hide();
+}
+
 bool RangeHint::eventFilter(QObject* watched, QEvent* event) {
     switch (event->type()) {
     case QEvent::FocusOut:

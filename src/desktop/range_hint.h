@@ -12,6 +12,8 @@ class RangeHint : public QWidget {
 public:
     explicit RangeHint(QWidget* window);
     void tell(QWidget& field, const QString& range);
+    /// What was told about that field is true no more.
+    void forget(const QWidget& field);
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;

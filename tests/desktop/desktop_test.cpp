@@ -109,6 +109,10 @@ TEST(FormDialog, ACalculatorSelectsOnEntryAndShowsItsRangeWhileItIsLeft) {
     ASSERT_NE(hint, nullptr);
     EXPECT_TRUE(hint->isVisible());
     EXPECT_EQ(std::pair(size, hint->accessibleName()), std::pair(100.0F, QStringLiteral("1 to 100")));
+    desk.notices.tell(Change::document);
+    EXPECT_TRUE(line.text() == "100.00" && !hint->isVisible()) << "shown again, so nothing is left to say";
+    type_over(line, "150");
+    EXPECT_TRUE(hint->isVisible());
     QTest::keyClick(&widgets.field("size"), Qt::Key_Return);
     EXPECT_TRUE(dialog.isVisible() && !hint->isVisible()) << "worked out, and not closed";
     EXPECT_EQ(line.selectedText(), "100.00");
@@ -250,6 +254,24 @@ TEST(SecondStarts, HandTheBytesOfANameToTheFirst) {
     const SecondStarts first(folder.path(), [&](const std::string& path) { received = path; });
     EXPECT_TRUE(QTest::qWaitFor([&] { return received == name; }));
     second.join();
+}
+
+TEST(FormWidgets, MayEndInAnEdit) {
+    const Desk desk;
+    float amount = 3;
+    Form form;
+    form.rows().number("amount", amount).range(0, 5).outside(Outside::clamp);
+    QWidget window;
+    auto widgets = std::make_unique<FormWidgets>(form, desk.places, window);
+    form.after_edit([&](Row&) {
+        form.show_again = nullptr;
+        widgets.reset();
+    });
+    auto& field = dynamic_cast<QLineEdit&>(widgets->field("amount"));
+    field.clear();
+    QTest::keyClicks(&field, "9");
+    EXPECT_EQ(widgets, nullptr);
+    EXPECT_EQ(window.findChild<QWidget*>("range_hint"), nullptr) << "nobody is left to say anything";
 }
 
 TEST(ToolWindow, StaysWhileItsModalDialogIsOpen) {

@@ -20,6 +20,61 @@ bool is_typed_in(const QWidget* field) {
            qobject_cast<const QAbstractSpinBox*>(field) != nullptr;
 }
 
+QLayout* extras_head(const FormWidgets& widgets) {
+    auto* const grid = new QGridLayout;
+    add_field(*grid, widgets, "title", 0, 0);
+    add_field(*grid, widgets, "batch_size", 0, 2);
+    grid->setColumnStretch(1, 1);
+    return grid;
+}
+
+// The style's words, and its ranges behind them: the least above the most.
+QLayout* extras_style(const FormWidgets& widgets) {
+    auto* const grid = new QGridLayout;
+    int place = 0;
+    for (const auto* const key : {"style_class", "style_name", "style_type", "style_book"}) {
+        add_field(*grid, widgets, key, place / 2, place % 2 * 2);
+        ++place;
+    }
+    int column = 4;
+    for (const auto& [low, high] : {std::pair("min_sg", "max_sg"), std::pair("min_ibu", "max_ibu"),
+                                    std::pair("min_colour", "max_colour")}) {
+        add_field(*grid, widgets, low, 0, column);
+        add_field(*grid, widgets, high, 1, column);
+        column += 2;
+    }
+    grid->setColumnStretch(1, 1);
+    grid->setColumnStretch(3, 1);
+    return grid;
+}
+
+// What they do can be had by key from the list as well.
+QLayout* extras_buttons(const FormWidgets& widgets) {
+    auto* const buttons = new QHBoxLayout;
+    for (const auto* const key :
+         {"extra_new", "extra_del", "extra_edit", "amount_more", "amount_less", "time_more", "time_less"})
+        buttons->addWidget(&widgets.field(key));
+    buttons->addStretch();
+    auto& list = widgets.field("extras");
+    press_by_key(list, Qt::Key_Insert, widgets.field("extra_new"));
+    press_by_key(list, QKeySequence::Delete, widgets.field("extra_del"));
+    press_by_key(list, Qt::Key_Plus, widgets.field("amount_more"));
+    press_by_key(list, Qt::Key_Minus, widgets.field("amount_less"));
+    return buttons;
+}
+
+QLayout* extras_texts(const FormWidgets& widgets) {
+    auto* const grid = new QGridLayout;
+    int column = 0;
+    for (const auto* const key : {"notes", "awards"}) {
+        auto& text = widgets.field(key);
+        text.setMinimumHeight(text.fontMetrics().lineSpacing() * 6);
+        grid->addWidget(widgets.label(key), 0, column);
+        grid->addWidget(&text, 1, column++);
+    }
+    return grid;
+}
+
 } // namespace
 
 RecipePage::RecipePage(RecipeEditor& editor, RecipePageUse use, const Places& places, QWidget* origin)
@@ -90,53 +145,12 @@ void RecipePage::press_enter() {
 }
 
 QLayout* arrange_extras(const FormWidgets& widgets) {
-    const auto add_field = [&](QGridLayout& grid, std::string_view key, int row, int column) {
-        grid.addWidget(widgets.label(key), row, column, Qt::AlignRight | Qt::AlignVCenter);
-        grid.addWidget(&widgets.field(key), row, column + 1);
-    };
     auto* const page = new QVBoxLayout;
-    auto* const head = new QGridLayout;
-    add_field(*head, "title", 0, 0);
-    add_field(*head, "batch_size", 0, 2);
-    head->setColumnStretch(1, 1);
-    page->addLayout(head);
-    auto* const style = new QGridLayout;
-    int row = 0;
-    for (const auto* const key : {"style_class", "style_name", "style_type", "style_book"}) {
-        add_field(*style, key, row / 2, row % 2 * 2);
-        ++row;
-    }
-    int column = 4;
-    for (const auto& [low, high] : {std::pair("min_sg", "max_sg"), std::pair("min_ibu", "max_ibu"),
-                                    std::pair("min_colour", "max_colour")}) {
-        add_field(*style, low, 0, column);
-        add_field(*style, high, 1, column);
-        column += 2;
-    }
-    style->setColumnStretch(1, 1);
-    style->setColumnStretch(3, 1);
-    page->addLayout(style);
+    page->addLayout(extras_head(widgets));
+    page->addLayout(extras_style(widgets));
     page->addWidget(&widgets.field("extras"), 2);
-    auto* const buttons = new QHBoxLayout;
-    for (const auto* const key :
-         {"extra_new", "extra_del", "extra_edit", "amount_more", "amount_less", "time_more", "time_less"})
-        buttons->addWidget(&widgets.field(key));
-    buttons->addStretch();
-    page->addLayout(buttons);
-    auto* const texts = new QGridLayout;
-    column = 0;
-    for (const auto* const key : {"notes", "awards"}) {
-        auto& text = widgets.field(key);
-        text.setMinimumHeight(text.fontMetrics().lineSpacing() * 6);
-        texts->addWidget(widgets.label(key), 0, column);
-        texts->addWidget(&widgets.field(key), 1, column++);
-    }
-    page->addLayout(texts, 1);
-    auto& list = widgets.field("extras");
-    press_by_key(list, Qt::Key_Insert, widgets.field("extra_new"));
-    press_by_key(list, QKeySequence::Delete, widgets.field("extra_del"));
-    press_by_key(list, Qt::Key_Plus, widgets.field("amount_more"));
-    press_by_key(list, Qt::Key_Minus, widgets.field("amount_less"));
+    page->addLayout(extras_buttons(widgets));
+    page->addLayout(extras_texts(widgets), 1);
     return page;
 }
 

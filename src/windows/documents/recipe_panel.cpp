@@ -15,13 +15,6 @@ Form made_form(const RecipeSubject& subject) {
     return form;
 }
 
-void add_field(QGridLayout& grid, const FormWidgets& widgets, std::string_view key, int row, int column,
-               int columns = 1) {
-    if (auto* const label = widgets.label(key))
-        grid.addWidget(label, row, column, Qt::AlignRight | Qt::AlignVCenter);
-    grid.addWidget(&widgets.field(key), row, column + 1, 1, columns);
-}
-
 } // namespace
 
 RecipePanel::RecipePanel(const RecipeSubject& subject, const Places& places, QWidget* parent)
