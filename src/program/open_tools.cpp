@@ -24,17 +24,19 @@ bool shares_its_slot(int command) {
 } // namespace
 
 bool is_open(const OpenTools& tools, int command) {
-    return tools.windows.contains(tool_of(command));
+    const auto found = tools.windows.find(tool_of(command));
+    return found != tools.windows.end() && !found->second.expired();
 }
 
 bool any_open(const OpenTools& tools) {
-    return !tools.windows.empty();
+    return std::any_of(tools.windows.begin(), tools.windows.end(),
+                       [](const auto& tool) { return !tool.second.expired(); });
 }
 
 bool activate_if_open(const OpenTools& tools, int command) {
-    const auto found = tools.windows.find(tool_of(command));
-    if (found == tools.windows.end()) return false;
-    const auto& slot = shares_its_slot(command) ? tools.last_refractometer : found->second;
+    if (!is_open(tools, command)) return false;
+    const auto& slot =
+        shares_its_slot(command) ? tools.last_refractometer : tools.windows.at(tool_of(command));
     if (const auto window = slot.lock()) window->activate();
     return true;
 }

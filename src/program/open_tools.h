@@ -23,7 +23,7 @@ public:
 };
 
 /// The open tools by the command that opens them; a document's window by the command of a new one. A window
-/// that is gone without a word does no harm.
+/// that is gone without a word counts as closed.
 struct OpenTools {
     std::map<int, std::weak_ptr<OpenTool>> windows;
     /// What re-activating either of the two later refractometer tools reaches: the one opened last.
