@@ -102,7 +102,9 @@ void ArrowField::stepBy(int steps) {
 
 void ArrowField::focusInEvent(QFocusEvent* event) {
     QAbstractSpinBox::focusInEvent(event);
-    if (event->reason() == Qt::MouseFocusReason) QTimer::singleShot(0, lineEdit(), &QLineEdit::selectAll);
+    // By a click, or as the field that a window begins with.
+    if (event->reason() == Qt::MouseFocusReason || event->reason() == Qt::OtherFocusReason)
+        QTimer::singleShot(0, lineEdit(), &QLineEdit::selectAll);
 }
 
 void ArrowField::keyPressEvent(QKeyEvent* event) {

@@ -172,6 +172,10 @@ void Form::cancel() const {
     for (const auto& hook : cancel_hooks_) hook();
 }
 
+void Form::keep() const {
+    for (const auto& hook : keep_hooks_) hook();
+}
+
 void Form::for_each(const std::function<void(Row&)>& action) const {
     for (const auto& group : groups_) group->content.walk(action);
 }

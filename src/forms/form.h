@@ -125,10 +125,12 @@ public:
     void commit_copy(const Record& copy, Record& original) {
         on_accept([&copy, &original] { original = copy; });
     }
-    /// The form works on `live`; Cancel puts back what it is now.
+    /// The form works on `live`; Cancel puts back what it is now, or was when it was kept last.
     template <class Record>
     void restore_on_cancel(Record& live) {
-        on_cancel([&live, saved = live] { live = saved; });
+        const auto saved = std::make_shared<Record>(live);
+        on_cancel([&live, saved] { live = *saved; });
+        keep_hooks_.push_back([&live, saved] { *saved = live; });
     }
 
     /// The same for a dialog that edits some fields of a record, while the dialogs that it opens edit others.
@@ -148,6 +150,8 @@ public:
     /// False: it was refused, and nothing has happened.
     bool accept() const;
     void cancel() const;
+    /// What stands now was saved: Cancel no longer goes behind it.
+    void keep() const;
 
     /// Every row in order, those of grids included.
     void for_each(const std::function<void(Row&)>& action) const;
@@ -170,6 +174,7 @@ private:
     std::function<bool()> may_accept_;
     std::vector<std::function<void()>> accept_hooks_;
     std::vector<std::function<void()>> cancel_hooks_;
+    std::vector<std::function<void()>> keep_hooks_;
 };
 
 } // namespace wortlex

@@ -231,6 +231,11 @@ TEST(Form, CommitsAndRestores) {
     EXPECT_EQ(original.a, 1);
     form.cancel();
     EXPECT_EQ(std::pair(live.a, original.a), std::pair(1.0F, 1.0F));
+    type(form, "live", field, "4");
+    form.keep();
+    type(form, "live", field, "5");
+    form.cancel();
+    EXPECT_EQ(live.a, 4) << "what was saved meanwhile stays";
     live.a = copy.a = 12;
     form.accept();
     EXPECT_EQ(original.a, 9) << "OK keeps what was edited in its range";

@@ -23,6 +23,8 @@ public:
 
     /// Closes without a word: the recipe is another one now, or gone.
     void dismiss();
+    /// The recipe was saved with what stands on the page, which Cancel then leaves alone.
+    void keep() const { form_.keep(); }
 
 protected:
     bool may_close() override;

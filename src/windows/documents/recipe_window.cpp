@@ -195,6 +195,8 @@ bool RecipeWindow::save_recipe(SaveAs save_as) {
     const auto before = document_.file.path;
     const bool saved = save(current, save_as);
     follow_save(before);
+    for (const auto& page : {yeast_and_water_, extras_})
+        if (saved && !page.isNull()) page->keep();
     return saved;
 }
 
@@ -302,6 +304,7 @@ void RecipeWindow::show_mash() {
             work, program_.settings,
             {.mash_grain = [this] { return document_.figures.mash_grain; },
              .accepted = [this](const SimpleMash& mash) { set_simple_mash(editor_, mash); },
+             .save = [this] { save_recipe(SaveAs::no); },
              .revert_to_complex = nullptr,
              .print =
                  [this](const SimpleMashWork& planned) {

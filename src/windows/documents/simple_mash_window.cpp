@@ -38,6 +38,8 @@ SimpleMashWindow::SimpleMashWindow(const SimpleMashWork& work, const Settings& s
     connect(new QShortcut(QKeySequence::Cancel, this), &QShortcut::activated, this, &QWidget::close);
     for (const auto key : {Qt::Key_Return, Qt::Key_Enter})
         connect(new QShortcut(key, this), &QShortcut::activated, this, &SimpleMashWindow::accept);
+    for (const auto& sequence : QKeySequence::keyBindings(QKeySequence::Save))
+        connect(new QShortcut(sequence, this), &QShortcut::activated, this, &SimpleMashWindow::save);
     widgets_.field("saccharification_temperature").setFocus();
 }
 
@@ -58,6 +60,11 @@ std::function<void()> SimpleMashWindow::revert_action() {
 std::function<void()> SimpleMashWindow::print_action() {
     if (!calls_.print) return nullptr;
     return [this] { calls_.print(work_); };
+}
+
+void SimpleMashWindow::save() {
+    calls_.accepted(work_.mash);
+    calls_.save();
 }
 
 void SimpleMashWindow::accept() {

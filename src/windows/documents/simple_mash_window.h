@@ -14,6 +14,7 @@ struct SimpleMashCalls {
     std::function<float()> mash_grain; ///< pounds, up to date
     /// OK: the schedule to take over.
     std::function<void(const SimpleMash& mash)> accepted;
+    std::function<void()> save; ///< the recipe, with what was taken over
     /// After that, where the complex schedule is to come into force; empty: it cannot.
     std::function<void()> revert_to_complex;
     std::function<void(const SimpleMashWork& work)> print; ///< empty: it cannot be printed
@@ -32,6 +33,7 @@ protected:
 
 private:
     void accept();
+    void save();
     std::function<void()> revert_action();
     std::function<void()> print_action();
 

@@ -31,6 +31,7 @@ struct Page {
                                   [this](const SimpleMash& taken) {
                                       heard.push_back(formatted("%0.2f", taken.dough_in_water));
                                   },
+                              .save = [this] { heard.emplace_back("saved"); },
                               .revert_to_complex = nullptr,
                               .print = nullptr};
         if (has_complex) calls.revert_to_complex = [this] { heard.emplace_back("complex"); };
@@ -48,8 +49,9 @@ TEST(SimpleMashWindow, HandsOnWhatOkAccepts) {
     auto& left = page.open(false);
     EXPECT_FALSE(left.findChild<QPushButton*>("revert")->isEnabled());
     type_over(*line_of(*left.findChild<QWidget*>("quarts")), "15");
+    QTest::keyClick(&left, Qt::Key_S, Qt::ControlModifier);
     QTest::keyClick(&left, Qt::Key_Escape);
-    EXPECT_EQ(page.heard, std::vector<std::string>{"closed"});
+    EXPECT_EQ(page.heard, (std::vector<std::string>{"15.00", "saved", "closed"}));
     page.heard.clear();
     auto& reverted = page.open(true);
     page.grain = 20;
