@@ -271,7 +271,7 @@ void FormWidgets::make_line(EntryRow& row) {
     follow_leaving(row, line);
 }
 
-FormWidgets::Line FormWidgets::made_line(EntryRow& row) {
+FormWidgets::Line FormWidgets::made_line(const EntryRow& row) {
     auto* const arrows = row.has_arrows() ? new ArrowField(&parent_) : nullptr;
     auto* const edit = arrows != nullptr ? &arrows->line() : new QLineEdit(&parent_);
     auto* const widget = arrows != nullptr ? static_cast<QWidget*>(arrows) : edit;

@@ -80,7 +80,7 @@ private:
     void show_state(const Row& row, const Shown& shown) const;
     void make_page(EntryRow& row);
     void make_line(EntryRow& row);
-    Line made_line(EntryRow& row);
+    Line made_line(const EntryRow& row);
     void follow_typing(EntryRow& row, const Line& line);
     void follow_leaving(EntryRow& row, const Line& line);
     void judge(const EntryRow& row, QWidget& field, const std::string& text);
