@@ -59,10 +59,13 @@ TEST(SimpleMashPrint, TellsTheScheduleUnderWork) {
     const auto print = [&](const SimpleMashWork& planned) {
         desk.show(simple_mash_printout(live_document(program), program.color_table, planned));
     };
-    SimpleMashWindow window(
-        work, settings,
-        {.mash_grain = nullptr, .accepted = nullptr, .revert_to_complex = nullptr, .print = print},
-        places(program), nullptr);
+    SimpleMashWindow window(work, settings,
+                            {.mash_grain = nullptr,
+                             .accepted = nullptr,
+                             .save = nullptr,
+                             .revert_to_complex = nullptr,
+                             .print = print},
+                            places(program), nullptr);
     print_button(window).click();
     std::vector<std::string> lines;
     for (const auto& text : texts_on(desk.jobs.front(), 0)) lines.push_back(text.substr(text.find(' ') + 1));
