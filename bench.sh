@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Prints how fast the program is: its start beside that of an empty window, one recalculation, a load and a save, a hop
-# list of 999 entries, the recipe window and its report, the brewer's tools, and wortlex-report over 10,000 recipes,
-# each from 25 to 400 lines of malts and hops.
+# list of 999 entries, the recipe window and its report, the brewer's tools, wortlex-report over 10,000 recipes,
+# each from 25 to 400 lines of malts and hops, and how long everything takes to build anew.
 set -eu
 cd "$(dirname "$0")"
 . tools/install.sh
@@ -42,3 +42,13 @@ for lines in 25 100 400; do
     echo "wortlex-report --text, $lines malts and hops: $(speed_of "$count" "$started" "$ended")"
     rm -rf "many_$lines"
 done
+
+cd "$OLDPWD"
+for preset in release test; do
+    rm -rf build/timed
+    cmake --preset "$preset" -B build/timed > /dev/null
+    started=$(date +%s)
+    cmake --build build/timed > /dev/null
+    echo "The preset $preset built anew on $(nproc) cores: $(($(date +%s) - started)) s"
+done
+rm -rf build/timed
