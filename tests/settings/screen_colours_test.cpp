@@ -19,7 +19,7 @@ double luminance(std::uint32_t colour) {
 }
 
 double contrast(std::uint32_t one, std::uint32_t other) {
-    const auto [low, high] = std::minmax(luminance(one), luminance(other));
+    const auto [low, high] = std::minmax({luminance(one), luminance(other)});
     return (high + 0.05) / (low + 0.05);
 }
 
