@@ -22,7 +22,7 @@ cmake --build --preset test
 if [ $# -gt 0 ]; then
     exec ctest --preset test -R "$1"
 fi
-ctest --preset test
+ctest --preset test -j "$(nproc)"
 
 # A comma for the decimal point: no figure may notice.
 comma_locales=$PWD/build/locales
@@ -30,6 +30,6 @@ if [ ! -d "$comma_locales/de_DE.UTF-8" ]; then
     mkdir -p "$comma_locales"
     localedef -i de_DE -f UTF-8 "$comma_locales/de_DE.UTF-8"
 fi
-LOCPATH=$comma_locales LC_ALL=de_DE.UTF-8 ctest --preset test -R _tests
+LOCPATH=$comma_locales LC_ALL=de_DE.UTF-8 ctest --preset test -j "$(nproc)" -R _tests
 
 tools/lint.sh
