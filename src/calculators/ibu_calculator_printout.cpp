@@ -9,7 +9,7 @@
 namespace wortlex {
 namespace {
 
-constexpr std::string_view title = "Wortlex IBU Calculator";
+constexpr std::string_view ibu_title = "Wortlex IBU Calculator";
 
 using Lines = std::vector<std::string>; // tabs between columns, empty ones are left blank
 
@@ -91,8 +91,8 @@ PrintRequest ibu_calculator_printout(const HopCalculator& calculator, const std:
     lines.emplace_back();
     add_result(lines, calculator, settings);
     add_use(lines, calculator, settings);
-    return {std::string(title), settings.printer_scale, [lines](PageContext& page) {
-                page.SetHeader(0, std::string(title));
+    return {std::string(ibu_title), settings.printer_scale, [lines](PageContext& page) {
+                page.SetHeader(0, std::string(ibu_title));
                 for (const auto& line : lines) page.TabbedLine({150, 220, 350}, line);
             }};
 }

@@ -13,13 +13,13 @@ constexpr auto factor_note =
 constexpr auto permanent_note = "NOTE: Permanent Settings are set within the System Settings.";
 
 struct CalibrationField {
-    const char* key;
-    const char* label;
-    float SystemSettings::*value;
+    const char* key = "";
+    const char* label = "";
+    float SystemSettings::*value = nullptr;
     Range range;
-    float step;
-    const char* look;
-    CalibrationChange change;
+    float step = 0;
+    const char* look = "";
+    CalibrationChange change{};
 };
 
 constexpr std::array fields = {CalibrationField{"water_brix",

@@ -16,7 +16,7 @@ constexpr std::size_t most_lines = most_time_entries - 1; // the live one includ
 
 constexpr Message stop_question = {
     .text = "Are you sure you want to stop recording time increments and comments?", .icon = Icon::question};
-constexpr Message save_question = {
+constexpr Message unsaved_question = {
     .text = "The current time line has been modified!\nDo you want to save the changes?",
     .icon = Icon::question,
     .safe = Answer::yes};
@@ -180,7 +180,7 @@ void TimeSheet::save() {
 
 bool TimeSheet::may_drop() {
     if (!is_modified_) return true;
-    const auto answer = desk_.prompts.ask_yes_no_cancel(save_question);
+    const auto answer = desk_.prompts.ask_yes_no_cancel(unsaved_question);
     return answer == Answer::yes ? store() : answer == Answer::no;
 }
 

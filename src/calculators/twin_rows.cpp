@@ -133,13 +133,13 @@ void TwinLines::shown_degrees(const std::string& key, const std::string& label,
 }
 
 void TwinLines::shown_gravity(const std::string& key, const std::string& label,
-                              std::function<TwinGravity()> pair) {
+                              const std::function<TwinGravity()>& pair) {
     shown(label, {key + "_sg", [pair] { return cut(pair().sg, 5); }, sg_pattern(0, settings_)}, "Plato",
           {key + "_plato", [pair] { return cut(pair().plato, 3); }, plato_pattern(0, settings_)});
 }
 
 void TwinLines::shown_volume(const std::string& key, const std::string& label,
-                             std::function<TwinGallons()> pair) {
+                             const std::function<TwinGallons()>& pair) {
     const auto words = volume_words(settings_);
     shown(with_unit(label, settings_),
           {key + "_gallons", [pair, words] { return narrow(pair().gallons / words.gallons); }},

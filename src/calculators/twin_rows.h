@@ -73,8 +73,10 @@ public:
     void shown(const std::string& label, const Figure& first, const Live<std::string>& word,
                const Figure& second);
     void shown_degrees(const std::string& key, const std::string& label, std::function<TwinDegrees()> pair);
-    void shown_gravity(const std::string& key, const std::string& label, std::function<TwinGravity()> pair);
-    void shown_volume(const std::string& key, const std::string& label, std::function<TwinGallons()> pair);
+    void shown_gravity(const std::string& key, const std::string& label,
+                       const std::function<TwinGravity()>& pair);
+    void shown_volume(const std::string& key, const std::string& label,
+                      const std::function<TwinGallons()>& pair);
 
 private:
     template <class Pair>

@@ -35,7 +35,7 @@ void print_line(PageContext& page, std::string_view line) {
     const auto tab = std::min(line.find('\t'), line.size());
     std::string label(line.substr(0, tab));
     for (const auto& part : page.wrapped(line.substr(std::min(tab + 1, line.size())), entry_stops.front())) {
-        page.TabbedLine(entry_stops, label + '\t' + part);
+        page.TabbedLine(entry_stops, std::string(label).append(1, '\t').append(part));
         label.clear();
     }
 }

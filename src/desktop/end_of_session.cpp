@@ -11,7 +11,8 @@
 namespace wortlex {
 namespace {
 
-int told_to_end = -1; // a handler reaches nothing else; open until the process ends
+// A handler reaches nothing but what is global; open until the process ends.
+int told_to_end = -1; // NOLINT(cppcoreguidelines-avoid-non-const-global-variables)
 
 extern "C" void note_signal(int /*signal*/) {
     const int before = errno;

@@ -91,7 +91,7 @@ private:
 
     // Of its line and its column.
     static QString cell_name(const QLabel& label, const GridRow& grid, std::size_t column) {
-        const auto line = spoken(label.text());
+        auto line = spoken(label.text());
         if (column >= grid.captions.size()) return line;
         return line + QLatin1Char(' ') + spoken(string_of(grid.captions[column]()));
     }

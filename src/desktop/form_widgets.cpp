@@ -34,7 +34,7 @@ QString reason_of(const Row& row) {
 
 // The form's own words, or those of the glossary.
 QString meaning(const Row& row) {
-    const auto own = string_of(row.hint_text());
+    auto own = string_of(row.hint_text());
     if (!own.isEmpty() || dynamic_cast<const NoteRow*>(&row) != nullptr) return own;
     auto caption = row.label_text();
     caption.erase(std::remove(caption.begin(), caption.end(), '&'), caption.end());

@@ -103,8 +103,8 @@ float celsius_from_fahrenheit(float fahrenheit) {
     return narrow(celsius(fahrenheit));
 }
 
-float fahrenheit_from_celsius(float degrees) {
-    return narrow(fahrenheit(degrees));
+float fahrenheit_from_celsius(float celsius) {
+    return narrow(fahrenheit(celsius));
 }
 
 std::int32_t whole_percent(float fraction) {

@@ -21,7 +21,7 @@ struct ButtonPicture {
 };
 
 struct MainScreenButton {
-    int command;
+    int command = 0;
     ButtonPicture picture;
 };
 

@@ -11,12 +11,12 @@ namespace {
 constexpr std::string_view recent_file = "WlxRecent.txt";
 constexpr std::size_t largest_list = std::size_t{64} << 10;
 
-bool is_control(char c) {
+bool is_no_text(char c) {
     return static_cast<unsigned char>(c) < 0x20 || c == 0x7F;
 }
 
 bool is_usable(std::string_view path) {
-    return !path.empty() && std::none_of(path.begin(), path.end(), is_control);
+    return !path.empty() && std::none_of(path.begin(), path.end(), is_no_text);
 }
 
 void add_last(RecentDocuments& recent, std::string_view path) {

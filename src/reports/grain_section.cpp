@@ -8,8 +8,8 @@
 namespace wortlex {
 namespace {
 
-constexpr std::size_t malt_name_width = 29;
-constexpr std::size_t origin_width = 14;
+constexpr std::size_t grain_name_width = 29;
+constexpr std::size_t origin_column_width = 14;
 
 std::string_view potential_scale(PotentialDisplay display) {
     constexpr std::array<std::string_view, 4> scales = {
@@ -47,8 +47,8 @@ ReportRow row(const ReportSource& source, std::size_t line, const std::string& f
     return {format,
             {total > 0 ? double{malt.amount} / total * 100 : 0.0,
              grain_to_shown(malt.amount, source.open.settings),
-             {line_text(malt.record.name), malt_name_width},
-             {line_text(malt.record.origin), origin_width},
+             {line_text(malt.record.name), grain_name_width},
+             {line_text(malt.record.origin), origin_column_width},
              malt_value(source.open, source.view, line),
              to_shown_colour(malt.record.colour, source.open.settings)}};
 }

@@ -10,7 +10,7 @@ constexpr ScreenColours dark = {{0xA0E0F0, 0xD0D8E0, 0xE8ECF0, 0xE8ECF0, 0xB8E8F
                                 {0x302C28, 0x2C2C2C, 0x2C2C2C, 0x242220, 0x202830, 0x181818, 0x242220}};
 
 ScreenColours desktop_colours() {
-    ScreenColours colours;
+    ScreenColours colours{};
     colours.foreground.fill(desktop_mark);
     colours.background.fill(desktop_mark | 0xFFFFFF);
     return colours;

@@ -82,14 +82,14 @@ void SettingsSession::save(Files& files, Prompts& prompts) {
 }
 
 void system_settings_form(Form& form, SettingsSession& session, const SettingsButtons& buttons) {
-    auto& names = form.group("Brewers");
-    names.text("brewer", session.brewer_name).label("&Brewer(s) Name:").limit(252).width(34);
-    names.text("assistant", session.assistant_name).label("&Asst. Brewer(s) Name:").limit(252).width(34);
-    names.choice("style_book", session.image().style_book, {"BJCP", "AHA (prior to BJCP adoption)"})
+    auto& brewers = form.group("Brewers");
+    brewers.text("brewer", session.brewer_name).label("&Brewer(s) Name:").limit(252).width(34);
+    brewers.text("assistant", session.assistant_name).label("&Asst. Brewer(s) Name:").limit(252).width(34);
+    brewers.choice("style_book", session.image().style_book, {"BJCP", "AHA (prior to BJCP adoption)"})
         .codes({1, 0})
         .look(ChoiceRow::Look::down)
         .label("Default Style Guidelines:");
-    names.choice("session_date", session.image().new_session_date, {"Today", "Tomorrow"})
+    brewers.choice("session_date", session.image().new_session_date, {"Today", "Tomorrow"})
         .label("Default New Brewing Session Date:");
     auto& files = form.group("Files");
     files.button("load", "&Load From File", buttons.load);

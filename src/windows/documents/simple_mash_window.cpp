@@ -62,7 +62,7 @@ std::function<void()> SimpleMashWindow::print_action() {
     return [this] { calls_.print(work_); };
 }
 
-void SimpleMashWindow::save() {
+void SimpleMashWindow::save() const {
     calls_.accepted(work_.mash);
     calls_.save();
 }

@@ -33,7 +33,7 @@ protected:
 
 private:
     void accept();
-    void save();
+    void save() const;
     std::function<void()> revert_action();
     std::function<void()> print_action();
 
