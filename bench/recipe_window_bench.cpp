@@ -1,8 +1,10 @@
 // The recipe window with 25 malts and 25 hops: what it takes to open, and from a keystroke until all figures
 // are painted anew.
 #include "base/ports/quiet_prompts.h"
+#include "desktop/picture_easel.h"
 #include "desktop/print_preview.h"
 #include "desktop/system_ports.h"
+#include "jpeg/jpeg_pictures.h"
 #include "paint_watch.h"
 #include "sample_document.h"
 #include "windows/documents/recipe_window.h"
@@ -27,6 +29,8 @@ struct Brewery {
     QuietPrompts prompts;
     FileDialogs files;
     SystemClipboard clipboard;
+    PictureEasel easel;
+    JpegPictures pictures;
     PreviewDesk pages{files, prompts, places(program), program.folders, program.data_folder};
 
     Brewery() {
@@ -36,7 +40,7 @@ struct Brewery {
         program.color_table = built_in_color_table();
         program.document.file.loaded_from_file = true;
     }
-    WindowPorts ports() { return {program, prompts, files, pages, clipboard}; }
+    WindowPorts ports() { return {program, prompts, files, pages, clipboard, easel, pictures}; }
 };
 
 void press(QWidget& field, int key, const QString& text) {

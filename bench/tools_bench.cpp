@@ -2,8 +2,10 @@
 // its figures are painted anew.
 #include "base/ports/quiet_prompts.h"
 #include "brewing/refractometer.h"
+#include "desktop/picture_easel.h"
 #include "desktop/print_preview.h"
 #include "desktop/system_ports.h"
+#include "jpeg/jpeg_pictures.h"
 #include "paint_watch.h"
 #include "program/program.h"
 #include "windows/calculators/brewers_tools.h"
@@ -22,13 +24,15 @@ struct Brewery {
     QuietPrompts prompts;
     FileDialogs files;
     SystemClipboard clipboard;
+    PictureEasel easel;
+    JpegPictures pictures;
     PreviewDesk pages{files, prompts, places(program), program.folders, program.data_folder};
 
     Brewery() {
         image.sg_precision = 2; // every keystroke is to change the figure
         program.settings = settings_from(image);
     }
-    WindowPorts ports() { return {program, prompts, files, pages, clipboard}; }
+    WindowPorts ports() { return {program, prompts, files, pages, clipboard, easel, pictures}; }
 };
 
 using Make = ToolWindow* (*)(const WindowPorts&, const WindowInfo&, QWidget*);

@@ -3,9 +3,11 @@
 // their names.
 #include "base/number.h"
 #include "base/ports/quiet_prompts.h"
+#include "desktop/picture_easel.h"
 #include "desktop/print_preview.h"
 #include "desktop/qt_text.h"
 #include "desktop/system_ports.h"
+#include "jpeg/jpeg_pictures.h"
 #include "program/start.h"
 #include "windows/main/main_window.h"
 
@@ -110,7 +112,9 @@ bool picture(Program& program, Prompts& prompts, const QDir& target, const std::
     FileDialogs files;
     SystemClipboard clipboard;
     PreviewDesk pages(files, prompts, places(program), program.folders, program.data_folder);
-    MainWindow main({program, prompts, files, pages, clipboard});
+    PictureEasel easel;
+    JpegPictures pictures;
+    MainWindow main({program, prompts, files, pages, clipboard, easel, pictures});
     main.show();
     settle();
     const bool saved =

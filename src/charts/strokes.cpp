@@ -1,11 +1,23 @@
 #include "charts/strokes.h"
 
+#include <algorithm>
+
 namespace wortlex {
 namespace {
 
 constexpr int gap_to_level = 6, gap_to_upright = 4; // between a label and its line, in pixels
 
 } // namespace
+
+// A surface takes a height for that of the letters' square; a line of most faces is higher.
+void set_chart_font(Surface& surface, int cell_height, bool italic) {
+    Font font{.face = chart_face, .cell_height = cell_height, .weight = 200, .italic = italic};
+    surface.set_font(font);
+    const int line = surface.text_extent("A").height;
+    if (line <= cell_height) return;
+    font.cell_height = std::max(1, cell_height * cell_height / line);
+    surface.set_font(font);
+}
 
 void draw_line(Surface& surface, Point from, Point to) {
     surface.move_to(from);

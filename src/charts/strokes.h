@@ -12,6 +12,10 @@ namespace wortlex {
 inline constexpr std::string_view chart_face = "Arial";
 inline constexpr std::uint32_t chart_black = 0x000000, chart_white = 0xFFFFFF; ///< 0x00BBGGRR
 
+/// The font of a chart's words. `cell_height` is that of a line, from the top of the highest letter to the
+/// bottom of the lowest.
+void set_chart_font(Surface& surface, int cell_height, bool italic = false);
+
 void draw_line(Surface& surface, Point from, Point to);
 
 /// Fills the area from the top left corner.

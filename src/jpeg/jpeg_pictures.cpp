@@ -10,9 +10,10 @@ std::optional<Pixels> JpegPictures::load(const std::string& path) {
     return file ? decode_jpeg(*file) : std::nullopt;
 }
 
-bool JpegPictures::save(const std::string& path, const Pixels& pixels, int quality) {
+PictureSave JpegPictures::save(const std::string& path, const Pixels& pixels, int quality) {
     const auto file = encode_jpeg(pixels, quality);
-    return file && save_atomically(path, *file);
+    if (!file) return PictureSave::not_encoded;
+    return save_atomically(path, *file) ? PictureSave::saved : PictureSave::not_written;
 }
 
 } // namespace wortlex

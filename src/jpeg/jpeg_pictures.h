@@ -10,7 +10,7 @@ public:
     /// Nothing if there is no file, or none that `decode_jpeg` takes.
     std::optional<Pixels> load(const std::string& path) override;
     /// The old file stays whole where the new one cannot be written.
-    bool save(const std::string& path, const Pixels& pixels, int quality) override;
+    PictureSave save(const std::string& path, const Pixels& pixels, int quality) override;
 };
 
 } // namespace wortlex

@@ -4,6 +4,7 @@
 #include "base/ports/clipboard.h"
 #include "base/ports/file_dialogs.h"
 #include "base/ports/prompts.h"
+#include "base/ports/surface.h"
 #include "page/page.h"
 #include "program/commands.h"
 
@@ -17,6 +18,8 @@ struct WindowPorts {
     Files& files;
     PageDesk& pages;
     Clipboard& clipboard;
+    Easel& easel;
+    Pictures& pictures;
     CommandTable* commands = nullptr; ///< the main window's, which puts them here
 };
 

@@ -1,8 +1,11 @@
 #include "calculators/degradation_chart.h"
 #include "calculators/ibu_calculator.h"
+#include "charts/chart_picture.h"
 #include "documents/brewing.h"
 #include "support/field.h"
 #include "support/recording_surface.h"
+#include "support/scripted_files.h"
+#include "support/scripted_prompts.h"
 
 #include <gmock/gmock.h>
 
@@ -102,6 +105,32 @@ std::vector<std::string> drawn(float alpha, std::int16_t months, bool with_heade
     RecordingSurface surface;
     draw_degradation_chart(surface, hop, with_header);
     return surface.lines;
+}
+
+TEST(ChartPicture, GoesToTheChosenFileOrTellsWhatFailed) {
+    FolderSet folders;
+    folders.save_automatically = 1;
+    set_folder(folders, FolderKind::jpg_exports, "Pictures");
+    ScriptedFiles files({"/charts/a.jpg", std::nullopt, "/charts/b.jpg", "/charts/c.jpg"});
+    ScriptedPrompts prompts;
+    RecordingEasel easel;
+    FakePictures pictures;
+    const PictureDesk desk{easel, pictures, files, prompts, folders, 80};
+    const ChartDrawing chart{{5, 3}, [](Surface& surface) { surface.text({1, 2}, "drawn"); }};
+    const auto save = [&] { choose_and_save_chart(chart, "Saaz 1/2", desk); };
+    save();
+    EXPECT_EQ(files.offers[0], "save JPEG Bitmap File (*.jpg)|*.jpg Pictures/ Saaz 1_2.jpg jpg");
+    EXPECT_EQ(pictures.files["/charts/a.jpg"].width, 5);
+    EXPECT_EQ(folder_path(folders, FolderKind::jpg_exports), "/charts/");
+    save(); // left
+    EXPECT_EQ(pictures.files.size(), 1U);
+    for (const auto& [result, words] :
+         {std::pair(PictureSave::not_encoded, "Error Initializing JPG Properties!"),
+          {PictureSave::not_written, "Error Writing JPG File!"}}) {
+        pictures.result = result;
+        prompts.expect("tell", words, {}, Icon::error, "Wortlex Error");
+        save();
+    }
 }
 
 TEST(DegradationChart, FitsItsScalesToTheHop) {

@@ -1,5 +1,6 @@
 #include "desktop/form_dialog.h"
 #include "desktop/message_boxes.h"
+#include "desktop/picture_easel.h"
 #include "desktop/second_start.h"
 #include "support/qt_keys.h"
 #include "support/temporary_folder.h"
@@ -243,6 +244,17 @@ TEST(MessageBoxes, EnterIsSafeAndEscStays) {
         EXPECT_EQ(answer_to(Qt::Key_Escape, or_stay), Answer::cancel);
         EXPECT_EQ(answer_to(Qt::Key_Escape, or_not), Answer::no);
     }
+}
+
+TEST(PictureEasel, DrawsOnWhiteAndKeepsNoByteBetweenRows) {
+    PictureEasel easel;
+    const auto pixels = easel.drawn({3, 2}, [](Surface& surface) {
+        surface.set_pen({0x563412});
+        surface.move_to({2, 1});
+        surface.line_to({2, 1});
+    });
+    EXPECT_EQ(pixels.rgb, (std::vector<std::uint8_t>{255, 255, 255, 255, 255, 255, 255, 255, 255, //
+                                                     255, 255, 255, 255, 255, 255, 0x12, 0x34, 0x56}));
 }
 
 TEST(SecondStarts, HandTheBytesOfANameToTheFirst) {

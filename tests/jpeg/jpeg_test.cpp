@@ -46,26 +46,26 @@ TEST(JpegPictures, KeepsColoursInTheirPlace) {
     const TemporaryFolder folder;
     JpegPictures pictures;
     const auto pixels = slope(90, 40);
-    ASSERT_TRUE(pictures.save(folder / "a.jpg", pixels, 100));
+    ASSERT_EQ(pictures.save(folder / "a.jpg", pixels, 100), PictureSave::saved);
     const auto read = pictures.load(folder / "a.jpg");
     ASSERT_TRUE(read && read->rgb.size() == pixels.rgb.size());
     EXPECT_EQ(std::pair(read->width, read->height), std::pair(90, 40));
     for (std::size_t i = 0; i < pixels.rgb.size(); ++i)
         ASSERT_NEAR(read->rgb[i], pixels.rgb[i], 4) << "byte " << i;
-    ASSERT_TRUE(pictures.save(folder / "b.jpg", pixels, 20));
+    ASSERT_EQ(pictures.save(folder / "b.jpg", pixels, 20), PictureSave::saved);
     EXPECT_LT(read_file(folder / "b.jpg")->size(), read_file(folder / "a.jpg")->size());
 }
 
 TEST(JpegPictures, LeavesTheOldFileWhereThereIsNoPictureToSave) {
     const TemporaryFolder folder;
     JpegPictures pictures;
-    ASSERT_TRUE(pictures.save(folder / "a.jpg", slope(9, 9), 80));
+    ASSERT_EQ(pictures.save(folder / "a.jpg", slope(9, 9), 80), PictureSave::saved);
     const auto before = read_file(folder / "a.jpg");
     for (const auto& bad : {Pixels{}, Pixels{-9, -9, slope(9, 9).rgb}, Pixels{9, 10, slope(9, 9).rgb},
                             Pixels{65501, 1, std::vector<std::uint8_t>(65501 * 3)}})
-        EXPECT_FALSE(pictures.save(folder / "a.jpg", bad, 80)) << bad.width;
+        EXPECT_EQ(pictures.save(folder / "a.jpg", bad, 80), PictureSave::not_encoded) << bad.width;
     EXPECT_EQ(read_file(folder / "a.jpg"), before);
-    EXPECT_FALSE(pictures.save(folder / "absent/a.jpg", slope(9, 9), 80));
+    EXPECT_EQ(pictures.save(folder / "absent/a.jpg", slope(9, 9), 80), PictureSave::not_written);
     EXPECT_FALSE(pictures.load(folder / "absent.jpg"));
 }
 

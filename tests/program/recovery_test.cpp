@@ -7,6 +7,7 @@
 #include "reports/print_options.h"
 #include "support/recording_clipboard.h"
 #include "support/recording_desk.h"
+#include "support/recording_surface.h"
 #include "support/scripted_files.h"
 #include "support/scripted_prompts.h"
 #include "support/temporary_folder.h"
@@ -212,11 +213,13 @@ TEST(Recovery, TrustsNoFile) {
 struct Exports : Kitchen {
     RecordingPageDesk pages;
     RecordingClipboard clipboard;
+    RecordingEasel easel;
+    FakePictures pictures;
 
     std::vector<std::string> send(ReportForm form, std::deque<std::optional<std::string>> paths = {}) {
         set_report_form(program.recipe_print, form);
         ScriptedFiles files(std::move(paths));
-        export_document({program, prompts, files, pages, clipboard}, {});
+        export_document({program, prompts, files, pages, clipboard, easel, pictures}, {});
         return files.offers;
     }
     static std::string content(const std::string& path) {

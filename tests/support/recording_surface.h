@@ -90,14 +90,27 @@ struct RecordingPrinter : Printer {
 /// Pictures by path, in memory.
 struct FakePictures : Pictures {
     std::map<std::string, Pixels> files;
+    PictureSave result = PictureSave::saved; ///< of every save
 
     std::optional<Pixels> load(const std::string& path) override {
         const auto found = files.find(path);
         return found == files.end() ? std::nullopt : std::optional(found->second);
     }
-    bool save(const std::string& path, const Pixels& pixels, int) override {
-        files[path] = pixels;
-        return true;
+    PictureSave save(const std::string& path, const Pixels& pixels, int) override {
+        if (result == PictureSave::saved) files[path] = pixels;
+        return result;
+    }
+};
+
+/// Keeps what was drawn instead of a picture; its pixels are blank.
+struct RecordingEasel : Easel {
+    RecordingSurface surface;
+
+    Pixels drawn(Extent size, const std::function<void(Surface&)>& draw) override {
+        surface = {};
+        draw(surface);
+        return {size.width, size.height,
+                std::vector<std::uint8_t>(3 * static_cast<std::size_t>(size.width * size.height))};
     }
 };
 

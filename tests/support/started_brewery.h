@@ -5,6 +5,7 @@
 #include "program/start.h"
 #include "support/recording_clipboard.h"
 #include "support/recording_desk.h"
+#include "support/recording_surface.h"
 #include "support/scripted_files.h"
 #include "support/scripted_prompts.h"
 #include "support/temporary_folder.h"
@@ -25,9 +26,11 @@ struct Brewery {
     ScriptedFiles files;
     RecordingPageDesk pages;
     RecordingClipboard clipboard;
+    RecordingEasel easel;
+    FakePictures pictures;
     Program program;
 
-    WindowPorts ports() { return {program, prompts, files, pages, clipboard}; }
+    WindowPorts ports() { return {program, prompts, files, pages, clipboard, easel, pictures}; }
 
     Brewery() {
         SaveSystemFiles(folder.path(), {WriteDefaultSettings(), {}, true});

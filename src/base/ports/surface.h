@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <span>
 #include <string>
@@ -90,12 +91,24 @@ struct Pixels {
     std::vector<std::uint8_t> rgb;
 };
 
+/// What became of a picture that was to be saved. Only the first leaves a new file.
+enum class PictureSave { saved, not_encoded, not_written };
+
+/// Picture files.
 class Pictures {
 public:
     virtual ~Pictures() = default;
     virtual std::optional<Pixels> load(const std::string& path) = 0;
-    /// `quality` from 20 to 100; returns whether the file stands.
-    virtual bool save(const std::string& path, const Pixels& pixels, int quality) = 0;
+    /// `quality` from 20 to 100.
+    virtual PictureSave save(const std::string& path, const Pixels& pixels, int quality) = 0;
+};
+
+/// Where a drawing becomes a picture.
+class Easel {
+public:
+    virtual ~Easel() = default;
+    /// What `draw` puts on a white surface of that size.
+    virtual Pixels drawn(Extent size, const std::function<void(Surface&)>& draw) = 0;
 };
 
 } // namespace wortlex

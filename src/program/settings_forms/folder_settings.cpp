@@ -1,6 +1,6 @@
 #include "program/settings_forms/folder_settings.h"
 
-#include "program/settings_forms/reminders.h"
+#include "settings/reminders.h"
 
 namespace wortlex {
 namespace {

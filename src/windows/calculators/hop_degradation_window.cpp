@@ -2,6 +2,7 @@
 
 #include "calculators/degradation_chart_printout.h"
 #include "desktop/form_dialog.h"
+#include "program/picture_desk.h"
 
 namespace wortlex {
 
@@ -10,8 +11,14 @@ std::optional<float> degrade_hop(const WindowPorts& ports, QWidget* owner, HopUs
     const auto& settings = program.settings;
     auto degradation = start_degradation(work, settings);
     const auto print = [&] { ports.pages.show(degradation_printout(degradation, settings.printer_scale)); };
+    const auto save_jpg = [&] {
+        const ChartDrawing chart{degradation_chart_size(true), [&](Surface& surface) {
+                                     draw_degradation_chart(surface, degradation, true);
+                                 }};
+        choose_and_save_chart(chart, degradation.name, picture_desk(ports));
+    };
     Form form;
-    hop_degradation_form(form, degradation, {.save_jpg = nullptr, .print = print, .help = nullptr});
+    hop_degradation_form(form, degradation, {.save_jpg = save_jpg, .print = print, .help = nullptr});
     const bool accepted =
         run_dialog(form, {.template_name = "HOPSHORTTIMEDIALOG", .opener = opener, .enter_closes = false},
                    places(program), owner);

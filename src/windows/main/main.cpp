@@ -2,9 +2,11 @@
 #include "base/folder_guard.h"
 #include "desktop/end_of_session.h"
 #include "desktop/message_boxes.h"
+#include "desktop/picture_easel.h"
 #include "desktop/print_preview.h"
 #include "desktop/second_start.h"
 #include "desktop/system_ports.h"
+#include "jpeg/jpeg_pictures.h"
 #include "program/start.h"
 #include "windows/main/main_window.h"
 
@@ -51,7 +53,9 @@ int run(int count, char** arguments) {
     FileDialogs files;
     SystemClipboard clipboard;
     PreviewDesk pages(files, prompts, places(program), program.folders, program.data_folder);
-    MainWindow window({program, prompts, files, pages, clipboard});
+    PictureEasel easel;
+    JpegPictures pictures;
+    MainWindow window({program, prompts, files, pages, clipboard, easel, pictures});
     window.show();
     const EndOfSession end_of_session([&program] { keep_work(program.tools); });
     const SecondStarts second_starts(folder, [&window](const std::string& path) { window.take_over(path); });

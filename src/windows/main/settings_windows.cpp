@@ -11,9 +11,9 @@
 #include "program/settings_forms/mash_settings.h"
 #include "program/settings_forms/measure_settings.h"
 #include "program/settings_forms/printer_settings.h"
-#include "program/settings_forms/reminders.h"
 #include "program/settings_forms/screen_settings.h"
 #include "program/settings_forms/settings_session.h"
+#include "settings/reminders.h"
 
 #include "base/files.h"
 

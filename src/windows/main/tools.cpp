@@ -2,7 +2,6 @@
 
 #include "calculators/hop_degradation.h"
 #include "desktop/system_ports.h"
-#include "jpeg/jpeg_pictures.h"
 #include "program/program.h"
 #include "windows/calculators/brewers_tools.h"
 #include "windows/calculators/color_utility_window.h"
@@ -56,11 +55,10 @@ void calculate_ibu(const WindowPorts& ports, QWidget* main) {
 
 void edit_settings(const WindowPorts& ports, QWidget* main) {
     if (!may_edit_settings(ports.program.tools, ports.prompts)) return;
-    JpegPictures pictures;
     const SystemClock clock;
     const auto edit_colours = [&](QWidget* over) {
         run_color_utility(ports.program, ports.program.system.settings,
-                          {ports.files, ports.prompts, pictures, clock}, over);
+                          {ports.files, ports.prompts, ports.pictures, clock}, over);
     };
     edit_system_settings({ports.program, ports.files, ports.prompts, edit_colours}, main);
 }

@@ -2,8 +2,8 @@
 #include "program/settings_forms/folder_settings.h"
 #include "program/settings_forms/gauge_settings.h"
 #include "program/settings_forms/printer_settings.h"
-#include "program/settings_forms/reminders.h"
 #include "program/settings_forms/screen_settings.h"
+#include "settings/reminders.h"
 #include "support/field.h"
 #include "support/scripted_prompts.h"
 #include "support/temporary_folder.h"
@@ -167,6 +167,42 @@ TEST(PrinterSettings, StoreScalesOfTheirOwn) {
     EXPECT_EQ(image.jpg_quality, 20);
     type(form, "dme_scalar", "4.5");
     EXPECT_EQ(image.dme_scalar, 4.0F);
+}
+
+TEST(Reminders, OfPicturesNameThemAndAreWavedAwayEachForItself) {
+    const TemporaryFolder folder;
+    ScriptedPrompts prompts;
+    ReminderFlags reminders;
+    const auto remind = [&](const ChartPictureNames& names) {
+        remind_of_pictures(names, reminders, folder.path(), prompts);
+        return LoadReminders(folder.path());
+    };
+    const std::string mash =
+        "Because you have chosen to generate a Mash Chart with this HTML file, the\n"
+        "Mash Chart was exported as a separate JPG file named:\n\np_mash.jpg\n\n"
+        "If the HTML file is transferred to a web-site, this file will also need to be uploaded\n"
+        "to the site, in the same directory as the HTML file.\n\n"
+        "Wortlex will always name the jpg file with the same filename as the recipe or\n"
+        "brewing session, with \"_mash\" appended to the filename and with the extension \".jpg\"";
+    const std::string both =
+        "Because you have chosen to generate a Mash Chart and a Water Profile Chart\n"
+        "with this HTML file, the Mash Chart and Water Profile Chart were exported to\n"
+        "seperate JPG files named:\n\np_mash.jpg\np_water.jpg\n\n"
+        "If the HTML file is transferred to a web-site, these files will also need to be uploaded\n"
+        "to the site, in the same directory as the HTML file.\n\n"
+        "Wortlex will always name the jpg files with the same filename as the brewing session,\n"
+        "with \"_mash\" and \"_water\" appended to the filename(s) and with the extension \".jpg\"";
+    const char* const of_one = " Wortlex Reminder Message! JPG Filename in HTML Export.";
+    const char* const of_several = " Wortlex Reminder Message! JPG Filenames in HTML Export.";
+    EXPECT_EQ(remind({}), ReminderFlags()) << "no picture, no word";
+    prompts.expect("reminder", mash, true, Icon::information, of_one);
+    EXPECT_EQ(remind({"p_mash.jpg", ""}), ReminderFlags());
+    prompts.expect("reminder", mash, false, Icon::information, of_one);
+    EXPECT_EQ(remind({"p_mash.jpg", ""}), (ReminderFlags{0, 1, 1}));
+    EXPECT_EQ(remind({"p_mash.jpg", ""}), (ReminderFlags{0, 1, 1})) << "not again";
+    prompts.expect("reminder", both, false, Icon::information, of_several);
+    EXPECT_EQ(remind({"p_mash.jpg", "p_water.jpg"}), (ReminderFlags{0, 0, 1}));
+    EXPECT_EQ(remind({"", "p_water.jpg"}), (ReminderFlags{0, 0, 1}));
 }
 
 TEST(RemindersAndPositions, AreOnTheDiskAtOnce) {

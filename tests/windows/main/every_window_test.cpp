@@ -166,7 +166,8 @@ TEST(EveryWindow, IsReadByEarAndTellsWhatItsButtonsDo) {
     auto& program = brewery.program;
     program.water_database = one<WaterRecord>("Burton");
     const auto path = save_full_recipe(brewery);
-    MainWindow window({program, prompts, files, brewery.pages, brewery.clipboard});
+    MainWindow window(
+        {program, prompts, files, brewery.pages, brewery.clipboard, brewery.easel, brewery.pictures});
     window.show();
     Visitor visitor;
     visitor.press([&] { read(window); });

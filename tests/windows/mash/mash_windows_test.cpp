@@ -3,6 +3,7 @@
 #include "support/qt_keys.h"
 #include "support/recording_clipboard.h"
 #include "support/recording_desk.h"
+#include "support/recording_surface.h"
 #include "support/scripted_files.h"
 #include "windows/documents/simple_mash_window.h"
 #include "windows/main/main_window.h"
@@ -66,7 +67,9 @@ TEST(StrikeCalculatorWindow, OpensOnceAndKeepsItsValuesForTheRun) {
     ScriptedFiles files;
     RecordingPageDesk pages;
     RecordingClipboard clipboard;
-    MainWindow main({program, prompts, files, pages, clipboard});
+    RecordingEasel easel;
+    FakePictures pictures;
+    MainWindow main({program, prompts, files, pages, clipboard, easel, pictures});
     const auto open = [&main] {
         main.commands().start(command::strike_temperature);
         const auto windows = QApplication::topLevelWidgets();
