@@ -1,6 +1,7 @@
 #include "databases/water.h"
 
 #include "base/windows1252.h"
+#include "brewing/water_ph.h"
 #include "databases/catalogues.h"
 #include "databases/store.h"
 #include "databases/water_hardness.h"
@@ -31,19 +32,9 @@ constexpr CatalogueWords water_words = {
     .inventory_template = "",
     .pick_template = "WATERPICKDIALOG"};
 
-struct Ion {
-    const char* key;
-    const char* label;
-    const char* symbol;
-    float WaterRecord::*ppm;
-};
-
-constexpr std::array ions = {Ion{"calcium", "&Calcium (Ca)", "Ca", &WaterRecord::calcium},
-                             Ion{"magnesium", "&Magnesium (Mg)", "Mg", &WaterRecord::magnesium},
-                             Ion{"sodium", "&Sodium (Na)", "Na", &WaterRecord::sodium},
-                             Ion{"sulfate", "S&ulfate (SO4)", "SO4", &WaterRecord::sulfate},
-                             Ion{"chloride", "Ch&loride (Cl)", "Cl", &WaterRecord::chloride},
-                             Ion{"bicarbonate", "&biCarbonate (HCO3)", "HCO3", &WaterRecord::bicarbonate}};
+// In the order of the ions.
+constexpr std::array ion_labels = {"&Calcium (Ca)",  "&Magnesium (Mg)", "&Sodium (Na)",
+                                   "S&ulfate (SO4)", "Ch&loride (Cl)",  "&biCarbonate (HCO3)"};
 
 std::vector<CatalogueColumn<WaterRecord>> water_columns() {
     using Water = CatalogueBuilder<WaterRecord>;
@@ -66,9 +57,9 @@ std::function<void()> opened(const std::function<void(WaterRecord&)>& converter,
 }
 
 void ion_rows(Rows& rows, Form& form, WaterRecord& water) {
-    for (const auto& ion : ions)
-        rows.number(ion.key, water.*ion.ppm)
-            .label(ion.label)
+    for (std::size_t i = 0; i < ions.size(); ++i)
+        rows.number(ions[i].key, water.*ions[i].ppm)
+            .label(ion_labels[i])
             .range(0.0F, most_ppm)
             .step(1.0F)
             .outside(Outside::clamp);

@@ -1,6 +1,7 @@
 #include "databases/water_hardness.h"
 
 #include "base/number.h"
+#include "brewing/water_ph.h"
 
 #include <cmath>
 #include <memory>
@@ -12,16 +13,7 @@ constexpr double caco3_equivalent = 50.0; // grams a mole of charge, as are the 
 constexpr double calcium_equivalent = 20.0;
 constexpr double magnesium_equivalent = 12.1;
 
-constexpr float neutral_ph = 7.0F;
 constexpr float lowest_ph = 4.0F, highest_ph = 12.0F; // of the alkalinity converter
-
-// Positive charges less negative ones, in moles a litre, of water with `carbon` moles of bicarbonate salt.
-double charge_excess(double ph, double carbon) {
-    const double first = std::pow(10.0, ph - 6.38), second = std::pow(10.0, ph - 10.32);
-    const double bicarbonate = first * carbon / (first + 1 + first * second);
-    const double hydroxide = std::pow(10.0, ph - 14.0);
-    return (std::pow(10.0, -ph) + carbon) - (hydroxide + 2 * second * bicarbonate + bicarbonate);
-}
 
 void caco3_row(Rows& rows, float& caco3) {
     rows.number("caco3", caco3).label("C&aCO3").range(0.0F, 5000.0F).step(1.0F).outside(Outside::clamp);
@@ -62,19 +54,6 @@ float calcium_of(float hardness) {
 
 float magnesium_of(float hardness) {
     return narrow(hardness / caco3_equivalent * magnesium_equivalent);
-}
-
-float ph_of_bicarbonate(float bicarbonate) {
-    if (!(bicarbonate > 0)) return neutral_ph;
-    const double carbon = bicarbonate / 61017.1;
-    double low = neutral_ph, high = 8.35, ph = neutral_ph;
-    for (int round = 0; round < 200; ++round) {
-        const double excess = charge_excess(ph, carbon);
-        if (std::abs(excess) <= 1e-10) break;
-        (excess > 0 ? low : high) = ph;
-        ph = low + (high - low) / 2;
-    }
-    return narrow(ph);
 }
 
 void calcium_hardness_form(Form& form, WaterRecord& water) {

@@ -22,10 +22,6 @@ Carbonates carbonates_of(float alkalinity, float ph);
 float calcium_of(float hardness);
 float magnesium_of(float hardness);
 
-/// The pH, 7 to 8.35, at which the charges of a water with nothing but this bicarbonate (ppm) cancel out; 7
-/// where there is none.
-float ph_of_bicarbonate(float bicarbonate);
-
 /// The converters. OK stores their result in the water, which must outlive the form.
 void calcium_hardness_form(Form& form, WaterRecord& water);
 void magnesium_hardness_form(Form& form, WaterRecord& water);

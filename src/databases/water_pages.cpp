@@ -21,9 +21,7 @@ EntryLines water_entry(const WaterRecord& water) {
 
 std::vector<std::string> water_row(const WaterRecord& water) {
     std::vector<std::string> cells = {utf8_from_windows1252(water.name.view())};
-    for (const auto ppm :
-         {water.calcium, water.magnesium, water.sodium, water.sulfate, water.chloride, water.bicarbonate})
-        cells.push_back(formatted("%0.1f", ppm));
+    for (const auto& ion : ions) cells.push_back(formatted("%0.1f", water.*ion.ppm));
     return cells;
 }
 

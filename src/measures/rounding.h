@@ -30,6 +30,11 @@ inline float two_decimals(float x) {
     return narrow(truncate((x + (x >= 1.0F ? 0.0019 : 0.0009)) * 100) / 100.0);
 }
 
+/// The multiple of `step` that is nearest to `x`: what is proposed to a user is a round figure.
+inline float to_nearest(double x, double step) {
+    return narrow(std::floor(x / step + 0.5) * step);
+}
+
 /// Whether two gravities (SG) count as the same when an ingredient is matched against the database.
 inline bool gravity_close(float a, float b) {
     const auto tenths = [](float sg) { return truncate((sg - 1.0) * 1000 * 100 / 10 + 0.5); };

@@ -1,3 +1,4 @@
+#include "brewing/water_ph.h"
 #include "databases/water.h"
 #include "databases/water_hardness.h"
 #include "support/field.h"

@@ -137,7 +137,7 @@ struct WaterRecord {
     float calcium = 0; ///< ppm, as are the other ions
     float magnesium = 0;
     float sodium = 0;
-    float reserved_39 = 0;
+    float reserved_39 = 0; ///< a fourth ion that nothing shows, but sums count
     float sulfate = 0;
     float chloride = 0;
     float bicarbonate = 0;
@@ -153,6 +153,22 @@ inline constexpr auto water_layout = layout<WaterRecord, 222>(
     at(35, &WaterRecord::sodium), at(39, &WaterRecord::reserved_39), at(43, &WaterRecord::sulfate),
     at(47, &WaterRecord::chloride), at(51, &WaterRecord::bicarbonate), at(55, &WaterRecord::ph),
     at(59, &WaterRecord::known_for), at(214, &WaterRecord::reserved_214));
+
+/// An ion as waters tell it.
+struct Ion {
+    const char* key;
+    const char* symbol;
+    float WaterRecord::*ppm;
+    double equivalent_weight; ///< milligrams a milliequivalent
+};
+
+inline constexpr std::array ions = {Ion{"calcium", "Ca", &WaterRecord::calcium, 20.04},
+                                    Ion{"magnesium", "Mg", &WaterRecord::magnesium, 12.15},
+                                    Ion{"sodium", "Na", &WaterRecord::sodium, 22.99},
+                                    Ion{"sulfate", "SO4", &WaterRecord::sulfate, 48.03},
+                                    Ion{"chloride", "Cl", &WaterRecord::chloride, 35.45},
+                                    Ion{"bicarbonate", "HCO3", &WaterRecord::bicarbonate, 61.02}};
+inline constexpr std::size_t cation_count = 3; ///< they come first
 
 enum class BeerType : std::uint8_t { ale = 0, lager = 1, cider = 2, mead = 3, sake = 4, mixed = 5 };
 
