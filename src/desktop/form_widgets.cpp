@@ -285,7 +285,8 @@ FormWidgets::Line FormWidgets::made_line(const EntryRow& row) {
 
 void FormWidgets::follow_typing(EntryRow& row, const Line& line) {
     QObject::connect(line.edit, &QLineEdit::textEdited, &alive_, [this, &row, line] {
-        if (edit([&] { form_.type(row, *line.text); })) judge(row, *line.widget, line.text->text());
+        const auto typed = line.text->text(); // which the row may correct at once
+        if (edit([&] { form_.type(row, *line.text); })) judge(row, *line.widget, typed);
     });
     if (line.arrows == nullptr) return;
     line.arrows->stepped = [this, &row, line](Spin direction) {

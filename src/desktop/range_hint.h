@@ -6,8 +6,8 @@
 
 namespace wortlex {
 
-/// A frame around a field and its range below, in the colours of a warning. It lies over the window, so that
-/// nothing moves, and goes with the focus.
+/// A frame around a field and its range beside it, in the colours of a warning. It lies over the window, so
+/// that nothing moves, and goes with the focus.
 class RangeHint : public QWidget {
 public:
     explicit RangeHint(QWidget* window);
@@ -21,6 +21,8 @@ protected:
 
 private:
     void place();
+    QRect place_of_words(QRect words) const;
+    int hidden_by(const QRect& place) const;
 
     QPointer<QWidget> field_;
     QString range_;

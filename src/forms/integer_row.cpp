@@ -1,3 +1,4 @@
+#include "base/number.h"
 #include "forms/ranges.h"
 
 #include <algorithm>
@@ -61,13 +62,15 @@ bool IntegerRow::typed(TextField& field) {
     const auto before = value_.get();
     auto value = before;
     if (units_) return store(value, typed_temperature(*units_, field, value, number_length));
-    if (outside_ == Outside::ignore)
-        return store(value, typed_int(field, value, typed_low_(), typed_high_(), number_length));
-    if (field.text().empty() && (typed_low_() > 0 || typed_high_() < 0)) return false; // no number yet
-    typed_int(field, value, -any_whole, any_whole, number_length);
-    const auto held = std::clamp(value, typed_low_(), typed_high_());
-    const bool has_changed = store(held, held != before);
-    if (held != value && outside_ == Outside::rewrite) show(field);
+    const auto text = field.text();
+    typed_int(field, value, typed_low_(), typed_high_(), number_length);
+    const bool is_read = field.text() == text; // else a character was thrown out
+    const auto limit = is_read && outside_ != Outside::ignore
+                           ? limit_beyond(text, typed_low_(), typed_high_())
+                           : std::nullopt;
+    if (limit) value = truncate(*limit);
+    const bool has_changed = store(value, value != before);
+    if (limit && outside_ == Outside::rewrite) show(field);
     return has_changed;
 }
 
@@ -91,7 +94,8 @@ std::string IntegerRow::range_words() const {
 }
 
 bool IntegerRow::is_outside(const std::string& text) const {
-    return !units_ && lies_outside(text, typed_low_(), typed_high_());
+    if (units_) return limit_beyond(text, 0, highest_temperature(*units_)).has_value();
+    return limit_beyond(text, typed_low_(), typed_high_()).has_value();
 }
 
 void IntegerRow::hold() const {

@@ -104,15 +104,17 @@ bool NumberRow::type_into(TextField& field, float& value, const Range& range) co
 
 bool NumberRow::typed(TextField& field) {
     const Range range{typed_low_(), typed_high_()};
-    const bool ignores = outside_ == Outside::ignore;
-    if (!ignores && field.text().empty() && (range.low > 0 || range.high < 0)) return false; // no number yet
+    const auto text = field.text();
     const float before = shown();
     float value = before;
-    const bool has_read = type_into(field, value, ignores ? range : Range{-anything, anything});
-    const float held = ignores ? value : std::clamp(value, range.low, range.high);
-    const bool has_changed = store(held, before) && has_read;
-    if (held != value && outside_ == Outside::rewrite) show(field);
-    if (has_changed && when_typed_) when_typed_(before, held);
+    bool has_changed = type_into(field, value, range);
+    const bool is_read = field.text() == text; // else a character was thrown out
+    const auto limit =
+        is_read && outside_ != Outside::ignore ? limit_beyond(text, range.low, range.high) : std::nullopt;
+    if (limit) value = narrow(*limit);
+    has_changed = store(value, before) && (has_changed || limit);
+    if (limit && outside_ == Outside::rewrite) show(field);
+    if (has_changed && when_typed_) when_typed_(before, value);
     return has_changed;
 }
 
@@ -145,7 +147,7 @@ std::string NumberRow::range_words() const {
 }
 
 bool NumberRow::is_outside(const std::string& text) const {
-    return lies_outside(text, typed_low_(), typed_high_());
+    return limit_beyond(text, typed_low_(), typed_high_()).has_value();
 }
 
 void NumberRow::hold() const {

@@ -21,10 +21,14 @@ std::string range_in_words(double low, double high, double everything) {
     return low <= -everything ? limit(high) + " or less" : limit(low) + " to " + limit(high);
 }
 
-bool lies_outside(const std::string& text, double low, double high) {
-    if (text.find_first_of("0123456789") == std::string::npos) return false; // no number yet
+std::optional<double> limit_beyond(std::string text, double low, double high) {
+    std::replace(text.begin(), text.end(), ',', '.');
+    const auto first = text.find_first_not_of(' ');
+    if (first == std::string::npos || text.find_first_of("0123456789") == std::string::npos) return {};
+    if (std::string_view("0123456789.-").find(text[first]) == std::string_view::npos) return {};
     const float number = narrow(leading_number(text));
-    return number < low || number > high;
+    if (number < low) return low;
+    return number > high ? std::optional(high) : std::nullopt;
 }
 
 bool read_decimal_mark(const EntryRow& row, TextField& field) {

@@ -4,6 +4,8 @@
 #include "forms/entry_rows.h"
 
 #include <limits>
+#include <optional>
+#include <string>
 
 namespace wortlex {
 
@@ -14,7 +16,7 @@ inline constexpr int number_length = 12; ///< characters that a field is read to
 /// "1 to 100"; `everything` is what limits a field that has no limit.
 std::string range_in_words(double low, double high, double everything);
 
-/// Whether `text` is a number, and beyond the limits.
-bool lies_outside(const std::string& text, double low, double high);
+/// The limit beyond which `text` lies, be it ever so far; nothing where it lies within, or is no number yet.
+std::optional<double> limit_beyond(std::string text, double low, double high);
 
 } // namespace wortlex

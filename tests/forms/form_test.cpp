@@ -54,9 +54,10 @@ TEST(NumberRow, OutsideItsRangeFollowsItsRule) {
         float value;
         const char* left; ///< in the field
     };
-    for (const auto& c : {Case{Outside::ignore, "150", 50, "150"}, Case{Outside::clamp, "150", 100, "150"},
-                          Case{Outside::rewrite, "150", 100, "100"}, Case{Outside::clamp, "", 50, ""},
-                          Case{Outside::clamp, "7x", 50, "7"}}) {
+    for (const auto& c :
+         {Case{Outside::ignore, "150", 50, "150"}, Case{Outside::clamp, "150", 100, "150"},
+          Case{Outside::rewrite, "150", 100, "100"}, Case{Outside::clamp, "", 50, ""},
+          Case{Outside::clamp, "7x", 50, "7"}, Case{Outside::clamp, "999999999999", 100, "999999999999"}}) {
         float value = 50;
         std::int32_t whole = 50;
         Form form;
@@ -132,6 +133,13 @@ TEST(NumberRow, TellsItsRangeInTheUnitShown) {
               "-17.77 to 0.05");
     EXPECT_EQ(form.rows().temperature("degrees", degrees, TemperatureUnits::celsius).range_words(),
               "0 to 105");
+    EXPECT_TRUE(dynamic_cast<EntryRow&>(form.row("degrees")).is_outside("106")) << "though held at once";
+    const Settings settings;
+    auto& sg = form.rows().sg("sg", sum, settings).range(1, 2).outside(Outside::hold);
+    PlainField field;
+    type(form, "sg", field, "99999");
+    EXPECT_EQ(sum, 2) << "also beyond what can be truncated";
+    EXPECT_TRUE(sg.is_outside("99999"));
 }
 
 TEST(NumberRow, KeepsToItsScale) {
