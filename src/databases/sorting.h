@@ -37,23 +37,25 @@ SortKeys keys_of(const CatalogueColumn<Record>& column, std::span<const Record> 
 } // namespace sorting
 
 /// Sorts by the chain of a column, each key in the direction of its own column; equal entries keep their
-/// order.
+/// order. Tells where each entry stood before.
 template <class Record>
-void sort_by(std::span<Record> entries, const Catalogue<Record>& catalogue, std::size_t column,
-             const std::vector<std::uint8_t>& descending) {
+std::vector<std::size_t> sort_by(std::span<Record> entries, const Catalogue<Record>& catalogue,
+                                 std::size_t column, const std::vector<std::uint8_t>& descending) {
     std::vector<SortKeys> chain;
     for (const auto key : catalogue.chains[column])
         chain.push_back(sorting::keys_of<Record>(catalogue.columns[key], entries, descending[key] != 0));
     std::vector<Record> sorted;
     sorted.reserve(entries.size());
-    for (const auto place : sorted_order(chain, entries.size())) sorted.push_back(entries[place]);
+    auto order = sorted_order(chain, entries.size());
+    for (const auto place : order) sorted.push_back(entries[place]);
     std::copy(sorted.begin(), sorted.end(), entries.begin());
+    return order;
 }
 
 /// The order of the files: by the first column, upwards.
 template <class Record>
-void sort_canonically(std::span<Record> entries, const Catalogue<Record>& catalogue) {
-    sort_by(entries, catalogue, 0, std::vector<std::uint8_t>(catalogue.columns.size(), 0));
+std::vector<std::size_t> sort_canonically(std::span<Record> entries, const Catalogue<Record>& catalogue) {
+    return sort_by(entries, catalogue, 0, std::vector<std::uint8_t>(catalogue.columns.size(), 0));
 }
 
 } // namespace wortlex

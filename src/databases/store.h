@@ -97,6 +97,8 @@ private:
     std::size_t first_like(std::size_t entry) const;
     bool passes(const Record& record) const;
     void fill();
+    /// Puts the array into the order of the files; the rows stay as they are shown.
+    void sort_for_file();
     /// The entry in the selected row, to be found again once the array has been sorted.
     std::optional<Record> entry_in_row() const;
     void select(const std::optional<Record>& entry);
@@ -411,7 +413,7 @@ void Store<Record>::import_bytes(ByteView file, const std::string& name, Prompts
     const auto unreadable =
         std::erase_if(records, [](const Record& record) { return !looks_like_a_record(record); });
     if (records.empty()) return prompts.tell({.text = nothing_to_import(name), .icon = Icon::error});
-    sort_canonically<Record>(entries(), catalogue_);
+    sort_for_file();
     const auto before = database_;
     Merge merge;
     for (auto& record : records) {
@@ -478,14 +480,23 @@ void Store<Record>::finish_import(const Merge& merge, Prompts& prompts) {
 }
 
 template <class Record>
+void Store<Record>::sort_for_file() {
+    const auto order = sort_canonically<Record>(entries(), catalogue_);
+    std::vector<std::size_t> place_of(order.size());
+    for (std::size_t place = 0; place < order.size(); ++place) place_of[order[place]] = place;
+    for (auto& entry : shown_) entry = place_of[entry];
+    if (cloned_) cloned_ = place_of[*cloned_];
+}
+
+template <class Record>
 bool Store<Record>::is_changed() {
-    sort_canonically<Record>(entries(), catalogue_);
+    sort_for_file();
     return !holds_the_same(database_, saved_);
 }
 
 template <class Record>
 bool Store<Record>::write(Prompts& prompts) {
-    sort_canonically<Record>(entries(), catalogue_);
+    sort_for_file();
     if (!catalogue_.save(database_)) {
         prompts.tell({.text = not_saved, .icon = Icon::error});
         return false;
@@ -504,15 +515,10 @@ void Store<Record>::save(Prompts& prompts) {
 
 template <class Record>
 bool Store<Record>::close(Prompts& prompts) {
-    const auto entry = entry_in_row();
     if (side() == ListSide::maintenance && is_changed()) {
         const auto answer = prompts.ask_yes_no_or_stay(
             {.text = catalogue_.words.closing_question, .icon = Icon::warning, .safe = Answer::yes});
-        if (answer == Answer::cancel || (answer == Answer::yes && !write(prompts))) {
-            show_again();
-            select(entry);
-            return false;
-        }
+        if (answer == Answer::cancel || (answer == Answer::yes && !write(prompts))) return false;
         if (answer == Answer::no) reload(prompts);
     }
     auto sort = sort_;

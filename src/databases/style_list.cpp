@@ -58,7 +58,7 @@ void StyleStore::choose_filter(std::int32_t chosen, Prompts& prompts) {
         const auto question = switch_question(book_);
         const auto answer =
             prompts.ask_yes_no_or_stay({.text = question, .icon = Icon::warning, .safe = Answer::yes});
-        if (answer == Answer::cancel || (answer == Answer::yes && !write(prompts))) return show_again();
+        if (answer == Answer::cancel || (answer == Answer::yes && !write(prompts))) return;
     }
     take(book);
     reload(prompts);

@@ -120,6 +120,22 @@ TEST(Store, SavingLeavesTheSelectionWhereItIs) {
     }
 }
 
+TEST(Store, RowsStandAsTheyWereBehindTheClosingQuestion) {
+    struct Watching : ScriptedPrompts {
+        std::function<std::string()> rows;
+        std::string seen;
+        Answer ask_yes_no_or_stay(const Message&) override { return seen = rows(), Answer::cancel; }
+    };
+    Hops hops({hop("Ella", "AU", 15), hop("Fuggle", "UK", 4.5F)});
+    hops->click(0);
+    hops.database.slots[0].alpha = 5;
+    Watching prompts;
+    prompts.rows = [&] { return hops.column(0); };
+    EXPECT_FALSE(hops->close(prompts));
+    EXPECT_EQ(prompts.seen, "Fuggle|Ella|");
+    EXPECT_EQ(hops.column(0), prompts.seen) << "and who stays finds them so";
+}
+
 TEST(Store, EmptyDatabaseDoesNoHarm) {
     Hops hops({hop("Saaz", "CZ", 3)});
     hops.prompts.expect("yes/no", "Do you really want to delete the\n\nSaaz\n\nentry?", Answer::yes,
