@@ -44,6 +44,8 @@ protected:
     void keyboardSearch(const QString& text) override;
     void keyPressEvent(QKeyEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
+    void drawRow(QPainter* painter, const QStyleOptionViewItem& option,
+                 const QModelIndex& index) const override;
 
 private:
     void act(const std::function<void()>& action);

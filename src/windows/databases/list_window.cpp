@@ -125,7 +125,8 @@ void ListWindow::make_find_line() {
     find_line_.setObjectName(QStringLiteral("find"));
     find_line_.setPlaceholderText(QStringLiteral("Find (Ctrl+F)"));
     find_line_.setAccessibleName(QStringLiteral("Find"));
-    find_line_.setToolTip(QStringLiteral("Parts of words in any column; F3 goes to the next one found"));
+    find_line_.setToolTip(
+        QStringLiteral("Parts of words in any column; Down and F3 go to the next one found"));
     find_line_.setClearButtonEnabled(true);
     find_line_.installEventFilter(this);
     connect(&find_line_, &QLineEdit::textChanged, this, [this](const QString& text) {
@@ -145,12 +146,19 @@ bool ListWindow::eventFilter(QObject* watched, QEvent* event) {
     return QDialog::eventFilter(watched, event);
 }
 
-// Arrows go on in the list, Enter takes what is found, Esc first clears the line.
+// Arrows go on in the list, to the next row that is found; Enter takes what is found, Esc first clears the
+// line.
 bool ListWindow::take_find_key(const QKeyEvent& event) {
     auto& list = widgets_->field("list");
     switch (event.key()) {
     case Qt::Key_Up:
     case Qt::Key_Down:
+        if (count_found(list_, query_) > 0) {
+            list.setFocus();
+            go_on(event.key() == Qt::Key_Up);
+            return true;
+        }
+        [[fallthrough]];
     case Qt::Key_PageUp:
     case Qt::Key_PageDown: {
         list.setFocus();
