@@ -34,7 +34,7 @@ MainWindow::MainWindow(const WindowPorts& ports)
     const auto& info = window_info("GENERIC");
     setObjectName(string_of(info.template_name));
     setWindowTitle(string_of(info.captions[0]));
-    setWindowFlag(Qt::MSWindowsFixedSizeDialogHint); // no sizing border; it can still be maximized
+    setWindowFlag(Qt::MSWindowsFixedSizeDialogHint); // no sizing border
     setAcceptDrops(true);
     setCentralWidget(board_);
     carry_out_commands();
@@ -87,7 +87,7 @@ void MainWindow::fill_recent(QMenu& menu) {
 
 // Only the corner is taken from the last time, never the size.
 void MainWindow::put() {
-    resize(sizeHint());
+    setFixedSize(sizeHint()); // not every desktop minds the flag alone
     const auto& last = program_.main_position.window;
     const auto place =
         within_screens(rectangle_at(last.left, last.top, width(), height()), screen_rectangles());
