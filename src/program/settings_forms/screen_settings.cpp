@@ -63,7 +63,7 @@ void preset_row(Rows& rows, Settings& working, const ScreenSettingsUse& use) {
                      tell(recoloured);
                  }},
                 {"Wortlex De&fault", "D&esktop", "&Warm", "Da&rk"})
-        .label("Presets:")
+        .look(ChoiceRow::Look::down)
         .hint("Sets all seven pairs at once; Desktop follows the colors of your desktop");
 }
 
@@ -96,9 +96,8 @@ void restore_colours_on_cancel(Form& form, Settings& working, const std::functio
 
 void screen_settings_form(Form& form, SystemSettings& image, Settings& working,
                           const ScreenSettingsUse& use) {
-    auto& colours = form.group("System Colors");
-    preset_row(colours, working, use);
-    auto& grid = colours.grid("colours", {});
+    preset_row(form.group("Presets"), working, use);
+    auto& grid = form.group("System Colors").grid("colours", {});
     for (const auto& area : areas) colour_line(grid, area, working, use);
     form.next_column();
     form.group("Main Screen Art")

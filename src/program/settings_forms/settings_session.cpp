@@ -92,6 +92,7 @@ void system_settings_form(Form& form, SettingsSession& session, const SettingsBu
     brewers.choice("session_date", session.image().new_session_date, {"Today", "Tomorrow"})
         .label("Default New Brewing Session Date:");
     auto& files = form.group("Files");
+    files.stack_buttons();
     files.button("load", "&Load From File", buttons.load);
     files.button("save", "Save &To File", buttons.save);
     files.button("save_as_default", "&Save As Default", buttons.save_as_default);
