@@ -28,8 +28,8 @@ namespace {
 QString reason_of(const Row& row) {
     if (row.is_enabled()) return {};
     const auto* const button = dynamic_cast<const ButtonRow*>(&row);
-    if (button != nullptr && !button->press) return string_of(not_yet);
-    return string_of(row.reason_text());
+    const auto reason = string_of(row.reason_text());
+    return button != nullptr && !button->press && reason.isEmpty() ? string_of(not_yet) : reason;
 }
 
 // The form's own words, or those of the glossary.

@@ -159,6 +159,7 @@ void scale_to_batch(const OpenDocument& open, float old_size, float new_size) {
     for (auto& line : document.malts) scale(line.amount);
     for (auto& line : document.hops) scale(line.amount);
     for (auto& line : document.extras) scale(line.amount);
+    if (open.session != nullptr) scale(document.simple_mash.dough_in_water);
     gravity_update(document, open.figures, open.settings);
     update_hops_if_any(open);
     colour_update(document, open.figures, open.settings);

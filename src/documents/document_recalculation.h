@@ -71,7 +71,8 @@ void change_hop(const OpenDocument& open, std::size_t index, Edit edit);
 void update_hop_line(const OpenDocument& open, HopUse& line);
 
 /// Scales every amount by the ratio of two batch sizes, both above 0, and the wort size unless it follows the
-/// batch; then works the recipe out anew. Efficiency, times and yeast stay.
+/// batch; in a session the water of the dough-in too. Then works the recipe out anew. Efficiency, times and
+/// yeast stay.
 void scale_to_batch(const OpenDocument& open, float old_size, float new_size);
 
 template <class Edit>

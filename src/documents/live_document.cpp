@@ -32,9 +32,10 @@ void start_recipe(LiveDocument& live, const Settings& settings) {
     live.file = {};
 }
 
-void start_session(LiveDocument& live, const WaterNeeds& usual, const Settings& settings) {
+void start_session(LiveDocument& live, const WaterNeeds& usual, const Settings& settings,
+                   const CalendarDate& today) {
     live.kind = DocumentKind::session;
-    start_session(view_of(live, settings), usual);
+    start_session(view_of(live, settings), usual, today);
     live.water_to_grain = settings.quarts_per_pound;
     live.file = {};
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "base/files.h"
+#include "base/ports/clock.h"
 #include "documents/document_recalculation.h"
 #include "records/documents/document_traits.h"
 
@@ -33,9 +34,10 @@ OpenDocument view_of(LiveDocument& live, const Settings& settings);
 void take_usual_schedule(LiveDocument& live, const Settings& settings);
 
 /// Makes it an empty one without a file. A recipe keeps the schedule kind in force. A session starts from the
-/// brewer's usual water figures.
+/// brewer's usual water figures and, by the settings, from today or tomorrow.
 void start_recipe(LiveDocument& live, const Settings& settings);
-void start_session(LiveDocument& live, const WaterNeeds& usual, const Settings& settings);
+void start_session(LiveDocument& live, const WaterNeeds& usual, const Settings& settings,
+                   const CalendarDate& today);
 
 /// Reads a file's bytes into it. A damaged file leaves everything as it was.
 LoadResult read_into(LiveDocument& live, DocumentKind kind, ByteView file, const Settings& settings);

@@ -3,6 +3,7 @@
 #include "program/program.h"
 
 #include <filesystem>
+#include <utility>
 
 namespace wortlex {
 namespace {
@@ -30,6 +31,14 @@ void tell_fault(LoadResult result, const std::string& path, Prompts& prompts) {
     prompts.tell({.text = text, .icon = is_sound(result) ? Icon::warning : Icon::error});
 }
 
+std::optional<std::string> choose_file(Program& program, DocumentKind kind, Files& files) {
+    const auto& chosen = document_traits(kind);
+    auto path = files.choose_to_open(
+        {chosen.filter, folder_path(program.folders, chosen.folder), {}, chosen.extension});
+    if (path) follow_user(program.folders, chosen.folder, *path);
+    return path;
+}
+
 } // namespace
 
 int open_command(DocumentKind kind) {
@@ -50,8 +59,8 @@ void new_recipe(Program& program) {
     start_recipe(program.document, program.settings);
 }
 
-void new_session(Program& program) {
-    start_session(program.document, program.water_usage, program.settings);
+void new_session(Program& program, const CalendarDate& today) {
+    start_session(program.document, program.water_usage, program.settings, today);
 }
 
 LoadResult load_document(Program& program, const std::string& path, DocumentKind kind) {
@@ -72,12 +81,17 @@ bool open_document(Program& program, const std::string& path, DocumentKind kind,
 }
 
 bool choose_and_open(Program& program, DocumentKind kind, Files& files, Prompts& prompts) {
-    const auto& chosen = document_traits(kind);
-    const auto path = files.choose_to_open(
-        {chosen.filter, folder_path(program.folders, chosen.folder), {}, chosen.extension});
-    if (!path) return false;
-    follow_user(program.folders, chosen.folder, *path);
-    return open_document(program, *path, kind, prompts);
+    const auto path = choose_file(program, kind, files);
+    return path && open_document(program, *path, kind, prompts);
+}
+
+std::optional<BrewDocument> choose_recipe_for_session(Program& program, Files& files, Prompts& prompts) {
+    const auto path = choose_file(program, DocumentKind::recipe, files);
+    if (!path) return std::nullopt;
+    auto recipe = new_document(program.settings, ScheduleKind::simple);
+    const auto result = load_recipe(*path, recipe, program.settings);
+    tell_fault(result, *path, prompts);
+    return is_sound(result) ? std::optional(std::move(recipe)) : std::nullopt;
 }
 
 bool open_document_file(Program& program, const std::string& path, Prompts& prompts) {

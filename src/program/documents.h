@@ -24,7 +24,7 @@ Wanted want_document(const OpenTools& tools, DocumentKind kind, Prompts& prompts
 
 /// Makes the live document an empty one without a file.
 void new_recipe(Program& program);
-void new_session(Program& program);
+void new_session(Program& program, const CalendarDate& today);
 
 /// Loads a file into the live document. A file that is not found or damaged leaves everything as it was.
 LoadResult load_document(Program& program, const std::string& path, DocumentKind kind);
@@ -36,8 +36,13 @@ bool open_document(Program& program, const std::string& path, DocumentKind kind,
 /// The same for a file that the user chooses in the folder of its kind; false if he leaves the dialog.
 bool choose_and_open(Program& program, DocumentKind kind, Files& files, Prompts& prompts);
 
-/// The same for a file from outside, a dropped or a recent one: its ending tells its kind. An open document
-/// is left first, if its user lets it go; true if a window is to be opened on the new one.
+/// A recipe that the user chooses for a session; told what is wrong with its file. Nothing if he leaves the
+/// dialog, or there is none.
+std::optional<BrewDocument> choose_recipe_for_session(Program& program, Files& files, Prompts& prompts);
+
+/// The same as `choose_and_open` for a file from outside, a dropped or a recent one: its ending tells its
+/// kind. An open document is left first, if its user lets it go; true if a window is to be opened on the new
+/// one.
 bool open_document_file(Program& program, const std::string& path, Prompts& prompts);
 
 /// Puts a document that was opened or saved first among the recent ones, and saves the list.

@@ -1,6 +1,7 @@
 #include "program/recent.h"
 
 #include "base/files.h"
+#include "records/documents/document_traits.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -19,9 +20,17 @@ bool is_usable(std::string_view path) {
     return !path.empty() && std::none_of(path.begin(), path.end(), is_no_text);
 }
 
+// A brewer of many recipes still finds his sessions.
+bool has_room(const RecentDocuments& recent, std::string_view path) {
+    const auto is_alike = [kind = document_kind(path)](const auto& other) {
+        return document_kind(other) == kind;
+    };
+    return std::count_if(recent.begin(), recent.end(), is_alike) < std::ptrdiff_t{recent_limit};
+}
+
 void add_last(RecentDocuments& recent, std::string_view path) {
     const bool is_new = std::find(recent.begin(), recent.end(), path) == recent.end();
-    if (is_new && is_usable(path) && recent.size() < recent_limit) recent.emplace_back(path);
+    if (is_new && is_usable(path) && has_room(recent, path)) recent.emplace_back(path);
 }
 
 } // namespace

@@ -6,7 +6,7 @@
 
 namespace wortlex {
 
-/// Native paths, at most `recent_limit` of them.
+/// Native paths, of each kind of document at most `recent_limit`.
 using RecentDocuments = std::vector<std::string>;
 
 inline constexpr std::size_t recent_limit = 9;

@@ -104,6 +104,11 @@ void tell_damaged(const Program& program, const std::string& path, Prompts& prom
     prompts.tell({.text = text, .icon = Icon::warning});
 }
 
+// A session that was kept before a recipe was picked has none yet.
+bool holds_anything(const BrewDocument& recipe) {
+    return !(recipe.title.empty() && recipe.malts.empty() && recipe.hops.empty() && recipe.extras.empty());
+}
+
 // Whether the work of one file is the live document now.
 bool offer(Program& program, const std::string& path, Prompts& prompts) {
     const auto current = path_in(program.data_folder);
@@ -160,6 +165,7 @@ std::optional<RecoveredWork> ReadWork(const std::string& path) {
 bool restore_work(LiveDocument& live, const RecoveredWork& work, const Settings& settings) {
     const auto result = read_into(live, work.kind, work.document, settings);
     if (!is_sound(result)) return false;
+    if (work.path.empty()) live.session.has_recipe = holds_anything(live.recipe) ? 1 : 0;
     live.file = {.path = work.path,
                  .loaded_from_file = !work.path.empty(),
                  .incomplete = result == LoadResult::incomplete,

@@ -141,7 +141,7 @@ TEST(UnitFamilies, FollowTheGivenUnit) {
     EXPECT_EQ(two_decimals(family_of(us, "Gallons", 1)[7]), 3.78F);
 }
 
-TEST(Calendar, CountsDaysOverSummerTimeAndLeapYears) {
+TEST(Calendar, CountsAndNamesDaysOverSummerTimeAndLeapYears) {
     expect_exactly(days_between, {{{27, 3, 2027}, {29, 3, 2027}, 2},
                                   {{28, 2, 2024}, {1, 3, 2024}, 2},
                                   {{1, 1, 2027}, {31, 12, 2026}, -1},
@@ -151,6 +151,15 @@ TEST(Calendar, CountsDaysOverSummerTimeAndLeapYears) {
                               {{31, 12, 2026}, 1, {1, 1, 2027}},
                               {{28, 2, 2026}, 1, {29, 2, 2026}},
                               {{30, 4, 2026}, 0, {30, 4, 2026}}});
+    expect_exactly(existing_day, {{{31, 2, 2025}, {28, 2, 2025}},
+                                  {{30, 2, 2028}, {29, 2, 2028}},
+                                  {{0, 0, 0}, {1, 1, 1}},
+                                  {{32, 13, 32767}, {31, 12, 9999}},
+                                  {{5, 3, 2001}, {5, 3, 2001}}});
+    expect_exactly(next_day, {{{31, 12, 2026}, {1, 1, 2027}}, {{28, 2, 2027}, {1, 3, 2027}}});
+    EXPECT_EQ(short_date({5, 3, 2001}, DateFormat::month_day_year), "03-05-2001");
+    EXPECT_EQ(short_date({5, 3, 2001}, DateFormat::year_month_day), "2001-03-05");
+    EXPECT_EQ(short_date({5, 3, 2001}, DateFormat::day_name_year), "05-Mar-2001");
     EXPECT_EQ(long_date({5, 3, 2001}), "Monday March 05, 2001");
 }
 

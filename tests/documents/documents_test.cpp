@@ -354,7 +354,11 @@ TEST(Opening, OfANewSessionStartsFromTheUsualWater) {
     WaterNeeds usual;
     std::tie(usual.sparge, usual.boil_minutes, usual.grain) = std::tuple{4.0F, 90.0F, 12.0F};
     const auto before = image_of(b.brew_day());
-    start_session(b.brew_day(), usual);
+    b.settings.new_session_date = NewSessionDate::tomorrow;
+    b.settings.brewer_name.assign("Ada");
+    start_session(b.brew_day(), usual, {31, 12, 2026});
+    EXPECT_EQ(brew_date(b.session), (CalendarDate{1, 1, 2027}));
+    EXPECT_EQ(b.session.head_brewer.view(), "Ada");
     EXPECT_TRUE(b.document.malts.empty() && !has_complex_schedule(b.document));
     EXPECT_EQ((std::pair{b.document.batch_size, b.document.wort_size}), (std::pair{5.0F, 5.0F}));
     const auto& needs = b.session.water_needs;

@@ -267,6 +267,9 @@ TEST_F(Documents, AreRememberedNewestFirst) {
     EXPECT_EQ(std::pair(recent.size(), recent.back()), std::pair(recent_limit, std::string("/a/7.rec")));
     for (const auto* path : {"/a/7.rec", "/c/Pale.rec", "/new\nline.rec"}) remember(recent, path);
     EXPECT_EQ(std::pair(recent.size(), recent.back()), std::pair(recent_limit, std::string("/a/5.rec")));
+    remember(recent, "/a/Pale.brw");
+    EXPECT_EQ(recent.size(), recent_limit + 1) << "sessions have a list of their own";
+    recent.erase(recent.begin());
     EXPECT_EQ(recent_name(recent, 0) + recent_name(recent, 1), "Pale.rec (/c)7.rec");
     SaveRecent(folder.path(), {std::string(65536, 'a')});
     EXPECT_TRUE(LoadRecent(folder.path()).empty());

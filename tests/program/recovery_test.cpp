@@ -108,7 +108,7 @@ struct BrewDay : Kitchen {
         saved = snapshot_document(editor.open, SnapshotScope::with_schedule);
     }
     OpenDocument opened() {
-        new_session(program);
+        new_session(program, {5, 3, 2001});
         live.recipe.title.assign("Alt");
         live.recipe.malts.resize(2);
         live.session.head_brewer.assign("Ada");

@@ -7,6 +7,9 @@
 
 namespace wortlex {
 
+/// Gives a document of before what a save has left in the live one.
+void keep_saved_marks(BrewDocument& document, const BrewDocument& live);
+
 /// Remembers the document as it was before each step. What a save leaves in the document - its packed flag
 /// byte and the method that it carries - is no step and is never taken back.
 class DocumentHistory {
@@ -18,6 +21,8 @@ public:
     /// same `merge_key`, if it is not empty, make one step until `end_step`.
     bool note(const OpenDocument& open, std::string_view name, std::string_view merge_key = {});
     void end_step() { merge_key_.clear(); }
+    /// What was worked out since belongs to the last step.
+    void settle(const OpenDocument& open) { now_ = state_of(open); }
 
     /// The names of the steps that `undo` and `redo` would take; empty without one.
     std::string_view to_undo() const;

@@ -4,6 +4,7 @@
 #include "documents/method_check.h"
 
 #include <filesystem>
+#include <utility>
 
 namespace wortlex {
 namespace {
@@ -63,12 +64,13 @@ bool may_overwrite(const DocumentSaving& saving, const std::string& path) {
 bool write(DocumentSaving& saving, const std::string& path) {
     auto& editor = saving.editor;
     if (!may_overwrite(saving, path)) return false;
-    auto image = image_of(editor.open);
+    auto image = snapshot_document(editor.open, SnapshotScope::with_schedule);
+    editor.history.settle(editor.open);
     if (!save_document(path, image, saving.prompts)) return false;
     editor.open.document.mash_flags = image.recipe.mash_flags;
     end_edit(editor);
     saving.file = {.path = path, .loaded_from_file = true, .stamp = stamp_of(path)};
-    saving.saved = snapshot_document(editor.open, SnapshotScope::with_schedule);
+    saving.saved = std::move(image);
     return true;
 }
 

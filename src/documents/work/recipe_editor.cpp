@@ -27,8 +27,13 @@ void put_back(std::vector<Line>& lines, const std::vector<float>& amounts) {
 }
 
 AmountsAtStart amounts_now(const BrewDocument& document, std::string_view edit) {
-    return {std::string(edit),          document.batch_size,        document.wort_size,
-            document.efficiency,        amounts_of(document.malts), amounts_of(document.hops),
+    return {std::string(edit),
+            document.batch_size,
+            document.wort_size,
+            document.efficiency,
+            document.simple_mash.dough_in_water,
+            amounts_of(document.malts),
+            amounts_of(document.hops),
             amounts_of(document.extras)};
 }
 
@@ -44,6 +49,7 @@ void forget_other_start(RecipeEditor& editor, std::string_view edit) {
 
 void put_back_all(BrewDocument& document, const AmountsAtStart& amounts) {
     document.wort_size = amounts.wort_size;
+    document.simple_mash.dough_in_water = amounts.dough_in_water;
     put_back(document.malts, amounts.malts);
     put_back(document.hops, amounts.hops);
     put_back(document.extras, amounts.extras);

@@ -15,6 +15,7 @@ struct AmountsAtStart {
     float batch_size = 0;
     float wort_size = 0;
     float efficiency = 0;
+    float dough_in_water = 0;
     std::vector<float> malts, hops, extras;
 };
 

@@ -28,6 +28,10 @@ LoadResult load_recipe(const std::string& path, BrewDocument& document, const Se
 LoadResult load_session(const std::string& path, BrewDocument& document, SessionDocument& session,
                         const Settings& settings);
 
+/// Puts batch size and actual gravity where a session has recorded nothing, as every load does: later
+/// divisions rely on them.
+void repair_recording(SessionDocument& session, const BrewDocument& document);
+
 /// Each replaces the file atomically; a failure is told through `prompts` and changes nothing. A success
 /// leaves the packed flag byte in the document.
 bool save_recipe(const std::string& path, BrewDocument& document, Prompts& prompts);

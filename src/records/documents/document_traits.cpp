@@ -90,7 +90,9 @@ Bytes document_bytes(const DocumentImage& image) {
 }
 
 bool save_document(const std::string& path, DocumentImage& image, Prompts& prompts) {
-    return save_document(path, document_bytes(image), image.recipe, prompts);
+    auto written = image;
+    if (written.session) repair_recording(*written.session, written.recipe);
+    return save_document(path, document_bytes(written), image.recipe, prompts);
 }
 
 } // namespace wortlex

@@ -44,7 +44,8 @@ LoadResult read_document(DocumentKind kind, ByteView file, DocumentImage& image,
 Bytes document_bytes(const DocumentImage& image);
 
 /// Replaces the file atomically; a failure is told through `prompts` and changes nothing. A success leaves
-/// the packed flag byte in the image.
+/// the packed flag byte in the image. What a load would put in stands in the file at once, so that a file
+/// that is read and saved stays as it was.
 bool save_document(const std::string& path, DocumentImage& image, Prompts& prompts);
 
 } // namespace wortlex

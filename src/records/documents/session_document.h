@@ -1,6 +1,7 @@
 // The log of one brew day: what a session holds beside the live recipe.
 #pragma once
 
+#include "base/ports/clock.h"
 #include "records/documents/brew_document.h"
 #include "records/ingredients/ingredients.h"
 #include "records/water/water_needs.h"
@@ -132,10 +133,23 @@ struct SessionDocument {
     float dilution_rate = 0;
     SessionTail tail;
 
-    float sparge_gallons = 0; ///< the twin of `sparge_quarts`, not stored
+    // Not stored:
+    float sparge_gallons = 0;    ///< the twin of `sparge_quarts`
+    std::uint8_t has_recipe = 0; ///< one was picked, or came with the file
 
     bool operator==(const SessionDocument&) const = default;
 };
+
+/// The day as the record holds it, which may be none of the calendar.
+inline CalendarDate brew_date(const SessionDocument& session) {
+    return {session.brew_day, session.brew_month, session.brew_year};
+}
+/// A day of the years that the record can hold.
+inline void set_brew_date(SessionDocument& session, const CalendarDate& date) {
+    session.brew_day = static_cast<std::int16_t>(date.day);
+    session.brew_month = static_cast<std::int16_t>(date.month);
+    session.brew_year = static_cast<std::int16_t>(date.year);
+}
 
 /// The log of a new session on `document`, which `new_session_recipe` made.
 SessionDocument new_session(const BrewDocument& document);

@@ -55,7 +55,8 @@ constexpr auto tail_layout = layout<SessionTail, 5496>(
     at(5472, &SessionTail::actual_fg_reading, pair_layout),
     at(5480, &SessionTail::alcohol_reading, alcohol_reading_layout), at(5492, &SessionTail::reserved_5492));
 
-// Values that later divisions rely on.
+} // namespace
+
 void repair_recording(SessionDocument& session, const BrewDocument& document) {
     auto& tail = session.tail;
     if (tail.recorded_volume == 0) tail.recorded_volume = document.batch_size;
@@ -64,8 +65,6 @@ void repair_recording(SessionDocument& session, const BrewDocument& document) {
     if (tail.recorded_og == 0)
         tail.recorded_og = session.actual_og > 1.0F ? session.actual_og : document.og_points;
 }
-
-} // namespace
 
 LoadResult load_session(const std::string& path, BrewDocument& document, SessionDocument& session,
                         const Settings& settings) {
@@ -93,6 +92,7 @@ LoadResult read_session(ByteView file, BrewDocument& document, SessionDocument& 
     bring_up_to_date(fresh);
     fresh.mash.tun_thermal_mass = settings.tun_thermal_mass;
     repair_recording(log, fresh);
+    log.has_recipe = 1;
     document = std::move(fresh);
     session = log;
     return reader.complete() ? LoadResult::loaded : LoadResult::incomplete;

@@ -70,19 +70,25 @@ void MainWindow::add_menu() {
 
 void MainWindow::fill_recent(QMenu& menu) {
     menu.clear();
+    add_recent(menu, DocumentKind::recipe, '1');
+    if (!menu.isEmpty()) menu.addSeparator();
+    add_recent(menu, DocumentKind::session, 'A');
+    if (program_.recent_documents.empty())
+        menu.addAction(QStringLiteral("No Documents Yet"))->setEnabled(false);
+    menu.setToolTipsVisible(true);
+}
+
+void MainWindow::add_recent(QMenu& menu, DocumentKind kind, char letter) {
     const auto& recent = program_.recent_documents;
     for (std::size_t i = 0; i < recent.size(); ++i) {
+        if (document_kind(recent[i]) != kind) continue;
         auto name = QFile::decodeName(QByteArray::fromStdString(recent_name(recent, i)));
         name.replace(QLatin1Char('&'), QLatin1String("&&"));
         auto* const action =
-            menu.addAction(QLatin1Char('&') + QString::number(i + 1) + QLatin1Char(' ') + name);
-        const auto kind = document_kind(recent[i]);
-        action->setEnabled(kind && commands_.is_built(open_command(*kind)));
+            menu.addAction(QLatin1Char('&') + QLatin1Char(letter++) + QLatin1Char(' ') + name);
         action->setToolTip(QFile::decodeName(QByteArray::fromStdString(recent[i])));
         connect(action, &QAction::triggered, this, [this, path = recent[i]] { open_file(path); });
     }
-    if (recent.empty()) menu.addAction(QStringLiteral("No Documents Yet"))->setEnabled(false);
-    menu.setToolTipsVisible(true);
 }
 
 // Only the corner is taken from the last time, never the size.
@@ -95,7 +101,7 @@ void MainWindow::put() {
 }
 
 void MainWindow::offer_unsaved_work() {
-    if (offer_work(program_, prompts_)) show_document(DocumentKind::recipe);
+    if (offer_work(program_, prompts_)) show_document(program_.document.kind);
     // Its window offers it.
     if (is_time_line_kept(program_.data_folder)) commands_.start(command::time_line);
 }

@@ -32,6 +32,8 @@ private:
     void carry_out_commands();
     void add_menu();
     void fill_recent(QMenu& menu);
+    /// The documents of one kind, the first by that digit or letter.
+    void add_recent(QMenu& menu, DocumentKind kind, char letter);
     void put();
     void start(const Tool& tool);
     /// Shows the tool's new window and keeps the books of it until it closes.

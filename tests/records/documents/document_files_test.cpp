@@ -25,7 +25,10 @@ void expect_cut(ByteView cut, const Lines& lines, bool is_session) {
     ASSERT_EQ(result, LoadResult::incomplete);
     auto& fresh = expected.document;
     fresh = is_session ? new_session_recipe(test_settings()) : new_document(test_settings(), {});
-    if (is_session) expected.session = new_session(fresh);
+    if (is_session) {
+        expected.session = new_session(fresh);
+        expected.session.has_recipe = 1;
+    }
     if (cut.size() > 85) fresh.hops.resize(lines.hops);
     if (cut.size() > 89) fresh.malts.resize(lines.malts);
     if (cut.size() > 93) fresh.extras.resize(lines.extras);
