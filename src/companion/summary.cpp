@@ -64,7 +64,7 @@ std::string gravity(float points, const Settings& settings) {
     return fixed(sg, sg_decimals(settings)) + " (" + fixed(sg_to_plato(sg), 1) + " Plato)";
 }
 
-std::string brew_date(const SessionDocument& session) {
+std::string date_words(const SessionDocument& session) {
     if (session.brew_year == 0) return {};
     const auto two = [](int number) { return (number < 10 ? "-0" : "-") + std::to_string(number); };
     return ", " + std::to_string(session.brew_year) + two(session.brew_month) + two(session.brew_day);
@@ -75,7 +75,7 @@ std::string heading(const Program& program, const Evaluation& evaluation) {
     const auto& settings = program.settings;
     std::string out = one_line_of(document.title.view());
     out += program.document.kind == DocumentKind::session
-               ? " - Brewing Session" + brew_date(program.document.session)
+               ? " - Brewing Session" + date_words(program.document.session)
                : " - Recipe";
     out += "\n";
     out += "  " + one_line(evaluation.file) + "\n  " + std::string(long_kind_word(document.recipe_kind));
