@@ -1,8 +1,11 @@
 // A file or socket of the system, closed with its owner.
 #pragma once
 
+#include <string>
 #include <unistd.h>
 #include <utility>
+
+struct stat;
 
 namespace wortlex {
 
@@ -28,5 +31,9 @@ public:
 private:
     int descriptor_;
 };
+
+/// Opens a regular file, and nothing else, and tells its status. It never blocks: a named pipe in place of a
+/// file does not hang the program.
+OpenFile open_regular(const std::string& path, int mode, struct stat& status);
 
 } // namespace wortlex

@@ -18,7 +18,7 @@ constexpr CatalogueWords extra_words = {
     .import_extension = "eim",
     .export_file = "Extra.eim",
     .sort_files = {"esort1.srt", "esort2.srt"},
-    .data_file = "EXTRA.DAT",
+    .data_file = extra_file,
     .full = "The Extra Ingredient Database is Full!",
     .clone_warning =
         "Cloning may cause problems with inventory and/or selecting if either the Name or Type of "

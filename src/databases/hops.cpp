@@ -37,7 +37,7 @@ constexpr CatalogueWords hop_words = {
     .import_extension = "him",
     .export_file = "Hop.him",
     .sort_files = {"hsort1.srt", "hsort2.srt"},
-    .data_file = "HOPS.DAT",
+    .data_file = hop_file,
     .full = "The Hop Database is Full!",
     .clone_warning = "Cloning may cause problems with inventory if either the Name, Origin or Form is not "
                      "changed to reflect a "

@@ -73,7 +73,7 @@ constexpr CatalogueWords malt_words = {
     .import_extension = "mim",
     .export_file = "Malt.mim",
     .sort_files = {"msort1.srt", "msort2.srt"},
-    .data_file = "MALT.DAT",
+    .data_file = malt_file,
     .full = "The Malt Database is Full!",
     .clone_warning =
         "Cloning may cause problems with inventory and/or selecting if either the Name, Origin, Color or "

@@ -10,7 +10,7 @@ constexpr CatalogueWords aha_words = {
     .import_extension = "asim",
     .export_file = "Style.asim",
     .sort_files = {"ssort1.srt", "ssort2.srt"},
-    .data_file = "STYLES.DAT",
+    .data_file = aha_style_file,
     .full = "The Style Database is Full!",
     .clone_warning = "",
     .replace_warning = "\n\nDo you wish to replace this item?",
@@ -29,7 +29,7 @@ CatalogueWords words_of(StyleBook book) {
     words.import_filter = "BJCP Style Import File (*.bsim)|*.bsim";
     words.import_extension = "bsim";
     words.export_file = "Style.bsim";
-    words.data_file = "STYLES.BJCP";
+    words.data_file = bjcp_style_file;
     words.closing_question =
         "You have made changes to the Style Guidlines Database!\nExiting now will not save the changes "
         "made.\nThese guidlines adhere to BJCP guidlines and changing them may affect validity.\nDo you want "

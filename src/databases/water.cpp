@@ -20,7 +20,7 @@ constexpr CatalogueWords water_words = {
     .import_extension = "wim",
     .export_file = "Water.wim",
     .sort_files = {"wsort1.srt", "wsort2.srt"},
-    .data_file = "WATER.DAT",
+    .data_file = water_file,
     .full = "The Water Database is Full!",
     .clone_warning = "Cloning may cause problems when picking types if the Name is not changed to reflect a "
                      "unique entry. You may change the name after the cloning process.\n\nDo you really want "

@@ -18,7 +18,7 @@ constexpr CatalogueWords yeast_words = {
     .import_extension = "yim",
     .export_file = "Yeast.yim",
     .sort_files = {"ysort1.srt", "ysort2.srt"},
-    .data_file = "YEAST.DAT",
+    .data_file = yeast_file,
     .full = "The Yeast Database is Full!",
     .clone_warning =
         "Cloning may cause problems with inventory and/or selecting if either the Lab, Catalog #, "

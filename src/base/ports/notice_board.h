@@ -11,6 +11,7 @@ namespace wortlex {
 enum class Change {
     document,   ///< the live one: what it holds, or where it comes from
     settings,   ///< the working values
+    databases,  ///< the files of the ingredient databases
     calibration ///< of the refractometers, for this run
 };
 

@@ -38,6 +38,9 @@ bool save_recipe(const std::string& path, BrewDocument& document, Prompts& promp
 bool save_session(const std::string& path, BrewDocument& document, const SessionDocument& session,
                   Prompts& prompts);
 
+/// The flag byte as a file has it: the efficiency mode that the document carries in the high nibble.
+void pack_flags(BrewDocument& document);
+
 /// The same from and to the bytes of a file; never `not_found`.
 LoadResult read_recipe(ByteView file, BrewDocument& document, const Settings& settings);
 LoadResult read_session(ByteView file, BrewDocument& document, SessionDocument& session,

@@ -3,6 +3,7 @@
 #include "base/files.h"
 #include "base/number.h"
 #include "measures/gravity.h"
+#include "records/documents/document_files.h"
 
 #include <cmath>
 
@@ -135,8 +136,12 @@ void bring_up_to_date(BrewDocument& document) {
 
 bool save_document(const std::string& path, const Bytes& file, BrewDocument& document, Prompts& prompts) {
     if (!save_or_tell(path, file, prompts)) return false;
-    document.mash_flags = packed_flags(document);
+    pack_flags(document);
     return true;
+}
+
+void pack_flags(BrewDocument& document) {
+    document.mash_flags = packed_flags(document);
 }
 
 } // namespace wortlex

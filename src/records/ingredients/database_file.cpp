@@ -3,19 +3,14 @@
 namespace wortlex {
 namespace {
 
-constexpr std::string_view hop_file = "HOPS.DAT", malt_file = "MALT.DAT", yeast_file = "YEAST.DAT",
-                           water_file = "WATER.DAT", extra_file = "EXTRA.DAT";
-
 std::string_view style_file(bool bjcp) {
-    return bjcp ? "STYLES.BJCP" : "STYLES.DAT";
+    return bjcp ? bjcp_style_file : aha_style_file;
 }
 
 template <class Record, class RecordLayout>
 DatabaseState load(const std::string& folder, std::string_view name, const RecordLayout& format,
                    Database<Record>& database, Prompts& prompts) {
-    database = {};
-    const auto file = read_file(find_data_file(folder, name), 4 + database_slots * RecordLayout::size);
-    const auto state = file ? read_database(*file, format, database) : DatabaseState::missing;
+    const auto state = read_database_file(folder, name, format, database);
     if (state != DatabaseState::loaded) {
         const auto* const what = state == DatabaseState::missing
                                      ? " was not found. Its database is empty until the file is back."

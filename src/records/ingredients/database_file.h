@@ -51,6 +51,20 @@ Bytes database_bytes(const Database<Record>& database, const RecordLayout& forma
     return file;
 }
 
+/// Their names, in the data folder.
+inline constexpr std::string_view hop_file = "HOPS.DAT", malt_file = "MALT.DAT", yeast_file = "YEAST.DAT",
+                                  water_file = "WATER.DAT", extra_file = "EXTRA.DAT",
+                                  aha_style_file = "STYLES.DAT", bjcp_style_file = "STYLES.BJCP";
+
+/// Reads one of them, telling nobody.
+template <class Record, class RecordLayout>
+DatabaseState read_database_file(const std::string& data_folder, std::string_view name,
+                                 const RecordLayout& format, Database<Record>& database) {
+    database = {};
+    const auto file = read_file(find_data_file(data_folder, name), 4 + database_slots * RecordLayout::size);
+    return file ? read_database(*file, format, database) : DatabaseState::missing;
+}
+
 /// Each reads its file in the data folder. What is missing or damaged is told by name, opened as far as it
 /// holds and never overwritten unasked.
 DatabaseState LoadHops(const std::string& data_folder, Database<HopRecord>& hops, Prompts& prompts);
