@@ -1,0 +1,136 @@
+#include "documents/work/inventory_analysis.h"
+
+#include "base/windows1252.h"
+#include "measures/unit_words.h"
+#include "measures/units.h"
+
+namespace wortlex {
+namespace {
+
+constexpr std::string_view shortage_mark = "  *";
+
+// For one line of columns.
+template <std::size_t N>
+std::string plain_text(const Text<N>& text) {
+    auto plain = utf8_from_windows1252(text.view());
+    std::replace_if(
+        plain.begin(), plain.end(), [](char c) { return c >= 0 && c < ' '; }, ' ');
+    return plain;
+}
+
+// "Grain/Malt", "Recipe Lbs", "Lbs In Stock", "Lbs Needed"
+std::array<std::string, 4> weighed_heads(const std::string& name, const std::string& unit) {
+    return {name, "Recipe " + unit, unit + " In Stock", unit + " Needed"};
+}
+
+StockLine stock_line(std::string name, std::string origin, float wanted, float in_stock) {
+    const float needed = wanted >= in_stock ? narrow(double{wanted} - in_stock) : 0.0F;
+    return {std::move(name), std::move(origin), wanted, in_stock, needed};
+}
+
+template <class Record, class Line>
+float stock_of(const Database<Record>& database, const Line& line) {
+    const auto* const entry = find_stock(database, line);
+    return entry == nullptr ? 0.0F : entry->stock;
+}
+
+StockList malt_stock(const BrewDocument& document, const Stocks& stocks, const Settings& settings) {
+    StockList list{weighed_heads("Grain/Malt", grain_unit(settings).usual), {}};
+    for (const auto& line : document.malts)
+        list.lines.push_back(stock_line(plain_text(line.record.name), plain_text(line.record.origin),
+                                        grain_to_shown(line.amount, settings),
+                                        grain_to_shown(stock_of(stocks.malts, line), settings)));
+    return list;
+}
+
+std::string name_with_form(const HopRecord& hop) {
+    return plain_text(hop.name) + " - " + std::string(form_word(form(hop)));
+}
+
+StockList hop_stock(const BrewDocument& document, const Stocks& stocks, const Settings& settings) {
+    StockList list{weighed_heads("Hops", hop_unit(settings).usual), {}};
+    for (const auto& line : document.hops)
+        list.lines.push_back(stock_line(name_with_form(line.record), plain_text(line.record.origin),
+                                        hop_to_shown(line.amount, settings),
+                                        hop_to_shown(stock_of(stocks.hops, line), settings)));
+    return list;
+}
+
+StockList bitterness_stock(const BrewDocument& document, const Stocks& stocks, const Settings& settings) {
+    const bool is_hbu = settings.bittering_unit == BitteringUnit::hbu;
+    const double unit = is_hbu ? 1.0 : grams_per_ounce;
+    const auto units = [unit](float ounces, float alpha) { return narrow(ounces * unit * alpha); };
+    const auto* const word = bittering_unit(settings).usual;
+    StockList list{{std::string("Hop ") + word + "'s", "In Recipe", "In Stock", "Needed"}, {}, true};
+    for (const auto& line : document.hops) {
+        const auto* const entry = find_stock(stocks.hops, line);
+        list.lines.push_back(stock_line(name_with_form(line.record), plain_text(line.record.origin),
+                                        units(line.amount, line.alpha),
+                                        entry == nullptr ? 0.0F : units(entry->stock, entry->alpha)));
+    }
+    return list;
+}
+
+StockList extra_stock(const BrewDocument& document, const Stocks& stocks) {
+    StockList list{{"Extras", "Recipe", "In Stock", "Needed"}, {}};
+    for (const auto& line : document.extras)
+        list.lines.push_back(
+            stock_line(plain_text(line.record.name), "", line.amount, stock_of(stocks.extras, line)));
+    return list;
+}
+
+StockList yeast_stock(const BrewDocument& document, const Stocks& stocks) {
+    StockList list{{"Yeast", "Recipe", "In Stock", "Needed"}, {}};
+    for (const auto& line : yeast_lines(document))
+        list.lines.push_back(stock_line(plain_text(line.record.name), plain_text(line.record.lab),
+                                        amount_taken(line), stock_of(stocks.yeasts, line)));
+    return list;
+}
+
+template <class Cells>
+std::string tabbed(const Cells& cells) {
+    std::string line;
+    for (const auto& cell : cells) line += (line.empty() ? "" : "\t") + cell;
+    return line;
+}
+
+} // namespace
+
+InventoryAnalysis analyze_inventory(const BrewDocument& document, const Stocks& stocks,
+                                    const Settings& settings) {
+    InventoryAnalysis lists{malt_stock(document, stocks, settings), hop_stock(document, stocks, settings)};
+    if (settings.display_home_bittering != 0) lists.push_back(bitterness_stock(document, stocks, settings));
+    lists.push_back(extra_stock(document, stocks));
+    lists.push_back(yeast_stock(document, stocks));
+    return lists;
+}
+
+std::size_t count_short(const InventoryAnalysis& analysis) {
+    std::size_t count = 0;
+    for (const auto& list : analysis)
+        if (!list.is_told_again)
+            count += static_cast<std::size_t>(std::count_if(
+                list.lines.begin(), list.lines.end(), [](const StockLine& line) { return line.is_short(); }));
+    return count;
+}
+
+std::array<std::string, 5> stock_cells(const StockLine& line) {
+    const auto amount = [](float value) { return formatted("%7.2f", value); };
+    return {line.origin.empty() ? line.name : line.name + " - " + line.origin, amount(line.wanted),
+            amount(line.in_stock), amount(line.needed),
+            line.is_short() ? std::string(shortage_mark) : std::string()};
+}
+
+std::vector<std::string> inventory_text(const InventoryAnalysis& analysis) {
+    std::vector<std::string> text{std::string(inventory_heading)};
+    for (const auto& list : analysis) {
+        text.push_back(tabbed(list.heads));
+        for (const auto& line : list.lines) {
+            const auto cells = stock_cells(line);
+            text.push_back(tabbed(std::span(cells).first<4>()) + cells.back());
+        }
+    }
+    return text;
+}
+
+} // namespace wortlex

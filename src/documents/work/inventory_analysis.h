@@ -1,0 +1,48 @@
+// What a document asks for beside what is in stock, and what is missing.
+#pragma once
+
+#include "documents/work/stocks.h"
+#include "settings/settings.h"
+
+#include <array>
+
+namespace wortlex {
+
+/// One ingredient, in the unit shown. Texts are UTF-8.
+struct StockLine {
+    std::string name;   ///< of a hop with its form
+    std::string origin; ///< of a yeast its lab; extras have none
+    float wanted = 0;
+    float in_stock = 0; ///< 0 too where nothing was found
+    float needed = 0;   ///< to be bought
+
+    /// A shortage that its two decimals do not show is none.
+    bool is_short() const { return needed >= 0.005F; }
+};
+
+struct StockList {
+    std::array<std::string, 4> heads; ///< "Hops", "Recipe Oz", "Oz In Stock", "Oz Needed"
+    std::vector<StockLine> lines;
+    bool is_told_again = false; ///< in another unit
+};
+
+/// A list a kind of ingredient, also where it is empty: malts, hops, extras, yeast. Behind the hops stand
+/// their bitterness units, where the settings show those: what is in stock counts with the alpha of the
+/// database, and what is asked for with that of the document.
+using InventoryAnalysis = std::vector<StockList>;
+
+InventoryAnalysis analyze_inventory(const BrewDocument& document, const Stocks& stocks,
+                                    const Settings& settings);
+
+/// How many ingredients are short; bitterness units count for nothing.
+std::size_t count_short(const InventoryAnalysis& analysis);
+
+inline constexpr std::string_view inventory_heading = "Inventory Analysis For Brewing Session";
+
+/// The cells of a line: its name with what stands beside it, the three amounts, and the mark of a shortage.
+std::array<std::string, 5> stock_cells(const StockLine& line);
+
+/// The whole analysis as lines with tabs between the cells, UTF-8.
+std::vector<std::string> inventory_text(const InventoryAnalysis& analysis);
+
+} // namespace wortlex
