@@ -85,7 +85,7 @@ void MainWindow::add_recent(QMenu& menu, DocumentKind kind, char letter) {
         auto name = QFile::decodeName(QByteArray::fromStdString(recent_name(recent, i)));
         name.replace(QLatin1Char('&'), QLatin1String("&&"));
         auto* const action =
-            menu.addAction(QLatin1Char('&') + QLatin1Char(letter++) + QLatin1Char(' ') + name);
+            menu.addAction(QLatin1String("&") + QLatin1Char(letter++) + QLatin1Char(' ') + name);
         action->setToolTip(QFile::decodeName(QByteArray::fromStdString(recent[i])));
         connect(action, &QAction::triggered, this, [this, path = recent[i]] { open_file(path); });
     }
