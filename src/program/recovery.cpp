@@ -18,10 +18,6 @@ constexpr std::string_view work_name = "WlxWork";
 constexpr std::string_view to_offer = ".rcv";
 constexpr std::string_view damaged = ".damaged";
 
-std::string path_in(const std::string& data_folder) {
-    return data_folder + std::string(work_name).append(to_offer);
-}
-
 // Renames a file to the first number that is free, so that no work takes another's place. Where it then is.
 std::string put_aside(const std::string& data_folder, const std::string& path, std::string_view ending) {
     std::error_code error;
@@ -44,7 +40,7 @@ std::vector<std::string> left_work(const std::string& data_folder) {
         if (name.starts_with(std::string(work_name) + "-") && name.ends_with(to_offer))
             aside.insert(data_folder + name);
     }
-    std::vector<std::string> work{path_in(data_folder)};
+    std::vector<std::string> work{work_path(data_folder)};
     if (!std::filesystem::exists(work.front(), error)) work.clear();
     work.insert(work.end(), aside.begin(), aside.end());
     return work;
@@ -111,7 +107,7 @@ bool holds_anything(const BrewDocument& recipe) {
 
 // Whether the work of one file is the live document now.
 bool offer(Program& program, const std::string& path, Prompts& prompts) {
-    const auto current = path_in(program.data_folder);
+    const auto current = work_path(program.data_folder);
     const auto work = ReadWork(path);
     LiveDocument found;
     if (!work || !restore_work(found, *work, program.settings)) {
@@ -132,18 +128,26 @@ bool offer(Program& program, const std::string& path, Prompts& prompts) {
 
 } // namespace
 
-bool KeepWork(const std::string& data_folder, const DocumentImage& image, const DocumentFile& file) {
+std::string work_path(const std::string& data_folder) {
+    return data_folder + std::string(work_name).append(to_offer);
+}
+
+Bytes kept_work(const DocumentImage& image, const DocumentFile& file) {
     const auto head = head_of(image.kind(), file);
     const auto head_bytes = std::as_bytes(std::span(head));
     Bytes work(head_bytes.begin(), head_bytes.end());
     const auto document = document_bytes(image);
     work.insert(work.end(), document.begin(), document.end());
-    return save_atomically(path_in(data_folder), work);
+    return work;
+}
+
+bool KeepWork(const std::string& data_folder, const DocumentImage& image, const DocumentFile& file) {
+    return save_atomically(work_path(data_folder), kept_work(image, file));
 }
 
 void DropWork(const std::string& data_folder) {
     std::error_code error;
-    std::filesystem::remove(path_in(data_folder), error);
+    std::filesystem::remove(work_path(data_folder), error);
 }
 
 std::optional<RecoveredWork> ReadWork(const std::string& path) {

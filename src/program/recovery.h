@@ -18,6 +18,9 @@ struct RecoveredWork {
 /// Keeps a document beside the settings: as it is now, and where it came from. A folder that cannot be
 /// written to keeps nothing; answers whether it did.
 bool KeepWork(const std::string& data_folder, const DocumentImage& image, const DocumentFile& file);
+/// The file that it goes to, and what it holds.
+std::string work_path(const std::string& data_folder);
+Bytes kept_work(const DocumentImage& image, const DocumentFile& file);
 /// Tells, once in a run, that unsaved work cannot be kept.
 void tell_unkept_work(Program& program, Prompts& prompts);
 /// There is nothing to lose any more.

@@ -1,6 +1,7 @@
 #include "program/start.h"
 
 #include "base/files.h"
+#include "program/inventory.h"
 
 namespace wortlex {
 namespace {
@@ -42,6 +43,7 @@ void read_color_table(Program& program, Prompts& prompts) {
 bool start(Program& program, const std::string& data_folder, Prompts& prompts) {
     read_places(program, data_folder);
     if (!start_core(program, data_folder, prompts)) return false;
+    finish_booking(data_folder, prompts);
     clear_broken_saves(program);
     read_print_options(program);
     program.art_scheme = program.system.settings.art_scheme;

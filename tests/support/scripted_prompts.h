@@ -57,7 +57,8 @@ private:
                   (std::tuple{what, message.text, message.caption, message.icon}));
         // Whatever is asked, Enter loses nothing.
         const bool keeps = message.text.ends_with("save the changes?") ||
-                           message.text.starts_with("Wortlex ended") ||
+                           message.text.ends_with("before finalizing this brewing session?") ||
+                           message.text.starts_with("Wortlex ended before") ||
                            message.text.starts_with("A time line was left");
         EXPECT_EQ(message.safe, keeps ? Answer::yes : Answer::no) << message.text;
         const auto* const given = std::get_if<Answered>(&step.reply);

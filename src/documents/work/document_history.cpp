@@ -8,6 +8,11 @@ namespace {
 constexpr std::size_t most_steps = 200;
 constexpr unsigned schedule_bits = 0x0F;
 
+void keep_booking(DocumentImage& image, const OpenDocument& live) {
+    if (image.session && live.session != nullptr)
+        image.session->inventory_finalized = live.session->inventory_finalized;
+}
+
 } // namespace
 
 void keep_saved_marks(BrewDocument& document, const BrewDocument& live) {
@@ -29,6 +34,7 @@ void DocumentHistory::start(const OpenDocument& open) {
 
 bool DocumentHistory::is_current(const OpenDocument& open) {
     keep_saved_marks(now_.image.recipe, open.document);
+    keep_booking(now_.image, open);
     return is_same(open, now_.image);
 }
 
@@ -59,6 +65,7 @@ void DocumentHistory::take(const OpenDocument& open, std::deque<Step>& from, std
     auto step = std::move(from.back());
     from.pop_back();
     keep_saved_marks(step.state.image.recipe, open.document);
+    keep_booking(step.state.image, open);
     to.push_back({std::move(step.name), std::exchange(now_, std::move(step.state))});
     put_image(now_.image, open);
     open.figures = now_.figures;

@@ -11,7 +11,8 @@ namespace wortlex {
 void keep_saved_marks(BrewDocument& document, const BrewDocument& live);
 
 /// Remembers the document as it was before each step. What a save leaves in the document - its packed flag
-/// byte and the method that it carries - is no step and is never taken back.
+/// byte and the method that it carries - is no step and is never taken back, nor is that the stock was
+/// booked.
 class DocumentHistory {
 public:
     /// Forgets everything and starts from the document as it is.

@@ -2,9 +2,9 @@
 
 #include "base/windows1252.h"
 #include "documents/method_check.h"
+#include "records/documents/document_files.h"
 
 #include <filesystem>
-#include <utility>
 
 namespace wortlex {
 namespace {
@@ -50,7 +50,21 @@ std::optional<std::string> ask_name(const DocumentSaving& saving) {
         choice_of(saving, path.empty() ? utf8_from_windows1252(title.view()) : path));
 }
 
-// Nobody loses what another program wrote into the file meanwhile, unless he says so.
+bool write(DocumentSaving& saving, const std::string& path) {
+    if (!may_overwrite(saving, path)) return false;
+    const auto image = snapshot_document(saving.editor.open, SnapshotScope::with_schedule);
+    saving.editor.history.settle(saving.editor.open);
+    if (!save_document(path, image, saving.prompts)) return false;
+    count_as_saved(saving, path);
+    return true;
+}
+
+} // namespace
+
+bool is_modified(const OpenDocument& open, const DocumentImage& saved, const DocumentFile& file) {
+    return file.recovered || document_changed(open, saved);
+}
+
 bool may_overwrite(const DocumentSaving& saving, const std::string& path) {
     const auto& stamp = saving.file.stamp;
     const auto now = stamp_of(path);
@@ -61,23 +75,12 @@ bool may_overwrite(const DocumentSaving& saving, const std::string& path) {
     return saving.prompts.ask_yes_no({.text = text, .icon = Icon::warning}) == Answer::yes;
 }
 
-bool write(DocumentSaving& saving, const std::string& path) {
+void count_as_saved(DocumentSaving& saving, const std::string& path) {
     auto& editor = saving.editor;
-    if (!may_overwrite(saving, path)) return false;
-    auto image = snapshot_document(editor.open, SnapshotScope::with_schedule);
-    editor.history.settle(editor.open);
-    if (!save_document(path, image, saving.prompts)) return false;
-    editor.open.document.mash_flags = image.recipe.mash_flags;
+    pack_flags(editor.open.document);
     end_edit(editor);
     saving.file = {.path = path, .loaded_from_file = true, .stamp = stamp_of(path)};
-    saving.saved = std::move(image);
-    return true;
-}
-
-} // namespace
-
-bool is_modified(const OpenDocument& open, const DocumentImage& saved, const DocumentFile& file) {
-    return file.recovered || document_changed(open, saved);
+    saving.saved = snapshot_document(editor.open, SnapshotScope::with_schedule);
 }
 
 bool save(DocumentSaving& saving, SaveAs save_as) {

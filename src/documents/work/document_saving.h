@@ -28,6 +28,12 @@ enum class SaveAs { no, yes };
 /// then the document as it is counts as saved. False if the user left it or the file could not be written.
 bool save(DocumentSaving& saving, SaveAs save_as);
 
+/// Nobody loses what another program wrote into the document's file meanwhile, unless he says so.
+bool may_overwrite(const DocumentSaving& saving, const std::string& path);
+
+/// The file holds the document now: it comes from there, and there is nothing to save.
+void count_as_saved(DocumentSaving& saving, const std::string& path);
+
 /// Before the document is left for another one: true if nothing is to be saved, or has been, or shall not be.
 bool may_leave(DocumentSaving& saving);
 

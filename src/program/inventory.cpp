@@ -1,0 +1,130 @@
+#include "program/inventory.h"
+
+#include "documents/work/stocks.h"
+#include "program/program.h"
+#include "program/recovery.h"
+
+namespace wortlex {
+namespace {
+
+constexpr std::string_view finalized_already =
+    "This Brewing Session has already been finalized!\n\nYou may only finalize a brewing session 1 time...";
+constexpr std::string_view really_finalize = "Do you really want to finalize inventory amounts at this "
+                                             "time?\n\nThis will subtract the brewing session "
+                                             "ingredient amounts from your current\ningredients database(s).";
+constexpr std::string_view wait_for_more =
+    "Some ingredients were not found or there is not enough in stock to complete the session.\n\nDo you want "
+    "to wait until you have a chance to update inventories before finalizing this brewing session?";
+constexpr std::string_view updated = "Database(s) successfully updated!";
+constexpr std::string_view not_booked =
+    "The inventory was not finalized: its files could not be written. Is the disk full, or a file or folder "
+    "read-only?\n\nNothing has been changed.";
+constexpr std::string_view booked_in_part = "The inventory is finalized, but not every file could be "
+                                            "written. The rest is written when Wortlex starts "
+                                            "again.\n\nPlease leave it before you change a database.";
+constexpr std::string_view completed = "Wortlex ended while the inventory of a brewing session was being "
+                                       "finalized. This has been completed now: "
+                                       "the session is finalized, and its ingredients are taken from stock.";
+constexpr std::string_view still_waiting =
+    "Wortlex ended while the inventory of a brewing session was being finalized, and some of its files "
+    "cannot "
+    "be written. Is the disk full, or a file or folder read-only?\n\nThe next start tries again. Until then "
+    "please change no database and do not finalize again.";
+
+std::string journal_in(const std::string& data_folder) {
+    return data_folder + std::string(booking_journal);
+}
+
+bool tell_faults(const std::vector<std::string>& faults, Prompts& prompts) {
+    if (faults.empty()) return false;
+    std::string text;
+    for (const auto& fault : faults) text += fault + "\n";
+    text += "\nThe inventory was not finalized: nothing has been changed.";
+    prompts.tell({.text = text, .icon = Icon::error});
+    return true;
+}
+
+// The stocks as they are now, booked; nothing if a database is not whole, which is told.
+std::optional<std::pair<Stocks, Booking>> booked_stocks(const std::string& data_folder,
+                                                        const BrewDocument& document, Prompts& prompts) {
+    Stocks stocks;
+    if (tell_faults(LoadStocks(data_folder, stocks), prompts)) return std::nullopt;
+    const auto booking = book_stocks(stocks, document);
+    return std::pair(std::move(stocks), booking);
+}
+
+bool may_book(const std::string& data_folder, const BrewDocument& document, Prompts& prompts) {
+    if (prompts.ask_yes_no({.text = really_finalize, .icon = Icon::question}) != Answer::yes) return false;
+    const auto booked = booked_stocks(data_folder, document, prompts);
+    if (!booked) return false;
+    return booked->second.is_complete ||
+           prompts.ask_yes_no({.text = wait_for_more, .icon = Icon::question, .safe = Answer::yes}) ==
+               Answer::no;
+}
+
+// One that was cut short or never saved is left to the user to name.
+bool has_own_file(const DocumentFile& file) {
+    return !file.path.empty() && !file.incomplete;
+}
+
+// With a file of its own nothing of the session is left unsaved, and without one the copy is all there is.
+void add_session(std::vector<FileChange>& changes, const std::string& data_folder,
+                 const DocumentSaving& saving) {
+    const auto image = image_of(saving.editor.open);
+    const bool is_saved = has_own_file(saving.file);
+    if (is_saved) changes.push_back({saving.file.path, document_bytes(image)});
+    changes.push_back(
+        {work_path(data_folder), is_saved ? std::nullopt : std::optional(kept_work(image, saving.file))});
+}
+
+// Reads the stocks again: while a question stood, the user may have worked on them.
+JointSave book(const std::string& data_folder, DocumentSaving& saving) {
+    auto& open = saving.editor.open;
+    const auto booked = booked_stocks(data_folder, open.document, saving.prompts);
+    if (!booked) return JointSave::refused;
+    auto changes = changed_files(data_folder, booked->first, booked->second);
+    open.session->inventory_finalized = 1;
+    add_session(changes, data_folder, saving);
+    const auto result = save_jointly(journal_in(data_folder), changes);
+    if (result == JointSave::refused) {
+        open.session->inventory_finalized = 0;
+        saving.prompts.tell({.text = not_booked, .icon = Icon::error});
+    }
+    return result;
+}
+
+void tell_booked(Program& program, DocumentSaving& saving, JointSave result) {
+    if (has_own_file(saving.file)) count_as_saved(saving, saving.file.path);
+    program.notices.tell(Change::databases);
+    tell_change(saving.editor);
+    if (result == JointSave::put_off)
+        saving.prompts.tell({.text = booked_in_part, .icon = Icon::warning});
+    else
+        saving.prompts.tell({.text = updated, .icon = Icon::information});
+}
+
+} // namespace
+
+bool finalize_inventory(Program& program, DocumentSaving& saving) {
+    const auto& open = saving.editor.open;
+    auto& prompts = saving.prompts;
+    if (open.session->inventory_finalized != 0) {
+        prompts.tell({.text = finalized_already, .icon = Icon::information});
+        return true;
+    }
+    if (!may_book(program.data_folder, open.document, prompts)) return false;
+    if (has_own_file(saving.file) && !may_overwrite(saving, saving.file.path)) return false;
+    if (open.session->inventory_finalized != 0) return true; // by another press while a question stood
+    const auto result = book(program.data_folder, saving);
+    if (result == JointSave::refused) return false;
+    tell_booked(program, saving, result);
+    return true;
+}
+
+void finish_booking(const std::string& data_folder, Prompts& prompts) {
+    const auto left = finish_joint_save(journal_in(data_folder));
+    if (left == LeftChanges::made) prompts.tell({.text = completed, .icon = Icon::information});
+    if (left == LeftChanges::wait) prompts.tell({.text = still_waiting, .icon = Icon::warning});
+}
+
+} // namespace wortlex
