@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Prints how fast the program is: its start beside that of an empty window, one recalculation, a load and a save, a hop
-# list of 999 entries, the recipe window and its report, the brewer's tools, wortlex-report over 10,000 recipes,
+# list of 999 entries, a session's inventory, the recipe window and its report, the brewer's tools, wortlex-report over 10,000 recipes,
 # each from 25 to 400 lines of malts and hops, and how long everything takes to build anew.
 set -eu
 cd "$(dirname "$0")"
@@ -13,6 +13,7 @@ cmake --build --preset bench
     env QT_QPA_PLATFORM=xcb ../bench/start_bench 15 ../src/wortlex ../bench/empty_window)
 build/bench/bench/documents_bench --benchmark_counters_tabular=true
 build/bench/bench/lists_bench
+build/bench/bench/inventory_bench
 build/bench/bench/recipe_window_bench
 build/bench/bench/reports_bench
 build/bench/bench/tools_bench
