@@ -8,18 +8,20 @@ namespace {
 constexpr std::size_t most_steps = 200;
 constexpr unsigned schedule_bits = 0x0F;
 
-void keep_booking(DocumentImage& image, const OpenDocument& live) {
-    if (image.session && live.session != nullptr)
-        image.session->inventory_finalized = live.session->inventory_finalized;
-}
-
-} // namespace
-
 void keep_saved_marks(BrewDocument& document, const BrewDocument& live) {
     document.mash_flags =
         static_cast<std::uint8_t>((document.mash_flags & schedule_bits) | (live.mash_flags & ~schedule_bits));
     document.file_efficiency_mode = live.file_efficiency_mode;
 }
+
+// What was saved or booked stays so.
+void keep_marks(DocumentImage& image, const OpenDocument& live) {
+    keep_saved_marks(image.recipe, live.document);
+    if (image.session && live.session != nullptr)
+        image.session->inventory_finalized = live.session->inventory_finalized;
+}
+
+} // namespace
 
 DocumentHistory::State DocumentHistory::state_of(const OpenDocument& open) {
     return {image_of(open), open.figures, open.water != nullptr ? *open.water : WaterBalance{}};
@@ -33,8 +35,7 @@ void DocumentHistory::start(const OpenDocument& open) {
 }
 
 bool DocumentHistory::is_current(const OpenDocument& open) {
-    keep_saved_marks(now_.image.recipe, open.document);
-    keep_booking(now_.image, open);
+    keep_marks(now_.image, open);
     return is_same(open, now_.image);
 }
 
@@ -64,8 +65,7 @@ std::string_view DocumentHistory::to_redo() const {
 void DocumentHistory::take(const OpenDocument& open, std::deque<Step>& from, std::deque<Step>& to) {
     auto step = std::move(from.back());
     from.pop_back();
-    keep_saved_marks(step.state.image.recipe, open.document);
-    keep_booking(step.state.image, open);
+    keep_marks(step.state.image, open);
     to.push_back({std::move(step.name), std::exchange(now_, std::move(step.state))});
     put_image(now_.image, open);
     open.figures = now_.figures;
