@@ -76,6 +76,9 @@ public:
     /// The same from a file that is known.
     virtual void import_file(const std::string& path, Prompts& prompts) = 0;
     virtual void save(Prompts& prompts) = 0;
+    /// The file has been written elsewhere: takes the stocks that have changed there since it was read or
+    /// written here, and keeps all other work. What was added to a stock meanwhile stays added.
+    virtual void follow_stocks() = 0;
     /// The rows as they are shown.
     virtual PrintRequest printout() const = 0;
     /// Called with what is to be printed, a list or an entry; empty: their buttons are disabled.

@@ -9,15 +9,14 @@ namespace wortlex {
 struct InventorySubject {
     std::string name;
     std::string unit;
-    float stock = 0; ///< in the stored unit
+    float& stock; ///< in the stored unit; a booking may change it while the form is open
     std::function<float(float)> to_shown;
     std::function<float(float)> from_shown;
     float most_typed = 10000;
-    std::function<void(float)> store;
 };
 
-/// An amount to add or take, in the unit shown; the stock never falls below 0. `prompts` must outlive the
-/// form.
+/// An amount to add or take, in the unit shown; the stock never falls below 0. `prompts` and the
+/// stock must outlive the form.
 void inventory_form(Form& form, const InventorySubject& subject, Prompts& prompts);
 
 } // namespace wortlex

@@ -2,11 +2,14 @@
 // imported.
 #pragma once
 
+#include "base/ports/quiet_prompts.h"
 #include "databases/backup.h"
 #include "databases/import.h"
 #include "databases/ingredient_list.h"
 #include "databases/inventory.h"
 #include "databases/sorting.h"
+
+#include <cmath>
 
 namespace wortlex {
 
@@ -66,6 +69,7 @@ public:
     void import(Files& files, Prompts& prompts) override;
     void import_file(const std::string& path, Prompts& prompts) override;
     void save(Prompts& prompts) override;
+    void follow_stocks() override;
     bool close(Prompts& prompts) override;
     PrintRequest printout() const override;
 
@@ -103,6 +107,7 @@ private:
     std::optional<Record> entry_in_row() const;
     void select(const std::optional<Record>& entry);
     void append(const Record& record);
+    void put_entry(std::size_t place, Record record);
     bool has_room(Prompts& prompts) const;
     std::unique_ptr<EntryForm> form_on(std::shared_ptr<Record> copy, Prompts& prompts,
                                        std::function<void(const Record&)> store) const;
@@ -121,6 +126,7 @@ private:
         bool cancelled = false;
     };
     typename std::span<Record>::iterator find_existing(const Record& record);
+    Record* find_unbooked(const Record& before);
     void merge(Record record, Merge& merge, Prompts& prompts);
     void finish_import(const Merge& merge, Prompts& prompts);
 
@@ -337,7 +343,15 @@ std::unique_ptr<EntryForm> Store<Record>::edit_entry(Prompts& prompts) {
     const auto index = selected_entry();
     if (!index) return nullptr;
     return form_on(std::make_shared<Record>(database_.slots[*index]), prompts,
-                   [this, place = *index](const Record& record) { database_.slots[place] = record; });
+                   [this, place = *index](const Record& record) { put_entry(place, record); });
+}
+
+// A session may have been booked while the entry was open, whose form has no stock.
+template <class Record>
+void Store<Record>::put_entry(std::size_t place, Record record) {
+    auto& entry = database_.slots[place];
+    if (has_stock()) record.*catalogue_.stock.amount = entry.*catalogue_.stock.amount;
+    entry = std::move(record);
 }
 
 template <class Record>
@@ -354,9 +368,7 @@ std::unique_ptr<EntryForm> Store<Record>::inventory(Prompts& prompts) {
                     .stock = record.*stock.amount,
                     .to_shown = stock.to_shown,
                     .from_shown = stock.from_shown,
-                    .most_typed = stock.most_typed,
-                    .store = [this, place = *index](
-                                 float left) { database_.slots[place].*catalogue_.stock.amount = left; }},
+                    .most_typed = stock.most_typed},
                    prompts);
     return entry;
 }
@@ -511,6 +523,39 @@ void Store<Record>::save(Prompts& prompts) {
     write(prompts);
     show_again();
     select(entry);
+}
+
+// The entry that was such in the file: as it is but for its stock, or else what an import would replace.
+template <class Record>
+Record* Store<Record>::find_unbooked(const Record& before) {
+    const auto all = entries();
+    const auto stock = catalogue_.stock.amount;
+    const auto is_unchanged = [&](Record entry) {
+        entry.*stock = before.*stock;
+        return is_identical(entry, before);
+    };
+    auto found = std::find_if(all.begin(), all.end(), is_unchanged);
+    if (found == all.end()) found = find_existing(before);
+    return found == all.end() ? nullptr : &*found;
+}
+
+template <class Record>
+void Store<Record>::follow_stocks() {
+    const auto stock = catalogue_.stock.amount;
+    Database<Record> now;
+    QuietPrompts quiet;
+    if (stock == nullptr || catalogue_.load(now, quiet) != DatabaseState::loaded || now.count != saved_.count)
+        return;
+    const auto written = std::span(now.slots).first(static_cast<std::size_t>(now.count));
+    if (side() == ListSide::maintenance) sort_canonically<Record>(written, catalogue_);
+    for (std::size_t i = 0; i < written.size(); ++i) {
+        auto& before = saved_.slots[i];
+        const double change = double{written[i].*stock} - before.*stock;
+        if (change == 0 || std::isnan(change)) continue;
+        if (auto* const entry = find_unbooked(before))
+            entry->*stock = narrow(std::max(entry->*stock + change, 0.0));
+        before.*stock = written[i].*stock;
+    }
 }
 
 template <class Record>

@@ -259,6 +259,37 @@ TEST(StoreImport, RefusesWhatIsNoDatabaseAndStopsAtTheLimit) {
     EXPECT_EQ(hops.database.count, 999);
 }
 
+TEST(Store, ABookingElsewhereIsTakenOverAndNeverWrittenOver) {
+    auto stocked = hop("Saaz", "CZ", 3);
+    stocked.stock = 10;
+    auto edited = hop("Tettnang", "DE", 4), untouched = hop("Zeus", "US", 15);
+    edited.stock = untouched.stock = 5;
+    Hops hops({stocked, edited, untouched});
+    hops->click(0); // downwards, unlike the file
+    hops->selected = 1;
+    auto entry = hops->edit_entry(hops.prompts);
+    PlainField alpha("4.5"), two("2");
+    entry->form.type(dynamic_cast<EntryRow&>(entry->form.row("alpha")), alpha);
+    entry->form.accept();
+    hops->selected = 2;
+    const auto inventory = hops->inventory(hops.prompts);
+    inventory->form.type(dynamic_cast<EntryRow&>(inventory->form.row("amount")), two);
+
+    auto booked = hops.database;
+    LoadHops(hops.folder.path(), booked, hops.prompts);
+    booked.slots[0].stock = 7;
+    booked.slots[1].stock = 1;
+    SaveHops(hops.folder.path(), booked);
+    hops->follow_stocks();
+    inventory->form.accept();
+    EXPECT_EQ(hops.column(0) + hops.column(4), "Zeus|Tettnang|Saaz|   5.00|   1.00|   9.00|");
+    hops->save(hops.prompts);
+    hops->follow_stocks();
+    LoadHops(hops.folder.path(), booked, hops.prompts);
+    EXPECT_EQ(booked.slots[0].stock, 9) << "the three that were booked, and the two that came in";
+    EXPECT_EQ(booked.slots[1].alpha, 4.5F);
+}
+
 TEST(HopEntry, StorageClassAndFactorFollowEachOther) {
     for (const auto& [from, to, expected] : {std::tuple{49.0F, 50.0F, StorageClass::poor},
                                              {24.0F, 25.0F, StorageClass::average},

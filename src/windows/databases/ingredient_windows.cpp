@@ -34,6 +34,7 @@ ListSource source(ListSide side, const WindowPorts& ports) {
 void keep(IngredientList& list, const WindowPorts& ports, QWidget* owner) {
     open(list, ports);
     ListWindow(list, list_ports(ports), Opener::main, nullptr, owner).exec();
+    ports.program.notices.tell(Change::databases);
 }
 
 template <class Record>

@@ -25,6 +25,9 @@ ListWindow::ListWindow(IngredientList& list, const ListPorts& ports, Opener open
     setSizeGripEnabled(true);
     setAcceptDrops(!picked_);
     fill_form();
+    listening_ = ports_.places.notices.listen([this](Change change) {
+        if (change == Change::databases) list_.follow_stocks();
+    });
     widgets_ = std::make_unique<FormWidgets>(form_, ports.places, *this);
     make_find_line();
     lay_out_rows();
@@ -194,7 +197,11 @@ void ListWindow::edit_buttons(Rows& rows) {
     if (list_.has_stock())
         rows.button("inventory", "In&ventory", [this] { run(list_.inventory(ports_.prompts)); })
             .hint("Book what was bought or used");
-    rows.button("save", "&Save", [this] { change([this] { list_.save(ports_.prompts); }); })
+    rows.button("save", "&Save",
+                [this] {
+                    change([this] { list_.save(ports_.prompts); });
+                    ports_.places.notices.tell(Change::databases);
+                })
         .hint("Write the list to its file");
 }
 

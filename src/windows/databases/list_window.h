@@ -70,6 +70,7 @@ private:
     Form form_;
     FindQuery query_;
     QLineEdit find_line_{this};
+    Listening listening_; ///< before the rows, which show what was heard
     std::unique_ptr<FormWidgets> widgets_;
     WindowPlace& place_;
 };

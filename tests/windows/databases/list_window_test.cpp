@@ -190,6 +190,15 @@ TEST(ListWindow, EscAsksAboutChangesAndOnlyOkRemembersThePlace) {
     EXPECT_TRUE(desk.window->isVisible()) << "what cannot be saved is not thrown away";
 }
 
+TEST(ListWindow, ShowsAtOnceWhatIsBookedElsewhere) {
+    ListDesk desk;
+    auto stocked = desk.database;
+    stocked.slots[0].stock = 4;
+    SaveHops(desk.folder.path(), stocked);
+    desk.notices.tell(Change::databases);
+    EXPECT_EQ(desk.list().model()->index(0, 4).data().toString(), "   4.00");
+}
+
 TEST(ListWindow, ImportsWhatIsDropped) {
     ListDesk desk;
     save_atomically(desk.folder / "new.HIM", encoded(hop("Ella", 15), hop_layout));
