@@ -42,6 +42,7 @@ run() {
     jpeg) printf '\1\20\20' > "$corpus/picture" ;;
     time_line) printf '\1\0\0\0\1\2\3\4mash in' > "$corpus/day" ;;
     calculator_state) printf '\0\0\240@ff\206?\0\0\200?<\0\0\0\0\0\240@\0\0\200@<\0\0\0\1' > "$corpus/boil" ;;
+    joint_save) printf 'Wortlex joint save 1\n\1\0\0\0\1\0\0\0a\1\0\0\0b' > "$corpus/journal" ;;
     sort_file) seed_entries HOPS.DAT '\0\1\0\1\0\0\1' > "$corpus/hops" ;;
     esac
     if build/fuzz/fuzz/"$target"_fuzz "$corpus" -max_total_time=$((minutes * 60)) -max_len=1500000 -rss_limit_mb=4096 \
