@@ -11,7 +11,7 @@ minutes=${1:-5}
 cmake --preset fuzz > /dev/null
 cmake --build --preset fuzz
 [ -d build/fuzz/brewery ] || build/fuzz/tools/make-brewery data build/fuzz/brewery
-[ $# -gt 0 ] || set -- recipe session settings schedule color_table database import sort_file jpeg time_line calculator_state
+[ $# -gt 0 ] || set -- recipe session settings schedule color_table database import sort_file jpeg time_line calculator_state joint_save
 
 # The first entries of a database behind the bytes of HEAD.
 seed_entries() {
