@@ -119,10 +119,10 @@ public:
     IntegerRow& spun(Live<std::int32_t> low, Live<std::int32_t> high, std::int32_t step);
     IntegerRow& range(Live<std::int32_t> low, Live<std::int32_t> high);
     IntegerRow& step(std::int32_t by);
-    IntegerRow& outside(Outside rule);
+    IntegerRow& outside(Live<Outside> rule);
     IntegerRow& format(std::string pattern); ///< of `show_int`; not for temperatures
     /// Whole degrees of `units`, pulled back into their fixed range.
-    IntegerRow& temperature(TemperatureUnits units);
+    IntegerRow& temperature(Live<TemperatureUnits> units);
 
     void show(TextField& field) const override;
     bool typed(TextField& field) override;
@@ -140,8 +140,8 @@ private:
     Live<std::int32_t> spun_low_, spun_high_;
     std::int32_t step_ = 0;
     std::string pattern_ = "%d";
-    Outside outside_ = Outside::ignore;
-    std::optional<TemperatureUnits> units_;
+    Live<Outside> outside_ = Outside::ignore;
+    std::optional<Live<TemperatureUnits>> units_;
 };
 
 /// A text of a record, Windows-1252 there and UTF-8 here. What Windows-1252 lacks, or what goes beyond the

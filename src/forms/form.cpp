@@ -27,7 +27,7 @@ IntegerRow& Rows::integer(std::string key, Binding<std::int32_t> value) {
     return add<IntegerRow>(std::move(key), std::move(value));
 }
 
-IntegerRow& Rows::temperature(std::string key, Binding<std::int32_t> value, TemperatureUnits units) {
+IntegerRow& Rows::temperature(std::string key, Binding<std::int32_t> value, Live<TemperatureUnits> units) {
     return integer(std::move(key), std::move(value)).temperature(units);
 }
 

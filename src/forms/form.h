@@ -24,7 +24,7 @@ public:
     NumberRow& plato(std::string key, Binding<float> value, const Settings& settings);
     IntegerRow& integer(std::string key, Binding<std::int32_t> value);
     /// Whole degrees of `units`.
-    IntegerRow& temperature(std::string key, Binding<std::int32_t> value, TemperatureUnits units);
+    IntegerRow& temperature(std::string key, Binding<std::int32_t> value, Live<TemperatureUnits> units);
     ParsedRow& parsed(std::string key, std::function<std::string()> text,
                       std::function<bool(const std::string&)> take);
     ShownRow& shown(std::string key, std::function<std::string()> text);

@@ -33,8 +33,8 @@ IntegerRow& IntegerRow::step(std::int32_t by) {
     return *this;
 }
 
-IntegerRow& IntegerRow::outside(Outside rule) {
-    outside_ = rule;
+IntegerRow& IntegerRow::outside(Live<Outside> rule) {
+    outside_ = std::move(rule);
     return *this;
 }
 
@@ -43,8 +43,8 @@ IntegerRow& IntegerRow::format(std::string pattern) {
     return *this;
 }
 
-IntegerRow& IntegerRow::temperature(TemperatureUnits units) {
-    units_ = units;
+IntegerRow& IntegerRow::temperature(Live<TemperatureUnits> units) {
+    units_ = std::move(units);
     step_ = 1;
     return *this;
 }
@@ -61,16 +61,16 @@ void IntegerRow::show(TextField& field) const {
 bool IntegerRow::typed(TextField& field) {
     const auto before = value_.get();
     auto value = before;
-    if (units_) return store(value, typed_temperature(*units_, field, value, number_length));
+    if (units_) return store(value, typed_temperature((*units_)(), field, value, number_length));
     const auto text = field.text();
     typed_int(field, value, typed_low_(), typed_high_(), number_length);
     const bool is_read = field.text() == text; // else a character was thrown out
-    const auto limit = is_read && outside_ != Outside::ignore
+    const auto limit = is_read && outside_() != Outside::ignore
                            ? limit_beyond(text, typed_low_(), typed_high_())
                            : std::nullopt;
     if (limit) value = truncate(*limit);
     const bool has_changed = store(value, value != before);
-    if (limit && outside_ == Outside::rewrite) show(field);
+    if (limit && outside_() == Outside::rewrite) show(field);
     return has_changed;
 }
 
@@ -78,7 +78,7 @@ bool IntegerRow::spun(TextField& field, Spin direction) {
     if (step_ <= 0) return false;
     const auto before = value_.get();
     auto value = before;
-    if (units_) return store(value, spin_temperature(*units_, field, value, number_length, direction));
+    if (units_) return store(value, spin_temperature((*units_)(), field, value, number_length, direction));
     const SpinRange range{static_cast<float>(spun_low_()), static_cast<float>(spun_high_()),
                           static_cast<float>(step_)};
     spin_int(field, value, range, number_length, direction, pattern_);
@@ -89,7 +89,7 @@ bool IntegerRow::spun(TextField& field, Spin direction) {
 }
 
 std::string IntegerRow::range_words() const {
-    if (units_) return range_in_words(0, highest_temperature(*units_), any_whole);
+    if (units_) return range_in_words(0, highest_temperature((*units_)()), any_whole);
     return range_in_words(typed_low_(), typed_high_(), any_whole);
 }
 

@@ -24,13 +24,6 @@ const char* in_volume_unit(const VolumeLabels& labels, const Settings& settings)
     return labels.at((is_american(settings.volume_units) ? 0U : 2U) + (is_pro(settings) ? 1U : 0U));
 }
 
-const char* gallons_label(MashSide side, const Settings& settings) {
-    constexpr VolumeLabels recipe = {"Mash &Gallons", "Mash &Barrels", "Mash &Liters", "Mash &hL"};
-    constexpr VolumeLabels session = {"Dough In Mash &Gallons", "Dough In Mash &Barrels",
-                                      "Dough In Mash &Liters", "Dough In Mash &Hectoliters"};
-    return in_volume_unit(side == MashSide::recipe ? recipe : session, settings);
-}
-
 const char* ratio_label(MashSide side, const Settings& settings) {
     if (is_american(settings.volume_units)) return "QTS &Water/LBS Grain Ratio";
     return side == MashSide::recipe ? "Liters &Water/kg Grain Ratio" : "L &Water/kg Grain Ratio";
@@ -106,7 +99,7 @@ void water_rows(Rows& rows, SimpleMashWork& work, const Settings& settings, Mash
     water_row(rows, "quarts", side == MashSide::recipe ? "Mash &QTS" : "Dough In Mash &QTS",
               {[&quarts] { return quarts; }, [&work](float value) { set_mash_quarts(work, value); }},
               most_water, 0.25F);
-    water_row(rows, "volume", gallons_label(side, settings),
+    water_row(rows, "volume", mash_volume_label(side, settings),
               {[&quarts, &settings] { return to_shown_volume(narrow(quarts / 4.0), settings); },
                [&work, &settings](float shown) {
                    set_mash_quarts(work, narrow(from_shown_volume(shown, settings) * 4.0));
@@ -172,6 +165,13 @@ void set_mash_grain(SimpleMashWork& work, float pounds) {
         work.mash.dough_in_water = narrow(double{pounds} * work.ratio);
     else
         work.ratio = ratio_of_water(work);
+}
+
+const char* mash_volume_label(MashSide side, const Settings& settings) {
+    constexpr VolumeLabels recipe = {"Mash &Gallons", "Mash &Barrels", "Mash &Liters", "Mash &hL"};
+    constexpr VolumeLabels session = {"Dough In Mash &Gallons", "Dough In Mash &Barrels",
+                                      "Dough In Mash &Liters", "Dough In Mash &Hectoliters"};
+    return in_volume_unit(side == MashSide::recipe ? recipe : session, settings);
 }
 
 void simple_mash_form(Form& form, SimpleMashWork& work, const Settings& settings, MashSide side,

@@ -26,6 +26,9 @@ void set_mash_grain(SimpleMashWork& work, float pounds);
 /// A session adds the dough-in and the infusions to the form of the recipe, and names its fields otherwise.
 enum class MashSide { recipe, session };
 
+/// Of the dough-in in the unit of volumes.
+const char* mash_volume_label(MashSide side, const Settings& settings);
+
 /// An empty one belongs to a window that is not there: its button is disabled.
 struct SimpleMashActions {
     std::function<void()> revert;

@@ -44,13 +44,17 @@ ScheduleLoad LoadMashSchedule(const std::string& path, MashDesign& design, const
 ScheduleLoad LoadMashSchedule(const std::string& path, ComplexMash& mash, const Settings& settings) {
     MashDesign design{mash};
     const auto result = LoadMashSchedule(path, design, settings);
-    if (result != ScheduleLoad::not_found) mash = design.mash;
+    mash = design.mash;
     return result;
 }
 
 ScheduleLoad read_mash_schedule(ByteView file, MashDesign& design, const Settings& settings) {
     ByteReader reader(file);
-    reader.read(design, schedule_file_layout);
+    auto read = design;
+    reader.read(read, schedule_file_layout);
+    if (read.mash.step_count < 0 || read.mash.step_count > static_cast<std::int32_t>(mash_step_slots))
+        return ScheduleLoad::damaged;
+    design = read;
     design.mash.tun_thermal_mass = settings.tun_thermal_mass;
     design.mash.steps[0].heat_type = StepHeat::infuse;
     return reader.complete() ? ScheduleLoad::loaded : ScheduleLoad::incomplete;

@@ -13,10 +13,11 @@ namespace wortlex {
 bool SaveMashSchedule(const std::string& path, const MashDesign& design);
 
 /// What loading a schedule came to.
-enum class ScheduleLoad { loaded, incomplete, not_found };
+enum class ScheduleLoad { loaded, incomplete, damaged, not_found };
 
 /// Reads a schedule over the Mash Designer's. The thermal mass is always the setting's, and the first step is
-/// always an infusion. A short file leaves the rest as it was. A file that cannot be opened changes nothing.
+/// always an infusion. A short file leaves the rest as it was. A file that cannot be opened changes nothing,
+/// nor does one that claims another number of steps than 0 to 50: it is damaged.
 ScheduleLoad LoadMashSchedule(const std::string& path, MashDesign& design, const Settings& settings);
 
 /// The same into a document, which keeps its own grain and water.

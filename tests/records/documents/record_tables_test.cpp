@@ -139,7 +139,8 @@ TEST(DocumentFiles, StandAsTheirTablesSay) {
 
 // The thermal mass is always that of the settings, and the first step an infusion.
 TEST(MashScheduleFile, StandsAsItsTableSaysAndMayEndAnywhere) {
-    const auto file = distinct_bytes(14875);
+    auto file = distinct_bytes(14875);
+    poke(file, 0, std::int32_t{50}); // more would be damage
     MashDesign before, design;
     before.mash.steps[0].heat_type = StepHeat::direct;
     before.mash.mash_name.assign("mine");
