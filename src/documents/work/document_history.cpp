@@ -8,12 +8,6 @@ namespace {
 constexpr std::size_t most_steps = 200;
 constexpr unsigned schedule_bits = 0x0F;
 
-void keep_saved_marks(BrewDocument& document, const BrewDocument& live) {
-    document.mash_flags =
-        static_cast<std::uint8_t>((document.mash_flags & schedule_bits) | (live.mash_flags & ~schedule_bits));
-    document.file_efficiency_mode = live.file_efficiency_mode;
-}
-
 // What was saved or booked stays so.
 void keep_marks(DocumentImage& image, const OpenDocument& live) {
     keep_saved_marks(image.recipe, live.document);
@@ -22,6 +16,12 @@ void keep_marks(DocumentImage& image, const OpenDocument& live) {
 }
 
 } // namespace
+
+void keep_saved_marks(BrewDocument& document, const BrewDocument& live) {
+    document.mash_flags =
+        static_cast<std::uint8_t>((document.mash_flags & schedule_bits) | (live.mash_flags & ~schedule_bits));
+    document.file_efficiency_mode = live.file_efficiency_mode;
+}
 
 DocumentHistory::State DocumentHistory::state_of(const OpenDocument& open) {
     return {image_of(open), open.figures, open.water != nullptr ? *open.water : WaterBalance{}};
