@@ -2,34 +2,9 @@
 // that is no number.
 #include "calculators/boil_off_calculator.h"
 #include "fuzz_input.h"
+#include "shown_figures.h"
 
 using namespace wortlex;
-
-namespace {
-
-class ShownText : public TextField {
-public:
-    std::string text() const override { return text_; }
-    void set_text(const std::string& text) override { text_ = text; }
-    int caret() const override { return 0; }
-    void set_caret(int) override {}
-
-private:
-    std::string text_;
-};
-
-void check_figures(const Form& form) {
-    form.for_each([](Row& row) {
-        const auto* const entry = dynamic_cast<const EntryRow*>(&row);
-        if (entry == nullptr) return;
-        ShownText field;
-        entry->show(field);
-        promise(field.text().find("nan") == std::string::npos &&
-                field.text().find("inf") == std::string::npos);
-    });
-}
-
-} // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     const auto settings = default_program().settings;

@@ -11,7 +11,7 @@ minutes=${1:-5}
 cmake --preset fuzz > /dev/null
 cmake --build --preset fuzz
 [ -d build/fuzz/brewery ] || build/fuzz/tools/make-brewery data build/fuzz/brewery
-[ $# -gt 0 ] || set -- recipe session settings schedule color_table database import sort_file jpeg time_line calculator_state joint_save
+[ $# -gt 0 ] || set -- recipe session settings schedule color_table database import sort_file jpeg time_line calculator_state joint_save water_analysis
 
 # The first entries of a database behind the bytes of HEAD.
 seed_entries() {
@@ -43,6 +43,7 @@ run() {
     time_line) printf '\1\0\0\0\1\2\3\4mash in' > "$corpus/day" ;;
     calculator_state) printf '\0\0\240@ff\206?\0\0\200?<\0\0\0\0\0\240@\0\0\200@<\0\0\0\1' > "$corpus/boil" ;;
     joint_save) printf 'Wortlex joint save 1\n\1\0\0\0\1\0\0\0a\1\0\0\0b' > "$corpus/journal" ;;
+    water_analysis) head -c 2713 build/fuzz/brewery/WATER.DAT > "$corpus/waters" ;;
     sort_file) seed_entries HOPS.DAT '\0\1\0\1\0\0\1' > "$corpus/hops" ;;
     esac
     if build/fuzz/fuzz/"$target"_fuzz "$corpus" -max_total_time=$((minutes * 60)) -max_len=1500000 -rss_limit_mb=4096 \

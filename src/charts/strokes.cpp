@@ -10,8 +10,8 @@ constexpr int gap_to_level = 6, gap_to_upright = 4; // between a label and its l
 } // namespace
 
 // A surface takes a height for that of the letters' square; a line of most faces is higher.
-void set_chart_font(Surface& surface, int cell_height, bool italic) {
-    Font font{.face = chart_face, .cell_height = cell_height, .weight = 200, .italic = italic};
+void set_chart_font(Surface& surface, int cell_height, bool italic, int weight) {
+    Font font{.face = chart_face, .cell_height = cell_height, .weight = weight, .italic = italic};
     surface.set_font(font);
     const int line = surface.text_extent("A").height;
     if (line <= cell_height) return;

@@ -14,7 +14,7 @@ inline constexpr std::uint32_t chart_black = 0x000000, chart_white = 0xFFFFFF; /
 
 /// The font of a chart's words. `cell_height` is that of a line, from the top of the highest letter to the
 /// bottom of the lowest.
-void set_chart_font(Surface& surface, int cell_height, bool italic = false);
+void set_chart_font(Surface& surface, int cell_height, bool italic = false, int weight = 200);
 
 void draw_line(Surface& surface, Point from, Point to);
 

@@ -94,7 +94,7 @@ std::string IntegerRow::range_words() const {
 }
 
 bool IntegerRow::is_outside(const std::string& text) const {
-    if (units_) return limit_beyond(text, 0, highest_temperature(*units_)).has_value();
+    if (units_) return limit_beyond(text, 0, highest_temperature((*units_)())).has_value();
     return limit_beyond(text, typed_low_(), typed_high_()).has_value();
 }
 

@@ -15,15 +15,6 @@ using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsSupersetOf;
 
-// The lines of the one page, without their places.
-std::vector<std::string> lines_of(const PrintRequest& request) {
-    RecordingPageDesk desk;
-    desk.show(request);
-    std::vector<std::string> lines;
-    for (const auto& text : texts_on(desk.jobs.front(), 0)) lines.push_back(text.substr(text.find(' ') + 1));
-    return lines;
-}
-
 Settings kitchen() {
     auto settings = brewing_settings();
     settings.volume_units = Units::american;
@@ -51,7 +42,7 @@ TEST(IbuPrintout, FollowsFormulaAndUnits) {
     settings.HopFormula = HopFormulaCode::Garetz;
     settings.first_wort_change = -10;
     EXPECT_THAT(
-        lines_of(ibu_calculator_printout(calculation(), "Saaz", settings)),
+        printed_lines(ibu_calculator_printout(calculation(), "Saaz", settings)),
         ElementsAre("Wortlex IBU Calculator", "@584 Page 1", "Hop Name:\tSaaz", "Ounces Hops Used:\t32.00",
                     "Grams Hops Used:\t907.20", "Beer Filtered :\tNo", "Hop Bags Used :\tNo",
                     "Alpha:\t5.00\tAdjusted Alpha:\t4.00", "", "Batch Size (Gal):\t93.00",
@@ -67,7 +58,7 @@ TEST(IbuPrintout, FollowsFormulaAndUnits) {
     mash_hop.is_first_wort = false;
     mash_hop.is_mash_hop = true;
     EXPECT_THAT(
-        lines_of(ibu_calculator_printout(mash_hop, "Saaz", settings)),
+        printed_lines(ibu_calculator_printout(mash_hop, "Saaz", settings)),
         IsSupersetOf({"Pounds Hops Used:\t2.00", "Kilograms Hops Used:\t0.91", "Batch Size (bbl):\t3.00",
                       "Wort Size (bbl):\t2.00", "Av. Wort SG:\t1.0523\tGravity Factor:\t1.06",
                       "Used as Mash Hop", "MH Utilization Decrease Setting: 20%"}));
@@ -90,7 +81,7 @@ TEST(StrikePrintout, TellsBothUnits) {
     auto calculator = new_strike_calculator(settings);
     open_strike_calculator(calculator, settings);
     calculator.strike.fahrenheit = 170;
-    EXPECT_THAT(lines_of(strike_calculator_printout(calculator, settings)),
+    EXPECT_THAT(printed_lines(strike_calculator_printout(calculator, settings)),
                 ElementsAre("Wortlex - Dough In Strike Water Calculation", "@584 Page 1",
                             "Tun Thermal Mass:\t0.150", "Total Grain:\t10.00\tLBS\t4.54\tkg",
                             "Total Water:\t12.00\tQTS\t11.36\tLiters", "Water/Grain Ratio:\t1.20\t\t2.50\t",
@@ -101,7 +92,7 @@ TEST(StrikePrintout, TellsBothUnits) {
     calculator.grain = of_pounds(0);
     work_out_strike(calculator);
     EXPECT_THAT(
-        lines_of(strike_calculator_printout(calculator, settings)),
+        printed_lines(strike_calculator_printout(calculator, settings)),
         IsSupersetOf({"Total Water:\t3.00\tGAL\t11.36\tLiters", "Water/Grain Ratio:\t0.00\t\t0.00\t"}));
 }
 
@@ -116,7 +107,7 @@ TEST(PreBoilPrintout, TellsBothKettlesInTheUnitsShown) {
     recipe.og_points = 48;
     recipe.boil_minutes = 90;
     // Three gallons go off in an hour and a half: 48 x 6 / 9 points are 32.
-    EXPECT_THAT(lines_of(pre_boil_printout(recipe, 2, settings)),
+    EXPECT_THAT(printed_lines(pre_boil_printout(recipe, 2, settings)),
                 ElementsAre("Wortlex Pre-Boil Calculator", "@584 Page 1", "Recipe:\tK\u00F6lsch",
                             "End-Of-Boil Wort Size:\t6.00\tGal",
                             "End-Of-Boil Gravity:\t1.0480\tSG\t11.9\tPlato", "Boil Time:\t90\tMinutes",

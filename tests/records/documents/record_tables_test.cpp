@@ -1,6 +1,9 @@
 // The tables of the record formats, written out a second time: offset and type of every field.
 #include "records/mash/schedule_file.h"
+#include "records/water/water_analysis.h"
 #include "support/sample_documents.h"
+
+#include <cmath>
 
 namespace wortlex {
 namespace {
@@ -51,6 +54,10 @@ Table water_needs(const WaterNeeds& r) { return {f32(0, r.sparge), f32(4, r.spar
     f32(24, r.grain_absorption), f32(28, r.top_up), f32(32, r.lauter_loss), f32(36, r.boil_minutes),
     f32(40, r.evaporation_rate), f32(44, r.kettle_deadspace), f32(48, r.hopback), f32(52, r.chiller),
     f32(56, r.other)}; }
+Table water_analysis(const WaterAnalysis& r) { return {f32(0, r.rates), f32(28, r.mash_gallons),
+    f32(32, r.mash_quarts), f32(36, r.sparge_gallons), f32(40, r.sparge_quarts), each(44, r.salts, water),
+    {1598, water(r.target)}, {1820, water(r.source)}, {2042, water(r.difference)}, {2264, water(r.totals)},
+    {2486, water(r.result)}, u8(2708, r.unit), f32(2709, r.dilution_rate)}; }
 Table fermentation(const FermentationLog& r) { return {u8(0, r.pitched_from), f32(1, r.lag_hours),
     i32(5, r.amount_pitched), u8(9, r.amount_unit), u8(10, r.primary_vessel), u8(11, r.secondary_vessel),
     u8(12, r.primary_open), u8(13, r.secondary_open), i32(14, r.primary_days), i32(18, r.secondary_days),
@@ -117,6 +124,7 @@ TEST(Records, StandInFilesAsTheirTablesSay) {
     expect_layout(577, extra_layout, extra);
     expect_layout(62, simple_mash_layout, simple_mash);
     expect_layout(60, water_needs_layout, water_needs);
+    expect_layout(2713, water_analysis_layout, water_analysis);
 }
 
 TEST(DocumentFiles, StandAsTheirTablesSay) {
@@ -155,6 +163,24 @@ TEST(MashScheduleFile, StandsAsItsTableSaysAndMayEndAnywhere) {
         ASSERT_EQ(first_difference(schedule_file(design), expected), -1) << "cut at " << cut;
         ASSERT_EQ(first_difference(mash_schedule_bytes(design), expected), -1) << "cut at " << cut;
     }
+}
+
+TEST(WaterAnalysisFile, MayEndAnywhereAndHoldsOnlyNumbers) {
+    const auto file = distinct_bytes(2713);
+    for (std::size_t cut = 0; cut <= file.size(); cut += cut < 50 ? 1 : 25) {
+        auto expected = water_analysis_bytes({});
+        std::copy_n(file.begin(), cut, expected.begin());
+        const auto read = read_water_analysis(ByteView(file).first(cut));
+        ASSERT_EQ(read.is_complete, cut == file.size());
+        ASSERT_EQ(first_difference(water_analysis_bytes(read.analysis), expected), -1) << "cut at " << cut;
+    }
+    auto poisoned = file;
+    auto expected = file;
+    for (const std::size_t offset : {0U, 24U, 28U, 40U, 44U + 27, 1820U + 39, 2264U + 55, 2709U}) {
+        poke(poisoned, offset, offset % 3 == 0 ? std::nanf("") : -HUGE_VALF);
+        poke(expected, offset, 0.0F);
+    }
+    EXPECT_EQ(first_difference(water_analysis_bytes(read_water_analysis(poisoned).analysis), expected), -1);
 }
 
 } // namespace

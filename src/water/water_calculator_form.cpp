@@ -1,0 +1,162 @@
+#include "water/water_calculator_form.h"
+
+#include "base/number.h"
+#include "base/windows1252.h"
+#include "brewing/salt_proposal.h"
+#include "brewing/water_ph.h"
+#include "water/salt_words.h"
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+namespace wortlex {
+namespace {
+
+constexpr float most_ph_of_salts = 14;
+constexpr double met_ppm = 5, met_part = 0.1;
+constexpr int ion_width = 6;
+
+ShownRow& ion_cell(Rows& rows, const std::string& line, const Ion& ion, std::function<float()> ppm) {
+    return rows.shown_number(line + '_' + ion.key, std::move(ppm), "%4.1f").width(ion_width);
+}
+
+std::function<void()> with_change(std::function<void()> action, const std::function<void()>& changed) {
+    if (!action) return nullptr;
+    return [action = std::move(action), changed] {
+        action();
+        changed();
+    };
+}
+
+std::function<void()> picking(std::function<std::optional<WaterRecord>()> pick, WaterAnalysis& analysis,
+                              WaterRecord WaterAnalysis::*water, const std::function<void()>& changed) {
+    if (!pick) return nullptr;
+    return [pick = std::move(pick), &analysis, water, changed] {
+        const auto picked = pick();
+        if (!picked) return;
+        analysis.*water = *picked;
+        compare_waters(analysis);
+        changed();
+    };
+}
+
+// Who weighs an analysis by the other of its charges trusts it too much.
+void balance_note(Rows& rows, const char* key, const char* water_words, const WaterRecord& water) {
+    rows.note(key,
+              [&water, water_words] {
+                  const auto charges = charges_of(water);
+                  return std::string(water_words) +
+                         formatted(" has %0.1f meq/l of cations and ", charges.cations) +
+                         formatted("%0.1f of anions. In a real water they are equal: this analysis is "
+                                   "incomplete, or put together from several.",
+                                   charges.anions);
+              })
+        .visible([&water] { return !charges_of(water).are_balanced(); });
+}
+
+void name_rows(Rows& rows, WaterAnalysis& analysis, WaterActions& actions) {
+    const auto name_of = [](const WaterRecord& water) {
+        return [&water] { return utf8_from_windows1252(water.name.view()); };
+    };
+    rows.shown("target_name", name_of(analysis.target)).label("Target Profile Name").width(24);
+    rows.button("pick_target", "Pick &Water",
+                picking(std::move(actions.pick_target), analysis, &WaterAnalysis::target, actions.changed))
+        .hint("Picks the water to be matched");
+    rows.shown("source_name", name_of(analysis.source)).label("Your Water Name").width(24);
+    rows.button("pick_source", "P&ick Water",
+                picking(std::move(actions.pick_source), analysis, &WaterAnalysis::source, actions.changed))
+        .hint("Picks the water that you have");
+    rows.number("dilution_rate", {[&analysis] { return analysis.dilution_rate; },
+                                  [&analysis](float rate) {
+                                      analysis.dilution_rate = rate;
+                                      compare_waters(analysis);
+                                  }})
+        .label("Ion Free &Dilution Rate")
+        .hint("The part of your water that distilled or reverse osmosis water takes the place of: 0.5 is "
+              "half")
+        .range(0, 1)
+        .step(0.1F)
+        .format("%0.2f");
+    balance_note(rows, "target_balance", "The target water", analysis.target);
+    balance_note(rows, "source_balance", "Your water", analysis.source);
+}
+
+void water_rows(Rows& rows, const WaterAnalysis& analysis) {
+    for (const auto& ion : ions) {
+        const auto ppm_of = [&ion](const WaterRecord& water) { return [&] { return water.*ion.ppm; }; };
+        ion_cell(rows, "target", ion, ppm_of(analysis.target));
+        ion_cell(rows, "source", ion, [&] { return diluted(analysis, ion); });
+        ion_cell(rows, "difference", ion, ppm_of(analysis.difference));
+        ion_cell(rows, "totals", ion, ppm_of(analysis.totals));
+        rows.shown(std::string("remaining_") + ion.key, [&] { return remaining_text(analysis, ion); })
+            .figure()
+            .width(ion_width + 4)
+            .hint("The difference less the totals: met within 5 ppm, or a tenth of the target");
+    }
+}
+
+void salt_rows(Rows& rows, WaterAnalysis& analysis) {
+    for (std::size_t i = 0; i < salt_effects.size(); ++i) {
+        const auto& salt = salt_effects[i];
+        const std::string key = salt_words[i].key;
+        rows.number(key + "_rate", {[&analysis, &salt] { return analysis.rate(salt.salt); },
+                                    [&analysis, &salt](float rate) { set_salt_rate(analysis, salt, rate); }})
+            .label(salt_words[i].label)
+            .range(0, most_salt_rate)
+            .step(0.1F)
+            .format("%4.2f")
+            .width(ion_width);
+        for (const auto& ion : ions)
+            if (ion.ppm == salt.cation || ion.ppm == salt.anion)
+                ion_cell(rows, key, ion, [&] { return analysis.added(salt.salt).*ion.ppm; });
+    }
+}
+
+void ph_rows(Rows& rows, WaterAnalysis& analysis, const std::function<void()>& changed) {
+    rows.number("ph", analysis.totals.ph).label("&PH").range(0, most_ph_of_salts).step(1).format("%0.2f");
+    rows.button("calculate_ph", "C&alc",
+                with_change([&analysis] { analysis.totals.ph = ph_of_salts(analysis.totals.bicarbonate); },
+                            changed))
+        .hint("The pH that goes with the carbonate of the totals");
+}
+
+void file_rows(Rows& rows, WaterAnalysis& analysis, WaterActions& actions) {
+    rows.button("load", "L&oad", with_change(std::move(actions.load), actions.changed));
+    rows.button("save", "&Save", std::move(actions.save));
+    rows.button("reset", "Rese&t", with_change([&analysis] { reset_salts(analysis); }, actions.changed))
+        .hint("All salts to nothing; the waters stay");
+}
+
+void tool_rows(Rows& rows, WaterActions& actions) {
+    rows.button("suggest", "S&uggest", with_change(std::move(actions.suggest), actions.changed))
+        .hint("Proposes salts that come close to the difference");
+    rows.button("show_totals", "&Mash And Sparge Totals", std::move(actions.show_totals));
+    rows.button("show_graph", "G&raph", std::move(actions.show_graph));
+    rows.button("print", "Pri&nt", std::move(actions.print));
+    rows.button("help", "&Help", std::move(actions.help));
+}
+
+} // namespace
+
+std::string remaining_text(const WaterAnalysis& analysis, const Ion& ion) {
+    if (charges_of(analysis.target).cations == 0 && analysis.target.name.empty()) return {};
+    const double left = double{analysis.difference.*ion.ppm} - analysis.totals.*ion.ppm;
+    if (!std::isfinite(left)) return std::string(no_number);
+    if (std::abs(left) <= std::max(met_ppm, met_part * analysis.target.*ion.ppm)) return "met";
+    return formatted(left > 0 ? "%0.1f more" : "%0.1f less", std::abs(left));
+}
+
+void water_calculator_form(Form& form, WaterAnalysis& analysis, WaterActions actions) {
+    if (!actions.changed) actions.changed = [] {};
+    auto& rows = form.group();
+    name_rows(rows, analysis, actions);
+    water_rows(rows, analysis);
+    salt_rows(rows, analysis);
+    ph_rows(rows, analysis, actions.changed);
+    tool_rows(rows, actions);
+    file_rows(rows, analysis, actions);
+    form.after_edit([changed = actions.changed](Row&) { changed(); });
+}
+
+} // namespace wortlex
