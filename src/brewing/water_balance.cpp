@@ -2,9 +2,16 @@
 
 #include "base/number.h"
 #include "brewing/mash_recalculation.h"
+#include "measures/units.h"
 
 namespace wortlex {
 namespace {
+
+constexpr double fluid_ounces_per_gallon = 128.0;
+
+double kilograms_of_grain(const WaterNeeds& needs) {
+    return needs.grain * grams_per_pound / 1000.0;
+}
 
 float evaporated(const WaterNeeds& needs, float into_kettle, const Settings& settings) {
     const double hours = needs.boil_minutes / 60.0;
@@ -60,6 +67,29 @@ void seed_water_needs(WaterNeeds& needs, const MashedGrain& mash, std::int32_t b
     needs.mash_water = mash_gallons(mash);
     if (needs.grain != 0) needs.quarts_per_pound = narrow(needs.mash_water * 4.0 / needs.grain);
     needs.boil_minutes = static_cast<float>(boil_minutes);
+}
+
+void enter_grain(WaterNeeds& needs, float pounds) {
+    needs.grain = pounds;
+    needs.mash_water = narrow(double{needs.quarts_per_pound} * pounds / 4.0);
+}
+
+void enter_water_ratio(WaterNeeds& needs, float ratio, Units units) {
+    needs.quarts_per_pound = ratio;
+    needs.mash_water =
+        is_american(units)
+            ? narrow(double{ratio} * needs.grain / 4.0)
+            : narrow(kilograms_of_grain(needs) * ratio * fluid_ounces_per_litre / fluid_ounces_per_gallon);
+}
+
+void enter_mash_water(WaterNeeds& needs, float gallons) {
+    needs.mash_water = gallons;
+    needs.quarts_per_pound = needs.grain != 0 ? narrow(gallons * 4.0 / needs.grain) : 0.0F;
+}
+
+float shown_water_ratio(const WaterNeeds& needs, Units units) {
+    if (is_american(units) || needs.grain == 0) return needs.quarts_per_pound;
+    return narrow(needs.mash_water * litres_per_gallon / kilograms_of_grain(needs));
 }
 
 float vessel_losses(const WaterNeeds& needs) {

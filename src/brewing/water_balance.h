@@ -36,6 +36,15 @@ float mash_gallons(const MashedGrain& mash);
 /// Brings a session's record up to date with its mash and boil.
 void seed_water_needs(WaterNeeds& needs, const MashedGrain& mash, std::int32_t boil_minutes);
 
+/// What an entry brings with it, before the balance. In metric the ratio holds the litres per kilogram as
+/// entered, until the mash water is; a change of the grain takes either for quarts per pound.
+void enter_grain(WaterNeeds& needs, float pounds);
+void enter_water_ratio(WaterNeeds& needs, float ratio, Units units);
+void enter_mash_water(WaterNeeds& needs, float gallons);
+
+/// Quarts per pound as they stand, or litres per kilogram by mash water and grain; as entered without grain.
+float shown_water_ratio(const WaterNeeds& needs, Units units);
+
 /// Gallons left behind between kettle and fermenter.
 float vessel_losses(const WaterNeeds& needs);
 

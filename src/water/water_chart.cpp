@@ -12,14 +12,14 @@
 namespace wortlex {
 namespace {
 
-constexpr int left = 40, baseline = 250, bar_height = 200;
+constexpr int groups_left = 40, baseline = 250, bar_height = 200;
 constexpr int group_pitch = 75, bar_pitch = 14, bar_width = 10, first_bar = -3;
 constexpr int frame_before = 10, frame_width = 50, frame_below = 5, frame_height = bar_height + 13;
 constexpr int name_below = 12, most_above = 25;
 constexpr int legend_below = 42, legend_pitch = 13, swatch_side = 12, swatch_to_text = 16;
 constexpr Point title_at{125, 5};
 constexpr int additions_below_legend = 50, list_below_legend = 62, list_pitch = 10;
-constexpr int letter_height = 14, weight = 300;
+constexpr int letter_height = 14, letter_weight = 300;
 constexpr Extent printed_size{water_chart_size.width, 410};
 
 // The water of a bar, in the order of the bars.
@@ -93,7 +93,7 @@ void draw_chart(Surface& surface, const WaterAnalysis& analysis, Extent area) {
     const auto chart = water_chart(analysis);
     clear(surface, area, chart_white);
     surface.set_text_colour(chart_black);
-    set_chart_font(surface, letter_height, false, weight);
+    set_chart_font(surface, letter_height, false, letter_weight);
     for (const auto& group : chart.groups) draw_group(surface, group);
     for (const auto& entry : chart.legend) {
         fill(surface, entry.swatch, entry.colour);
@@ -105,12 +105,12 @@ void draw_chart(Surface& surface, const WaterAnalysis& analysis, Extent area) {
 // Rows as close as these take letters that are as low.
 void draw_additions(Surface& surface, const WaterAnalysis& analysis) {
     constexpr int legend_top = baseline + legend_below;
-    set_chart_font(surface, list_pitch, false, weight);
-    surface.text({left, legend_top + additions_below_legend}, "Additions (per gallon):");
+    set_chart_font(surface, list_pitch, false, letter_weight);
+    surface.text({groups_left, legend_top + additions_below_legend}, "Additions (per gallon):");
     int y = legend_top + list_below_legend;
     for (std::size_t i = 0; i < salt_words.size(); ++i) {
         if (salt_words[i].chart == nullptr) continue;
-        surface.text({left, y},
+        surface.text({groups_left, y},
                      formatted("%0.2f Grams ", analysis.rate(salt_effects[i].salt)) + salt_words[i].chart);
         y += list_pitch;
     }
@@ -121,14 +121,14 @@ void draw_additions(Surface& surface, const WaterAnalysis& analysis) {
 WaterChart water_chart(const WaterAnalysis& analysis) {
     WaterChart chart;
     for (std::size_t i = 0; i < ions.size(); ++i)
-        chart.groups[i] = group_of(analysis, ions[i], left + static_cast<int>(i) * group_pitch);
+        chart.groups[i] = group_of(analysis, ions[i], groups_left + static_cast<int>(i) * group_pitch);
     int y = baseline + legend_below;
     for (std::size_t i = 0; i < charted.size(); ++i) {
         const auto& [water, colour, words, is_named] = charted[i];
         const auto name = is_named ? utf8_from_windows1252((analysis.*water).name.view()) : std::string();
-        chart.legend[i] = {.swatch = {left, y, left + swatch_side, y + swatch_side},
+        chart.legend[i] = {.swatch = {groups_left, y, groups_left + swatch_side, y + swatch_side},
                            .colour = colour,
-                           .text_at = {left + swatch_to_text, y},
+                           .text_at = {groups_left + swatch_to_text, y},
                            .text = words + name};
         y += legend_pitch;
     }

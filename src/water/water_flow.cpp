@@ -1,0 +1,91 @@
+#include "water/water_flow.h"
+
+#include "base/number.h"
+#include "charts/strokes.h"
+#include "measures/units.h"
+#include "water/shown_water.h"
+
+#include <algorithm>
+
+namespace wortlex {
+namespace {
+
+constexpr int first_row = 10, row_pitch = 37, bar_high = 16;
+constexpr int words_at = 10, bars_at = 110, longest_bar = 400, figure_gap = 8;
+constexpr std::uint32_t water_blue = 0xB06A2A, lost_grey = 0xD8D0C8, quiet_ink = 0x505050; // 0x00BBGGRR
+
+std::vector<WaterLoss> without_nothing(std::vector<WaterLoss> losses) {
+    std::erase_if(losses, [](const WaterLoss& loss) { return loss.gallons == 0; });
+    return losses;
+}
+
+float less(float before, float after) {
+    return narrow(double{before} - after);
+}
+
+// Of a length in gallons; none is longer than the room for bars.
+int length_of(double gallons, double most) {
+    if (!(gallons > 0) || !(most > 0)) return 0;
+    return truncate(std::min(gallons / most, 1.0) * longest_bar + 0.5);
+}
+
+double most_of(const std::vector<WaterStage>& stages) {
+    double most = 0;
+    for (const auto& stage : stages) most = std::max(most, double{stage.gallons});
+    return most;
+}
+
+void fill_from(Surface& surface, int left, int right, int top, std::uint32_t colour) {
+    if (right <= left) return;
+    surface.set_pen({colour});
+    surface.set_brush(colour);
+    surface.rectangle({left, top, right, top + bar_high});
+}
+
+} // namespace
+
+std::vector<WaterStage> water_flow(const WaterNeeds& needs, const WaterBalance& balance) {
+    return {{"You Will Need", balance.needed, {}},
+            {"Into Kettle", balance.into_kettle,
+             without_nothing({{"in the sparge deadspace", needs.sparge_deadspace},
+                              {"in the grain", needs.grain_absorption},
+                              {"between lauter tun and kettle", needs.lauter_loss}})},
+            {"After Boil", balance.after_boil,
+             without_nothing({{"evaporated", less(balance.into_kettle, balance.after_boil)}})},
+            {"To Chillers", balance.to_chillers,
+             without_nothing({{"in the kettle", needs.kettle_deadspace},
+                              {"in the hopback", needs.hopback},
+                              {"in the chiller", needs.chiller},
+                              {"elsewhere", needs.other}})},
+            {"To Fermenter", balance.after_cooling,
+             without_nothing({{"by cooling", less(balance.to_chillers, balance.after_cooling)}})}};
+}
+
+void draw_water_flow(Surface& surface, const WaterPlan& plan, const Settings& settings) {
+    const auto shown = [&](float gallons) {
+        return formatted("%0.2f", to_shown_volume(gallons, plan.units, settings.system_mode));
+    };
+    const auto stages = water_flow(plan.needs, plan.balance);
+    const double most = most_of(stages);
+    clear(surface, surface.size(), chart_white);
+    int top = first_row, before = 0;
+    for (const auto& stage : stages) {
+        const int right = bars_at + length_of(stage.gallons, most);
+        fill_from(surface, bars_at, right, top, water_blue);
+        fill_from(surface, right, before, top, lost_grey);
+        surface.set_text_colour(chart_black);
+        set_chart_font(surface, bar_high, false, 400);
+        surface.text({words_at, top}, stage.words);
+        const int figure_at = std::max(right, before) + figure_gap;
+        surface.text({figure_at, top}, shown(stage.gallons) + ' ' + water_unit(plan.units, settings).usual);
+        before = right;
+        std::string lost;
+        for (const auto& [words, gallons] : stage.losses)
+            lost += (lost.empty() ? "" : ", ") + shown(gallons) + ' ' + words;
+        surface.set_text_colour(quiet_ink);
+        if (!lost.empty()) surface.text({bars_at, top - bar_high}, "lost: " + lost);
+        top += row_pitch;
+    }
+}
+
+} // namespace wortlex

@@ -1,0 +1,28 @@
+// The way of the water on a brew day, drawn: at each stage what there is, and what was lost before it.
+#pragma once
+
+#include "base/ports/surface.h"
+#include "water/water_needs_calculator.h"
+
+namespace wortlex {
+
+struct WaterLoss {
+    const char* words;
+    float gallons = 0;
+};
+
+struct WaterStage {
+    const char* words;
+    float gallons = 0;
+    std::vector<WaterLoss> losses; ///< before it; none that are 0
+};
+
+/// From what is needed to what reaches the fermenter.
+std::vector<WaterStage> water_flow(const WaterNeeds& needs, const WaterBalance& balance);
+
+inline constexpr Extent water_flow_size{600, 196};
+
+/// On white, in the units of the plan.
+void draw_water_flow(Surface& surface, const WaterPlan& plan, const Settings& settings);
+
+} // namespace wortlex

@@ -1,0 +1,176 @@
+#include "base/number.h"
+#include "measures/units.h"
+#include "water/shown_water.h"
+#include "water/water_flow.h"
+
+#include <utility>
+
+namespace wortlex {
+namespace {
+
+constexpr float most_of_anything = 5000;
+constexpr auto figure_pattern = "%6.2f";
+
+// Makes the rows of one plan.
+class WaterNeedsRows {
+public:
+    WaterNeedsRows(WaterPlan plan, const Settings& settings) : plan_(plan), settings_(settings) {}
+
+    void fill(Form& form) const {
+        sparge_rows(form.group("Sparge"));
+        mash_rows(form.group("Mash"));
+        form.next_column();
+        kettle_rows(form.group("Kettle"));
+        boil_rows(form.group("Boil"));
+        fermenter_rows(form.group("To Fermenter"));
+    }
+
+    ShownRow& result(Rows& rows, const char* key, const Live<std::string>& label,
+                     const float& gallons) const {
+        return rows
+            .shown_number(
+                key, [this_ = *this, &gallons] { return this_.to_shown(gallons); }, figure_pattern)
+            .label(label);
+    }
+
+    const char* unit() const { return water_unit(plan_.units, settings_).full; }
+
+private:
+    float to_shown(float gallons) const {
+        return to_shown_volume(gallons, plan_.units, settings_.system_mode);
+    }
+    float from_shown(float shown) const {
+        return from_shown_volume(shown, plan_.units, settings_.system_mode);
+    }
+
+    static NumberRow& entry(Rows& rows, const char* key, const Live<std::string>& label,
+                            const Binding<float>& value) {
+        return rows.number(key, value)
+            .label(label)
+            .range(0, most_of_anything)
+            .step(0.25F)
+            .format(figure_pattern);
+    }
+    NumberRow& volume(Rows& rows, const char* key, const Live<std::string>& label,
+                      const Binding<float>& gallons) const {
+        return entry(rows, key, label, gallons)
+            .shown_as([this_ = *this](float value) { return this_.to_shown(value); },
+                      [this_ = *this](float shown) { return this_.from_shown(shown); });
+    }
+
+    void sparge_rows(Rows& rows) const {
+        const auto label = [this_ = *this] {
+            const auto& words = water_unit(this_.plan_.units, this_.settings_);
+            const bool is_long = &words == &words_of(Unit::hectolitres);
+            return std::string("&Sparge ") + (is_long ? words.usual : words.full);
+        };
+        volume(rows, "sparge", label, plan_.needs.sparge);
+        volume(rows, "sparge_deadspace", "Sparge &Deadspace", plan_.needs.sparge_deadspace);
+        result(rows, "total_into_mash", "Total Into Mash", plan_.needs.total_into_mash);
+    }
+
+    void mash_rows(Rows& rows) const {
+        auto& needs = plan_.needs;
+        const auto& units = plan_.units;
+        entry(rows, "grain", [&units] { return std::string("Total &Grain ") + grain_unit(units).capital; },
+              {[&needs] { return needs.grain; }, [&needs](float pounds) { enter_grain(needs, pounds); }})
+            .shown_as([&units](float pounds) { return shown_grain(pounds, units); },
+                      [&units](float shown) { return grain_from_shown(shown, units); });
+        entry(rows, "ratio",
+              [&units] { return std::string(is_american(units) ? "&Quarts Per LBS" : "&Liters Per kg"); },
+              {[&needs, &units] { return shown_water_ratio(needs, units); },
+               [&needs, &units](float ratio) { enter_water_ratio(needs, ratio, units); }})
+            .step(0.01F);
+        volume(rows, "mash_water", [this_ = *this] { return std::string("&Mash ") + this_.unit(); },
+               {[&needs] { return needs.mash_water; },
+                [&needs](float gallons) { enter_mash_water(needs, gallons); }});
+        result(rows, "grain_absorption", "Grain Absorbtion", needs.grain_absorption).unit([this_ = *this] {
+            return std::string(this_.unit());
+        });
+        result(rows, "from_mash", "Total  From Mash", plan_.balance.from_mash);
+    }
+
+    void kettle_rows(Rows& rows) const {
+        volume(rows, "lauter_loss", "&Amount Lost in Lauter Tun Deadspace,\nGrant and Misc. to Kettle",
+               plan_.needs.lauter_loss);
+        volume(rows, "top_up", "&Top Up Water Added To Kettle", plan_.needs.top_up);
+        result(rows, "into_kettle", "Into Kettle", plan_.balance.into_kettle);
+    }
+
+    bool is_by_volume() const { return settings_.evaporation_by_volume != 0; }
+
+    void boil_rows(Rows& rows) const {
+        auto& rate = plan_.needs.evaporation_rate;
+        entry(rows, "boil_minutes", "&Boil Time", plan_.needs.boil_minutes)
+            .step(5)
+            .format("%0.2f")
+            .unit("(Minutes)");
+        entry(rows, "evaporation_rate", "&Evaporation Rate",
+              {[this_ = *this, &rate] { return this_.is_by_volume() ? this_.to_shown(rate) : rate; },
+               [this_ = *this, &rate](float shown) {
+                   rate = this_.is_by_volume() ? this_.from_shown(shown) : shown;
+               }})
+            .step([this_ = *this] { return this_.is_by_volume() ? 0.5F : 1.0F; })
+            .unit([this_ = *this] {
+                return std::string("(") + (this_.is_by_volume() ? this_.unit() : "%") + " per Hour)";
+            });
+        result(rows, "after_boil", "After Boil", plan_.balance.after_boil);
+    }
+
+    void fermenter_rows(Rows& rows) const {
+        auto& needs = plan_.needs;
+        volume(rows, "kettle_deadspace", "Left In &Kettle Deadspace", needs.kettle_deadspace);
+        volume(rows, "hopback", "Left in &Hopback", needs.hopback);
+        volume(rows, "chiller", "Left in &Counterflow Chiller", needs.chiller);
+        volume(rows, "other", "Left in Other Equipme&nt /\nOther Absorption", needs.other);
+        result(rows, "to_chillers", "To Chillers", plan_.balance.to_chillers);
+        const auto label = [this_ = *this] {
+            return formatted("After Cooling (%0.0f%%)", this_.settings_.cooling_shrink * 100.0);
+        };
+        result(rows, "after_cooling", label, plan_.balance.after_cooling).unit("To Fermenter");
+    }
+
+    static float shown_grain(float pounds, Units units) {
+        return is_american(units) ? pounds : narrow(pounds * grams_per_pound / 1000.0);
+    }
+    static float grain_from_shown(float shown, Units units) {
+        return is_american(units) ? shown : narrow(shown * 1000.0 / grams_per_ounce / 16.0);
+    }
+
+    WaterPlan plan_;
+    const Settings& settings_;
+};
+
+void unit_choice(Rows& rows, Units& units, const Settings& settings) {
+    const auto option = [&settings](const char* prefix, Units of, const char* and_weight) {
+        return [&settings, prefix, of, and_weight] {
+            return std::string(prefix) + water_unit(of, settings).full + and_weight;
+        };
+    };
+    rows.choice(
+            "units", units,
+            {option("&US ", Units::american, " and Pounds"), option("", Units::metric, " and Kilog&rams")})
+        .named("Units")
+        .codes({static_cast<std::int32_t>(Units::american), static_cast<std::int32_t>(Units::metric)});
+}
+
+} // namespace
+
+void water_needs_form(Form& form, WaterPlan plan, const Settings& settings, WaterNeedsActions actions) {
+    const WaterNeedsRows rows(plan, settings);
+    rows.fill(form);
+    auto& need = form.group();
+    rows.result(need, "needed", "You Will Need", plan.balance.needed).unit([rows] {
+        return std::string(rows.unit()) + " of Water";
+    });
+    unit_choice(need, plan.units, settings);
+    need.canvas("flow", water_flow_size,
+                [plan, &settings](Surface& surface) { draw_water_flow(surface, plan, settings); })
+        .named("The way of the water");
+    need.button("save_default", "Sa&ve As Default", std::move(actions.save_default));
+    need.button("print", "&Print", std::move(actions.print));
+    need.button("help", "Help", std::move(actions.help));
+    form.after_edit([plan, &settings](Row&) { plan.balance = BalanceWater(plan.needs, true, settings); });
+}
+
+} // namespace wortlex
