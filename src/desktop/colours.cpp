@@ -40,7 +40,8 @@ void apply_colours(QWidget& field, ColorArea area, const SystemSettings& setting
         palette.setColor(group, QPalette::PlaceholderText, text);
     }
     palette.setColor(QPalette::AlternateBase, toned_ground(palette, shade_percent));
-    palette.setColor(QPalette::Disabled, QPalette::Base, palette.color(QPalette::Disabled, QPalette::Window));
+    palette.setColor(QPalette::Disabled, QPalette::Base,
+                     QApplication::palette().color(QPalette::Disabled, QPalette::Window));
     field.setPalette(palette);
 }
 

@@ -12,6 +12,7 @@
 #include <QButtonGroup>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QEvent>
 #include <QPointer>
 #include <QPushButton>
 #include <QRadioButton>
@@ -85,6 +86,20 @@ void aim_at_width(QLineEdit& line, const EntryRow& row, int beside) {
     if (row.is_number()) line.setAlignment(Qt::AlignRight);
 }
 
+// Tells when the desktop has changed its colours.
+class DesktopColours : public QObject {
+public:
+    DesktopColours(std::function<void()> changed, QObject& owner)
+        : QObject(&owner), changed_(std::move(changed)) {}
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (event->type() == QEvent::PaletteChange) changed_();
+        return QObject::eventFilter(watched, event);
+    }
+
+private:
+    std::function<void()> changed_;
+};
+
 } // namespace
 
 FormWidgets::FormWidgets(Form& form, const Places& places, QWidget& parent)
@@ -100,6 +115,13 @@ FormWidgets::FormWidgets(Form& form, const Places& places, QWidget& parent)
         else
             refresh();
     });
+    auto* const desktop = new DesktopColours(
+        [this] {
+            borne_.reset();
+            recolour();
+        },
+        alive_);
+    parent.installEventFilter(desktop);
     refresh();
 }
 

@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QDialog>
+#include <QFocusEvent>
 
 #include <algorithm>
 #include <utility>
@@ -47,6 +48,9 @@ ToolWindow::ToolWindow(const WindowInfo& info, std::size_t use, Opener opener, Q
 void ToolWindow::setVisible(bool visible) {
     if (visible) place_.put();
     QWidget::setVisible(visible);
+    if (!visible || focusWidget() == nullptr) return;
+    QFocusEvent entered(QEvent::FocusIn, Qt::TabFocusReason); // as a dialog does: a field selects its text
+    QApplication::sendEvent(focusWidget(), &entered);
 }
 
 void ToolWindow::closeEvent(QCloseEvent* event) {

@@ -234,6 +234,23 @@ Answer answer_to(Qt::Key key, Ask ask) {
     return ask(boxes);
 }
 
+TEST(FormWidgets, FollowTheColoursOfTheDesktop) {
+    Desk desk;
+    set_colours(desk.settings, colours_of(ColourPreset::desktop));
+    float amount = 1;
+    Form form;
+    form.rows().number("amount", amount);
+    QWidget window;
+    const FormWidgets widgets(form, desk.places, window);
+    window.show();
+    const auto usual = QApplication::palette();
+    QApplication::setPalette(QPalette(QColor(40, 50, 60)));
+    const auto ground = QApplication::palette().color(QPalette::Base);
+    EXPECT_TRUE(
+        QTest::qWaitFor([&] { return widgets.field("amount").palette().color(QPalette::Base) == ground; }));
+    QApplication::setPalette(usual);
+}
+
 TEST(MessageBoxes, EnterIsSafeAndEscStays) {
     for (const auto safe : {Answer::yes, Answer::no}) {
         const Message question{.text = "Save the changes?", .icon = Icon::warning, .safe = safe};
