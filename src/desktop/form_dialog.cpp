@@ -1,6 +1,7 @@
 #include "desktop/form_dialog.h"
 
 #include "desktop/captions.h"
+#include "desktop/scrolled.h"
 
 #include <QKeyEvent>
 #include <QVBoxLayout>
@@ -19,7 +20,7 @@ FormDialog::FormDialog(Form& form, const DialogUse& use, const Places& places, Q
     setWindowModality(Qt::WindowModal);
     auto* const layout = new QVBoxLayout(this);
     layout->addStrut(fontMetrics().horizontalAdvance(windowTitle()) + title_buttons);
-    layout->addLayout(lay_out(form, widgets_, buttons_));
+    layout->addWidget(new Scrolled(lay_out(form, widgets_, buttons_), this), 1);
     if (use.has_cancel) buttons_->addButton(QDialogButtonBox::Cancel);
     set_tips(*buttons_, enter_closes_);
     layout->addWidget(buttons_);

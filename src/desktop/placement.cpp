@@ -3,7 +3,9 @@
 #include <QDialog>
 #include <QEvent>
 #include <QGuiApplication>
+#include <QLayout>
 #include <QScreen>
+#include <QStyle>
 
 #include <algorithm>
 #include <limits>
@@ -21,6 +23,19 @@ std::int64_t shared_area(const Rectangle& a, const Rectangle& b) {
 // The start of a stretch of `length` moved into low to high.
 std::int32_t moved_in(std::int32_t start, std::int32_t length, std::int32_t low, std::int32_t high) {
     return std::clamp(start, low, std::max(low, high - length));
+}
+
+// As large as it wants to be, up to the whole screen; the toolkit would stop at two thirds.
+QSize fitting_size(const QWidget& window) {
+    auto size = window.sizeHint();
+    const auto* const layout = window.layout();
+    if (layout != nullptr && layout->hasHeightForWidth())
+        size.setHeight(layout->totalHeightForWidth(size.width()));
+    const auto& style = *window.style();
+    const auto room =
+        window.screen()->availableSize() - QSize(0, style.pixelMetric(QStyle::PM_TitleBarHeight));
+    if (size.height() > room.height()) size += QSize(style.pixelMetric(QStyle::PM_ScrollBarExtent), 0);
+    return size.boundedTo(room);
 }
 
 } // namespace
@@ -99,7 +114,7 @@ bool WindowPlace::is_to_be_remembered(const QEvent& event) const {
 
 void WindowPlace::put() {
     if (std::exchange(is_put_, true)) return;
-    if (!window_.testAttribute(Qt::WA_Resized)) window_.adjustSize();
+    if (!window_.testAttribute(Qt::WA_Resized)) window_.resize(fitting_size(window_));
     const auto screens = screen_rectangles();
     auto place = Rectangle{};
     if (slot_ != no_place && places_.settings.save_window_positions != 0)

@@ -2,6 +2,7 @@
 
 #include "desktop/captions.h"
 #include "desktop/qt_text.h"
+#include "desktop/scrolled.h"
 #include "program/program.h"
 
 #include <QCloseEvent>
@@ -65,8 +66,7 @@ CalculatorWindow::CalculatorWindow(const WindowPorts& ports, const WindowInfo& i
       widgets_(form_, places(ports.program), *this) {
     auto* const layout = new QVBoxLayout(this);
     layout->addStrut(fontMetrics().horizontalAdvance(windowTitle()) + title_bar_buttons);
-    layout->addLayout(lay_out(form_, widgets_));
-    layout->addStretch();
+    layout->addWidget(new Scrolled(lay_out(form_, widgets_), this), 1);
     finish_tables(form_, widgets_);
     add_buttons(buttons);
     if (auto* const first = widgets_.first_field()) first->setFocus();

@@ -4,6 +4,7 @@
 #include "desktop/form_dialog.h"
 #include "desktop/list_view.h"
 #include "desktop/qt_text.h"
+#include "desktop/scrolled.h"
 
 #include <QApplication>
 #include <QDragEnterEvent>
@@ -212,7 +213,7 @@ void ListWindow::print_button(Rows& rows) {
 }
 
 void ListWindow::lay_out_rows() {
-    auto* const layout = new QVBoxLayout(this);
+    auto* const layout = new QVBoxLayout;
     auto* const choices = new QHBoxLayout;
     choices->addWidget(&widgets_->field("filter"));
     choices->addStretch();
@@ -223,7 +224,7 @@ void ListWindow::lay_out_rows() {
     finding->addWidget(&widgets_->field("found"));
     layout->addLayout(finding);
     auto& list = widgets_->field("list");
-    list.setMinimumHeight(fontMetrics().height() * 24);
+    list.setMinimumHeight(fontMetrics().height() * 8);
     layout->addWidget(&list, 1);
     auto* const buttons = new QHBoxLayout;
     form_.for_each([&](Row& row) {
@@ -234,6 +235,7 @@ void ListWindow::lay_out_rows() {
         buttons->addWidget(button);
     });
     layout->addLayout(buttons);
+    (new QVBoxLayout(this))->addWidget(new Scrolled(layout, this));
 }
 
 void ListWindow::add_keys() {

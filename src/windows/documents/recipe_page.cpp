@@ -2,6 +2,7 @@
 
 #include "desktop/captions.h"
 #include "desktop/list_keys.h"
+#include "desktop/scrolled.h"
 
 #include <QAbstractSpinBox>
 #include <QDialogButtonBox>
@@ -93,7 +94,8 @@ Form RecipePage::made_form() {
 void RecipePage::lay_out_rows() {
     auto* const layout = new QVBoxLayout(this);
     auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
-    layout->addLayout(use_.arrange ? use_.arrange(widgets_) : lay_out(form_, widgets_, buttons), 1);
+    auto* const part = use_.arrange ? use_.arrange(widgets_) : lay_out(form_, widgets_, buttons);
+    layout->addWidget(new Scrolled(part, this), 1);
     auto* const bottom = new QHBoxLayout;
     bottom->addStretch();
     buttons->button(QDialogButtonBox::Ok)->setDefault(false); // Enter is for the fields

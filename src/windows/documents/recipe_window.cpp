@@ -4,6 +4,7 @@
 #include "desktop/captions.h"
 #include "desktop/menus.h"
 #include "desktop/qt_text.h"
+#include "desktop/scrolled.h"
 #include "documents/method_check.h"
 #include "program/documents.h"
 #include "program/export_report.h"
@@ -17,7 +18,6 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QScreen>
 #include <QShortcut>
 
 namespace wortlex {
@@ -62,7 +62,7 @@ RecipeWindow::RecipeWindow(const WindowPorts& ports, const WindowInfo& info, QWi
     editor_.notices = &program_.notices;
     auto* const layout = new QVBoxLayout(this);
     add_menu();
-    layout->addWidget(&panel_, 1);
+    layout->addWidget(new Scrolled(panel_, this), 1);
     layout->addLayout(page_part());
     for (auto* const field : panel_.findChildren<QWidget*>())
         if (qobject_cast<QLineEdit*>(field) != nullptr || qobject_cast<QAbstractSpinBox*>(field) != nullptr)
@@ -70,8 +70,6 @@ RecipeWindow::RecipeWindow(const WindowPorts& ports, const WindowInfo& info, QWi
     connect(&keeper_, &QTimer::timeout, this, [this] { keep_or_tell(); });
     keeper_.start(between_keeps);
     reopen();
-    resize(
-        sizeHint().boundedTo(screen()->availableSize())); // all of it: the toolkit would stop at two thirds
 }
 
 RecipeActions RecipeWindow::actions() {

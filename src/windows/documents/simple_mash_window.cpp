@@ -1,6 +1,7 @@
 #include "windows/documents/simple_mash_window.h"
 
 #include "desktop/captions.h"
+#include "desktop/scrolled.h"
 
 #include <QDialogButtonBox>
 #include <QShortcut>
@@ -31,7 +32,7 @@ SimpleMashWindow::SimpleMashWindow(const SimpleMashWork& work, const Settings& s
     auto* const layout = new QVBoxLayout(this);
     auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
     set_tips(*buttons, true);
-    layout->addLayout(lay_out(form_, widgets_, buttons));
+    layout->addWidget(new Scrolled(lay_out(form_, widgets_, buttons), this), 1);
     layout->addWidget(buttons);
     connect(buttons, &QDialogButtonBox::accepted, this, &SimpleMashWindow::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QWidget::close);

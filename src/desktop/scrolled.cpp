@@ -1,0 +1,35 @@
+#include "desktop/scrolled.h"
+
+#include <QApplication>
+#include <QLayout>
+
+namespace wortlex {
+namespace {
+
+QWidget& laid_out(QLayout* layout) {
+    auto* const part = new QWidget; // the area takes it over
+    part->setLayout(layout);
+    return *part;
+}
+
+} // namespace
+
+Scrolled::Scrolled(QLayout* part, QWidget* parent) : Scrolled(laid_out(part), parent) {}
+
+Scrolled::Scrolled(QWidget& part, QWidget* parent) : QScrollArea(parent) {
+    part.layout()->setContentsMargins({});
+    setFrameShape(QFrame::NoFrame);
+    setFocusPolicy(Qt::NoFocus);
+    setWidgetResizable(true);
+    setWidget(&part);
+    connect(qApp, &QApplication::focusChanged, this, [this](const QWidget*, QWidget* now) {
+        if (now != nullptr && widget() != nullptr && widget()->isAncestorOf(now))
+            ensureWidgetVisible(now, 0, now->height());
+    });
+}
+
+bool Scrolled::hasHeightForWidth() const {
+    return widget() != nullptr && widget()->layout()->hasHeightForWidth();
+}
+
+} // namespace wortlex

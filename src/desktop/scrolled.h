@@ -1,0 +1,20 @@
+// What is too large for a small screen, or for one that shows everything larger.
+#pragma once
+
+#include <QScrollArea>
+
+namespace wortlex {
+
+/// A part of a window, whole where there is room and behind scroll bars elsewhere; what has the focus is in
+/// sight.
+class Scrolled : public QScrollArea {
+public:
+    /// Takes the part over, unless somebody else destroys it before.
+    Scrolled(QWidget& part, QWidget* parent);
+    Scrolled(QLayout* part, QWidget* parent);
+    QSize sizeHint() const override { return widget()->sizeHint(); }
+    bool hasHeightForWidth() const override;
+    int heightForWidth(int width) const override { return widget()->heightForWidth(width); }
+};
+
+} // namespace wortlex
