@@ -61,7 +61,10 @@ void IntegerRow::show(TextField& field) const {
 bool IntegerRow::typed(TextField& field) {
     const auto before = value_.get();
     auto value = before;
-    if (units_) return store(value, typed_temperature((*units_)(), field, value, number_length));
+    if (units_) {
+        const bool has_changed = typed_temperature((*units_)(), field, value, number_length);
+        return store(value, has_changed);
+    }
     const auto text = field.text();
     typed_int(field, value, typed_low_(), typed_high_(), number_length);
     const bool is_read = field.text() == text; // else a character was thrown out
@@ -78,7 +81,10 @@ bool IntegerRow::spun(TextField& field, Spin direction) {
     if (step_ <= 0) return false;
     const auto before = value_.get();
     auto value = before;
-    if (units_) return store(value, spin_temperature((*units_)(), field, value, number_length, direction));
+    if (units_) {
+        const bool has_changed = spin_temperature((*units_)(), field, value, number_length, direction);
+        return store(value, has_changed);
+    }
     const SpinRange range{static_cast<float>(spun_low_()), static_cast<float>(spun_high_()),
                           static_cast<float>(step_)};
     spin_int(field, value, range, number_length, direction, pattern_);
