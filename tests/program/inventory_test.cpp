@@ -24,7 +24,7 @@ struct StockedBrewery {
     StockedBrewery() {
         SaveSystemFiles(folder.path(), {WriteDefaultSettings(), {}, true});
         EXPECT_TRUE(start_core(program, folder.path(), prompts));
-        new_session(program);
+        new_session(program, {6, 12, 2026});
         editor.notices = &program.notices;
         stock(program.document.recipe);
         start_editing(editor, {});

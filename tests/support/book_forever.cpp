@@ -76,7 +76,7 @@ struct BrewDay {
         program.data_folder = folder;
         auto image = WriteDefaultSettings();
         program.settings = settings_from(image);
-        new_session(program);
+        new_session(program, {6, 12, 2026});
     }
     int number() const { return std::atoi(program.document.recipe.title.bytes.data()); }
     bool load() {
@@ -84,7 +84,7 @@ struct BrewDay {
                LoadResult::loaded;
     }
     bool begin(int number) {
-        new_session(program);
+        new_session(program, {6, 12, 2026});
         program.document.recipe.title.assign(std::to_string(number));
         ask_for_one_of_each(program.document.recipe);
         program.document.file = {.path = path, .loaded_from_file = true};
