@@ -20,8 +20,8 @@ struct Text {
     explicit Text(std::string_view text) { assign(text); }
 
     std::string_view view() const {
-        return {bytes.data(),
-                static_cast<std::size_t>(std::find(bytes.begin(), bytes.end(), '\0') - bytes.begin())};
+        const std::string_view whole(bytes.data(), N);
+        return whole.substr(0, whole.find('\0'));
     }
 
     bool empty() const { return bytes[0] == '\0'; }
