@@ -8,7 +8,7 @@
 set -eu
 cd "$(dirname "$0")"
 . tools/install.sh
-install_missing git g++ cmake ninja-build qt6-base-dev qt6-svg-dev libjpeg-dev libgtest-dev libgmock-dev locales clang-format \
+install_missing git g++ clang cmake ninja-build qt6-base-dev qt6-svg-dev libjpeg-dev libgtest-dev libgmock-dev locales clang-format \
     clang-tidy
 
 if [ "${1:-}" = --quick ]; then
@@ -24,12 +24,12 @@ if [ $# -gt 0 ]; then
 fi
 ctest --preset test -j "$(nproc)"
 
-# A comma for the decimal point: no figure may notice.
+# A comma for the decimal point: no figure may notice. Files cut at every length hold no number as text.
 comma_locales=$PWD/build/locales
 if [ ! -d "$comma_locales/de_DE.UTF-8" ]; then
     mkdir -p "$comma_locales"
     localedef -i de_DE -f UTF-8 "$comma_locales/de_DE.UTF-8"
 fi
-LOCPATH=$comma_locales LC_ALL=de_DE.UTF-8 ctest --preset test -j "$(nproc)" -R _tests
+LOCPATH=$comma_locales LC_ALL=de_DE.UTF-8 GTEST_FILTER=-*MayEndAnywhere ctest --preset test -j "$(nproc)" -R _tests
 
 tools/lint.sh

@@ -52,7 +52,7 @@ TEST(ColorTableFile, TwoSavesDifferInFillersOnly) {
     for (std::size_t row = 765; row < 13965; row += 33) {
         EXPECT_EQ(first.at(row + 16), std::byte{255});
         for (auto* file : {&before, &first, &second})
-            for (const std::size_t filler : {8, 21, 29}) poke(*file, row + filler, 0);
+            for (const std::size_t filler : {8U, 21U, 29U}) poke(*file, row + filler, 0);
     }
     EXPECT_EQ(first_difference(first, before), -1);
     EXPECT_EQ(first_difference(second, before), -1);

@@ -135,7 +135,7 @@ TEST(ColorUtility, LoadsTextAsFarAsItGoes) {
     desk.fail("There was an error reading the file!");
     utility.load_text();
     EXPECT_EQ(rgba(utility.work.rows[0]), (std::array{1, 2, 3, 4}));
-    for (const std::size_t row : {1, 2, 399}) {
+    for (const std::size_t row : {1U, 2U, 399U}) {
         EXPECT_EQ(utility.work.rows[row].srm, 40.0F);
         EXPECT_EQ(rgba(utility.work.rows[row]), (std::array{0, 0, 0, 255})) << "row " << row;
     }

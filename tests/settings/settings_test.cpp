@@ -59,7 +59,7 @@ constexpr Placed<std::int32_t> whole_for_zero = {{1344, 100}, {1348, 1}, {1372, 
 
 Bytes default_file() {
     Bytes file(1580);
-    for (const std::size_t at : {1279, 1280, 1282, 1283, 1289, 1292}) poke(file, at, std::uint8_t{1});
+    for (const std::size_t at : {1279U, 1280U, 1282U, 1283U, 1289U, 1292U}) poke(file, at, std::uint8_t{1});
     for (const auto& [at, value] : whole_defaults) poke(file, at, value);
     for (const auto& [at, value] : defaults) poke(file, at, value);
     return file;
@@ -97,7 +97,7 @@ TEST(SystemSettings, UnusableNumbersAreRepaired) {
     for (const auto& [bad, good] : {std::pair{19, 20}, {1, 20}, {-7, 20}, {20, 20}, {21, 21}})
         expect_repair<std::int32_t>(1344, bad, good);
     expect_repair<std::int32_t>(1372, -5, -5);
-    for (const std::size_t untouched : {1404, 1408, 1440, 1448, 1452, 1460, 1464, 1468, 1472})
+    for (const std::size_t untouched : {1404U, 1408U, 1440U, 1448U, 1452U, 1460U, 1464U, 1468U, 1472U})
         expect_repair(untouched, 0.0F, 0.0F);
     for (const auto& [at, good] : {std::pair<std::size_t, float>{1400, 0.85F}, {1404, 0.0F}, {1440, 60.0F}})
         expect_repair(at, no_figure, good);
@@ -111,7 +111,7 @@ TEST(SystemSettings, UnusableNumbersAreRepaired) {
         expect_repair(at, static_cast<std::uint8_t>(last), static_cast<std::uint8_t>(last));
         expect_repair(at, static_cast<std::uint8_t>(last + 1), static_cast<std::uint8_t>(good));
     }
-    for (const std::size_t code : {1304, 1308, 1316, 1328, 1332, 1352}) expect_repair(code, -1, 0);
+    for (const std::size_t code : {1304U, 1308U, 1316U, 1328U, 1332U, 1352U}) expect_repair(code, -1, 0);
     expect_repair(1348, 3, 1);
     auto image = WriteDefaultSettings();
     image.batch_size = 7;
