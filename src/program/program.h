@@ -18,6 +18,7 @@
 #include "records/ingredients/database_file.h"
 #include "settings/settings.h"
 #include "settings/system_files.h"
+#include "water/water_needs_calculator.h"
 
 namespace wortlex {
 
@@ -57,6 +58,7 @@ struct Program {
     HopMemory hop_memory;
     CalculatorStates calculators;
     std::optional<StrikeCalculator> strike_calculator; ///< none before its window first opens
+    WaterNeedsTool water_needs;
     PickChoices picks;
 
     OpenTools tools;

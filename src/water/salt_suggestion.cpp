@@ -5,10 +5,15 @@
 namespace wortlex {
 namespace {
 
+std::string without_mnemonic(std::string label) {
+    std::erase(label, '&');
+    return label;
+}
+
 void rate_lines(Rows& rows, const WaterAnalysis& analysis, const SaltProposal& proposal) {
     auto& grid = rows.grid("rates", {"Now", "Proposed"});
     for (std::size_t i = 0; i < salt_effects.size(); ++i) {
-        auto& line = grid.line(salt_words[i].totals_label);
+        auto& line = grid.line(without_mnemonic(salt_words[i].label));
         const std::string key = salt_words[i].key;
         line.shown_number(
             key + "_now", [&analysis, i] { return analysis.rate(salt_effects[i].salt); }, "%4.2f");
@@ -37,15 +42,15 @@ void salt_suggestion_form(Form& form, const WaterAnalysis& analysis, SaltSuggest
     };
     propose();
     rate_lines(form.group("Grams Per Gallon"), analysis, suggestion.proposal);
-    form.next_column();
-    ion_lines(form.group("ppm"), analysis, suggestion.proposal);
-    form.group("")
+    form.rows()
         .check("with_chalk", {[&suggestion] { return suggestion.with_chalk; },
                               [&suggestion](bool wanted) { suggestion.with_chalk = wanted; }})
-        .label("With &Chalk")
+        .label("&With Chalk")
         .hint("Chalk hardly dissolves in water that is not sour")
         .changed(propose);
     form.rows().note("meaning", "OK takes the proposed rates, Cancel leaves yours.");
+    form.next_column();
+    ion_lines(form.group("ppm"), analysis, suggestion.proposal);
 }
 
 void take_proposal(WaterAnalysis& analysis, const SaltProposal& proposal) {

@@ -17,8 +17,12 @@ constexpr float most_ph_of_salts = 14;
 constexpr double met_ppm = 5, met_part = 0.1;
 constexpr int ion_width = 6;
 
-ShownRow& ion_cell(Rows& rows, const std::string& line, const Ion& ion, std::function<float()> ppm) {
-    return rows.shown_number(line + '_' + ion.key, std::move(ppm), "%4.1f").width(ion_width);
+// `words` name the line to those who cannot see it.
+void ion_cell(Rows& rows, const std::string& line, const std::string& words, const Ion& ion,
+              std::function<float()> ppm) {
+    rows.shown_number(line + '_' + ion.key, std::move(ppm), "%4.1f")
+        .width(ion_width)
+        .named(words + ' ' + ion.symbol);
 }
 
 std::function<void()> with_change(std::function<void()> action, const std::function<void()>& changed) {
@@ -62,10 +66,12 @@ void name_rows(Rows& rows, WaterAnalysis& analysis, WaterActions& actions) {
     rows.shown("target_name", name_of(analysis.target)).label("Target Profile Name").width(24);
     rows.button("pick_target", "Pick &Water",
                 picking(std::move(actions.pick_target), analysis, &WaterAnalysis::target, actions.changed))
+        .named("Pick Target Water")
         .hint("Picks the water to be matched");
     rows.shown("source_name", name_of(analysis.source)).label("Your Water Name").width(24);
     rows.button("pick_source", "P&ick Water",
                 picking(std::move(actions.pick_source), analysis, &WaterAnalysis::source, actions.changed))
+        .named("Pick Your Water")
         .hint("Picks the water that you have");
     rows.number("dilution_rate", {[&analysis] { return analysis.dilution_rate; },
                                   [&analysis](float rate) {
@@ -85,13 +91,14 @@ void name_rows(Rows& rows, WaterAnalysis& analysis, WaterActions& actions) {
 void water_rows(Rows& rows, const WaterAnalysis& analysis) {
     for (const auto& ion : ions) {
         const auto ppm_of = [&ion](const WaterRecord& water) { return [&] { return water.*ion.ppm; }; };
-        ion_cell(rows, "target", ion, ppm_of(analysis.target));
-        ion_cell(rows, "source", ion, [&] { return diluted(analysis, ion); });
-        ion_cell(rows, "difference", ion, ppm_of(analysis.difference));
-        ion_cell(rows, "totals", ion, ppm_of(analysis.totals));
+        ion_cell(rows, "target", "Target Water", ion, ppm_of(analysis.target));
+        ion_cell(rows, "source", "Your Water", ion, [&] { return diluted(analysis, ion); });
+        ion_cell(rows, "difference", "Difference", ion, ppm_of(analysis.difference));
+        ion_cell(rows, "totals", "Totals", ion, ppm_of(analysis.totals));
         rows.shown(std::string("remaining_") + ion.key, [&] { return remaining_text(analysis, ion); })
             .figure()
             .width(ion_width + 4)
+            .named(std::string("Still To Add ") + ion.symbol)
             .hint("The difference less the totals: met within 5 ppm, or a tenth of the target");
     }
 }
@@ -109,7 +116,8 @@ void salt_rows(Rows& rows, WaterAnalysis& analysis) {
             .width(ion_width);
         for (const auto& ion : ions)
             if (ion.ppm == salt.cation || ion.ppm == salt.anion)
-                ion_cell(rows, key, ion, [&] { return analysis.added(salt.salt).*ion.ppm; });
+                ion_cell(rows, key, salt_words[i].totals_label, ion,
+                         [&] { return analysis.added(salt.salt).*ion.ppm; });
     }
 }
 
@@ -126,6 +134,8 @@ void file_rows(Rows& rows, WaterAnalysis& analysis, WaterActions& actions) {
     rows.button("save", "&Save", std::move(actions.save));
     rows.button("reset", "Rese&t", with_change([&analysis] { reset_salts(analysis); }, actions.changed))
         .hint("All salts to nothing; the waters stay");
+    rows.button("print", "Pri&nt", std::move(actions.print));
+    rows.button("help", "&Help", std::move(actions.help));
 }
 
 void tool_rows(Rows& rows, WaterActions& actions) {
@@ -133,8 +143,6 @@ void tool_rows(Rows& rows, WaterActions& actions) {
         .hint("Proposes salts that come close to the difference");
     rows.button("show_totals", "&Mash And Sparge Totals", std::move(actions.show_totals));
     rows.button("show_graph", "G&raph", std::move(actions.show_graph));
-    rows.button("print", "Pri&nt", std::move(actions.print));
-    rows.button("help", "&Help", std::move(actions.help));
 }
 
 } // namespace

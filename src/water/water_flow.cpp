@@ -11,11 +11,11 @@ namespace wortlex {
 namespace {
 
 constexpr int first_row = 10, row_pitch = 37, bar_high = 16;
-constexpr int words_at = 10, bars_at = 110, longest_bar = 400, figure_gap = 8;
+constexpr int words_at = 10, bars_at = 110, figure_gap = 8, figure_room = 100;
 constexpr std::uint32_t water_blue = 0xB06A2A, lost_grey = 0xD8D0C8, quiet_ink = 0x505050; // 0x00BBGGRR
 
 std::vector<WaterLoss> without_nothing(std::vector<WaterLoss> losses) {
-    std::erase_if(losses, [](const WaterLoss& loss) { return loss.gallons == 0; });
+    std::erase_if(losses, [](const WaterLoss& loss) { return !(loss.gallons > 0); });
     return losses;
 }
 
@@ -23,10 +23,9 @@ float less(float before, float after) {
     return narrow(double{before} - after);
 }
 
-// Of a length in gallons; none is longer than the room for bars.
-int length_of(double gallons, double most) {
-    if (!(gallons > 0) || !(most > 0)) return 0;
-    return truncate(std::min(gallons / most, 1.0) * longest_bar + 0.5);
+// In pixels, of at most `longest`.
+int length_of(double gallons, double most, int longest) {
+    return gallons > 0 ? truncate(std::min(gallons / most, 1.0) * longest + 0.5) : 0;
 }
 
 double most_of(const std::vector<WaterStage>& stages) {
@@ -68,9 +67,10 @@ void draw_water_flow(Surface& surface, const WaterPlan& plan, const Settings& se
     const auto stages = water_flow(plan.needs, plan.balance);
     const double most = most_of(stages);
     clear(surface, surface.size(), chart_white);
+    const int longest = surface.size().width - bars_at - figure_room;
     int top = first_row, before = 0;
     for (const auto& stage : stages) {
-        const int right = bars_at + length_of(stage.gallons, most);
+        const int right = bars_at + length_of(stage.gallons, most, longest);
         fill_from(surface, bars_at, right, top, water_blue);
         fill_from(surface, right, before, top, lost_grey);
         surface.set_text_colour(chart_black);

@@ -14,7 +14,7 @@ struct WaterLoss {
 struct WaterStage {
     const char* words;
     float gallons = 0;
-    std::vector<WaterLoss> losses; ///< before it; none that are 0
+    std::vector<WaterLoss> losses; ///< before it; none but what is above 0
 };
 
 /// From what is needed to what reaches the fermenter.

@@ -10,6 +10,7 @@ namespace {
 
 constexpr float most_of_anything = 5000;
 constexpr auto figure_pattern = "%6.2f";
+constexpr int entry_width = 7; // digits
 
 // Makes the rows of one plan.
 class WaterNeedsRows {
@@ -22,6 +23,7 @@ public:
         form.next_column();
         kettle_rows(form.group("Kettle"));
         boil_rows(form.group("Boil"));
+        form.next_column();
         fermenter_rows(form.group("To Fermenter"));
     }
 
@@ -49,7 +51,8 @@ private:
             .label(label)
             .range(0, most_of_anything)
             .step(0.25F)
-            .format(figure_pattern);
+            .format(figure_pattern)
+            .width(entry_width);
     }
     NumberRow& volume(Rows& rows, const char* key, const Live<std::string>& label,
                       const Binding<float>& gallons) const {
@@ -91,9 +94,9 @@ private:
     }
 
     void kettle_rows(Rows& rows) const {
-        volume(rows, "lauter_loss", "&Amount Lost in Lauter Tun Deadspace,\nGrant and Misc. to Kettle",
+        volume(rows, "lauter_loss", "&Amount Lost in Lauter Tun\nDeadspace, Grant and Misc.\nto Kettle",
                plan_.needs.lauter_loss);
-        volume(rows, "top_up", "&Top Up Water Added To Kettle", plan_.needs.top_up);
+        volume(rows, "top_up", "&Top Up Water Added\nTo Kettle", plan_.needs.top_up);
         result(rows, "into_kettle", "Into Kettle", plan_.balance.into_kettle);
     }
 
@@ -125,9 +128,9 @@ private:
         volume(rows, "other", "Left in Other Equipme&nt /\nOther Absorption", needs.other);
         result(rows, "to_chillers", "To Chillers", plan_.balance.to_chillers);
         const auto label = [this_ = *this] {
-            return formatted("After Cooling (%0.0f%%)", this_.settings_.cooling_shrink * 100.0);
+            return formatted("After Cooling (%0.0f%%)\nTo Fermenter", this_.settings_.cooling_shrink * 100.0);
         };
-        result(rows, "after_cooling", label, plan_.balance.after_cooling).unit("To Fermenter");
+        result(rows, "after_cooling", label, plan_.balance.after_cooling);
     }
 
     static float shown_grain(float pounds, Units units) {

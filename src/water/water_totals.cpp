@@ -76,7 +76,8 @@ void volume_rows(Rows& rows, WaterAnalysis& analysis, const WaterVolume& volume,
                                               quarts = value;
                                               gallons = narrow(value / quarts_per_gallon);
                                           }})
-                 .named(volume.caption + std::string(", small measure"))
+                 .label("or")
+                 .named(volume.caption + std::string(" in the small unit"))
                  .shown_as([&settings](float value) { return small_to_show(value, settings); },
                            [&settings](float shown) { return small_from_shown(shown, settings); }),
              settings, &VolumeUnits::small);
@@ -110,9 +111,8 @@ std::string adjusted(const char* what, const WaterAnalysis& analysis, const Wate
 
 void water_totals_form(Form& form, WaterAnalysis& analysis, const Settings& settings,
                        WaterTotalsActions actions) {
-    for (const auto& volume : volumes) {
-        volume_rows(form.group(volume.caption), analysis, volume, settings);
-    }
+    auto& water = form.group();
+    for (const auto& volume : volumes) volume_rows(water, analysis, volume, settings);
     form.group("Amounts Are In:").choice("unit", analysis.unit, {"&Ounces", "&Grams"});
     form.next_column();
     quantity_lines(form.group("Quantities You Need"), analysis);

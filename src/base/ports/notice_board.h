@@ -9,10 +9,11 @@ namespace wortlex {
 
 /// What a change was about.
 enum class Change {
-    document,   ///< the live one: what it holds, or where it comes from
-    settings,   ///< the working values
-    databases,  ///< the files of the ingredient databases
-    calibration ///< of the refractometers, for this run
+    document,    ///< the live one: what it holds, or where it comes from
+    settings,    ///< the working values
+    databases,   ///< the files of the ingredient databases
+    calibration, ///< of the refractometers, for this run
+    water        ///< of the water profile calculator, whose chart follows
 };
 
 /// Kept by who listens; with its end he hears nothing more, and it may end after the board.

@@ -14,6 +14,8 @@
 #include "windows/main/about_window.h"
 #include "windows/main/settings_windows.h"
 #include "windows/mash/strike_calculator_window.h"
+#include "windows/water/water_calculator_window.h"
+#include "windows/water/water_needs_window.h"
 
 #include <algorithm>
 #include <cassert>
@@ -152,11 +154,13 @@ constexpr std::array all_tools = {
     Tool{.command = command::water_needed,
          .menus = {{{Menu::calculators, "&Water Needed"}}},
          .button = {"cb06", {406, 180}, "Water Needed", "Water Needed"},
-         .window = {"WATERNEEDSDIALOG", {"Water Needed Calculator"}, from_main(5)}},
+         .window = {"WATERNEEDSDIALOG", {"Water Needed Calculator"}, from_main(5)},
+         .make = made<WaterNeedsWindow>},
     Tool{.command = command::water_profile,
          .menus = {{{Menu::calculators, "Water &Profile"}}},
          .button = {"cb05", {326, 180}, "Water Prof.", "Water Profile"},
-         .window = {"CHEMICALDIALOG", {"Water Profile Calculator"}, from_main(4)}},
+         .window = {"CHEMICALDIALOG", {"Water Profile Calculator"}, from_main(4)},
+         .make = made<WaterCalculatorWindow>},
     Tool{.command = command::temporary_calibration,
          .menus = {{{Menu::refractometer, "&Temporary Refractometer Calibration"}}},
          .window = {"REFRACTOMETERDIALOG0", {"Temporary Refractometer Calibration"}, from_main(16)},

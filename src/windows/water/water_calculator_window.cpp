@@ -1,0 +1,137 @@
+#include "windows/water/water_calculator_window.h"
+
+#include "desktop/captions.h"
+#include "desktop/form_dialog.h"
+#include "program/program.h"
+#include "water/salt_suggestion.h"
+#include "water/water_match_printout.h"
+#include "water/water_totals.h"
+#include "windows/databases/ingredient_windows.h"
+#include "windows/water/water_grid.h"
+
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QPushButton>
+#include <QShortcut>
+
+namespace wortlex {
+namespace {
+
+// In the whole window, besides the button's mnemonic.
+void press_in_window(QWidget& window, QKeySequence::StandardKey key, QWidget& button) {
+    auto* const pressed = qobject_cast<QPushButton*>(&button);
+    add_key(*pressed, key);
+    QObject::connect(new QShortcut(key, &window), &QShortcut::activated, pressed, &QPushButton::click);
+}
+
+} // namespace
+
+WaterCalculatorWindow::WaterCalculatorWindow(const WindowPorts& ports, const WindowInfo& info,
+                                             QWidget* origin)
+    : ToolWindow(info, 0, Opener::main, origin, places(ports.program)), ports_(ports),
+      calculator_({ports.program.folders, ports.files, ports.prompts}), form_(made_form()),
+      widgets_(form_, places(ports.program), *this) {
+    lay_out_rows();
+    connect(new QShortcut(QKeySequence::Cancel, this), &QShortcut::activated, this, &QWidget::close);
+    press_in_window(*this, QKeySequence::Open, widgets_.field("load"));
+    press_in_window(*this, QKeySequence::Save, widgets_.field("save"));
+    press_in_window(*this, QKeySequence::Print, widgets_.field("print"));
+    widgets_.field("pick_target").setFocus();
+}
+
+Form WaterCalculatorWindow::made_form() {
+    Form form;
+    const auto pick = [this] { return pick_water(ports_, Opener::main, this); };
+    const auto print = [this] {
+        ports_.pages.show(water_match_printout(calculator_.work, ports_.program.settings));
+    };
+    water_calculator_form(form, calculator_.work,
+                          {.pick_target = pick,
+                           .pick_source = pick,
+                           .load = [this] { calculator_.load(); },
+                           .save = [this] { calculator_.save(); },
+                           .show_totals = [this] { show_totals(); },
+                           .show_graph = [this] { show_chart(); },
+                           .suggest = [this] { suggest(); },
+                           .print = print,
+                           .help = nullptr,
+                           .changed = [this] { ports_.program.notices.tell(Change::water); }});
+    return form;
+}
+
+void WaterCalculatorWindow::lay_out_rows() {
+    auto* const layout = new QVBoxLayout(this);
+    layout->addLayout(water_part());
+    auto* const box = new QGroupBox(tr("Amounts in PPM"), this);
+    box->setLayout(water_grid(widgets_, *box));
+    layout->addWidget(box);
+    layout->addLayout(tool_part());
+    layout->addStretch();
+    layout->addLayout(file_part());
+}
+
+// What a water cannot be is said below its name.
+QLayout* WaterCalculatorWindow::water_part() {
+    auto* const grid = new QGridLayout;
+    int line = 0;
+    for (const std::string water : {"target", "source"}) {
+        grid->addWidget(widgets_.label(water + "_name"), line, 0);
+        grid->addWidget(&widgets_.field(water + "_name"), line, 1);
+        grid->addWidget(&widgets_.field("pick_" + water), line, 2);
+        grid->addWidget(&widgets_.field(water + "_balance"), line + 1, 0, 1, 6);
+        line += 2;
+    }
+    grid->addWidget(widgets_.label("dilution_rate"), 2, 3, Qt::AlignRight | Qt::AlignVCenter);
+    grid->addWidget(&widgets_.field("dilution_rate"), 2, 4);
+    grid->setColumnStretch(3, 1);
+    return grid;
+}
+
+QLayout* WaterCalculatorWindow::tool_part() {
+    auto* const line = new QHBoxLayout;
+    line->addWidget(widgets_.label("ph"));
+    for (const auto* const key : {"ph", "calculate_ph"}) line->addWidget(&widgets_.field(key));
+    line->addStretch();
+    for (const auto* const key : {"suggest", "show_totals", "show_graph"})
+        line->addWidget(&widgets_.field(key));
+    return line;
+}
+
+QLayout* WaterCalculatorWindow::file_part() {
+    auto* const line = new QHBoxLayout;
+    for (const auto* const key : {"load", "save", "reset"}) line->addWidget(&widgets_.field(key));
+    line->addStretch();
+    for (const auto* const key : {"print", "help"}) line->addWidget(&widgets_.field(key));
+    auto* const ok = new QPushButton(tr("OK"), this);
+    ok->setObjectName(QStringLiteral("ok"));
+    add_key(*ok, QKeySequence::Cancel);
+    connect(ok, &QPushButton::clicked, this, &QWidget::close);
+    line->addWidget(ok);
+    return line;
+}
+
+void WaterCalculatorWindow::suggest() {
+    SaltSuggestion suggestion;
+    Form form;
+    salt_suggestion_form(form, calculator_.work, suggestion);
+    if (run_dialog(form, {.template_name = "WATERSUGGESTDIALOG"}, places(ports_.program), this))
+        take_proposal(calculator_.work, suggestion.proposal);
+}
+
+void WaterCalculatorWindow::show_totals() {
+    const auto& settings = ports_.program.settings;
+    const auto print = [this, &settings] {
+        ports_.pages.show(water_adjustment_printout(calculator_.work, settings));
+    };
+    Form form;
+    water_totals_form(form, calculator_.work, settings, {.print = print, .help = nullptr});
+    run_dialog(form, {.template_name = "WATERTOTALSDIALOG", .has_cancel = false, .enter_closes = false},
+               places(ports_.program), this);
+}
+
+void WaterCalculatorWindow::show_chart() {
+    if (chart_.isNull()) chart_ = new WaterChartWindow(ports_, calculator_.work, Opener::main, this);
+    bring_forward(*chart_);
+}
+
+} // namespace wortlex

@@ -1,0 +1,37 @@
+// The Water Profile Calculator, a tool of the main window.
+#pragma once
+
+#include "water/water_calculator.h"
+#include "water/water_calculator_form.h"
+#include "windows/water/water_chart_window.h"
+
+#include <QPointer>
+
+namespace wortlex {
+
+/// Begins empty at every opening.
+class WaterCalculatorWindow : public ToolWindow {
+public:
+    WaterCalculatorWindow(const WindowPorts& ports, const WindowInfo& info, QWidget* origin);
+
+protected:
+    bool may_close() override { return calculator_.may_drop(); }
+
+private:
+    Form made_form();
+    void lay_out_rows();
+    QLayout* water_part();
+    QLayout* tool_part();
+    QLayout* file_part();
+    void suggest();
+    void show_totals();
+    void show_chart();
+
+    WindowPorts ports_;
+    WaterCalculator calculator_;
+    Form form_;
+    FormWidgets widgets_;
+    QPointer<WaterChartWindow> chart_;
+};
+
+} // namespace wortlex

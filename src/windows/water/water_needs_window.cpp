@@ -1,0 +1,116 @@
+#include "windows/water/water_needs_window.h"
+
+#include "desktop/captions.h"
+#include "desktop/qt_text.h"
+#include "program/program.h"
+
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QPushButton>
+#include <QShortcut>
+
+namespace wortlex {
+namespace {
+
+constexpr double large = 1.4; // the letters of what the window is for, against the others
+
+// What is worked out leads from stage to stage.
+void stand_out(QWidget& figure, double size = 1) {
+    auto font = figure.font();
+    font.setBold(true);
+    font.setPointSizeF(font.pointSizeF() * size);
+    figure.setFont(font);
+}
+
+bool is_result(const Row& row) {
+    const auto* const entry = dynamic_cast<const EntryRow*>(&row);
+    return entry != nullptr && entry->is_read_only();
+}
+
+// Rows below each other: label, field, unit.
+QLayout* stage_rows(const Group& group, const FormWidgets& widgets) {
+    auto* const grid = new QGridLayout;
+    int line = 0;
+    for (const auto& row : group.content.rows()) {
+        auto& field = widgets.field(*row);
+        grid->addWidget(widgets.label(*row), line, 0);
+        field.setMaximumWidth(QWIDGETSIZE_MAX); // figures as wide as the fields
+        if (is_result(*row)) stand_out(field);
+        grid->addWidget(&field, line, 1);
+        if (auto* const unit = widgets.unit(*row)) grid->addWidget(unit, line, 2);
+        ++line;
+    }
+    grid->setColumnStretch(0, 1);
+    grid->setRowStretch(line, 1);
+    return grid;
+}
+
+} // namespace
+
+WaterNeedsWindow::WaterNeedsWindow(const WindowPorts& ports, const WindowInfo& info, QWidget* origin)
+    : ToolWindow(info, 0, Opener::main, origin, places(ports.program)), ports_(ports), form_(made_form()),
+      widgets_(form_, places(ports.program), *this) {
+    lay_out_rows();
+    connect(new QShortcut(QKeySequence::Cancel, this), &QShortcut::activated, this, &QWidget::close);
+    widgets_.field("sparge").setFocus();
+}
+
+void WaterNeedsWindow::follow(Change change) {
+    auto& [needs, balance, units] = ports_.program.water_needs;
+    if (change == Change::settings) balance = BalanceWater(needs, true, ports_.program.settings);
+}
+
+Form WaterNeedsWindow::made_form() {
+    auto& program = ports_.program;
+    open_water_needs(program.water_needs, program.data_folder, program.settings);
+    Form form;
+    const auto print = [this, &program] {
+        ports_.pages.show(water_needs_printout(program.water_needs, program.settings));
+    };
+    water_needs_form(form, program.water_needs.plan(), program.settings,
+                     {.save_default = [this] { save_default(); }, .print = print, .help = nullptr});
+    return form;
+}
+
+// The stages from the left to the right, their sum and their picture below.
+void WaterNeedsWindow::lay_out_rows() {
+    auto* const layout = new QVBoxLayout(this);
+    auto* const columns = new QHBoxLayout;
+    layout->addLayout(columns);
+    QVBoxLayout* column = nullptr;
+    for (const auto& group : form_.groups()) {
+        if (group->heading().empty()) continue;
+        if (column == nullptr || group->begins_column) columns->addLayout(column = new QVBoxLayout);
+        auto* const box = new QGroupBox(string_of(group->heading()), this);
+        box->setLayout(stage_rows(*group, widgets_));
+        column->addWidget(box, 1);
+    }
+    auto* const need = new QHBoxLayout;
+    for (auto* const words : {static_cast<QWidget*>(widgets_.label("needed")), &widgets_.field("needed")})
+        stand_out(*words, large);
+    need->addWidget(widgets_.label("needed"));
+    need->addWidget(&widgets_.field("needed"));
+    need->addWidget(widgets_.unit(form_.row("needed")));
+    need->addStretch();
+    need->addWidget(&widgets_.field("units"));
+    layout->addLayout(need);
+    layout->addWidget(&widgets_.field("flow"), 1);
+    auto* const buttons = new QHBoxLayout;
+    for (const auto* const key : {"save_default", "print", "help"}) buttons->addWidget(&widgets_.field(key));
+    buttons->addStretch();
+    auto* const ok = new QPushButton(tr("OK"), this);
+    ok->setObjectName(QStringLiteral("ok"));
+    add_key(*ok, QKeySequence::Cancel);
+    connect(ok, &QPushButton::clicked, this, &QWidget::close);
+    buttons->addWidget(ok);
+    layout->addLayout(buttons);
+}
+
+// A new session begins with the usual figures, too.
+void WaterNeedsWindow::save_default() {
+    auto& program = ports_.program;
+    if (save_usual_water(program.water_needs.needs, program.data_folder, ports_.prompts))
+        program.water_usage = program.water_needs.needs;
+}
+
+} // namespace wortlex
