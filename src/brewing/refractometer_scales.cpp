@@ -30,6 +30,12 @@ float brix_of_index(double index, const Settings& settings) {
                   settings.water_brix);
 }
 
+// None below; what is no number stays so.
+float above_water(float reading, float water) {
+    const float net = narrow(double{reading} - water);
+    return net < 0 ? 0 : net;
+}
+
 float net_index(float ri, const Settings& settings) {
     return narrow(ri - index_offset(settings));
 }
@@ -73,8 +79,8 @@ float recalibrated_brix(float ri, const Settings& settings) {
 }
 
 RefractometerReading net_reading(const RefractometerReading& reading, const Settings& settings) {
-    return {narrow(double{reading.brix} - settings.water_brix),
-            narrow(double{reading.zeiss} - settings.water_zeiss), net_index(reading.ri, settings)};
+    return {above_water(reading.brix, settings.water_brix), above_water(reading.zeiss, settings.water_zeiss),
+            net_index(reading.ri, settings)};
 }
 
 float plato_from_brix(float brix, const Settings& settings) {

@@ -28,6 +28,7 @@ RefractometerReading reading_of_ri(float ri, const Settings& settings);
 /// higher than where an index is typed.
 float recalibrated_brix(float ri, const Settings& settings);
 
+/// Below water Brix and Zeiss are 0.
 RefractometerReading net_reading(const RefractometerReading& reading, const Settings& settings);
 /// Net Zeiss of a Brix reading.
 float net_zeiss_from_brix(float brix, const Settings& settings);

@@ -69,9 +69,7 @@ void boil_off_form(Form& form, BoilOffCalculator& calculator, const Settings& se
     method_rows(form, calculator, settle);
     boil_rows(form, calculator, settings, actions.correct, settle);
     rate_rows(form, calculator, settings, settle);
-    auto& buttons = form.group();
-    buttons.button("save", "&Save As Default", std::move(actions.save));
-    tool_buttons(buttons, std::move(actions.page));
+    state_buttons(form, std::move(actions));
 }
 
 PrintRequest boil_off_printout(const BoilOffCalculator& calculator, const Settings& settings) {

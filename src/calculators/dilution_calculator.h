@@ -23,12 +23,6 @@ TwinGallons blended_volume(const DilutionCalculator& calculator);
 TwinGravity diluted_gravity(const DilutionCalculator& calculator);
 TwinGravity blended_gravity(const DilutionCalculator& calculator);
 
-struct StateActions {
-    CorrectGravity correct; ///< empty, as the next: disabled
-    std::function<void()> save;
-    ToolActions page;
-};
-
 /// Edits `calculator`, which must outlive the form.
 void dilution_form(Form& form, DilutionCalculator& calculator, const Settings& settings,
                    StateActions actions = {});

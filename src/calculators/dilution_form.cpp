@@ -7,8 +7,8 @@ namespace wortlex {
 void dilution_form(Form& form, DilutionCalculator& calculator, const Settings& settings,
                    StateActions actions) {
     TwinLines water(form.group("Wort Diluted With Water Calculator"), "with_water", settings);
-    water.volume("wort", "Wort Volume &Before Dilution", calculator.wort);
-    water.correctable_gravity("gravity", "SG B&efore Dilution:", calculator.gravity, actions.correct);
+    water.volume("wort", "&Wort Volume Before Dilution", calculator.wort);
+    water.correctable_gravity("gravity", "SG &Before Dilution:", calculator.gravity, actions.correct);
     water.volume("water", "&Volume of Water Added", calculator.water);
     water.shown_volume("diluted", "Total Volume", [&calculator] { return diluted_volume(calculator); });
     water.shown_gravity("diluted",
@@ -22,9 +22,7 @@ void dilution_form(Form& form, DilutionCalculator& calculator, const Settings& s
     wort.shown_volume("blended", "Total Volume", [&calculator] { return blended_volume(calculator); });
     wort.shown_gravity("blended",
                        "SG After Dilution:", [&calculator] { return blended_gravity(calculator); });
-    auto& buttons = form.group();
-    buttons.button("save", "&Save As Default", std::move(actions.save));
-    tool_buttons(buttons, std::move(actions.page));
+    state_buttons(form, std::move(actions));
 }
 
 PrintRequest dilution_printout(const DilutionCalculator& calculator, const Settings& settings) {

@@ -81,6 +81,7 @@ private:
 struct TimeSheetActions {
     std::function<void()> print;
     std::function<void()> help;
+    std::function<void()> close;
 };
 
 /// The sheet's buttons and its list; `sheet` must outlive the form.

@@ -7,7 +7,6 @@
 namespace wortlex {
 
 void time_sheet_form(Form& form, TimeSheet& sheet, TimeSheetActions actions) {
-    const auto is_idle = [&sheet] { return !sheet.is_running(); };
     auto& rows = form.group();
     rows.shown("face", [&sheet] { return sheet.face(); }).figure();
     auto& list = rows.list(
@@ -19,9 +18,9 @@ void time_sheet_form(Form& form, TimeSheet& sheet, TimeSheetActions actions) {
     });
     list.hint("Enter puts a comment on the selected line, Delete takes it away");
     auto& watch = form.group();
-    watch.button("start", "Sta&rt Timeline", [&sheet] { sheet.start(); }).enabled([&sheet] {
-        return sheet.may_start();
-    });
+    watch.button("start", "Sta&rt Timeline", [&sheet] { sheet.start(); })
+        .enabled([&sheet] { return sheet.may_start(); })
+        .disabled_because("The clock is running, a time line was loaded, or the sheet is full");
     watch.button("stop", "St&op Timeline", [&sheet] { sheet.stop(); })
         .enabled([&sheet] { return sheet.is_running(); })
         .disabled_because("The clock is not running");
@@ -31,11 +30,17 @@ void time_sheet_form(Form& form, TimeSheet& sheet, TimeSheetActions actions) {
     watch.button("erase", "&Delete", [&sheet] { sheet.erase(); })
         .enabled([&sheet] { return !sheet.is_running() && sheet.selected >= 0; })
         .disabled_because("The clock is running, or no event is selected");
-    auto& files = form.group();
-    files.button("load", "&Load", [&sheet] { sheet.load(); }).enabled(is_idle);
-    files.button("save", "&Save", [&sheet] { sheet.save(); }).enabled(is_idle);
-    files.button("print", "&Print", std::move(actions.print)).enabled(is_idle);
-    files.button("help", "Help", std::move(actions.help)).enabled(is_idle);
+    auto& others = form.group();
+    const auto when_idle = [&](const char* key, const char* caption, std::function<void()> action) {
+        others.button(key, caption, std::move(action))
+            .enabled([&sheet] { return !sheet.is_running(); })
+            .disabled_because("The clock is running");
+    };
+    when_idle("load", "&Load", [&sheet] { sheet.load(); });
+    when_idle("save", "&Save", [&sheet] { sheet.save(); });
+    when_idle("print", "&Print", std::move(actions.print));
+    when_idle("help", "Help", std::move(actions.help));
+    when_idle("ok", "OK", std::move(actions.close));
 }
 
 PrintRequest time_line_printout(const TimeLine& line, const Settings& settings) {

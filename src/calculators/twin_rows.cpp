@@ -27,6 +27,17 @@ void tool_buttons(Rows& rows, ToolActions actions) {
     rows.button("help", "Help", std::move(actions.help));
 }
 
+void state_buttons(Form& form, StateActions actions) {
+    auto& rows = form.group();
+    const auto is_saved = std::make_shared<bool>(false);
+    rows.note("saved", [is_saved] { return *is_saved ? "The present values are the defaults now." : ""; });
+    std::function<void()> save;
+    if (actions.save) save = [is_saved, save = std::move(actions.save)] { *is_saved = save(); };
+    rows.button("save", "&Save As Default", std::move(save));
+    form.after_edit([is_saved](Row&) { *is_saved = false; });
+    tool_buttons(rows, std::move(actions.page));
+}
+
 VolumeWords volume_words(const Settings& settings) {
     if (is_pro(settings)) return {"BBL", "Hectoliters", 31, 100};
     return {"GAL", "Liters"};
@@ -70,7 +81,7 @@ void TwinLines::correctable_gravity(const std::string& key, const std::string& l
             if (const auto corrected = correct(pair.sg)) pair = of_sg(*corrected);
             if (changed) changed();
         };
-    rows.line.button(key + "_hydrometer", "Hydro Calc", std::move(press));
+    rows.line.button(key + "_hydrometer", "Hydro Calc", std::move(press)).named("Hydro Calc, " + label);
 }
 
 TwinLines::Volume TwinLines::volume(const std::string& key, const std::string& label, TwinGallons& pair) {

@@ -18,8 +18,17 @@ struct ToolActions {
 /// Corrects a hydrometer's reading (SG); nothing if the user leaves it.
 using CorrectGravity = std::function<std::optional<float>(float sg)>;
 
+/// Of a calculator that keeps its values in a file of its own. Empty ones are disabled.
+struct StateActions {
+    CorrectGravity correct;
+    std::function<bool()> save; ///< whether it could; tells why not
+    ToolActions page;
+};
+
 /// The buttons of these, below all groups.
 void tool_buttons(Rows& rows, ToolActions actions);
+/// The same behind "Save As Default", which says that it was done until something changes.
+void state_buttons(Form& form, StateActions actions);
 
 /// The units in which the calculators show gallons and litres: barrels and hectolitres in a brewery.
 struct VolumeWords {

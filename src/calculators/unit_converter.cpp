@@ -28,6 +28,33 @@ std::string key_of(const std::string& prefix, std::string_view name) {
     return key;
 }
 
+// The letters of the window's mnemonics, by key; there are more fields than letters.
+constexpr std::array mnemonics = {std::pair{"us_ounces", 'O'},
+                                  std::pair{"us_cups", 'C'},
+                                  std::pair{"us_pints", 'i'},
+                                  std::pair{"us_quarts", 'Q'},
+                                  std::pair{"us_gallons", 'G'},
+                                  std::pair{"us_barrels", 'B'},
+                                  std::pair{"us_milliliter", 'M'},
+                                  std::pair{"us_liter", 'L'},
+                                  std::pair{"us_hectoliter", 'H'},
+                                  std::pair{"imperial_ounces", 'n'},
+                                  std::pair{"imperial_us_ounces", 'U'},
+                                  std::pair{"weight_ounces", 'e'},
+                                  std::pair{"weight_pounds", 'd'},
+                                  std::pair{"weight_kilogram", 'K'},
+                                  std::pair{"fahrenheit", 'F'},
+                                  std::pair{"kpa", 'a'},
+                                  std::pair{"sg", 'S'},
+                                  std::pair{"plato", 't'}};
+
+std::string labelled(const std::string& key, std::string_view name) {
+    std::string label(name);
+    for (const auto& [field, letter] : mnemonics)
+        if (key == field) label.insert(label.find(letter), 1, '&');
+    return label;
+}
+
 NumberRow& as_nudged(NumberRow& row, const Range& range) {
     return row.range(range.low, range.high)
         .step(1.0F)
@@ -39,26 +66,29 @@ NumberRow& as_nudged(NumberRow& row, const Range& range) {
 template <std::size_t N>
 void unit_amount_rows(Rows& rows, const std::string& prefix, UnitFamily family,
                       std::array<float, N>& values) {
-    for (std::size_t i = 0; i < N; ++i)
-        as_nudged(rows.number(key_of(prefix, family[i].name), followed(family, values, i)), any_amount)
-            .label(std::string(family[i].name));
+    for (std::size_t i = 0; i < N; ++i) {
+        const auto key = key_of(prefix, family[i].name);
+        as_nudged(rows.number(key, followed(family, values, i)), any_amount)
+            .label(labelled(key, family[i].name));
+    }
 }
 
 void unit_temperature_rows(Rows& rows, std::array<float, 5>& values) {
     const auto family = temperature_units();
-    for (std::size_t i = 0; i < values.size(); ++i)
-        as_nudged(rows.signed_number(key_of("", family[i].name), followed(family, values, i)),
-                  degree_ranges.at(i))
-            .label(std::string(family[i].name));
+    for (std::size_t i = 0; i < values.size(); ++i) {
+        const auto key = key_of("", family[i].name);
+        as_nudged(rows.signed_number(key, followed(family, values, i)), degree_ranges.at(i))
+            .label(labelled(key, family[i].name));
+    }
 }
 
 void unit_gravity_rows(Rows& rows, UnitConverter& converter, const Settings& settings) {
     rows.sg("sg", followed(gravity_units(), converter.gravity, 0), settings)
-        .label("SG")
+        .label(labelled("sg", "SG"))
         .range(1.0F, 2.0F)
         .step(0.001F);
     rows.plato("plato", followed(gravity_units(), converter.gravity, 1), settings)
-        .label("Plato")
+        .label(labelled("plato", "Plato"))
         .range(0.0F, 100.0F)
         .step(0.1F);
 }
@@ -66,8 +96,9 @@ void unit_gravity_rows(Rows& rows, UnitConverter& converter, const Settings& set
 void unit_pressure_rows(Rows& rows, std::array<float, 2>& values) {
     for (std::size_t i = 0; i < values.size(); ++i) {
         const auto name = pressure_units()[i].name;
-        rows.number(key_of("", name), followed(pressure_units(), values, i))
-            .label(std::string(name))
+        const auto key = key_of("", name);
+        rows.number(key, followed(pressure_units(), values, i))
+            .label(labelled(key, name))
             .range(any_pressure.low, any_pressure.high)
             .step(1.0F);
     }

@@ -9,6 +9,7 @@
 #include <QHBoxLayout>
 
 #include <set>
+#include <utility>
 
 namespace wortlex {
 namespace {
@@ -21,9 +22,10 @@ bool stands_beside_ok(const Row& row) {
 // Rows below each other, labels in the first of two columns.
 class RowsLayout : private RowVisitor {
 public:
-    RowsLayout(const FormWidgets& widgets, QGridLayout& grid, QDialogButtonBox* beside_ok,
+    RowsLayout(const FormWidgets& widgets, QGridLayout& grid, QDialogButtonBox* beside_ok, QString heading,
                std::set<QString>& cell_names)
-        : widgets_(widgets), grid_(grid), beside_ok_(beside_ok), cell_names_(cell_names) {}
+        : widgets_(widgets), grid_(grid), beside_ok_(beside_ok), heading_(std::move(heading)),
+          cell_names_(cell_names) {}
 
     void add(const Rows& rows) {
         stacks_buttons_ = rows.has_stacked_buttons();
@@ -76,24 +78,38 @@ private:
             auto& field = widgets_.field(*cell);
             if (column == 1) make_buddies(*label, field);
             if (auto* const words = qobject_cast<QLabel*>(&field)) words->setAlignment(Qt::AlignCenter);
-            if (field.accessibleName().isEmpty())
-                field.setAccessibleName(
-                    distinct(cell_name(*label, grid, static_cast<std::size_t>(column) - 1), *cell));
+            if (field.accessibleName().isEmpty()) {
+                const auto index = static_cast<std::size_t>(column) - 1;
+                field.setAccessibleName(distinct(cell_name(*label, grid, line, index), *cell));
+            }
             table.addWidget(&field, place, column++);
         }
     }
 
-    // Cells of lines that are called alike are told apart by their keys.
-    QString distinct(QString name, const Row& cell) const {
-        if (cell_names_.insert(name).second) return name;
+    // Cells of lines that are called alike are told apart by their groups, or else by their keys.
+    QString distinct(const QString& name, const Row& cell) const {
+        if (cell_names_.insert(name.toLower()).second) return name;
+        const auto of_group = name + QLatin1String(", ") + heading_;
+        if (!heading_.isEmpty() && cell_names_.insert(of_group.toLower()).second) return of_group;
         return name + QLatin1String(", ") + string_of(cell.key).replace(QLatin1Char('_'), QLatin1Char(' '));
     }
 
-    // Of its line and its column.
-    static QString cell_name(const QLabel& label, const GridRow& grid, std::size_t column) {
-        auto line = spoken(label.text());
-        if (column >= grid.captions.size()) return line;
-        return line + QLatin1Char(' ') + spoken(string_of(grid.captions[column]()));
+    // Of its line and its unit, or its column.
+    static QString cell_name(const QLabel& label, const GridRow& grid, const GridRow::Line& line,
+                             std::size_t column) {
+        auto word = unit_word(line, column);
+        if (word.empty() && column < grid.captions.size()) word = grid.captions[column]();
+        return (spoken(label.text()) + QLatin1Char(' ') + spoken(string_of(word))).simplified();
+    }
+
+    // The words of a line stand each before its field, or all behind.
+    static std::string unit_word(const GridRow::Line& line, std::size_t column) {
+        const auto cells = line.cells.rows();
+        const bool is_behind = dynamic_cast<const NoteRow*>(cells.back().get()) != nullptr;
+        const auto place = is_behind ? column + 1 : column - 1; // before the first: beyond the end
+        const auto* const word =
+            place < cells.size() ? dynamic_cast<const NoteRow*>(cells[place].get()) : nullptr;
+        return word == nullptr ? "" : word->label_text();
     }
 
     void add_field(Row& row) {
@@ -115,16 +131,17 @@ private:
     const FormWidgets& widgets_;
     QGridLayout& grid_;
     QDialogButtonBox* beside_ok_;
+    QString heading_;
     std::set<QString>& cell_names_;
     QHBoxLayout* buttons_ = nullptr;
     bool stacks_buttons_ = false;
     bool has_tall_field_ = false;
 };
 
-QLayout* rows_layout(const Rows& rows, const FormWidgets& widgets, QDialogButtonBox* beside_ok,
+QLayout* rows_layout(const Group& group, const FormWidgets& widgets, QDialogButtonBox* beside_ok,
                      std::set<QString>& cell_names) {
     auto* const grid = new QGridLayout;
-    RowsLayout(widgets, *grid, beside_ok, cell_names).add(rows);
+    RowsLayout(widgets, *grid, beside_ok, spoken(string_of(group.heading())), cell_names).add(group.content);
     return grid;
 }
 
@@ -168,7 +185,7 @@ QLayout* lay_out(const Form& form, const FormWidgets& widgets, QDialogButtonBox*
             all.push_back(new QVBoxLayout);
             columns->addLayout(all.back(), 1);
         }
-        add_group(*all.back(), *group, rows_layout(group->content, widgets, beside_ok, cell_names));
+        add_group(*all.back(), *group, rows_layout(*group, widgets, beside_ok, cell_names));
     }
     for (auto* const column : all) fill_up(*column);
     return columns;

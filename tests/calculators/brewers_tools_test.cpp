@@ -78,6 +78,8 @@ TEST(RefractometerTool, RawWortFollowsAnyScale) {
     EXPECT_EQ(user.shown_all({"zeiss", "ri", "gravity_plato"}), "66.36|1.35256|12.500");
     user.type("zeiss", "50");
     EXPECT_EQ(user.shown_all({"brix", "ri", "net_zeiss"}), "9.10|1.34650|35.50");
+    user.type("zeiss", "10");
+    EXPECT_EQ(user.shown_all({"net_brix", "net_zeiss"}), "0.00|0.00") << "below water";
     user.type("ri", "1.3");
     EXPECT_EQ(user.shown_all({"brix", "zeiss", "gravity_plato"}), "0.00|14.50|0.000") << "below water";
     user.settings.water_zeiss = 1000;

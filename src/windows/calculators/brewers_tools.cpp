@@ -36,7 +36,7 @@ StateActions state_actions(const WindowPorts& ports, Calculator& calculator, QWi
     auto& program = ports.program;
     return {.correct = [ports, &window, use](float sg) { return correct_gravity(ports, &window, sg, use); },
             .save = [&program, &calculator, &prompts = ports.prompts,
-                     save] { save(program.data_folder, calculator, prompts); },
+                     save] { return save(program.data_folder, calculator, prompts); },
             .page = page_actions(ports, calculator, printout)};
 }
 

@@ -1,7 +1,6 @@
 #include "windows/calculators/calculator_window.h"
 
 #include "desktop/captions.h"
-#include "desktop/qt_text.h"
 #include "desktop/scrolled.h"
 #include "program/program.h"
 
@@ -11,17 +10,8 @@
 #include <QShortcut>
 #include <QVBoxLayout>
 
-#include <algorithm>
-
 namespace wortlex {
 namespace {
-
-bool is_taken(const QString& name, const QWidget& field) {
-    const auto all = field.window()->findChildren<QWidget*>();
-    return std::any_of(all.begin(), all.end(), [&](const QWidget* other) {
-        return other != &field && other->accessibleName() == name;
-    });
-}
 
 constexpr int title_bar_buttons = 80; // pixels
 
@@ -31,22 +21,13 @@ Form filled(const CalculatorWindow::Fill& fill, QWidget& window) {
     return form;
 }
 
-void finish_line(const GridRow& grid, const GridRow::Line& line, const FormWidgets& widgets) {
-    std::string word;
-    for (std::size_t column = 0; column < line.cells.rows().size(); ++column) {
-        const auto& cell = *line.cells.rows()[column];
-        if (dynamic_cast<const NoteRow*>(&cell) != nullptr) {
-            word = cell.label_text();
-            if (auto* const label = qobject_cast<QLabel*>(&widgets.field(cell))) label->setWordWrap(false);
-            continue;
-        }
-        if (column < grid.captions.size()) word = grid.captions[column]();
-        widgets.field(cell).setMaximumWidth(QWIDGETSIZE_MAX); // figures as wide as the fields above them
-        auto name = string_of(line.label() + " " + word).remove(QLatin1Char('&'));
-        name = name.replace(QLatin1Char('\n'), QLatin1Char(' ')).trimmed();
-        if (is_taken(name, widgets.field(cell))) // lines called alike are told apart by their keys
-            name += QLatin1String(", ") + string_of(cell.key).replace(QLatin1Char('_'), QLatin1Char(' '));
-        widgets.field(cell).setAccessibleName(name);
+void finish_line(const GridRow::Line& line, const FormWidgets& widgets) {
+    for (const auto& cell : line.cells.rows()) {
+        auto& field = widgets.field(*cell);
+        if (auto* const word = qobject_cast<QLabel*>(&field))
+            word->setWordWrap(false);
+        else
+            field.setMaximumWidth(QWIDGETSIZE_MAX); // figures as wide as the fields above them
     }
 }
 
@@ -56,7 +37,7 @@ void finish_tables(const Form& form, const FormWidgets& widgets) {
     form.for_each([&](Row& row) {
         const auto* const grid = dynamic_cast<const GridRow*>(&row);
         if (grid == nullptr) return;
-        for (const auto& line : grid->lines) finish_line(*grid, *line, widgets);
+        for (const auto& line : grid->lines) finish_line(*line, widgets);
     });
 }
 

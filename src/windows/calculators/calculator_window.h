@@ -34,8 +34,7 @@ private:
     bool is_accepted_ = false;
 };
 
-/// Makes the cells of a column equally wide, and tells a screen reader of each its line and the word before
-/// it.
+/// Makes the cells of a column equally wide.
 void finish_tables(const Form& form, const FormWidgets& widgets);
 
 } // namespace wortlex

@@ -5,7 +5,6 @@
 #include "desktop/list_keys.h"
 #include "program/program.h"
 
-#include <QDialogButtonBox>
 #include <QLineEdit>
 #include <QShortcut>
 #include <QVBoxLayout>
@@ -39,7 +38,7 @@ Form TimeSheetWindow::made_form() {
     const auto print = [this] {
         ports_.pages.show(time_line_printout(sheet_.line(), ports_.program.settings));
     };
-    time_sheet_form(form, sheet_, {.print = print, .help = nullptr});
+    time_sheet_form(form, sheet_, {.print = print, .help = nullptr, .close = [this] { close(); }});
     return form;
 }
 
@@ -60,12 +59,10 @@ void TimeSheetWindow::lay_out_rows() {
     for (const auto* const key : {"start", "stop", "comment", "erase"})
         buttons->addWidget(&widgets_.field(key));
     buttons->addStretch();
-    for (const auto* const key : {"load", "save", "print", "help"}) buttons->addWidget(&widgets_.field(key));
+    for (const auto* const key : {"load", "save", "print", "help", "ok"})
+        buttons->addWidget(&widgets_.field(key));
     layout->addLayout(buttons);
-    auto* const ok = new QDialogButtonBox(QDialogButtonBox::Ok, this);
-    set_tips(*ok, false);
-    connect(ok, &QDialogButtonBox::accepted, this, &QWidget::close);
-    layout->addWidget(ok);
+    add_key(*qobject_cast<QPushButton*>(&widgets_.field("ok")), QKeySequence::Cancel);
 }
 
 void TimeSheetWindow::tell_once_shown() {
