@@ -23,6 +23,8 @@ enum class PitchUnit : std::uint8_t {
     pounds = 4,
     quarts = 5
 };
+/// Of the box beside a temperature of the fermentation page.
+enum class DegreeBox : std::uint8_t { fahrenheit = 0, celsius = 1 };
 enum class Vessel : std::uint8_t { glass = 0, stainless_steel = 1, plastic = 2, wood = 3, other = 4 };
 
 struct FermentationLog {
@@ -38,8 +40,8 @@ struct FermentationLog {
     std::int32_t secondary_days = 0;
     std::int32_t primary_temperature = 0; ///< degrees F
     std::int32_t secondary_temperature = 0;
-    TemperatureUnits primary_temperature_unit{}; ///< of its box on the page
-    TemperatureUnits secondary_temperature_unit{};
+    DegreeBox primary_temperature_unit{};
+    DegreeBox secondary_temperature_unit{};
 
     bool operator==(const FermentationLog&) const = default;
 };
