@@ -28,6 +28,15 @@ constexpr std::array windows = {
     WindowInfo{"EXTRASHORTEDITDIALOG", {"Extra Ingredient Edit"}, from_documents(80, 81), 0},
     WindowInfo{"GRAINLISTDETAIL", {"Individual Malt Gravity/Color Contribution"}, no_places, 0},
     WindowInfo{"PREBOILDIALOG", {"Pre-Boil Calculator"}, from_documents(82, no_place), 0},
+    WindowInfo{"BATCHPREBOILDIALOG", {"Pre-Boil Calculator"}, from_documents(no_place, 83), 0},
+    WindowInfo{"BATCHEFFDIALOG", {"Efficiency Calculator"}, from_documents(no_place, 27), 0},
+    WindowInfo{
+        "BATCHYEASTINFO", {"Brewing Session - Fermentation Specifics"}, from_documents(no_place, 22), 0},
+    WindowInfo{
+        "BATCHBOTTLINGINFO", {"Brewing Session - Bottling and Kegging"}, from_documents(no_place, 25), 0},
+    WindowInfo{"BATCHNOTESDIALOG", {"Brewing Session Notes"}, from_documents(no_place, 26), 0},
+    WindowInfo{"BATCHNATURALCARBDIALOG", {"Brewing Session - Natural Carbonation Calculator"}, no_places, 0},
+    WindowInfo{"BATCHFORCEDCARBDIALOG", {"Brewing Session - Forced Carbonation Calculator"}, no_places, 0},
     WindowInfo{"MASHENTRYDIALOG", {"Recipe Formulation - Simple Mash Schedule"}, from_documents(15, 34), 0},
     // The lists set their own captions, by what they show.
     WindowInfo{"STYLETYPEDIALOG", {""}, from_main(38), 0},

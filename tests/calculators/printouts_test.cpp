@@ -107,12 +107,17 @@ TEST(PreBoilPrintout, TellsBothKettlesInTheUnitsShown) {
     recipe.og_points = 48;
     recipe.boil_minutes = 90;
     // Three gallons go off in an hour and a half: 48 x 6 / 9 points are 32.
-    EXPECT_THAT(printed_lines(pre_boil_printout(recipe, 2, settings)),
+    const PreBoilSubject boil{recipe, [] { return 2.0F; }, settings};
+    EXPECT_THAT(printed_lines(pre_boil_printout(boil)),
                 ElementsAre("Wortlex Pre-Boil Calculator", "@584 Page 1", "Recipe:\tK\u00F6lsch",
                             "End-Of-Boil Wort Size:\t6.00\tGal",
                             "End-Of-Boil Gravity:\t1.0480\tSG\t11.9\tPlato", "Boil Time:\t90\tMinutes",
                             "Evaporation Rate:\t2.00\tGal Per Hour", "Raw Pre-Boil Wort Size:\t9.00\tGal",
                             "Raw Pre-Boil Gravity:\t1.0320\tSG\t8.0\tPlato"));
+    const WaterNeeds planned{.mash_water = 8}; // 288 points in 8 gallons are 36 in each
+    EXPECT_THAT(
+        lines_of(pre_boil_printout({recipe, boil.rate, settings, &planned})),
+        IsSupersetOf({"Pre-Boil Wort Size:\t8.00\tGal", "Pre-Boil Gravity:\t1.0360\tSG\t9.0\tPlato"}));
 }
 
 } // namespace

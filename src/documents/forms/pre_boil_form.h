@@ -7,23 +7,22 @@
 
 namespace wortlex {
 
+/// Whose boil it is. What it names must outlive its form.
+struct PreBoilSubject {
+    const BrewDocument& document;
+    std::function<float()> rate; ///< of evaporation: percent or gallons per hour, by the settings
+    const Settings& settings;
+    const WaterNeeds* water = nullptr; ///< of a session: the kettle that its water plan fills is shown too
+};
+
 struct PreBoilActions {
     std::function<void()> print; ///< empty, as the next: disabled
     std::function<void()> help;
 };
 
-/// Shows the boil of `document`. `rate` is percent or gallons per hour, by the settings. A session shows one
-/// more kettle in the same rows.
-void pre_boil_form(Form& form, const BrewDocument& document, float rate, const Settings& settings);
+void pre_boil_form(Form& form, const PreBoilSubject& subject, PreBoilActions actions);
 
-/// A volume, and a gravity with its Plato, of the wort in one kettle.
-void kettle_rows(Rows& rows, const std::string& key, const std::string& label, const PreBoil& kettle,
-                 const Settings& settings);
-
-/// To be added last.
-void pre_boil_buttons(Form& form, PreBoilActions actions);
-
-/// The page of the calculator, while document and settings stand as they are.
-PrintRequest pre_boil_printout(const BrewDocument& document, float rate, const Settings& settings);
+/// The page of the calculator, while all stands as it is.
+PrintRequest pre_boil_printout(const PreBoilSubject& subject);
 
 } // namespace wortlex

@@ -73,14 +73,17 @@ void show_malt_contribution(const WindowPorts& ports, const OpenDocument& open, 
 }
 
 void show_pre_boil(const WindowPorts& ports, const OpenDocument& open, QWidget* owner) {
-    const float rate = evaporation_rate(ports.program);
-    const auto print = [&ports, &open, rate] {
-        ports.pages.show(pre_boil_printout(open.document, rate, open.settings));
-    };
+    const bool is_session = open.session != nullptr;
+    const PreBoilSubject subject{open.document,
+                                 [&program = ports.program] { return evaporation_rate(program); },
+                                 open.settings, is_session ? &open.session->water_needs : nullptr};
     Form form;
-    pre_boil_form(form, open.document, rate, open.settings);
-    pre_boil_buttons(form, {.print = print, .help = nullptr});
-    run_dialog(form, {.template_name = "PREBOILDIALOG", .opener = Opener::recipe, .has_cancel = false},
+    pre_boil_form(form, subject,
+                  {.print = [&] { ports.pages.show(pre_boil_printout(subject)); }, .help = nullptr});
+    run_dialog(form,
+               {.template_name = is_session ? "BATCHPREBOILDIALOG" : "PREBOILDIALOG",
+                .opener = is_session ? Opener::session : Opener::recipe,
+                .has_cancel = false},
                places(ports.program), owner);
 }
 

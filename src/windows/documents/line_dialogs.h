@@ -30,7 +30,7 @@ std::optional<HopUse> lose_hop_alpha(const WindowPorts& ports, const HopUse& lin
 void show_malt_contribution(const WindowPorts& ports, const OpenDocument& open, std::size_t line,
                             Opener opener, QWidget* owner);
 
-/// The kettle of the recipe before its boil.
+/// The kettle of the document before its boil.
 void show_pre_boil(const WindowPorts& ports, const OpenDocument& open, QWidget* owner);
 
 } // namespace wortlex

@@ -206,7 +206,7 @@ TEST(PreBoil, IsWhatTheBoilLeaves) {
     document.boil_minutes = 90;
     const auto told = [&](float rate) {
         FormUser user;
-        pre_boil_form(user.form, document, rate, settings);
+        pre_boil_form(user.form, {document, [rate] { return rate; }, settings}, {});
         return user.shown_all({"end_volume", "end_sg", "boil_minutes", "rate", "raw_volume", "raw_sg"}) +
                " " + user.row<EntryRow>("rate").unit_text();
     };
