@@ -78,6 +78,15 @@ CarbonationPressure pressure_of(const CarbonationCalculator& calculator) {
     return {psi, narrow(psi * kilopascals_per_psi)};
 }
 
+void carbonation_level_row(Rows& rows, CarbonationCalculator& calculator) {
+    rows.number("level", calculator.level)
+        .label("&Desired Carbonation Level")
+        .unit("Volumes CO2")
+        .range(0.0F, 10.0F)
+        .step(0.1F)
+        .outside(Outside::hold);
+}
+
 void carbonation_form(Form& form, CarbonationCalculator& calculator, const Settings& settings,
                       ToolActions actions) {
     auto& all = form.group("Global Carbonation Parameters");
@@ -87,12 +96,7 @@ void carbonation_form(Form& form, CarbonationCalculator& calculator, const Setti
     all.note("fermentation_note", "Temperature Of Beer (during fermentation)");
     TwinLines(all, "fermentation", settings)
         .degrees("fermentation", "Temper&ature", calculator.fermentation, fahrenheit_range, celsius_range);
-    all.number("level", calculator.level)
-        .label("&Desired Carbonation Level")
-        .unit("Volumes CO2")
-        .range(0.0F, 10.0F)
-        .step(0.1F)
-        .outside(Outside::hold);
+    carbonation_level_row(all, calculator);
     priming_rows(form, calculator, settings);
     pressure_rows(form, calculator, settings);
     tool_buttons(form.group(), std::move(actions));

@@ -30,6 +30,9 @@ struct CarbonationPressure {
 };
 CarbonationPressure pressure_of(const CarbonationCalculator& calculator);
 
+/// Its level, edited.
+void carbonation_level_row(Rows& rows, CarbonationCalculator& calculator);
+
 /// Edits `calculator`, which must outlive the form.
 void carbonation_form(Form& form, CarbonationCalculator& calculator, const Settings& settings,
                       ToolActions actions = {});

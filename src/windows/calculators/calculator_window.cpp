@@ -41,6 +41,12 @@ void finish_tables(const Form& form, const FormWidgets& widgets) {
     });
 }
 
+bool run_calculator(const WindowPorts& ports, QWidget* owner, Form& form, const DialogUse& use) {
+    FormDialog dialog(form, use, places(ports.program), owner);
+    finish_tables(form, dialog.widgets());
+    return dialog.exec() == QDialog::Accepted;
+}
+
 CalculatorWindow::CalculatorWindow(const WindowPorts& ports, const WindowInfo& info, QWidget* origin,
                                    const Fill& fill, Buttons buttons)
     : ToolWindow(info, 0, Opener::main, origin, places(ports.program)), form_(filled(fill, *this)),

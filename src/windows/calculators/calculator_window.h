@@ -1,6 +1,7 @@
 // The window of a calculator that is a form: its rows, OK, and for some Cancel.
 #pragma once
 
+#include "desktop/form_dialog.h"
 #include "desktop/form_widgets.h"
 #include "desktop/tool_window.h"
 #include "program/window_ports.h"
@@ -36,5 +37,8 @@ private:
 
 /// Makes the cells of a column equally wide.
 void finish_tables(const Form& form, const FormWidgets& widgets);
+
+/// Shows a calculator for a field of `owner` until it is closed; whether with OK.
+bool run_calculator(const WindowPorts& ports, QWidget* owner, Form& form, const DialogUse& use);
 
 } // namespace wortlex

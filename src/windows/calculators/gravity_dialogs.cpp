@@ -8,12 +8,6 @@
 namespace wortlex {
 namespace {
 
-bool run_calculator(const WindowPorts& ports, QWidget* owner, Form& form, const DialogUse& use) {
-    FormDialog dialog(form, use, places(ports.program), owner);
-    finish_tables(form, dialog.widgets());
-    return dialog.exec() == QDialog::Accepted;
-}
-
 DialogUse hydrometer_dialog(HydrometerUse use) {
     if (use == HydrometerUse::mash) return {.template_name = "BATCHHYDROMETERDIALOG"};
     return {.template_name = "BATCHYEASTHYDROMETERDIALOG", .caption = static_cast<std::size_t>(use)};
@@ -25,6 +19,11 @@ bool run_refractometer(const WindowPorts& ports, QWidget* owner, RefractometerTo
                        bool& has_changed) {
     const auto& settings = ports.program.settings;
     const auto print = [&] { ports.pages.show(refractometer_printout(tool, use, session, settings)); };
+    // Before the form hears of it.
+    const auto listening = ports.program.notices.listen([&](Change change) {
+        if (change == Change::calibration)
+            take_calibration(tool, ports.program.calculators.calibration_change, settings);
+    });
     Form form;
     refractometer_form(form, tool, settings, {.print = print, .help = nullptr});
     form.after_edit([&has_changed](Row&) { has_changed = true; });
