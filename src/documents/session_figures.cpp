@@ -49,9 +49,13 @@ float recording_losses(const SessionDocument& session, const Settings& settings)
     return narrow(losses - double{settings.cooling_shrink} * losses);
 }
 
+float recorded_gallons(const SessionDocument& session, const Settings& settings) {
+    return narrow(double{session.tail.recorded_volume} + recording_losses(session, settings));
+}
+
 EfficiencyFigures recorded_efficiency(const BrewDocument& document, const SessionDocument& session,
                                       const Settings& settings) {
-    const float volume = narrow(double{session.tail.recorded_volume} + recording_losses(session, settings));
+    const float volume = recorded_gallons(session, settings);
     auto figures = session_efficiency(document, session, session.tail.recorded_og, volume, settings);
     if (document.recipe_kind == RecipeKind::extract) figures.efficiency = figures.actual_mash_points = 0;
     return figures;

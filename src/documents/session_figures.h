@@ -23,6 +23,9 @@ EfficiencyFigures session_efficiency(const BrewDocument& document, const Session
 /// Gallons to add to a volume measured in the fermenter: what stayed behind, less its shrinkage.
 float recording_losses(const SessionDocument& session, const Settings& settings);
 
+/// Gallons recorded, with these losses.
+float recorded_gallons(const SessionDocument& session, const Settings& settings);
+
 /// The efficiency of the session's recording. An extract recipe, or none, has none.
 EfficiencyFigures recorded_efficiency(const BrewDocument& document, const SessionDocument& session,
                                       const Settings& settings);

@@ -61,6 +61,12 @@ Unit by_mode(const SystemSettings& settings, Unit home, Unit pro) {
     return is_pro(settings) ? pro : home;
 }
 
+// Of what is stored in ounces.
+const UnitWords& by_ounces(const SystemSettings& settings, Units units) {
+    return words_of(is_american(units) ? by_mode(settings, Unit::ounces, Unit::pounds)
+                                       : by_mode(settings, Unit::grams, Unit::kilograms));
+}
+
 } // namespace
 
 const UnitWords& words_of(Unit unit) {
@@ -82,8 +88,11 @@ const UnitWords& grain_unit(const SystemSettings& settings) {
 }
 
 const UnitWords& hop_unit(const SystemSettings& settings) {
-    return words_of(is_american(settings.hop_weight_units) ? by_mode(settings, Unit::ounces, Unit::pounds)
-                                                           : by_mode(settings, Unit::grams, Unit::kilograms));
+    return by_ounces(settings, settings.hop_weight_units);
+}
+
+const UnitWords& small_unit(const SystemSettings& settings) {
+    return by_ounces(settings, settings.volume_units);
 }
 
 const UnitWords& colour_unit(const SystemSettings& settings) {

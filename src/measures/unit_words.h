@@ -53,6 +53,7 @@ const UnitWords& volume_unit(const SystemSettings& settings);     ///< gallons, 
 const UnitWords& mash_water_unit(const SystemSettings& settings); ///< quarts, gallons, litres
 const UnitWords& grain_unit(const SystemSettings& settings);      ///< pounds, kilograms
 const UnitWords& hop_unit(const SystemSettings& settings);        ///< ounces, pounds, grams, kilograms
+const UnitWords& small_unit(const SystemSettings& settings); ///< of priming: as hops, by the units of volume
 const UnitWords& colour_unit(const SystemSettings& settings);
 const UnitWords& bittering_unit(const SystemSettings& settings); ///< what stands in for IBU
 const UnitWords& temperature_unit(const SystemSettings& settings);

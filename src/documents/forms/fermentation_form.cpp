@@ -1,0 +1,145 @@
+#include "documents/forms/fermentation_form.h"
+
+#include "documents/forms/yeast_rows.h"
+#include "documents/session_figures.h"
+#include "measures/degrees.h"
+
+namespace wortlex {
+namespace {
+
+constexpr float highest_gravity = 2;
+
+void pitching_rows(Rows& rows, FermentationLog& log) {
+    const auto code = [](PitchedFrom from) { return static_cast<std::int32_t>(from); };
+    rows.choice(
+            "pitched_from", log.pitched_from,
+            {"&Dry Yeast Pak", "Li&quid Yeast Pak", "Pitchable &Tube", "Sta&rter", "Slurr&y from Previous"})
+        .codes({code(PitchedFrom::dry_pack), code(PitchedFrom::liquid_pack),
+                code(PitchedFrom::pitchable_flask), code(PitchedFrom::starter), code(PitchedFrom::slurry)})
+        .look(ChoiceRow::Look::down)
+        .label("Pitched From:");
+    rows.number("lag_hours", log.lag_hours)
+        .label("&Lag Time: (hours)")
+        .range(1.0F, 1000.0F)
+        .step(1.0F)
+        .format("%0.1f");
+    rows.integer("amount_pitched", log.amount_pitched).label("Amount Pitc&hed:").range(1, 100000).step(10);
+    rows.choice("amount_unit", log.amount_unit, {"mL", "LTR", "GR", "OZ", "LBS", "QTS"})
+        .named("Unit of the amount pitched")
+        .look(ChoiceRow::Look::drop_down);
+}
+
+// One of the two, on the page. Limits are degrees F.
+struct Fermenter {
+    std::string key;
+    Vessel FermentationLog::*vessel;
+    std::uint8_t FermentationLog::*is_open;
+    std::int32_t FermentationLog::*days;
+    std::int32_t FermentationLog::*temperature;
+    DegreeBox FermentationLog::*box;
+    std::int32_t hottest;
+    std::string closed_word, days_label, temperature_label;
+};
+
+// Stored in degrees F whatever the box beside it says.
+void temperature_rows(Rows& rows, FermentationLog& log, const Fermenter& fermenter) {
+    const auto units = [&box = log.*fermenter.box] {
+        return box == DegreeBox::celsius ? TemperatureUnits::celsius : TemperatureUnits::fahrenheit;
+    };
+    const auto limit = [units, hottest = fermenter.hottest] { return shown_degrees(hottest, units()); };
+    auto& degrees = log.*fermenter.temperature;
+    rows.integer(fermenter.key + "_temperature",
+                 {[&degrees, units] { return shown_degrees(degrees, units()); },
+                  [&degrees, units](std::int32_t typed) { degrees = stored_degrees(typed, units()); }})
+        .label(fermenter.temperature_label)
+        .typed(1, limit)
+        .spun(0, limit, 1);
+    rows.choice(fermenter.key + "_temperature_unit", log.*fermenter.box, {"Farenheit", "Celsius"})
+        .named("Degrees of the temperature")
+        .look(ChoiceRow::Look::drop_down);
+}
+
+void fermenter_rows(Rows& rows, FermentationLog& log, const Fermenter& fermenter) {
+    rows.choice(fermenter.key + "_vessel", log.*fermenter.vessel,
+                {"Glass", "Stainless Steel", "Plastic", "Wood", "Other"});
+    rows.choice(fermenter.key + "_open", log.*fermenter.is_open, {"Closed", "Open"})
+        .named(fermenter.closed_word);
+    rows.integer(fermenter.key + "_days", log.*fermenter.days)
+        .label(fermenter.days_label)
+        .range(0, 360)
+        .step(1);
+    temperature_rows(rows, log, fermenter);
+}
+
+void fermenter_groups(Form& form, FermentationLog& log) {
+    using Log = FermentationLog;
+    fermenter_rows(form.group("Primary Fermenter:"), log,
+                   {"primary", &Log::primary_vessel, &Log::primary_open, &Log::primary_days,
+                    &Log::primary_temperature, &Log::primary_temperature_unit, 212, "Primary closed or open",
+                    "D&ays", "Te&mp"});
+    fermenter_rows(form.group("Secondary Fermenter:"), log,
+                   {"secondary", &Log::secondary_vessel, &Log::secondary_open, &Log::secondary_days,
+                    &Log::secondary_temperature, &Log::secondary_temperature_unit, 360,
+                    "Secondary closed or open", "Day&s", "T&emp"});
+}
+
+void gravity_line(Rows& line, const std::string& key, const std::string& name, float& sg,
+                  const Settings& settings) {
+    const auto fields = gravity_fields(line, key, "", sg, highest_gravity, settings);
+    fields.sg.named(name);
+    fields.plato.named(name + " Plato");
+}
+
+void gravity_rows(Rows& rows, RecipeEditor& editor, const FermentationActions& actions) {
+    auto& session = *editor.open.session;
+    const auto tell = [&editor] { tell_change(editor); };
+    auto& grid = rows.grid("gravities", {"SG", "Plato"});
+    const auto line_of = [&](const std::string& key, const char* label, const char* name, float& sg,
+                             const MeasureGravity& refractometer) {
+        auto& line = grid.line(label);
+        gravity_line(line, key, name, sg, editor.open.settings);
+        measure_button(line, key + "_hydrometer", "Hydro Calc", sg, highest_gravity, actions.hydrometer, tell)
+            .named(std::string("Hydro Calc, ") + name);
+        measure_button(line, key + "_refractometer", "Refractometer", sg, highest_gravity, refractometer,
+                       tell)
+            .named(std::string("Refractometer, ") + name);
+    };
+    line_of("actual_og", "&OG", "OG", session.actual_og, actions.og_refractometer);
+    line_of("actual_fg", "&FG", "FG", session.actual_fg, actions.fg_refractometer);
+    rows.choice("fg_by_refractometer", session.tail.fg_by_refractometer, {"&By OG/FG", "By Refra&ct"})
+        .named("Alcohol and attenuation");
+    rows.button("alcohol_refractometer", "Refractometer", actions.alcohol_refractometer)
+        .named("Refractometer, By Refract")
+        .hint("The reading from which alcohol and attenuation follow \"By Refract\"");
+}
+
+void result_rows(Rows& rows, const OpenDocument& open) {
+    const auto figure = [&](const char* key, const char* label, float FermentationFigures::*part) {
+        rows.shown_number(
+                key, [&open, part] { return update_attenuation(*open.session, open.settings).*part; },
+                "%0.2f")
+            .label(label);
+    };
+    figure("alcohol_by_weight", "% Alcohol by Weight", &FermentationFigures::alcohol_by_weight);
+    figure("alcohol_by_volume", "% Alcohol by Volume", &FermentationFigures::alcohol_by_volume);
+    figure("adf", "% ADF", &FermentationFigures::apparent_attenuation);
+    figure("rdf", "% RDF", &FermentationFigures::real_attenuation);
+}
+
+} // namespace
+
+void fermentation_form(Form& form, RecipeEditor& editor, const FermentationActions& actions) {
+    auto& session = *editor.open.session;
+    result_rows(form.group("Results"), editor.open);
+    gravity_rows(form.group("Gravity"), editor, actions);
+    yeast_rows(form.group("Yeast"), editor.open.document.yeast.record);
+    form.next_column();
+    pitching_rows(form.group("Pitching"), session.fermentation);
+    fermenter_groups(form, session.fermentation);
+    form.restore_on_cancel(session, &SessionDocument::fermentation, &SessionDocument::actual_og,
+                           &SessionDocument::actual_fg);
+    form.restore_on_cancel(session.tail, &SessionTail::fg_by_refractometer, &SessionTail::actual_og_reading,
+                           &SessionTail::actual_fg_reading, &SessionTail::alcohol_reading);
+}
+
+} // namespace wortlex
