@@ -19,6 +19,10 @@ bool stands_beside_ok(const Row& row) {
     return row.key == "print" || row.key == "help" || row.key == "jpg";
 }
 
+void put_beside_ok(const Row& row, const FormWidgets& widgets, QDialogButtonBox& beside_ok) {
+    beside_ok.addButton(qobject_cast<QPushButton*>(&widgets.field(row)), QDialogButtonBox::HelpRole);
+}
+
 // Rows below each other, labels in the first of two columns.
 class RowsLayout : private RowVisitor {
 public:
@@ -45,11 +49,7 @@ private:
 
     // Buttons that follow each other stand side by side, unless their group wants them below each other.
     void visit(ButtonRow& row) override {
-        if (beside_ok_ != nullptr && stands_beside_ok(row)) {
-            beside_ok_->addButton(qobject_cast<QPushButton*>(&widgets_.field(row)),
-                                  QDialogButtonBox::HelpRole);
-            return;
-        }
+        if (beside_ok_ != nullptr && stands_beside_ok(row)) return put_beside_ok(row, widgets_, *beside_ok_);
         if (stacks_buttons_) return add_field(row);
         if (buttons_ == nullptr) {
             buttons_ = new QHBoxLayout;
@@ -189,6 +189,13 @@ QLayout* lay_out(const Form& form, const FormWidgets& widgets, QDialogButtonBox*
     }
     for (auto* const column : all) fill_up(*column);
     return columns;
+}
+
+void lay_out_beside_ok(const Form& form, const FormWidgets& widgets, QDialogButtonBox& beside_ok) {
+    form.for_each([&](Row& row) {
+        if (dynamic_cast<ButtonRow*>(&row) != nullptr && stands_beside_ok(row))
+            put_beside_ok(row, widgets, beside_ok);
+    });
 }
 
 } // namespace wortlex

@@ -157,6 +157,10 @@ QLabel* FormWidgets::unit(const Row& row) const {
     return shown_.at(&row).unit;
 }
 
+QLabel* FormWidgets::unit(std::string_view key) const {
+    return unit(form_.row(key));
+}
+
 QWidget* FormWidgets::first_field() const {
     QWidget* first = nullptr;
     form_.for_each([&](Row& row) {

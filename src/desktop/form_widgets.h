@@ -31,6 +31,7 @@ public:
     QLabel* label(std::string_view key) const;
     QLabel* label(const Row& row) const;
     /// What stands behind a field; none where the row has no unit.
+    QLabel* unit(std::string_view key) const;
     QLabel* unit(const Row& row) const;
 
     /// The one to begin with: the first to be filled in; none where there is nothing but figures and buttons.
@@ -107,5 +108,8 @@ void add_field(QGridLayout& grid, const FormWidgets& widgets, std::string_view k
 /// A form's groups laid out in their columns, labels before fields. The buttons for print, picture and help
 /// join those of `beside_ok`, where there is one.
 QLayout* lay_out(const Form& form, const FormWidgets& widgets, QDialogButtonBox* beside_ok = nullptr);
+
+/// These buttons alone, of a form that is laid out by hand.
+void lay_out_beside_ok(const Form& form, const FormWidgets& widgets, QDialogButtonBox& beside_ok);
 
 } // namespace wortlex

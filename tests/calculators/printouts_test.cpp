@@ -116,7 +116,7 @@ TEST(PreBoilPrintout, TellsBothKettlesInTheUnitsShown) {
                             "Raw Pre-Boil Gravity:\t1.0320\tSG\t8.0\tPlato"));
     const WaterNeeds planned{.mash_water = 8}; // 288 points in 8 gallons are 36 in each
     EXPECT_THAT(
-        lines_of(pre_boil_printout({recipe, boil.rate, settings, &planned})),
+        printed_lines(pre_boil_printout({recipe, boil.rate, settings, &planned})),
         IsSupersetOf({"Pre-Boil Wort Size:\t8.00\tGal", "Pre-Boil Gravity:\t1.0360\tSG\t9.0\tPlato"}));
 }
 

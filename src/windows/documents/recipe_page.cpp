@@ -96,6 +96,7 @@ void RecipePage::lay_out_rows() {
     auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
     auto* const part = use_.arrange ? use_.arrange(widgets_) : lay_out(form_, widgets_, buttons);
     layout->addWidget(new Scrolled(part, this), 1);
+    if (use_.arrange) lay_out_beside_ok(form_, widgets_, *buttons);
     auto* const bottom = new QHBoxLayout;
     bottom->addStretch();
     buttons->button(QDialogButtonBox::Ok)->setDefault(false); // Enter is for the fields

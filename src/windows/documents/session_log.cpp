@@ -1,0 +1,144 @@
+#include "windows/documents/session_log.h"
+
+#include "base/windows1252.h"
+#include "brewing/calendar.h"
+#include "documents/bottling_date.h"
+#include "documents/forms/bottling_form.h"
+#include "documents/forms/efficiency_form.h"
+#include "documents/forms/fermentation_form.h"
+#include "documents/forms/session_notes_form.h"
+#include "measures/gravity.h"
+#include "program/program.h"
+#include "windows/calculators/carbonation_dialogs.h"
+#include "windows/calculators/gravity_dialogs.h"
+#include "windows/documents/bottling_table.h"
+
+#include <QGridLayout>
+
+namespace wortlex {
+namespace {
+
+/// Over which page an instrument is used, and on what.
+struct Bench {
+    WindowPorts ports;
+    QWidget* page;
+    const OpenDocument& open;
+};
+
+PrintedSession printed(const Bench& bench) {
+    const auto& open = bench.open;
+    return {utf8_from_windows1252(open.document.title.view()),
+            short_date(existing_day(brew_date(*open.session)), open.settings.date_format)};
+}
+
+MeasureGravity by_hydrometer(const Bench& bench, HydrometerUse use) {
+    return [bench, use](float sg) { return correct_gravity(bench.ports, bench.page, sg, use); };
+}
+
+MeasureGravity of_raw_wort(const Bench& bench, RefractometerUse use, RefractometerPair& stored) {
+    return [bench, use, &stored](float sg) {
+        return measure_raw_wort(bench.ports, bench.page, use, sg, stored, printed(bench));
+    };
+}
+
+MeasureGravity of_beer(const Bench& bench) {
+    return [bench, &session = *bench.open.session](float sg) {
+        return measure_finishing_gravity(bench.ports, bench.page, sg_to_plato(session.actual_og),
+                                         sg_to_plato(sg), session.tail.actual_fg_reading, printed(bench));
+    };
+}
+
+EfficiencyActions efficiency_actions(const Bench& bench) {
+    auto& tail = bench.open.session->tail;
+    return {.hydrometer = by_hydrometer(bench, HydrometerUse::session_efficiency),
+            .refractometer =
+                of_raw_wort(bench, RefractometerUse::recorded_efficiency, tail.recorded_og_reading),
+            .print = nullptr};
+}
+
+FermentationActions fermentation_actions(const Bench& bench, RecipeEditor& editor) {
+    auto& session = *bench.open.session;
+    const auto alcohol = [bench, &session, &editor] {
+        measure_alcohol(bench.ports, bench.page, sg_to_plato(session.actual_og),
+                        sg_to_plato(session.actual_fg), session.tail.alcohol_reading, printed(bench));
+        tell_change(editor);
+    };
+    return {.hydrometer = by_hydrometer(bench, HydrometerUse::session_gravity),
+            .og_refractometer =
+                of_raw_wort(bench, RefractometerUse::recorded_original, session.tail.actual_og_reading),
+            .fg_refractometer = of_beer(bench),
+            .alcohol_refractometer = alcohol};
+}
+
+BottlingActions bottling_actions(const Bench& bench) {
+    const auto& log = bench.open.session->bottling;
+    return {.pick_date = nullptr,
+            .natural =
+                [bench, &log](std::size_t column) {
+                    return ask_priming(bench.ports, bench.page, carbonation_of(log, column));
+                },
+            .forced =
+                [bench, &log](std::size_t column) {
+                    return ask_pressure(bench.ports, bench.page, carbonation_of(log, column));
+                }};
+}
+
+// Two texts above two, each below its title.
+QLayout* arrange_notes(const FormWidgets& widgets) {
+    auto* const grid = new QGridLayout;
+    int place = 0;
+    for (const auto* const key : {"mash_notes", "fermentation_notes", "tasting_notes", "problems"}) {
+        auto& text = widgets.field(key);
+        text.setMinimumHeight(text.fontMetrics().lineSpacing() * 7);
+        const int row = place / 2 * 2, column = place % 2;
+        grid->addWidget(widgets.label(key), row, column);
+        grid->addWidget(&text, row + 1, column);
+        grid->setRowStretch(row + 1, 1);
+        ++place;
+    }
+    return grid;
+}
+
+} // namespace
+
+RecipePageUse efficiency_page(RecipeEditor& editor, const WindowPorts& ports) {
+    return {.template_name = "BATCHEFFDIALOG",
+            .step = "Efficiency",
+            .opener = Opener::session,
+            .fill = [&editor, ports](Form& form, QWidget* page) {
+                efficiency_form(form, editor, efficiency_actions({ports, page, editor.open}));
+            }};
+}
+
+RecipePageUse fermentation_page(RecipeEditor& editor, const WindowPorts& ports) {
+    return {.template_name = "BATCHYEASTINFO",
+            .step = "Fermentation",
+            .opener = Opener::session,
+            .fill = [&editor, ports](Form& form, QWidget* page) {
+                fermentation_form(form, editor, fermentation_actions({ports, page, editor.open}, editor));
+            }};
+}
+
+RecipePageUse bottling_page(RecipeEditor& editor, const WindowPorts& ports) {
+    return {.template_name = "BATCHBOTTLINGINFO",
+            .step = "Bottling / Kegging",
+            .opener = Opener::session,
+            .fill =
+                [&editor, ports](Form& form, QWidget* page) {
+                    bottling_form(form, editor, bottling_actions({ports, page, editor.open}));
+                },
+            .arrange = arrange_bottling};
+}
+
+RecipePageUse session_notes_page(RecipeEditor& editor) {
+    return {.template_name = "BATCHNOTESDIALOG",
+            .step = "Notes",
+            .opener = Opener::session,
+            .fill =
+                [&editor](Form& form, QWidget*) {
+                    session_notes_form(form, editor.open.session->session_notes, nullptr);
+                },
+            .arrange = arrange_notes};
+}
+
+} // namespace wortlex
