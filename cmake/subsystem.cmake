@@ -1,3 +1,16 @@
+# File by file, the headers of the toolkit are most of the work, and are read once for all rooms. Only its own: those
+# of the program are still read by each file that needs them, so that a missing one is missed.
+function(precompile_toolkit room)
+    if(CMAKE_UNITY_BUILD)
+        return()
+    endif()
+    if(room STREQUAL desktop)
+        target_precompile_headers(desktop PRIVATE <QtWidgets> <QtPrintSupport> <QtSvg>)
+    else()
+        target_precompile_headers(${room} REUSE_FROM desktop)
+    endif()
+endfunction()
+
 # subsystem(folder [QT] DEPENDS folders... SOURCES files...)
 # One library for one room, named after its folder. What it may include is what it links: `DEPENDS` is also written
 # to a table that the guard tools/check_rooms.cmake reads.
@@ -13,6 +26,7 @@ function(subsystem folder)
         target_link_libraries(${name} PUBLIC Qt6::Widgets Qt6::Svg Qt6::PrintSupport)
         # Records have members named slots; the toolkit must not make macros of such words.
         target_compile_definitions(${name} PUBLIC QT_NO_KEYWORDS)
+        precompile_toolkit(${name})
     endif()
     list(JOIN ROOM_DEPENDS " " depends)
     set_property(GLOBAL APPEND PROPERTY WORTLEX_ROOMS "${folder} ${depends}")
