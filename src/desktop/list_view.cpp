@@ -50,8 +50,19 @@ QVariant ListModel::alignment(int column) const {
 
 QVariant ListModel::ground(std::size_t row) const {
     if (!row_.is_marked || !row_.is_marked(row)) return {};
-    const auto& palette = dynamic_cast<const QWidget*>(QObject::parent())->palette();
+    const auto& palette = view().palette();
     return toned_ground(palette, mark_percent(palette));
+}
+
+QVariant ListModel::font(std::size_t row) const {
+    if (!row_.is_head || !row_.is_head(row)) return {};
+    auto bold = view().font();
+    bold.setBold(true);
+    return bold;
+}
+
+const QWidget& ListModel::view() const {
+    return *dynamic_cast<const QWidget*>(QObject::parent());
 }
 
 QVariant ListModel::data(const QModelIndex& index, int role) const {
@@ -59,6 +70,7 @@ QVariant ListModel::data(const QModelIndex& index, int role) const {
     const auto row = static_cast<std::size_t>(index.row());
     if (row >= row_.count()) return {};
     if (role == Qt::BackgroundRole) return ground(row);
+    if (role == Qt::FontRole) return font(row);
     if (role != Qt::DisplayRole) return {};
     return QString::fromStdString(row_.cell(row, static_cast<std::size_t>(index.column())));
 }

@@ -21,6 +21,8 @@ public:
 private:
     QVariant alignment(int column) const;
     QVariant ground(std::size_t row) const;
+    QVariant font(std::size_t row) const;
+    const QWidget& view() const;
 
     const ListRow& row_;
     std::size_t shown_count_ = 0; ///< that the view has been told of

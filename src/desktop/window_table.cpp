@@ -38,6 +38,13 @@ constexpr std::array windows = {
     WindowInfo{"BATCHNATURALCARBDIALOG", {"Brewing Session - Natural Carbonation Calculator"}, no_places, 0},
     WindowInfo{"BATCHFORCEDCARBDIALOG", {"Brewing Session - Forced Carbonation Calculator"}, no_places, 0},
     WindowInfo{"MASHENTRYDIALOG", {"Recipe Formulation - Simple Mash Schedule"}, from_documents(15, 34), 0},
+    WindowInfo{"MASHENTRYDIALOG1",
+               {"Brewing Session - Simple Mash Schedule and Infusion Specifics"},
+               from_documents(no_place, 34),
+               0},
+    WindowInfo{"WATERCALCDIALOG", {"Dough In Strike Water Temperature"}, no_places, 0},
+    WindowInfo{"BATCHINVENTORY", {"Inventory Analysis For Brewing Session"}, from_documents(no_place, 28), 0},
+    WindowInfo{"USERDATEDIALOG", {"Brewing Date"}, from_documents(no_place, 86), 0},
     // The lists set their own captions, by what they show.
     WindowInfo{"STYLETYPEDIALOG", {""}, from_main(38), 0},
     WindowInfo{"MALTSTYPEDIALOG", {""}, from_main(39), 0},

@@ -133,6 +133,11 @@ public:
         is_marked = std::move(test);
         return *this;
     }
+    /// Rows that are heads of those below them.
+    ListRow& headed(std::function<bool(std::size_t row)> test) {
+        is_head = std::move(test);
+        return *this;
+    }
     /// What stands in its place while it is empty.
     ListRow& when_empty(const Live<std::string>& words) {
         empty_words = words;
@@ -150,6 +155,7 @@ public:
     std::function<void(std::size_t column)> click_header;
     std::function<SortMark()> sort_mark;
     std::function<bool(std::size_t row)> is_marked;
+    std::function<bool(std::size_t row)> is_head;
     Live<std::string> empty_words = "";
     std::function<void()> activate; ///< double click or Enter on a row
 };

@@ -87,11 +87,13 @@ StockList yeast_stock(const BrewDocument& document, const Stocks& stocks) {
     return list;
 }
 
-template <class Cells>
-std::string tabbed(const Cells& cells) {
-    std::string line;
-    for (const auto& cell : cells) line += (line.empty() ? "" : "\t") + cell;
-    return line;
+InventoryRow row_of(const StockLine& line) {
+    const auto amount = [](float value) { return formatted("%7.2f", value); };
+    return {{line.origin.empty() ? line.name : line.name + " - " + line.origin, amount(line.wanted),
+             amount(line.in_stock), amount(line.needed),
+             line.is_short() ? std::string(shortage_mark) : std::string()},
+            false,
+            line.is_short()};
 }
 
 } // namespace
@@ -114,23 +116,19 @@ std::size_t count_short(const InventoryAnalysis& analysis) {
     return count;
 }
 
-std::array<std::string, 5> stock_cells(const StockLine& line) {
-    const auto amount = [](float value) { return formatted("%7.2f", value); };
-    return {line.origin.empty() ? line.name : line.name + " - " + line.origin, amount(line.wanted),
-            amount(line.in_stock), amount(line.needed),
-            line.is_short() ? std::string(shortage_mark) : std::string()};
+std::vector<InventoryRow> inventory_rows(const InventoryAnalysis& analysis) {
+    std::vector<InventoryRow> rows;
+    for (const auto& list : analysis) {
+        const auto& heads = list.heads;
+        rows.push_back({{heads[0], heads[1], heads[2], heads[3], ""}, true});
+        for (const auto& line : list.lines) rows.push_back(row_of(line));
+    }
+    return rows;
 }
 
-std::vector<std::string> inventory_text(const InventoryAnalysis& analysis) {
-    std::vector<std::string> text{std::string(inventory_heading)};
-    for (const auto& list : analysis) {
-        text.push_back(tabbed(list.heads));
-        for (const auto& line : list.lines) {
-            const auto cells = stock_cells(line);
-            text.push_back(tabbed(std::span(cells).first<4>()) + cells.back());
-        }
-    }
-    return text;
+std::string tabbed_line(const InventoryRow& row) {
+    const auto& cells = row.cells;
+    return cells[0] + '\t' + cells[1] + '\t' + cells[2] + '\t' + cells[3] + cells[4];
 }
 
 } // namespace wortlex

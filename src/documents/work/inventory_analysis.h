@@ -39,10 +39,16 @@ std::size_t count_short(const InventoryAnalysis& analysis);
 
 inline constexpr std::string_view inventory_heading = "Inventory Analysis For Brewing Session";
 
-/// The cells of a line: its name with what stands beside it, the three amounts, and the mark of a shortage.
-std::array<std::string, 5> stock_cells(const StockLine& line);
+/// A line of the whole analysis: the name with what stands beside it, three amounts, the mark of a shortage.
+struct InventoryRow {
+    std::array<std::string, 5> cells;
+    bool is_head = false;
+    bool is_short = false;
+};
 
-/// The whole analysis as lines with tabs between the cells, UTF-8.
-std::vector<std::string> inventory_text(const InventoryAnalysis& analysis);
+std::vector<InventoryRow> inventory_rows(const InventoryAnalysis& analysis);
+
+/// The cells before the mark with tabs between them, and the mark at the end.
+std::string tabbed_line(const InventoryRow& row);
 
 } // namespace wortlex

@@ -50,7 +50,7 @@ struct StoreRoom {
     }
     std::string text() const {
         std::string all;
-        for (const auto& line : inventory_text(analysis())) all += line + '\n';
+        for (const auto& row : inventory_rows(analysis())) all += tabbed_line(row) + '\n';
         return all;
     }
     std::string left() const {
@@ -67,8 +67,7 @@ TEST(Inventory, ListsWhatIsAskedForBesideWhatIsThere) {
     room.image.display_home_bittering = 1;
     room.image.bittering_unit = BitteringUnit::hbu;
     room.stocks.malts.slots[0].stock = 7.5F;
-    EXPECT_EQ(room.text(), "Inventory Analysis For Brewing Session\n"
-                           "Grain/Malt\tRecipe Lbs\tLbs In Stock\tLbs Needed\n"
+    EXPECT_EQ(room.text(), "Grain/Malt\tRecipe Lbs\tLbs In Stock\tLbs Needed\n"
                            "Pale - England\t  10.00\t   7.50\t   2.50  *\n"
                            "Hops\tRecipe Oz\tOz In Stock\tOz Needed\n"
                            "Fuggle - Pellet - England\t   2.00\t   4.00\t   0.00\n"
@@ -89,8 +88,7 @@ TEST(Inventory, AmountsAreInTheUnitsOfTheListsAndEmptyListsKeepTheirHeads) {
     room.document.extras.clear();
     room.document.yeast = {};
     room.stocks.hops.count = 0;
-    EXPECT_EQ(room.text(), "Inventory Analysis For Brewing Session\n"
-                           "Grain/Malt\tRecipe kg\tkg In Stock\tkg Needed\n"
+    EXPECT_EQ(room.text(), "Grain/Malt\tRecipe kg\tkg In Stock\tkg Needed\n"
                            "Pale - England\t   4.54\t   9.07\t   0.00\n"
                            "Hops\tRecipe g\tg In Stock\tg Needed\n"
                            "Fuggle - Pellet - England\t  56.70\t   0.00\t  56.70  *\n"
