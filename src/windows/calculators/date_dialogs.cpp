@@ -1,0 +1,97 @@
+#include "windows/calculators/date_dialogs.h"
+
+#include "desktop/captions.h"
+#include "program/program.h"
+#include "windows/calculators/date_dialog.h"
+
+#include <QDialogButtonBox>
+#include <QGridLayout>
+
+namespace wortlex {
+
+DateDialog::DateDialog(std::string_view template_name, const CalendarDate& date, const Places& places,
+                       QWidget* owner)
+    : QDialog(owner), first_(new QCalendarWidget(this)), second_(new QCalendarWidget(this)),
+      grow_(new QPushButton(this)),
+      place_(dress_window(*this, window_info(template_name), 0, Opener::session, owner, places)) {
+    setWindowModality(Qt::WindowModal);
+    make_calendar(*first_, QStringLiteral("date"), QStringLiteral("Date"));
+    make_calendar(*second_, QStringLiteral("next_month"), QStringLiteral("Next month"));
+    second_->hide();
+    connect(first_, &QCalendarWidget::selectionChanged, this, [this] { follow_first(); });
+    connect(first_, &QCalendarWidget::currentPageChanged, this, [this] { follow_first(); });
+    connect(second_, &QCalendarWidget::selectionChanged, this, [this] { follow_second(); });
+    connect(second_, &QCalendarWidget::currentPageChanged, this, [this] { follow_second(); });
+    first_->setSelectedDate(QDate(date.year, date.month, date.day));
+    follow_first();
+
+    auto* const grid = new QGridLayout(this);
+    grid->addWidget(first_, 0, 0);
+    grid->addWidget(second_, 0, 1);
+    auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
+    set_tips(*buttons, true);
+    grow_->setObjectName(QStringLiteral("grow"));
+    grow_->setAutoDefault(false);
+    buttons->addButton(grow_, QDialogButtonBox::ActionRole);
+    grid->addWidget(buttons, 1, 0, 1, 2);
+    grid->setSizeConstraint(QLayout::SetFixedSize); // so that it shrinks with its months
+    show_size();
+    connect(grow_, &QPushButton::clicked, this, [this] { grow_or_shrink(); });
+    connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
+    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    first_->setFocus();
+}
+
+void DateDialog::setVisible(bool visible) {
+    if (visible) place_.put();
+    QDialog::setVisible(visible);
+}
+
+CalendarDate DateDialog::date() const {
+    const auto chosen = first_->selectedDate();
+    return {chosen.day(), chosen.month(), chosen.year()};
+}
+
+void DateDialog::make_calendar(QCalendarWidget& calendar, const QString& key, const QString& name) {
+    calendar.setObjectName(key);
+    calendar.setAccessibleName(name);
+    calendar.setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
+    connect(&calendar, &QCalendarWidget::activated, this, &QDialog::accept);
+}
+
+void DateDialog::follow_first() {
+    if (std::exchange(is_following_, true)) return;
+    const auto next = QDate(first_->yearShown(), first_->monthShown(), 1).addMonths(1);
+    second_->setSelectedDate(first_->selectedDate());
+    second_->setCurrentPage(next.year(), next.month());
+    is_following_ = false;
+}
+
+void DateDialog::follow_second() {
+    if (std::exchange(is_following_, true)) return;
+    const auto before = QDate(second_->yearShown(), second_->monthShown(), 1).addMonths(-1);
+    first_->setSelectedDate(second_->selectedDate());
+    first_->setCurrentPage(before.year(), before.month());
+    is_following_ = false;
+}
+
+void DateDialog::grow_or_shrink() {
+    second_->setVisible(second_->isHidden());
+    if (second_->isHidden()) first_->setCurrentPage(date().year, date().month);
+    show_size();
+}
+
+void DateDialog::show_size() {
+    const bool is_small = second_->isHidden();
+    grow_->setText(is_small ? tr("&Grow") : tr("&Shrink"));
+    set_tip(*grow_, is_small ? tr("Shows the next month, too") : tr("Shows one month"));
+}
+
+std::optional<CalendarDate> pick_brewing_date(const WindowPorts& ports, QWidget* owner,
+                                              const CalendarDate& date) {
+    DateDialog dialog("USERDATEDIALOG", date, places(ports.program), owner);
+    if (dialog.exec() != QDialog::Accepted) return std::nullopt;
+    return dialog.date();
+}
+
+} // namespace wortlex

@@ -1,0 +1,17 @@
+// The calendars in which a session's dates are picked.
+#pragma once
+
+#include "base/ports/clock.h"
+#include "program/window_ports.h"
+
+#include <QWidget>
+
+#include <optional>
+
+namespace wortlex {
+
+/// The day of brewing, from a calendar that shows `date`, a day that exists; nothing on Cancel.
+std::optional<CalendarDate> pick_brewing_date(const WindowPorts& ports, QWidget* owner,
+                                              const CalendarDate& date);
+
+} // namespace wortlex
