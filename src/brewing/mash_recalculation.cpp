@@ -5,16 +5,23 @@
 #include "measures/units.h"
 
 #include <algorithm>
-#include <initializer_list>
+#include <array>
 
 namespace wortlex {
 namespace {
 
-// The first of some rests that is present; nullptr for none.
-const Rest* first_present(std::initializer_list<const Rest*> rests) {
-    for (const auto* rest : rests) {
-        if (rest->is_present()) return rest;
-    }
+const Rest& rest_after(const SimpleMash& mash, InfusedRest infused) {
+    const std::array rests = {&mash.protein, &mash.intermediate, &mash.saccharification, &mash.mash_out};
+    return *rests.at(static_cast<std::size_t>(infused));
+}
+
+// The rest that an infusion starts from, the nearest before it; a single step has only the saccharification.
+// Null for none.
+const Rest* rest_before(const SimpleMash& mash, InfusedRest infused) {
+    const std::array rests = {&mash.acid, &mash.protein, &mash.intermediate, &mash.saccharification};
+    const std::size_t first = mash.mash_kind == MashKind::single_step ? rests.size() - 1 : 0;
+    for (auto place = static_cast<std::size_t>(infused) + 1; place > first; --place)
+        if (rests.at(place - 1)->is_present()) return rests.at(place - 1);
     return nullptr;
 }
 
@@ -28,8 +35,7 @@ bool infuse(const Rest& to, const Rest* from, Infusion& infusion, double water, 
 }
 
 float single_step_infusion(const SimpleMash& mash, InfusionExtras& infusions, float dough_in, float grain) {
-    const auto* const before = first_present({&mash.saccharification});
-    infuse(mash.mash_out, before, infusions.mash_out, dough_in, grain);
+    infuse(mash.mash_out, rest_before(mash, InfusedRest::mash_out), infusions.mash_out, dough_in, grain);
     return narrow(double{dough_in} + infusions.mash_out.amount);
 }
 
@@ -44,23 +50,25 @@ float multi_step_infusions(const SimpleMash& mash, InfusionExtras& infusions, fl
     const double q = dough_in;
     double total = q;
 
-    if (infuse(protein, first_present({&mash.acid}), to_protein, q, grain)) total = q + to_protein.amount;
+    if (infuse(protein, rest_before(mash, InfusedRest::protein), to_protein, q, grain))
+        total = q + to_protein.amount;
 
     const double at_protein = protein.is_present() ? q + to_protein.amount : q;
-    if (infuse(intermediate, first_present({&protein, &mash.acid}), to_intermediate, at_protein, grain))
+    if (infuse(intermediate, rest_before(mash, InfusedRest::intermediate), to_intermediate, at_protein,
+               grain))
         total = q + at_protein + to_intermediate.amount;
 
     const double at_intermediate =
         intermediate.is_present() ? at_protein + to_intermediate.amount : at_protein;
     const double sum_to_intermediate = q + to_protein.amount + to_intermediate.amount;
-    if (infuse(saccharification, first_present({&intermediate, &protein, &mash.acid}), to_saccharification,
+    if (infuse(saccharification, rest_before(mash, InfusedRest::saccharification), to_saccharification,
                at_intermediate, grain))
         total = sum_to_intermediate + to_saccharification.amount;
 
     const double at_saccharification =
         saccharification.is_present() ? at_intermediate + to_saccharification.amount : at_intermediate;
-    if (infuse(mash.mash_out, first_present({&saccharification, &intermediate, &protein, &mash.acid}),
-               to_mash_out, at_saccharification, grain))
+    if (infuse(mash.mash_out, rest_before(mash, InfusedRest::mash_out), to_mash_out, at_saccharification,
+               grain))
         total = sum_to_intermediate + to_saccharification.amount + to_mash_out.amount;
 
     return narrow(total);
@@ -79,6 +87,10 @@ double kilograms(float pounds) {
 }
 
 } // namespace
+
+bool can_infuse(const SimpleMash& mash, InfusedRest infused) {
+    return rest_after(mash, infused).is_present() && rest_before(mash, infused) != nullptr;
+}
 
 float RecalculateSimpleInfusions(const SimpleMash& mash, InfusionExtras& infusions, float dough_in,
                                  float grain) {

@@ -11,6 +11,12 @@ struct MashWater {
     float gallons = 0; ///< the mash itself, water and grain
 };
 
+/// The rests of a simple schedule to which water can be infused.
+enum class InfusedRest { protein, intermediate, saccharification, mash_out };
+
+/// Whether there is such a rest and one before it to infuse from.
+bool can_infuse(const SimpleMash& mash, InfusedRest infused);
+
 /// Works out the infusions of a simple schedule from `dough_in` quarts on `grain` pounds and returns the
 /// quarts in the mash after the last. Where the intermediate rest is infused last, the dough-in counts twice;
 /// that is how such a schedule has always been totalled.

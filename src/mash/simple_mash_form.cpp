@@ -3,6 +3,7 @@
 #include "base/number.h"
 #include "brewing/mash_recalculation.h"
 #include "brewing/mash_water.h"
+#include "mash/session_mash_rows.h"
 #include "measures/degrees.h"
 #include "measures/unit_words.h"
 #include "measures/units.h"
@@ -29,8 +30,10 @@ const char* ratio_label(MashSide side, const Settings& settings) {
     return side == MashSide::recipe ? "Liters &Water/kg Grain Ratio" : "L &Water/kg Grain Ratio";
 }
 
-std::string degrees_word(const Settings& settings) {
-    return std::string("Temperature (Degrees ") + temperature_unit(settings).full + ")";
+// In two lines where more columns follow.
+std::string degrees_word(const Settings& settings, MashSide side) {
+    return std::string("Temperature") + (side == MashSide::session ? "\n" : " ") + "(Degrees " +
+           temperature_unit(settings).full + ")";
 }
 
 // A step of the arrows may end beyond the range.
@@ -44,25 +47,24 @@ public:
     RestRows(GridRow& grid, const SimpleMashWork& work, TemperatureUnits units)
         : grid_(grid), work_(work), units_(units) {}
 
-    void add(const std::string& key, const char* label, Rest& rest) { line(key, label, rest, true); }
+    Rows& add(const std::string& key, const char* label, Rest& rest) { return line(key, label, rest, true); }
     /// A rest that a single step has no place for.
-    void add_of_multi_step(const std::string& key, const char* label, Rest& rest) {
-        line(key, label, rest, [&work = work_] { return work.mash.mash_kind != MashKind::single_step; });
+    Rows& add_of_multi_step(const std::string& key, const char* label, Rest& rest) {
+        return line(key, label, rest,
+                    [&work = work_] { return work.mash.mash_kind != MashKind::single_step; });
     }
 
 private:
-    void line(const std::string& key, const char* label, Rest& rest, const Live<bool>& enabled) {
+    Rows& line(const std::string& key, const char* label, Rest& rest, const Live<bool>& enabled) {
         auto& line = grid_.line(label);
-        const Binding<std::int32_t> temperature{
-            [&rest, units = units_] { return shown_degrees(rest.temperature, units); },
-            [&rest, units = units_](std::int32_t shown) { rest.temperature = stored_degrees(shown, units); }};
-        line.temperature(key + "_temperature", temperature, units_).format("%3d").enabled(enabled);
+        whole_degrees_row(line, key + "_temperature", rest.temperature, units_).enabled(enabled);
         line.integer(key + "_minutes", rest.minutes)
             .range(0, longest_rest)
             .step(5)
             .format("%3d")
             .enabled(enabled)
             .changed([&rest] { hold_minutes(rest); });
+        return line;
     }
 
     GridRow& grid_;
@@ -70,16 +72,37 @@ private:
     TemperatureUnits units_;
 };
 
-void rest_rows(Rows& rows, SimpleMashWork& work, const Settings& settings) {
+std::vector<Live<std::string>> rest_captions(const Settings& settings, MashSide side) {
+    std::vector<Live<std::string>> captions{degrees_word(settings, side), "Minutes"};
+    if (side == MashSide::session) add_infusion_captions(captions, settings);
+    return captions;
+}
+
+void rest_rows(Rows& rows, SimpleMashWork& work, const Settings& settings, MashSide side,
+               std::function<void()> calculate_strike) {
     auto& mash = work.mash;
+    const bool is_session = side == MashSide::session;
     rows.choice("mash_kind", mash.mash_kind, {"&Single Step", "M&ulti Step"}).codes({2, 3});
-    RestRows rests(rows.grid("rests", {degrees_word(settings), "Minutes"}), work, settings.temperature_units);
+    if (is_session) heat_row(rows, work.session);
+    RestRows rests(rows.grid("rests", rest_captions(settings, side)), work, settings.temperature_units);
+    const auto infused = [&](Rows& line, const char* key, InfusedRest rest, Infusion& infusion) {
+        if (is_session) infusion_cells(line, key, work, {rest, infusion}, settings);
+    };
+    auto& infusions = work.session.infusions;
+    if (is_session)
+        rests.add("dough_in", "D&ough In", mash.dough_in)
+            .button("calculate_strike", "Calc Dough I&n Temperature", std::move(calculate_strike));
     rests.add_of_multi_step("acid", "&Acid Rest", mash.acid);
-    rests.add_of_multi_step("protein", "&Protein Rest", mash.protein);
-    rests.add_of_multi_step("intermediate", "&Intermediate Rest", mash.intermediate);
-    rests.add("saccharification", "Saccharification &Rest", mash.saccharification);
-    rests.add("mash_out", "&Mash Out", mash.mash_out);
+    infused(rests.add_of_multi_step("protein", "&Protein Rest", mash.protein), "protein",
+            InfusedRest::protein, infusions.protein);
+    infused(rests.add_of_multi_step("intermediate", "&Intermediate Rest", mash.intermediate), "intermediate",
+            InfusedRest::intermediate, infusions.intermediate);
+    infused(rests.add("saccharification", "Saccharification &Rest", mash.saccharification),
+            "saccharification", InfusedRest::saccharification, infusions.saccharification);
+    infused(rests.add("mash_out", "&Mash Out", mash.mash_out), "mash_out", InfusedRest::mash_out,
+            infusions.mash_out);
     rests.add("sparge", "Sparge &Temperature", mash.sparge);
+    if (is_session) added_rows(rows, work.session.infusions, settings);
 }
 
 float ratio_in_units(const SimpleMashWork& work, Units units) {
@@ -115,9 +138,9 @@ void total_rows(Rows& rows, const SimpleMashWork& work, const Settings& settings
     rows.shown_number(
             "grain", [&] { return grain_to_shown(work.grain, settings); }, "%6.2f")
         .label(std::string("Grain ") + grain_unit(settings).capital);
-    const auto volume = [&] {
-        return to_shown_volume(
-            TotalMashVolume(work.grain, work.mash.dough_in_water, settings.grain_water_volume), settings);
+    const auto volume = [&work, &settings, side] {
+        const float quarts = side == MashSide::session ? quarts_in_mash(work) : work.mash.dough_in_water;
+        return to_shown_volume(TotalMashVolume(work.grain, quarts, settings.grain_water_volume), settings);
     };
     rows.shown_number("total_volume", volume, "%0.2f")
         .label(std::string("Total Mash Volume ") + volume_unit(settings).capital);
@@ -176,11 +199,16 @@ const char* mash_volume_label(MashSide side, const Settings& settings) {
 
 void simple_mash_form(Form& form, SimpleMashWork& work, const Settings& settings, MashSide side,
                       SimpleMashActions actions) {
-    rest_rows(form.group("Rests"), work, settings);
+    rest_rows(form.group("Rests"), work, settings, side, std::move(actions.calculate_strike));
     form.next_column();
     auto& water = form.group("Water");
     water_rows(water, work, settings, side);
     total_rows(water, work, settings, side);
+    if (side == MashSide::session) {
+        wort_rows(form.group("Wort"), work.session, std::move(actions.correct_gravity),
+                  std::move(actions.measure_runnings));
+        form.after_edit([&work](Row&) { work_out_infusions(work); });
+    }
     auto& buttons = form.group();
     add_button(buttons, "revert", "Revert To &Complex Schedule", std::move(actions.revert));
     add_button(buttons, "graph", "Graph", std::move(actions.graph));

@@ -2,15 +2,25 @@
 #pragma once
 
 #include "forms/form.h"
+#include "measures/twins.h"
 #include "records/mash/schedules.h"
 
 namespace wortlex {
+
+/// What a session adds to the schedule.
+struct SessionMash {
+    InfusionExtras infusions;
+    float wort_ph = 5.5F;
+    TwinGravity runnings; ///< where they were stopped
+};
 
 /// The working copy of a simple schedule. The document takes it over with OK.
 struct SimpleMashWork {
     SimpleMash mash;
     float ratio = 0; ///< quarts per pound; carries the water over from one grain bill to the next
     float grain = 0; ///< pounds to mash
+    SessionMash session{};
+    float quarts = 0; ///< in a session's mash after the last infusion, worked out
 };
 
 /// A copy of `record` for `grain` pounds. A ratio above 0 (quarts per pound) gives the water; otherwise the
@@ -22,6 +32,9 @@ void set_mash_quarts(SimpleMashWork& work, float quarts);
 void set_mash_ratio(SimpleMashWork& work, float shown, Units units);
 /// The grain bill has changed: the water follows by the ratio as it stands.
 void set_mash_grain(SimpleMashWork& work, float pounds);
+
+/// Works out the infusions of a session, after any change.
+void work_out_infusions(SimpleMashWork& work);
 
 /// A session adds the dough-in and the infusions to the form of the recipe, and names its fields otherwise.
 enum class MashSide { recipe, session };
@@ -35,6 +48,8 @@ struct SimpleMashActions {
     std::function<void()> graph;
     std::function<void()> print;
     std::function<void()> help;
+    /// Of a session.
+    std::function<void()> calculate_strike, correct_gravity, measure_runnings;
 };
 
 /// Edits `work`, which must outlive the form.

@@ -6,8 +6,6 @@
 namespace wortlex {
 namespace {
 
-constexpr std::string_view title = "Wortlex - Dough In Strike Water Calculation";
-
 void print_line(PageContext& page, const std::string& line) {
     page.TabbedLine({175, 255, 330, 415}, line);
 }
@@ -34,7 +32,8 @@ void print_degrees(PageContext& page, const std::string& label, const TwinDegree
                          formatted("\t%0.2f\tC", degrees.celsius));
 }
 
-void print_strike(PageContext& page, const StrikeCalculator& calculator, bool by_gallon) {
+void print_strike(PageContext& page, const StrikeCalculator& calculator, std::string_view title,
+                  bool by_gallon) {
     page.SetHeader(0, std::string(title));
     page.NewLines(1);
     print_line(page, formatted("Tun Thermal Mass:\t%0.3f", calculator.thermal_mass));
@@ -55,10 +54,12 @@ void print_strike(PageContext& page, const StrikeCalculator& calculator, bool by
 
 } // namespace
 
-PrintRequest strike_calculator_printout(const StrikeCalculator& calculator, const Settings& settings) {
+PrintRequest strike_calculator_printout(const StrikeCalculator& calculator, const Settings& settings,
+                                        std::string_view title) {
     const bool by_gallon = is_pro(settings);
-    return {std::string(title), settings.printer_scale,
-            [calculator, by_gallon](PageContext& page) { print_strike(page, calculator, by_gallon); }};
+    return {std::string(title), settings.printer_scale, [calculator, title, by_gallon](PageContext& page) {
+                print_strike(page, calculator, title, by_gallon);
+            }};
 }
 
 } // namespace wortlex

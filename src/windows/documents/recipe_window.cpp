@@ -299,9 +299,9 @@ void RecipeWindow::show_mash() {
         const auto work = open_simple_mash(document_.recipe.simple_mash, document_.water_to_grain,
                                            document_.figures.mash_grain, program_.settings);
         mash_ = new SimpleMashWindow(
-            work, program_.settings,
+            work, program_.settings, MashSide::recipe,
             {.mash_grain = [this] { return document_.figures.mash_grain; },
-             .accepted = [this](const SimpleMash& mash) { set_simple_mash(editor_, mash); },
+             .accepted = [this](const SimpleMashWork& planned) { set_simple_mash(editor_, planned.mash); },
              .save = [this] { save_recipe(SaveAs::no); },
              .revert_to_complex = nullptr,
              .print =

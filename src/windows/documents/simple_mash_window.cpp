@@ -13,21 +13,24 @@ namespace wortlex {
 namespace {
 
 // A form filled before its widgets are made.
-Form made_form(SimpleMashWork& work, const Settings& settings, SimpleMashActions actions) {
+Form made_form(SimpleMashWork& work, const Settings& settings, MashSide side, SimpleMashActions actions) {
     Form form;
-    simple_mash_form(form, work, settings, MashSide::recipe, std::move(actions));
+    if (side == MashSide::session) work_out_infusions(work);
+    simple_mash_form(form, work, settings, side, std::move(actions));
     return form;
+}
+
+const WindowInfo& info_of(MashSide side) {
+    return window_info(side == MashSide::session ? "MASHENTRYDIALOG1" : "MASHENTRYDIALOG");
 }
 
 } // namespace
 
-SimpleMashWindow::SimpleMashWindow(const SimpleMashWork& work, const Settings& settings,
+SimpleMashWindow::SimpleMashWindow(const SimpleMashWork& work, const Settings& settings, MashSide side,
                                    SimpleMashCalls calls, const Places& places, QWidget* origin)
-    : ToolWindow(window_info("MASHENTRYDIALOG"), 0, Opener::recipe, origin, places), calls_(std::move(calls)),
-      work_(work),
-      form_(
-          made_form(work_, settings,
-                    {.revert = revert_action(), .graph = nullptr, .print = print_action(), .help = nullptr})),
+    : ToolWindow(info_of(side), 0, side == MashSide::session ? Opener::session : Opener::recipe, origin,
+                 places),
+      calls_(std::move(calls)), work_(work), form_(made_form(work_, settings, side, actions())),
       widgets_(form_, places, *this) {
     auto* const layout = new QVBoxLayout(this);
     auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
@@ -41,12 +44,28 @@ SimpleMashWindow::SimpleMashWindow(const SimpleMashWork& work, const Settings& s
         connect(new QShortcut(key, this), &QShortcut::activated, this, &SimpleMashWindow::accept);
     for (const auto& sequence : QKeySequence::keyBindings(QKeySequence::Save))
         connect(new QShortcut(sequence, this), &QShortcut::activated, this, &SimpleMashWindow::save);
+    if (calls_.heat_chosen)
+        form_.after_edit([this](const Row& row) {
+            if (row.key == "heat_type") calls_.heat_chosen(work_.session.infusions.heat_type);
+        });
     widgets_.field("saccharification_temperature").setFocus();
 }
 
 void SimpleMashWindow::follow(Change) {
     const float grain = calls_.mash_grain();
-    if (grain != work_.grain) set_mash_grain(work_, grain);
+    if (grain == work_.grain) return;
+    set_mash_grain(work_, grain);
+    work_out_infusions(work_);
+}
+
+SimpleMashActions SimpleMashWindow::actions() {
+    return {.revert = revert_action(),
+            .graph = show_action(calls_.graph),
+            .print = show_action(calls_.print),
+            .help = nullptr,
+            .calculate_strike = work_action(calls_.calculate_strike),
+            .correct_gravity = work_action(calls_.correct_gravity),
+            .measure_runnings = work_action(calls_.measure_runnings)};
 }
 
 std::function<void()> SimpleMashWindow::revert_action() {
@@ -58,18 +77,26 @@ std::function<void()> SimpleMashWindow::revert_action() {
     };
 }
 
-std::function<void()> SimpleMashWindow::print_action() {
-    if (!calls_.print) return nullptr;
-    return [this] { calls_.print(work_); };
+std::function<void()> SimpleMashWindow::show_action(const SimpleMashCalls::Show& show) {
+    if (!show) return nullptr;
+    return [this, show] { show(work_); };
+}
+
+std::function<void()> SimpleMashWindow::work_action(const SimpleMashCalls::Work& change) {
+    if (!change) return nullptr;
+    return [this, change] {
+        change(work_, this);
+        work_out_infusions(work_);
+    };
 }
 
 void SimpleMashWindow::save() const {
-    calls_.accepted(work_.mash);
+    calls_.accepted(work_);
     calls_.save();
 }
 
 void SimpleMashWindow::accept() {
-    calls_.accepted(work_.mash);
+    calls_.accepted(work_);
     close();
 }
 

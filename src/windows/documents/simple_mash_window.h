@@ -1,4 +1,4 @@
-// The window of the simple mash schedule of a recipe.
+// The window of the simple mash schedule, of a recipe or a session.
 #pragma once
 
 #include "desktop/form_widgets.h"
@@ -9,23 +9,33 @@
 
 namespace wortlex {
 
-/// What the document window gives, and what it is told.
+/// What the document window gives, and what it is told. What is empty cannot be done.
 struct SimpleMashCalls {
     std::function<float()> mash_grain; ///< pounds, up to date
     /// OK: the schedule to take over.
-    std::function<void(const SimpleMash& mash)> accepted;
-    std::function<void()> save; ///< the recipe, with what was taken over
+    std::function<void(const SimpleMashWork& work)> accepted;
+    std::function<void()> save; ///< the document, with what was taken over
     /// After that, where the complex schedule is to come into force; empty: it cannot.
     std::function<void()> revert_to_complex;
-    std::function<void(const SimpleMashWork& work)> print; ///< empty: it cannot be printed
+    using Show = std::function<void(const SimpleMashWork& work)>;
+    Show graph = nullptr;
+    Show print = nullptr;
+
+    /// Of a session: each may change the work, over the window that it is given.
+    using Work = std::function<void(SimpleMashWork& work, QWidget* owner)>;
+    Work calculate_strike = nullptr;
+    Work correct_gravity = nullptr;
+    Work measure_runnings = nullptr;
+    /// Of a session: that is chosen at once, and stays whatever becomes of the rest.
+    std::function<void(SimpleHeat heat)> heat_chosen = nullptr;
 };
 
 /// A page of a document window: modeless, on a working copy. Closing it in any other way than with OK leaves
 /// the document as it was.
 class SimpleMashWindow : public ToolWindow {
 public:
-    SimpleMashWindow(const SimpleMashWork& work, const Settings& settings, SimpleMashCalls calls,
-                     const Places& places, QWidget* origin);
+    SimpleMashWindow(const SimpleMashWork& work, const Settings& settings, MashSide side,
+                     SimpleMashCalls calls, const Places& places, QWidget* origin);
 
 protected:
     /// With another grain bill it takes the new weight, and the water by the ratio.
@@ -34,8 +44,10 @@ protected:
 private:
     void accept();
     void save() const;
+    SimpleMashActions actions();
     std::function<void()> revert_action();
-    std::function<void()> print_action();
+    std::function<void()> show_action(const SimpleMashCalls::Show& show);
+    std::function<void()> work_action(const SimpleMashCalls::Work& change);
 
     SimpleMashCalls calls_;
     SimpleMashWork work_;

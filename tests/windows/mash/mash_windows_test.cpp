@@ -29,15 +29,15 @@ struct Page {
         mash.dough_in_water = 12;
         SimpleMashCalls calls{.mash_grain = [this] { return grain; },
                               .accepted =
-                                  [this](const SimpleMash& taken) {
-                                      heard.push_back(formatted("%0.2f", taken.dough_in_water));
+                                  [this](const SimpleMashWork& taken) {
+                                      heard.push_back(formatted("%0.2f", taken.mash.dough_in_water));
                                   },
                               .save = [this] { heard.emplace_back("saved"); },
-                              .revert_to_complex = nullptr,
-                              .print = nullptr};
+                              .revert_to_complex = nullptr};
         if (has_complex) calls.revert_to_complex = [this] { heard.emplace_back("complex"); };
-        auto* const window = new SimpleMashWindow(open_simple_mash(mash, 0, grain, program.settings),
-                                                  program.settings, calls, places(program), nullptr);
+        auto* const window =
+            new SimpleMashWindow(open_simple_mash(mash, 0, grain, program.settings), program.settings,
+                                 MashSide::recipe, calls, places(program), nullptr);
         window->closed = [this] { heard.emplace_back("closed"); };
         bring_forward(*window);
         EXPECT_TRUE(QTest::qWaitForWindowActive(window));
