@@ -37,7 +37,8 @@ constexpr std::array windows = {
     WindowInfo{"BATCHNOTESDIALOG", {"Brewing Session Notes"}, from_documents(no_place, 26), 0},
     WindowInfo{"BATCHNATURALCARBDIALOG", {"Brewing Session - Natural Carbonation Calculator"}, no_places, 0},
     WindowInfo{"BATCHFORCEDCARBDIALOG", {"Brewing Session - Forced Carbonation Calculator"}, no_places, 0},
-    WindowInfo{"MASHENTRYDIALOG", {"Recipe Formulation - Simple Mash Schedule"}, from_documents(15, 34), 0},
+    WindowInfo{
+        "MASHENTRYDIALOG", {"Recipe Formulation - Simple Mash Schedule"}, from_documents(15, no_place), 0},
     WindowInfo{"MASHENTRYDIALOG1",
                {"Brewing Session - Simple Mash Schedule and Infusion Specifics"},
                from_documents(no_place, 34),

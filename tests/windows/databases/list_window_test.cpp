@@ -196,7 +196,7 @@ TEST(ListWindow, ShowsAtOnceWhatIsBookedElsewhere) {
     stocked.slots[0].stock = 4;
     SaveHops(desk.folder.path(), stocked);
     desk.notices.tell(Change::databases);
-    EXPECT_EQ(desk.list().model()->index(0, 4).data().toString(), "   4.00");
+    EXPECT_EQ(desk.list().model()->index(0, 4).data().toString(), " 113.40") << "grams";
 }
 
 TEST(ListWindow, ImportsWhatIsDropped) {

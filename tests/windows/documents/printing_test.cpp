@@ -59,7 +59,7 @@ TEST(SimpleMashPrint, TellsTheScheduleUnderWork) {
     const auto print = [&](const SimpleMashWork& planned) {
         desk.show(simple_mash_printout(live_document(program), program.color_table, planned));
     };
-    SimpleMashWindow window(work, settings,
+    SimpleMashWindow window(work, settings, MashSide::recipe,
                             {.mash_grain = nullptr,
                              .accepted = nullptr,
                              .save = nullptr,
