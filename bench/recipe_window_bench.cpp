@@ -1,10 +1,6 @@
 // The recipe window with 25 malts and 25 hops: what it takes to open, and from a keystroke until all figures
 // are painted anew.
-#include "base/ports/quiet_prompts.h"
-#include "desktop/picture_easel.h"
-#include "desktop/print_preview.h"
-#include "desktop/system_ports.h"
-#include "jpeg/jpeg_pictures.h"
+#include "measured_brewery.h"
 #include "paint_watch.h"
 #include "sample_document.h"
 #include "windows/documents/recipe_window.h"
@@ -23,24 +19,13 @@ constexpr int lines = 25;
 constexpr WindowInfo recipe_info = {"RECIPEDIALOG", {"Wortlex Recipe Formulation"}};
 
 // A program with a full recipe.
-struct Brewery {
-    SystemSettings image = WriteDefaultSettings();
-    Program program;
-    QuietPrompts prompts;
-    FileDialogs files;
-    SystemClipboard clipboard;
-    PictureEasel easel;
-    JpegPictures pictures;
-    PreviewDesk pages{files, prompts, places(program), program.folders, program.data_folder};
-
+struct Brewery : MeasuredBrewery {
     Brewery() {
-        program.settings = settings_from(image);
         program.data_folder = "/nonexistent/"; // the unsaved work of a measurement is not worth keeping
         program.document.recipe = sample_document(lines, program.settings);
         program.color_table = built_in_color_table();
         program.document.file.loaded_from_file = true;
     }
-    WindowPorts ports() { return {program, prompts, files, pages, clipboard, easel, pictures}; }
 };
 
 void press(QWidget& field, int key, const QString& text) {

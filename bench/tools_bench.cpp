@@ -1,13 +1,8 @@
 // The brewer's tools: the search for a reading that fits, what each takes to open, and from a keystroke until
 // its figures are painted anew.
-#include "base/ports/quiet_prompts.h"
 #include "brewing/refractometer.h"
-#include "desktop/picture_easel.h"
-#include "desktop/print_preview.h"
-#include "desktop/system_ports.h"
-#include "jpeg/jpeg_pictures.h"
+#include "measured_brewery.h"
 #include "paint_watch.h"
-#include "program/program.h"
 #include "windows/calculators/brewers_tools.h"
 
 #include <QKeyEvent>
@@ -18,21 +13,11 @@
 namespace wortlex {
 namespace {
 
-struct Brewery {
-    SystemSettings image = WriteDefaultSettings();
-    Program program;
-    QuietPrompts prompts;
-    FileDialogs files;
-    SystemClipboard clipboard;
-    PictureEasel easel;
-    JpegPictures pictures;
-    PreviewDesk pages{files, prompts, places(program), program.folders, program.data_folder};
-
+struct Brewery : MeasuredBrewery {
     Brewery() {
         image.sg_precision = 2; // every keystroke is to change the figure
         program.settings = settings_from(image);
     }
-    WindowPorts ports() { return {program, prompts, files, pages, clipboard, easel, pictures}; }
 };
 
 using Make = ToolWindow* (*)(const WindowPorts&, const WindowInfo&, QWidget*);
