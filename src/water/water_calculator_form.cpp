@@ -51,9 +51,8 @@ void balance_note(Rows& rows, const char* key, const char* water_words, const Wa
               [&water, water_words] {
                   const auto charges = charges_of(water);
                   return std::string(water_words) +
-                         formatted(" has %0.1f meq/l of cations and ", charges.cations) +
-                         formatted("%0.1f of anions. In a real water they are equal: this analysis is "
-                                   "incomplete, or put together from several.",
+                         formatted(" has %0.1f meq/l of cations but ", charges.cations) +
+                         formatted("%0.1f of anions: its analysis is rounded, incomplete or in error.",
                                    charges.anions);
               })
         .visible([&water] { return !charges_of(water).are_balanced(); });

@@ -78,7 +78,9 @@ QLayout* WaterCalculatorWindow::water_part() {
         grid->addWidget(widgets_.label(water + "_name"), line, 0);
         grid->addWidget(&widgets_.field(water + "_name"), line, 1);
         grid->addWidget(&widgets_.field("pick_" + water), line, 2);
-        grid->addWidget(&widgets_.field(water + "_balance"), line + 1, 0, 1, 6);
+        auto* const warning = qobject_cast<QLabel*>(&widgets_.field(water + "_balance"));
+        warning->setWordWrap(false); // it comes and goes, and makes room for itself
+        grid->addWidget(warning, line + 1, 0, 1, 6);
         line += 2;
     }
     grid->addWidget(widgets_.label("dilution_rate"), 2, 3, Qt::AlignRight | Qt::AlignVCenter);
