@@ -16,6 +16,7 @@ void time_sheet_form(Form& form, TimeSheet& sheet, TimeSheetActions actions) {
     list.named("Events").selection(sheet.selected).activated([&sheet] { sheet.comment(); }).changed([&sheet] {
         sheet.tick();
     });
+    list.when_empty("Start Timeline begins with the first event");
     list.hint("Enter puts a comment on the selected line, Delete takes it away");
     auto& watch = form.group();
     watch.button("start", "Sta&rt Timeline", [&sheet] { sheet.start(); })

@@ -25,16 +25,20 @@ std::int32_t moved_in(std::int32_t start, std::int32_t length, std::int32_t low,
     return std::clamp(start, low, std::max(low, high - length));
 }
 
+// A window's own height is without its title bar.
+int title_height(const QWidget& window) {
+    return window.style()->pixelMetric(QStyle::PM_TitleBarHeight);
+}
+
 // As large as it wants to be, up to the whole screen; the toolkit would stop at two thirds.
 QSize fitting_size(const QWidget& window) {
     auto size = window.sizeHint();
     const auto* const layout = window.layout();
     if (layout != nullptr && layout->hasHeightForWidth())
         size.setHeight(layout->totalHeightForWidth(size.width()));
-    const auto& style = *window.style();
-    const auto room =
-        window.screen()->availableSize() - QSize(0, style.pixelMetric(QStyle::PM_TitleBarHeight));
-    if (size.height() > room.height()) size += QSize(style.pixelMetric(QStyle::PM_ScrollBarExtent), 0);
+    const auto room = window.screen()->availableSize() - QSize(0, title_height(window));
+    if (size.height() > room.height())
+        size += QSize(window.style()->pixelMetric(QStyle::PM_ScrollBarExtent), 0);
     return size.boundedTo(room);
 }
 
@@ -115,7 +119,8 @@ bool WindowPlace::is_to_be_remembered(const QEvent& event) const {
 void WindowPlace::put() {
     if (std::exchange(is_put_, true)) return;
     if (!window_.testAttribute(Qt::WA_Resized)) window_.resize(fitting_size(window_));
-    const auto screens = screen_rectangles();
+    auto screens = screen_rectangles();
+    for (auto& screen : screens) screen.bottom -= title_height(window_);
     auto place = Rectangle{};
     if (slot_ != no_place && places_.settings.save_window_positions != 0)
         place = places_.positions.slots[static_cast<std::size_t>(slot_)];
@@ -126,6 +131,10 @@ void WindowPlace::put() {
         place = centred_over(origin, window_.width(), window_.height());
     }
     place = within_screens(place, screens);
+    // What was smaller than the window can be would grow beyond the edge.
+    const auto size =
+        QSize(place.right - place.left, place.bottom - place.top).expandedTo(window_.minimumSizeHint());
+    place = within_screens(rectangle_at(place.left, place.top, size.width(), size.height()), screens);
     window_.resize(place.right - place.left, place.bottom - place.top);
     window_.move(place.left, place.top);
 }

@@ -28,6 +28,11 @@ Scrolled::Scrolled(QWidget& part, QWidget* parent) : QScrollArea(parent) {
     });
 }
 
+QSize Scrolled::minimumSizeHint() const {
+    constexpr QSize rest_of_window(40, 150); // title bar, menu, buttons
+    return widget()->minimumSizeHint().boundedTo(screen()->availableSize() - rest_of_window);
+}
+
 bool Scrolled::hasHeightForWidth() const {
     return widget() != nullptr && widget()->layout()->hasHeightForWidth();
 }

@@ -13,6 +13,8 @@ public:
     Scrolled(QWidget& part, QWidget* parent);
     Scrolled(QLayout* part, QWidget* parent);
     QSize sizeHint() const override { return widget()->sizeHint(); }
+    /// Of the part, as far as a screen has room for it.
+    QSize minimumSizeHint() const override;
     bool hasHeightForWidth() const override;
     int heightForWidth(int width) const override { return widget()->heightForWidth(width); }
 };
