@@ -69,7 +69,7 @@ void boil_off_form(Form& form, BoilOffCalculator& calculator, const Settings& se
     method_rows(form, calculator, settle);
     boil_rows(form, calculator, settings, actions.correct, settle);
     rate_rows(form, calculator, settings, settle);
-    state_buttons(form, std::move(actions));
+    state_buttons(form, std::move(actions), [&calculator] { return boil_off_bytes(calculator); });
 }
 
 PrintRequest boil_off_printout(const BoilOffCalculator& calculator, const Settings& settings) {

@@ -22,7 +22,7 @@ void dilution_form(Form& form, DilutionCalculator& calculator, const Settings& s
     wort.shown_volume("blended", "Total Volume", [&calculator] { return blended_volume(calculator); });
     wort.shown_gravity("blended",
                        "SG After Dilution:", [&calculator] { return blended_gravity(calculator); });
-    state_buttons(form, std::move(actions));
+    state_buttons(form, std::move(actions), [&calculator] { return dilution_bytes(calculator); });
 }
 
 PrintRequest dilution_printout(const DilutionCalculator& calculator, const Settings& settings) {

@@ -27,14 +27,18 @@ void tool_buttons(Rows& rows, ToolActions actions) {
     rows.button("help", "Help", std::move(actions.help));
 }
 
-void state_buttons(Form& form, StateActions actions) {
+void state_buttons(Form& form, StateActions actions, std::function<Bytes()> present) {
     auto& rows = form.group();
-    const auto is_saved = std::make_shared<bool>(false);
-    rows.note("saved", [is_saved] { return *is_saved ? "The present values are the defaults now." : ""; });
+    const auto saved = std::make_shared<std::optional<Bytes>>();
+    rows.note("saved", [saved, present] {
+        return *saved == present() ? "The present values are the defaults now." : "";
+    });
     std::function<void()> save;
-    if (actions.save) save = [is_saved, save = std::move(actions.save)] { *is_saved = save(); };
+    if (actions.save)
+        save = [saved, present = std::move(present), save = std::move(actions.save)] {
+            if (save()) *saved = present();
+        };
     rows.button("save", "&Save As Default", std::move(save));
-    form.after_edit([is_saved](Row&) { *is_saved = false; });
     tool_buttons(rows, std::move(actions.page));
 }
 

@@ -2,6 +2,7 @@
 // field.
 #pragma once
 
+#include "base/bytes.h"
 #include "forms/form.h"
 #include "measures/twins.h"
 
@@ -27,8 +28,8 @@ struct StateActions {
 
 /// The buttons of these, below all groups.
 void tool_buttons(Rows& rows, ToolActions actions);
-/// The same behind "Save As Default", which says that it was done until something changes.
-void state_buttons(Form& form, StateActions actions);
+/// The same behind "Save As Default", which says that it was done as long as `present` stays what was saved.
+void state_buttons(Form& form, StateActions actions, std::function<Bytes()> present);
 
 /// The units in which the calculators show gallons and litres: barrels and hectolitres in a brewery.
 struct VolumeWords {
