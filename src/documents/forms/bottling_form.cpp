@@ -50,7 +50,7 @@ void whole_rows(Rows& rows, BottlingLog& log, const Settings& settings, const Bo
         .label("Desired Carbonation Level");
     rows.number("co2_volumes", log.co2_volumes).label("&CO2 Vol").range(0.0F, 10.0F).step(0.1F);
     degrees_row(rows, "ferment_temperature", log.ferment_temperature, settings)
-        .label("&Temp During Fermentation")
+        .label("Temp D&uring Fermentation")
         .unit([&settings] { return degrees_word(settings); });
 }
 

@@ -6,7 +6,7 @@
 #include "measures/units.h"
 #include "records/documents/document_files.h"
 
-#include <utility>
+#include <algorithm>
 
 namespace wortlex {
 namespace {
@@ -28,23 +28,6 @@ EfficiencyFigures recorded_figures(const OpenDocument& open) {
     return recorded_efficiency(open.document, *open.session, open.settings);
 }
 
-// The figures that follow from the recording, each worked out as it is shown.
-class Answers {
-public:
-    Answers(Rows& rows, const OpenDocument& open) : rows_(rows), open_(open) {}
-
-    template <class Read>
-    ShownRow& points(const char* key, Read read) {
-        return rows_.shown_plato(
-            key, [&open = open_, read] { return narrow(read(recorded_figures(open), open.document)); },
-            open_.settings);
-    }
-
-private:
-    Rows& rows_;
-    const OpenDocument& open_;
-};
-
 void answer_rows(Rows& rows, const OpenDocument& open) {
     rows.shown_number(
             "actual_efficiency", [&open] { return narrow(recorded_figures(open).efficiency * 100.0); },
@@ -60,31 +43,41 @@ void answer_rows(Rows& rows, const OpenDocument& open) {
 
 using Kettle = std::function<PreBoil()>;
 
+// The wort aimed at, in one kettle, below words in two lines.
+void target_column(Rows& rows, const std::string& key, const std::string& head, const Kettle& kettle,
+                   const Settings& settings) {
+    const auto sg = [kettle] { return sg_from_points(kettle().points); };
+    auto words = head;
+    std::replace(words.begin(), words.end(), '\n', ' ');
+    rows.note(key + "_head", head);
+    rows.shown_number(
+            key + "_volume", [kettle, &settings] { return to_shown_volume(kettle().volume, settings); },
+            "%0.2f")
+        .named(words + " Target Volume");
+    rows.shown_sg(key + "_sg", sg, settings).named(words + " Estimated OG");
+    rows.shown_plato(
+            key + "_plato", [sg] { return sg_to_plato(sg()); }, settings)
+        .named(words + " Plato");
+}
+
 void target_rows(Rows& rows, const OpenDocument& open) {
     const auto& settings = open.settings;
-    const std::array<std::pair<const char*, Kettle>, 3> kettles = {
-        {{"water",
-          [&open] { return water_pre_boil(open.document, open.session->water_needs, open.settings); }},
-         {"raw",
-          [&open] {
-              return raw_pre_boil(open.document, open.session->water_needs.evaporation_rate, open.settings);
-          }},
-         {"post", [&open] { return end_of_boil(open.document, open.settings); }}}};
-    auto& grid = rows.grid("targets",
-                           {"Water Needed Pre-Boil Targets:", "Raw Pre-Boil Targets:", "Post-Boil Targets:"});
-    auto& volumes = grid.line([&settings] { return volume_label("Target Volume", settings); });
-    auto& gravities = grid.line("Estimated OG:");
-    auto& platos = grid.line("Plato:");
-    for (const auto& [name, kettle] : kettles) {
-        const std::string key = name;
-        const auto sg = [kettle = kettle] { return sg_from_points(kettle().points); };
-        volumes.shown_number(
-            key + "_volume",
-            [kettle = kettle, &settings] { return to_shown_volume(kettle().volume, settings); }, "%0.2f");
-        gravities.shown_sg(key + "_sg", sg, settings);
-        platos.shown_plato(
-            key + "_plato", [sg] { return sg_to_plato(sg()); }, settings);
-    }
+    rows.note("volume_word", [&settings] { return volume_label("Target Volume", settings); });
+    rows.note("sg_word", "Estimated OG:");
+    rows.note("plato_word", "Plato:");
+    target_column(
+        rows, "water", "Water Needed\nPre-Boil Targets:",
+        [&open] { return water_pre_boil(open.document, open.session->water_needs, open.settings); },
+        settings);
+    target_column(
+        rows, "raw", "Raw\nPre-Boil Targets:",
+        [&open] {
+            return raw_pre_boil(open.document, open.session->water_needs.evaporation_rate, open.settings);
+        },
+        settings);
+    target_column(
+        rows, "post", "Post-Boil\nTargets:", [&open] { return end_of_boil(open.document, open.settings); },
+        settings);
 }
 
 void volume_rows(Rows& rows, const OpenDocument& open) {
@@ -110,8 +103,7 @@ void recording_rows(Rows& rows, RecipeEditor& editor, const EfficiencyActions& a
     const auto& open = editor.open;
     auto& tail = open.session->tail;
     rows.choice("measured_in_fermenter", tail.measured_in_fermenter,
-                {"Measurement Taken in &Kettle", "Measurement Taken In &Fermenter"})
-        .look(ChoiceRow::Look::down);
+                {"Measurement Taken in &Kettle", "Measurement Taken In &Fermenter"});
     rows.note("where_note", [&tail] { return tail.measured_in_fermenter != 0 ? in_fermenter : in_kettle; });
     volume_rows(rows, open);
     const auto gravity = gravity_fields(rows, "recorded_og", "Recorded O&G:", tail.recorded_og,
@@ -124,20 +116,34 @@ void recording_rows(Rows& rows, RecipeEditor& editor, const EfficiencyActions& a
                    actions.refractometer, tell);
 }
 
+// Points of one kind: the most there are, and those aimed at.
+void point_column(Rows& rows, const std::string& key, const std::string& words, const OpenDocument& open,
+                  float EfficiencyFigures::*part,
+                  const std::function<double(const EfficiencyFigures&)>& aim) {
+    rows.note(key + "_head", words);
+    rows.shown_plato(
+            key + "_most", [&open, part] { return recorded_figures(open).*part; }, open.settings)
+        .named(words + " at 100%");
+    rows.shown_plato(
+            key + "_aimed", [&open, aim] { return narrow(aim(recorded_figures(open))); }, open.settings)
+        .named(words + " with the recipe efficiency");
+}
+
 void point_rows(Rows& rows, const OpenDocument& open) {
-    auto& grid = rows.grid("points", {"Total Points", "Points from Mash", "Points From Extract/Sugar"});
-    Answers most(grid.line("At 100% extraction from the maximum mash potential:"), open);
-    most.points("total_points", [](const auto& f, const auto&) { return double{f.total_points}; });
-    most.points("mash_points", [](const auto& f, const auto&) { return double{f.mash_points}; });
-    most.points("extract_points", [](const auto& f, const auto&) { return double{f.extract_points}; });
-    Answers aimed(grid.line("With the recipe efficiency setting, you should have achieved:"), open);
-    const auto from_mash = [](const auto& f, const auto& d) { return double{f.mash_points} * d.efficiency; };
-    aimed.points("aimed_total",
-                 [from_mash](const auto& f, const auto& d) { return from_mash(f, d) + f.extract_points; });
-    aimed.points("aimed_mash", from_mash);
-    aimed.points("aimed_extract", [](const auto& f, const auto&) { return double{f.extract_points}; });
-    Answers(rows, open)
-        .points("actual_mash_points", [](const auto& f, const auto&) { return double{f.actual_mash_points}; })
+    using Figures = EfficiencyFigures;
+    const auto mash = [&document = open.document](const Figures& figures) {
+        return double{figures.mash_points} * document.efficiency;
+    };
+    rows.note("most_word", "At 100% extraction from the maximum mash potential:");
+    rows.note("aimed_word", "With the recipe efficiency setting, you should have achieved:");
+    point_column(rows, "total", "Total Points", open, &Figures::total_points,
+                 [mash](const Figures& figures) { return mash(figures) + figures.extract_points; });
+    point_column(rows, "mash", "Points from Mash", open, &Figures::mash_points, mash);
+    point_column(rows, "extract", "Points From Extract/Sugar", open, &Figures::extract_points,
+                 [](const Figures& figures) { return double{figures.extract_points}; });
+    rows.shown_plato(
+            "actual_mash_points", [&open] { return recorded_figures(open).actual_mash_points; },
+            open.settings)
         .label("Actual Points From Mash:");
 }
 
@@ -160,9 +166,9 @@ void efficiency_form(Form& form, RecipeEditor& editor, const EfficiencyActions& 
                            &SessionTail::measured_in_fermenter, &SessionTail::recorded_og_reading);
     repair_recording(*open.session, open.document);
     answer_rows(form.group(), open);
-    target_rows(form.group("Targets"), open);
-    recording_rows(form.group("Recorded"), editor, actions);
-    point_rows(form.group("Points"), open);
+    target_rows(form.group(), open);
+    recording_rows(form.group(), editor, actions);
+    point_rows(form.group(), open);
     form.group().button("print", "&Print", actions.print);
     enable_with_mash(form, open.document);
 }

@@ -6,6 +6,13 @@
 
 namespace wortlex {
 
+/// The two tables of the page. A cell has the key COLUMN_LINE, the words of a column COLUMN_head, those of a
+/// line LINE_word.
+inline constexpr std::array target_columns = {"water", "raw", "post"};
+inline constexpr std::array target_lines = {"volume", "sg", "plato"};
+inline constexpr std::array point_columns = {"total", "mash", "extract"};
+inline constexpr std::array point_lines = {"most", "aimed"};
+
 /// An empty one is disabled.
 struct EfficiencyActions {
     MeasureGravity hydrometer, refractometer; ///< the latter keeps its reading in the session

@@ -18,13 +18,15 @@ void pitching_rows(Rows& rows, FermentationLog& log) {
                 code(PitchedFrom::pitchable_flask), code(PitchedFrom::starter), code(PitchedFrom::slurry)})
         .look(ChoiceRow::Look::down)
         .label("Pitched From:");
-    rows.number("lag_hours", log.lag_hours)
-        .label("&Lag Time: (hours)")
+    auto& grid = rows.grid("pitching", {});
+    grid.line("&Lag Time: (hours)")
+        .number("lag_hours", log.lag_hours)
         .range(1.0F, 1000.0F)
         .step(1.0F)
         .format("%0.1f");
-    rows.integer("amount_pitched", log.amount_pitched).label("Amount Pitc&hed:").range(1, 100000).step(10);
-    rows.choice("amount_unit", log.amount_unit, {"mL", "LTR", "GR", "OZ", "LBS", "QTS"})
+    auto& amount = grid.line("Amount Pitc&hed:");
+    amount.integer("amount_pitched", log.amount_pitched).range(1, 100000).step(10);
+    amount.choice("amount_unit", log.amount_unit, {"mL", "LTR", "GR", "OZ", "LBS", "QTS"})
         .named("Unit of the amount pitched")
         .look(ChoiceRow::Look::drop_down);
 }
@@ -42,19 +44,18 @@ struct Fermenter {
 };
 
 // Stored in degrees F whatever the box beside it says.
-void temperature_rows(Rows& rows, FermentationLog& log, const Fermenter& fermenter) {
+void temperature_line(Rows& line, FermentationLog& log, const Fermenter& fermenter) {
     const auto units = [&box = log.*fermenter.box] {
         return box == DegreeBox::celsius ? TemperatureUnits::celsius : TemperatureUnits::fahrenheit;
     };
     const auto limit = [units, hottest = fermenter.hottest] { return shown_degrees(hottest, units()); };
     auto& degrees = log.*fermenter.temperature;
-    rows.integer(fermenter.key + "_temperature",
+    line.integer(fermenter.key + "_temperature",
                  {[&degrees, units] { return shown_degrees(degrees, units()); },
                   [&degrees, units](std::int32_t typed) { degrees = stored_degrees(typed, units()); }})
-        .label(fermenter.temperature_label)
         .typed(1, limit)
         .spun(0, limit, 1);
-    rows.choice(fermenter.key + "_temperature_unit", log.*fermenter.box, {"Farenheit", "Celsius"})
+    line.choice(fermenter.key + "_temperature_unit", log.*fermenter.box, {"Farenheit", "Celsius"})
         .named("Degrees of the temperature")
         .look(ChoiceRow::Look::drop_down);
 }
@@ -64,11 +65,12 @@ void fermenter_rows(Rows& rows, FermentationLog& log, const Fermenter& fermenter
                 {"Glass", "Stainless Steel", "Plastic", "Wood", "Other"});
     rows.choice(fermenter.key + "_open", log.*fermenter.is_open, {"Closed", "Open"})
         .named(fermenter.closed_word);
-    rows.integer(fermenter.key + "_days", log.*fermenter.days)
-        .label(fermenter.days_label)
+    auto& grid = rows.grid(fermenter.key + "_stay", {});
+    grid.line(fermenter.days_label)
+        .integer(fermenter.key + "_days", log.*fermenter.days)
         .range(0, 360)
         .step(1);
-    temperature_rows(rows, log, fermenter);
+    temperature_line(grid.line(fermenter.temperature_label), log, fermenter);
 }
 
 void fermenter_groups(Form& form, FermentationLog& log) {
@@ -106,24 +108,29 @@ void gravity_rows(Rows& rows, RecipeEditor& editor, const FermentationActions& a
     };
     line_of("actual_og", "&OG", "OG", session.actual_og, actions.og_refractometer);
     line_of("actual_fg", "&FG", "FG", session.actual_fg, actions.fg_refractometer);
-    rows.choice("fg_by_refractometer", session.tail.fg_by_refractometer, {"&By OG/FG", "By Refra&ct"})
+    auto& way = rows.grid("way", {}).line("");
+    way.choice("fg_by_refractometer", session.tail.fg_by_refractometer, {"&By OG/FG", "By Refra&ct"})
         .named("Alcohol and attenuation");
-    rows.button("alcohol_refractometer", "Refractometer", actions.alcohol_refractometer)
+    way.button("alcohol_refractometer", "Refractometer", actions.alcohol_refractometer)
         .named("Refractometer, By Refract")
         .hint("The reading from which alcohol and attenuation follow \"By Refract\"");
 }
 
 void result_rows(Rows& rows, const OpenDocument& open) {
-    const auto figure = [&](const char* key, const char* label, float FermentationFigures::*part) {
-        rows.shown_number(
-                key, [&open, part] { return update_attenuation(*open.session, open.settings).*part; },
-                "%0.2f")
-            .label(label);
+    auto& grid = rows.grid("results", {});
+    const auto figure = [&open](Rows& line, const char* key, float FermentationFigures::*part) -> ShownRow& {
+        return line.shown_number(
+            key, [&open, part] { return update_attenuation(*open.session, open.settings).*part; }, "%0.2f");
     };
-    figure("alcohol_by_weight", "% Alcohol by Weight", &FermentationFigures::alcohol_by_weight);
-    figure("alcohol_by_volume", "% Alcohol by Volume", &FermentationFigures::alcohol_by_volume);
-    figure("adf", "% ADF", &FermentationFigures::apparent_attenuation);
-    figure("rdf", "% RDF", &FermentationFigures::real_attenuation);
+    auto& alcohol = grid.line("% Alcohol by Weight");
+    figure(alcohol, "alcohol_by_weight", &FermentationFigures::alcohol_by_weight);
+    alcohol.note("volume_word", "% Alcohol by Volume");
+    figure(alcohol, "alcohol_by_volume", &FermentationFigures::alcohol_by_volume)
+        .named("% Alcohol by Volume");
+    auto& attenuation = grid.line("% ADF");
+    figure(attenuation, "adf", &FermentationFigures::apparent_attenuation);
+    attenuation.note("rdf_word", "% RDF");
+    figure(attenuation, "rdf", &FermentationFigures::real_attenuation).named("% RDF");
 }
 
 } // namespace

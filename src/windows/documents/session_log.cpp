@@ -11,9 +11,7 @@
 #include "program/program.h"
 #include "windows/calculators/carbonation_dialogs.h"
 #include "windows/calculators/gravity_dialogs.h"
-#include "windows/documents/bottling_table.h"
-
-#include <QGridLayout>
+#include "windows/documents/session_log_layout.h"
 
 namespace wortlex {
 namespace {
@@ -83,31 +81,17 @@ BottlingActions bottling_actions(const Bench& bench) {
                 }};
 }
 
-// Two texts above two, each below its title.
-QLayout* arrange_notes(const FormWidgets& widgets) {
-    auto* const grid = new QGridLayout;
-    int place = 0;
-    for (const auto* const key : {"mash_notes", "fermentation_notes", "tasting_notes", "problems"}) {
-        auto& text = widgets.field(key);
-        text.setMinimumHeight(text.fontMetrics().lineSpacing() * 7);
-        const int row = place / 2 * 2, column = place % 2;
-        grid->addWidget(widgets.label(key), row, column);
-        grid->addWidget(&text, row + 1, column);
-        grid->setRowStretch(row + 1, 1);
-        ++place;
-    }
-    return grid;
-}
-
 } // namespace
 
 RecipePageUse efficiency_page(RecipeEditor& editor, const WindowPorts& ports) {
     return {.template_name = "BATCHEFFDIALOG",
             .step = "Efficiency",
             .opener = Opener::session,
-            .fill = [&editor, ports](Form& form, QWidget* page) {
-                efficiency_form(form, editor, efficiency_actions({ports, page, editor.open}));
-            }};
+            .fill =
+                [&editor, ports](Form& form, QWidget* page) {
+                    efficiency_form(form, editor, efficiency_actions({ports, page, editor.open}));
+                },
+            .arrange = arrange_efficiency};
 }
 
 RecipePageUse fermentation_page(RecipeEditor& editor, const WindowPorts& ports) {

@@ -64,8 +64,8 @@ TEST(EfficiencyPage, PutsTheTargetsBesideWhatWasMeasured) {
     page.type("recorded_volume", "5.25");
     page.type("recorded_og", "1.045");
     EXPECT_EQ(page.shown_all({"losses", "total_volume", "recorded_og_plato"}), "0.00|5.25|11.19");
-    EXPECT_EQ(page.shown_all({"total_points", "mash_points", "extract_points"}), "73.94|73.94|0.00");
-    EXPECT_EQ(page.shown_all({"aimed_total", "aimed_mash", "aimed_extract"}), "55.45|55.45|0.00") << "75 %";
+    EXPECT_EQ(page.shown_all({"total_most", "mash_most", "extract_most"}), "73.94|73.94|0.00");
+    EXPECT_EQ(page.shown_all({"total_aimed", "mash_aimed", "extract_aimed"}), "55.45|55.45|0.00") << "75 %";
     EXPECT_EQ(page.shown_all({"actual_mash_points", "actual_efficiency", "recipe_efficiency"}),
               "47.25|64|75");
 
