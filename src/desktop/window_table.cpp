@@ -35,6 +35,7 @@ constexpr std::array windows = {
     WindowInfo{
         "BATCHBOTTLINGINFO", {"Brewing Session - Bottling and Kegging"}, from_documents(no_place, 25), 0},
     WindowInfo{"BATCHNOTESDIALOG", {"Brewing Session Notes"}, from_documents(no_place, 26), 0},
+    WindowInfo{"USERBOTTLEDATEDIALOG", {"Bottling/Kegging Date"}, from_documents(no_place, 87), 0},
     WindowInfo{"BATCHNATURALCARBDIALOG", {"Brewing Session - Natural Carbonation Calculator"}, no_places, 0},
     WindowInfo{"BATCHFORCEDCARBDIALOG", {"Brewing Session - Forced Carbonation Calculator"}, no_places, 0},
     WindowInfo{

@@ -6,7 +6,10 @@
 
 #include <QCalendarWidget>
 #include <QDialog>
+#include <QDialogButtonBox>
 #include <QPushButton>
+
+#include <functional>
 
 namespace wortlex {
 
@@ -16,6 +19,10 @@ public:
     DateDialog(std::string_view template_name, const CalendarDate& date, const Places& places,
                QWidget* owner);
     CalendarDate date() const;
+    void set_date(const CalendarDate& date);
+    /// A button more, beside the one that grows.
+    void add_button(const QString& key, const QString& caption, const QString& meaning,
+                    const std::function<void()>& press);
     void setVisible(bool visible) override;
 
 private:
@@ -29,6 +36,7 @@ private:
     QCalendarWidget* first_;
     QCalendarWidget* second_;
     QPushButton* grow_;
+    QDialogButtonBox* buttons_;
     WindowPlace& place_;
     bool is_following_ = false;
 };

@@ -4,7 +4,6 @@
 #include "program/program.h"
 #include "windows/calculators/date_dialog.h"
 
-#include <QDialogButtonBox>
 #include <QGridLayout>
 
 namespace wortlex {
@@ -13,6 +12,7 @@ DateDialog::DateDialog(std::string_view template_name, const CalendarDate& date,
                        QWidget* owner)
     : QDialog(owner), first_(new QCalendarWidget(this)), second_(new QCalendarWidget(this)),
       grow_(new QPushButton(this)),
+      buttons_(new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this)),
       place_(dress_window(*this, window_info(template_name), 0, Opener::session, owner, places)) {
     setWindowModality(Qt::WindowModal);
     make_calendar(*first_, QStringLiteral("date"), QStringLiteral("Date"));
@@ -22,23 +22,22 @@ DateDialog::DateDialog(std::string_view template_name, const CalendarDate& date,
     connect(first_, &QCalendarWidget::currentPageChanged, this, [this] { follow_first(); });
     connect(second_, &QCalendarWidget::selectionChanged, this, [this] { follow_second(); });
     connect(second_, &QCalendarWidget::currentPageChanged, this, [this] { follow_second(); });
-    first_->setSelectedDate(QDate(date.year, date.month, date.day));
+    set_date(date);
     follow_first();
 
     auto* const grid = new QGridLayout(this);
     grid->addWidget(first_, 0, 0);
     grid->addWidget(second_, 0, 1);
-    auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
-    set_tips(*buttons, true);
+    set_tips(*buttons_, true);
     grow_->setObjectName(QStringLiteral("grow"));
     grow_->setAutoDefault(false);
-    buttons->addButton(grow_, QDialogButtonBox::ActionRole);
-    grid->addWidget(buttons, 1, 0, 1, 2);
+    buttons_->addButton(grow_, QDialogButtonBox::ActionRole);
+    grid->addWidget(buttons_, 1, 0, 1, 2);
     grid->setSizeConstraint(QLayout::SetFixedSize); // so that it shrinks with its months
     show_size();
     connect(grow_, &QPushButton::clicked, this, [this] { grow_or_shrink(); });
-    connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
-    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    connect(buttons_, &QDialogButtonBox::accepted, this, &QDialog::accept);
+    connect(buttons_, &QDialogButtonBox::rejected, this, &QDialog::reject);
     first_->setFocus();
 }
 
@@ -50,6 +49,19 @@ void DateDialog::setVisible(bool visible) {
 CalendarDate DateDialog::date() const {
     const auto chosen = first_->selectedDate();
     return {chosen.day(), chosen.month(), chosen.year()};
+}
+
+void DateDialog::set_date(const CalendarDate& date) {
+    first_->setSelectedDate(QDate(date.year, date.month, date.day));
+}
+
+void DateDialog::add_button(const QString& key, const QString& caption, const QString& meaning,
+                            const std::function<void()>& press) {
+    auto* const button = buttons_->addButton(caption, QDialogButtonBox::ActionRole);
+    button->setObjectName(key);
+    button->setAutoDefault(false);
+    set_tip(*button, meaning);
+    connect(button, &QPushButton::clicked, this, press);
 }
 
 void DateDialog::make_calendar(QCalendarWidget& calendar, const QString& key, const QString& name) {
@@ -90,6 +102,18 @@ void DateDialog::show_size() {
 std::optional<CalendarDate> pick_brewing_date(const WindowPorts& ports, QWidget* owner,
                                               const CalendarDate& date) {
     DateDialog dialog("USERDATEDIALOG", date, places(ports.program), owner);
+    if (dialog.exec() != QDialog::Accepted) return std::nullopt;
+    return dialog.date();
+}
+
+std::optional<CalendarDate> pick_bottling_date(const WindowPorts& ports, QWidget* owner,
+                                               const CalendarDate& date,
+                                               const std::function<std::optional<CalendarDate>()>& work_out) {
+    DateDialog dialog("USERBOTTLEDATEDIALOG", date, places(ports.program), owner);
+    dialog.add_button(QStringLiteral("auto"), QStringLiteral("&Auto"),
+                      QStringLiteral("The brewing date and the days in both fermenters"), [&] {
+                          if (const auto ready = work_out()) dialog.set_date(*ready);
+                      });
     if (dialog.exec() != QDialog::Accepted) return std::nullopt;
     return dialog.date();
 }

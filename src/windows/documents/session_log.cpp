@@ -10,6 +10,7 @@
 #include "measures/gravity.h"
 #include "program/program.h"
 #include "windows/calculators/carbonation_dialogs.h"
+#include "windows/calculators/date_dialogs.h"
 #include "windows/calculators/gravity_dialogs.h"
 #include "windows/documents/session_log_layout.h"
 
@@ -68,9 +69,28 @@ FermentationActions fermentation_actions(const Bench& bench, RecipeEditor& edito
             .alcohol_refractometer = alcohol};
 }
 
-BottlingActions bottling_actions(const Bench& bench) {
+// A day that exists; why there is none is told.
+std::optional<CalendarDate> bottling_day_of(const Bench& bench) {
+    const auto ready = fermented_until(*bench.open.session);
+    if (ready) return existing_day(*ready);
+    bench.ports.prompts.tell({.text = no_fermentation_days, .icon = Icon::information});
+    return std::nullopt;
+}
+
+// A log without a date begins with the brewing day.
+void pick_bottling_day(const Bench& bench, RecipeEditor& editor) {
+    auto& session = *bench.open.session;
+    auto& log = session.bottling;
+    const auto start = existing_day(log.bottling_day != 0 ? bottling_date(log) : brew_date(session));
+    if (const auto day =
+            pick_bottling_date(bench.ports, bench.page, start, [&] { return bottling_day_of(bench); }))
+        set_bottling_date(log, *day);
+    tell_change(editor);
+}
+
+BottlingActions bottling_actions(const Bench& bench, RecipeEditor& editor) {
     const auto& log = bench.open.session->bottling;
-    return {.pick_date = nullptr,
+    return {.pick_date = [bench, &editor] { pick_bottling_day(bench, editor); },
             .natural =
                 [bench, &log](std::size_t column) {
                     return ask_priming(bench.ports, bench.page, carbonation_of(log, column));
@@ -109,7 +129,7 @@ RecipePageUse bottling_page(RecipeEditor& editor, const WindowPorts& ports) {
             .opener = Opener::session,
             .fill =
                 [&editor, ports](Form& form, QWidget* page) {
-                    bottling_form(form, editor, bottling_actions({ports, page, editor.open}));
+                    bottling_form(form, editor, bottling_actions({ports, page, editor.open}, editor));
                 },
             .arrange = arrange_bottling};
 }

@@ -19,9 +19,9 @@ QLayout* line_of(std::initializer_list<QWidget*> widgets) {
 }
 
 // The words before a line or above a column, in one piece.
-QWidget* words_of(const FormWidgets& widgets, const std::string& key) {
-    auto& words = widgets.field(key);
-    if (auto* const label = qobject_cast<QLabel*>(&words)) label->setWordWrap(false);
+QLabel* words_of(const FormWidgets& widgets, const std::string& key) {
+    auto& words = dynamic_cast<QLabel&>(widgets.field(key));
+    words.setWordWrap(false);
     return &words;
 }
 
@@ -30,8 +30,11 @@ template <class Columns, class Lines>
 QGridLayout* figure_table(const FormWidgets& widgets, const Columns& columns, const Lines& keys) {
     auto* const grid = new QGridLayout;
     int column = 1;
-    for (const std::string of : columns)
-        grid->addWidget(words_of(widgets, of + "_head"), 0, column++, Qt::AlignHCenter);
+    for (const std::string of : columns) {
+        auto* const head = words_of(widgets, of + "_head");
+        head->setAlignment(Qt::AlignCenter);
+        grid->addWidget(head, 0, column++, Qt::AlignHCenter);
+    }
     for (const std::string key : keys) {
         const int row = grid->rowCount();
         grid->addWidget(words_of(widgets, key + "_word"), row, 0);
