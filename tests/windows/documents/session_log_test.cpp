@@ -1,0 +1,164 @@
+#include "documents/opening.h"
+#include "documents/work/session_editor.h"
+#include "support/qt_keys.h"
+#include "support/started_brewery.h"
+#include "windows/documents/line_dialogs.h"
+#include "windows/documents/session_log.h"
+
+#include <QCalendarWidget>
+#include <QDialog>
+#include <QDialogButtonBox>
+#include <QPushButton>
+#include <QTimer>
+
+namespace wortlex {
+namespace {
+
+// Five gallons of ten pounds that hold 80 %, at 75 %: 46.21 x 0.8 x 0.75 x 2 are 55.45 points.
+struct Brewhouse : Brewery {
+    RecipeEditor editor;
+    SessionDocument& session;
+
+    Brewhouse() : editor{live_document(program), {}, {}}, session(program.document.session) {
+        auto& settings = program.settings;
+        settings.volume_units = settings.weight_units = Units::american;
+        settings.temperature_units = TemperatureUnits::fahrenheit;
+        settings.wort_equals_batch = 1;
+        settings.cooling_shrink = 0.04F;
+        settings.grain_absorption = 0.2F;
+        new_session(program, {25, 1, 2001});
+        editor.open.session = &session;
+        editor.open.water = &program.document.water;
+        editor.notices = &program.notices;
+        start_editing(editor, {});
+        auto recipe = new_document(settings, ScheduleKind::simple);
+        recipe.batch_size = recipe.wort_size = 5;
+        recipe.efficiency = 0.75F;
+        recipe.malts.resize(1);
+        recipe.malts[0].record.malt_type = MaltType::grain;
+        recipe.malts[0].record.potential = 1.036968F;
+        recipe.malts[0].amount = 10;
+        recipe.simple_mash.dough_in_water = 12;
+        pick_recipe(editor, recipe);
+        session.water_needs.sparge = 4;
+        session.water_needs.evaporation_rate = 10;
+    }
+    std::unique_ptr<RecipePage> open(RecipePageUse use) {
+        auto page = std::make_unique<RecipePage>(editor, std::move(use), places(program), nullptr);
+        page->setAttribute(Qt::WA_DeleteOnClose, false);
+        page->show();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(page.get()));
+        return page;
+    }
+};
+
+QString text_of(const QWidget& page, const char* key) {
+    return line_of(*page.findChild<QWidget*>(QString::fromLatin1(key)))->text();
+}
+
+void type_into(const QWidget& page, const char* key, const char* text) {
+    type_over(*line_of(*page.findChild<QWidget*>(QString::fromLatin1(key))), text);
+}
+
+// Presses a button of a page, and answers the dialog that it opens.
+void press_and_answer(const QWidget& page, const char* key, const std::function<void(QDialog&)>& answer) {
+    QTimer user;
+    QObject::connect(&user, &QTimer::timeout, &page, [&] {
+        auto* const dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+        if (dialog == nullptr) return;
+        user.stop();
+        answer(*dialog);
+    });
+    user.start(1);
+    page.findChild<QPushButton*>(QString::fromLatin1(key))->click();
+}
+
+TEST(SessionLog, EveryChangeReachesEveryPage) {
+    Brewhouse b;
+    const auto efficiency = b.open(efficiency_page(b.editor, b.ports()));
+    const auto fermentation = b.open(fermentation_page(b.editor, b.ports()));
+    const auto bottling = b.open(bottling_page(b.editor, b.ports()));
+    // 4 sparged and 3 from the mash, of which the grain keeps 2.
+    EXPECT_EQ(text_of(*efficiency, "water_volume"), "5.00");
+    auto mash = b.program.document.recipe.simple_mash;
+    mash.dough_in_water = 16;
+    set_simple_mash(b.editor, mash);
+    EXPECT_EQ(text_of(*efficiency, "water_volume"), "6.00") << "a gallon more in the mash";
+
+    edit(b.editor, "Water", [&] { b.session.water_needs.evaporation_rate = 20; });
+    EXPECT_EQ(text_of(*efficiency, "raw_volume"), "6.25") << "5 / 0.8";
+    edit(b.editor, "Water", [&] { b.session.water_needs.hopback = 1; });
+    edit(b.editor, "Where", [&] { b.session.tail.measured_in_fermenter = 1; });
+    EXPECT_EQ(text_of(*efficiency, "losses"), "0.96");
+
+    edit(b.editor, "Gravity", [&] { b.session.actual_fg = 1.02F; });
+    EXPECT_EQ(text_of(*fermentation, "actual_fg"), "1.020");
+    const auto by_hydrometer = text_of(*fermentation, "alcohol_by_weight");
+    edit(b.editor, "Reading", [&] {
+        b.session.tail.fg_by_refractometer = 1;
+        b.session.tail.alcohol_reading = {2, 12, 3}; // too low for its gravity
+    });
+    EXPECT_EQ(text_of(*fermentation, "alcohol_by_weight"), "0.00");
+    undo(b.editor);
+    EXPECT_EQ(text_of(*fermentation, "alcohol_by_weight"), by_hydrometer);
+
+    b.program.settings.volume_units = Units::metric;
+    b.program.notices.tell(Change::settings);
+    EXPECT_EQ(text_of(*efficiency, "water_volume"), "22.71") << "6 x 3.7853";
+    EXPECT_EQ(text_of(*bottling, "bottled_amount"), "18.93");
+}
+
+TEST(SessionLog, AnInstrumentMeasuresForItsField) {
+    Brewhouse b;
+    const auto page = b.open(efficiency_page(b.editor, b.ports()));
+    type_into(*page, "recorded_og", "1.050");
+    press_and_answer(*page, "hydrometer", [](QDialog& dialog) {
+        type_into(dialog, "temperature_fahrenheit", "100");
+        QTest::keyClick(&dialog, Qt::Key_Return);
+    });
+    EXPECT_EQ(text_of(*page, "recorded_og"), "1.056") << "warm wort reads low";
+    press_and_answer(*page, "refractometer", [&](QDialog& dialog) {
+        type_into(dialog, "brix", "13");
+        QTest::keyClick(&dialog, Qt::Key_Escape);
+    });
+    EXPECT_EQ(text_of(*page, "recorded_og"), "1.056");
+    press_and_answer(*page, "refractometer", [&](QDialog& dialog) {
+        type_into(dialog, "brix", "13");
+        b.program.settings.brix_correction = 1.3F; // a temporary calibration, meanwhile
+        b.program.notices.tell(Change::calibration);
+        QTest::keyClick(&dialog, Qt::Key_Return);
+    });
+    EXPECT_EQ(text_of(*page, "recorded_og_plato"), "10.0") << "13 Brix over 1.3";
+    EXPECT_FLOAT_EQ(b.session.tail.recorded_og_reading.plato, 10);
+    QTest::keyClick(page.get(), Qt::Key_Escape);
+    EXPECT_EQ(b.session.tail.recorded_og_reading, RefractometerPair{});
+    EXPECT_EQ(b.editor.history.to_undo(), "Cancel Efficiency") << "who left by mistake can undo it";
+}
+
+TEST(SessionLog, TheBottlingDateFollowsTheFermentation) {
+    Brewhouse b;
+    const auto page = b.open(bottling_page(b.editor, b.ports()));
+    const auto press_auto = [](QDialog& dialog) {
+        dialog.findChild<QPushButton*>("auto")->click();
+        QTest::keyClick(&dialog, Qt::Key_Escape);
+    };
+    b.prompts.expect_tell(
+        "This function calculates the bottling date based on the brewing date plus the number "
+        "of days the beer has been fermenting in primary and secondary fermenters. "
+        "Unfortunately, you do not have any information in the fermentation details that would "
+        "allow Wortlex to make this calculation.\n\nPlease enter the appropriate information in "
+        "the fermentation details, then return here to calculate the bottling date.",
+        Icon::information);
+    press_and_answer(*page, "pick_date", press_auto);
+    EXPECT_EQ(b.session.bottling.bottling_day, 0);
+    b.session.fermentation.primary_days = 7;
+    b.session.fermentation.secondary_days = 3;
+    press_and_answer(*page, "pick_date", [](QDialog& dialog) {
+        dialog.findChild<QPushButton*>("auto")->click();
+        dialog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok)->click();
+    });
+    EXPECT_EQ(text_of(*page, "bottling_date"), "02-04-2001") << "ten days after 25 January";
+}
+
+} // namespace
+} // namespace wortlex
