@@ -46,6 +46,10 @@ CalendarDate moved_on(CalendarDate date, std::int32_t days) {
     return {date.day, 1, date.year + 1};
 }
 
+bool is_day(const CalendarDate& date) {
+    return date.year > 0 && existing_day(date) == date;
+}
+
 CalendarDate existing_day(const CalendarDate& date) {
     constexpr int last_year = 9999;
     const std::chrono::year year(std::clamp(date.year, 1, last_year));

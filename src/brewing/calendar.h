@@ -17,6 +17,9 @@ std::int32_t days_between(const CalendarDate& start, const CalendarDate& stop);
 /// with 29 days in every February.
 CalendarDate moved_on(CalendarDate date, std::int32_t days);
 
+/// Whether the calendar has such a day.
+bool is_day(const CalendarDate& date);
+
 /// The day of the calendar nearest to what a record holds: 31 February is its last day, a zero or less the
 /// first of its kind.
 CalendarDate existing_day(const CalendarDate& date);

@@ -11,13 +11,14 @@ FullReports::FullReports(Program& program)
       theme_(LoadDefaultTheme(program.data_folder)) {
     if (!LoadColorTable(find_data_file(program.data_folder, color_table_file), color_table_))
         color_table_ = built_in_color_table();
+    LoadStocks(program.data_folder, stocks_);
 }
 
 DocumentReport FullReports::report() const {
     const bool is_session = program_.document.kind == DocumentKind::session;
     const auto open = live_document(program_);
     const auto view = default_report_view(program_.settings);
-    return document_report({open, view, color_table_, evaporation_rate(program_)},
+    return document_report({open, view, color_table_, evaporation_rate(program_), &stocks_},
                            is_session ? session_sections_ : recipe_sections_);
 }
 

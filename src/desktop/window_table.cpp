@@ -22,6 +22,13 @@ constexpr std::array windows = {
                from_documents(13, no_place),
                0},
     WindowInfo{"RECIPEPREPRINTDIALOG", {"Recipe Print and Export Options"}, no_places, 0},
+    WindowInfo{"BATCHPREPRINTDIALOG", {"Brewing Session Print and Export Options"}, no_places, 0},
+    WindowInfo{
+        "COMP_PREPRINTDIALOG", {"Competition Printout - Additional Competition Information"}, no_places, 0},
+    WindowInfo{"COMP_PREPRINTDIALOG2",
+               {"Competition Bottle Label Printout - Additional Information"},
+               no_places,
+               0},
     WindowInfo{"MALTSHORTEDITDIALOG", {"Edit Grain/Extract Amounts"}, from_documents(76, 77), 0},
     WindowInfo{"HOPSHORTEDITDIALOG", {"Hop Amounts"}, from_documents(78, 79), 0},
     WindowInfo{"HOPSHORTEDITDIALOG1", {"Hop Amounts"}, from_documents(78, 79), 0},

@@ -30,6 +30,7 @@ void start_recipe(LiveDocument& live, const Settings& settings) {
     live.figures = {};
     live.water_to_grain = settings.quarts_per_pound;
     live.file = {};
+    live.competition = {};
 }
 
 void start_session(LiveDocument& live, const WaterNeeds& usual, const Settings& settings,
@@ -38,6 +39,7 @@ void start_session(LiveDocument& live, const WaterNeeds& usual, const Settings& 
     start_session(view_of(live, settings), usual, today);
     live.water_to_grain = settings.quarts_per_pound;
     live.file = {};
+    live.competition = {};
 }
 
 LoadResult read_into(LiveDocument& live, DocumentKind kind, ByteView file, const Settings& settings) {
@@ -48,6 +50,7 @@ LoadResult read_into(LiveDocument& live, DocumentKind kind, ByteView file, const
     live.recipe = std::move(image.recipe);
     if (image.session) live.session = *image.session;
     live.water_to_grain = 0;
+    live.competition = {};
     return result;
 }
 

@@ -17,6 +17,14 @@ struct DocumentFile {
     std::optional<FileStamp> stamp = std::nullopt; ///< of the file as it was read or written last
 };
 
+/// What the brewer told of a competition. No file holds it: it lives as long as the document is open.
+struct CompetitionTexts {
+    Text<255> name;
+    Text<255> style;
+
+    bool operator==(const CompetitionTexts&) const = default;
+};
+
 struct LiveDocument {
     DocumentKind kind = DocumentKind::recipe;
     BrewDocument recipe;     ///< also under a session
@@ -25,6 +33,7 @@ struct LiveDocument {
     WaterBalance water;
     float water_to_grain = 0; ///< of the simple mash, quarts per pound; 0 for a loaded document
     DocumentFile file;
+    CompetitionTexts competition;
 };
 
 /// The document ready to be worked on, by its kind.

@@ -14,6 +14,7 @@ inline constexpr double grams_per_pound = 453.6;
 inline constexpr double grams_per_ounce = 28.35;
 inline constexpr double fluid_ounces_per_litre = 33.8148; // over 32 gives quarts
 inline constexpr double kilopascals_per_psi = 6.8948;
+inline constexpr double absorption_per_kilogram = 8.41; // litres, of a gallon a pound
 
 /// Gallons as gallons, barrels, litres or hectolitres.
 float to_shown_volume(float gallons, Units units, SystemMode mode);

@@ -324,10 +324,13 @@ PageJob PageContext::Release() {
     return std::exchange(job_, {});
 }
 
-std::optional<float> PageContext::smaller_scale() const {
+std::optional<float> PageContext::smaller_scale(bool on_one_page) const {
+    constexpr double step = 0.85;
     const double room = job_.paper.area.width - left_margin_, taken = job_.right() - left_margin_;
-    if (taken <= room || printer_scale_ <= smallest_scale) return std::nullopt;
-    return std::max(narrow(printer_scale_ * room / taken), smallest_scale);
+    const bool is_too_long = on_one_page && job_.pages.size() > 1;
+    if ((taken <= room && !is_too_long) || printer_scale_ <= smallest_scale) return std::nullopt;
+    const double share = std::min(taken > room ? room / taken : 1.0, is_too_long ? step : 1.0);
+    return std::max(narrow(printer_scale_ * share), smallest_scale);
 }
 
 // Letters come in whole dots, so that the first smaller scale may still be a little too large.
@@ -340,7 +343,7 @@ std::optional<PageJob> record_report(const PrintRequest& request, const Paper& p
         request.run(page);
         page.EndPage();
         page.EndJob();
-        const auto smaller = page.smaller_scale();
+        const auto smaller = page.smaller_scale(request.on_one_page);
         if (!smaller || recording == most_recordings) return page.Release();
         scale = *smaller;
     }

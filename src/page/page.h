@@ -97,8 +97,9 @@ public:
 
     /// Dots from the top of the page; 0: it has not begun.
     int y() const { return y_; }
-    /// The scaling ratio at which the widest line so far should fit on the paper; nothing where it does.
-    std::optional<float> smaller_scale() const;
+    /// The scaling ratio at which the widest line so far should fit on the paper; nothing where it does. On
+    /// one page all lines should.
+    std::optional<float> smaller_scale(bool on_one_page = false) const;
 
 private:
     struct FontSpec {
@@ -154,6 +155,7 @@ struct PrintRequest {
     float printer_scale = 1;
     Report run;
     std::string file_name{}; ///< proposed for a file of the pages, without its ending; empty: as the document
+    bool on_one_page = false; ///< what is too long for one is drawn smaller
 };
 
 /// The pages of a report on such paper; nothing if the paper cannot be printed on. What is too wide for it

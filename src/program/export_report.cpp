@@ -1,9 +1,7 @@
 #include "program/export_report.h"
 
-#include "base/files.h"
 #include "program/program.h"
-#include "reports/catalogue.h"
-#include "reports/file_names.h"
+#include "reports/competition.h"
 #include "reports/print_options.h"
 #include "reports/report_writers.h"
 #include "reports/row_parts.h"
@@ -22,25 +20,44 @@ struct FileForm {
 constexpr FileForm text_files = {"Text File (*.txt)|*.txt", "txt", FolderKind::text_exports};
 constexpr FileForm html_files = {"HTML File (*.html)|*.html", "html", FolderKind::html_exports};
 
-// A title may hold what would lead into another folder.
-std::string file_name_of(std::string name, const FileForm& form) {
-    name = tame_file_name(std::move(name), "/\\");
-    return name.empty() ? name : name.append(".").append(form.extension);
-}
-
 std::optional<std::string> choose_file(const WindowPorts& ports, const std::string& name,
                                        const FileForm& form) {
     auto& folders = ports.program.folders;
-    auto path = ports.files.choose_to_save(
-        {form.filter, folder_path(folders, form.folder), file_name_of(name, form), form.extension});
+    auto path = ports.files.choose_to_save({form.filter, folder_path(folders, form.folder),
+                                            proposed_file(name, form.extension), form.extension});
     if (path) follow_user(folders, form.folder, *path);
     return path;
 }
 
-TextSink text_of(const DocumentReport& report) {
+// What is put out, before it takes a form.
+struct Exported {
+    const ReportSource& source;
+    const CompetitionEntry& entry;
+    const PrintSelection& selection;
+    ReportOutput output;
+    ReportPart part;
+};
+
+DocumentReport report_of(const Exported& exported) {
+    if (exported.output == ReportOutput::competition_form)
+        return competition_report(exported.source, exported.entry, exported.selection);
+    return document_report(exported.source, exported.selection, exported.part);
+}
+
+TextSink text_of(const Exported& exported) {
     TextSink sink;
-    write_text(report, sink);
+    if (exported.output == ReportOutput::competition_labels) {
+        write_labels_text(label_rows(exported.source, exported.entry), sink);
+    } else {
+        write_text(report_of(exported), sink);
+    }
     return sink;
+}
+
+HtmlWriter html_of(const Exported& exported, const HtmlTheme& theme) {
+    return exported.output == ReportOutput::competition_labels
+               ? write_labels_html(label_rows(exported.source, exported.entry, true), theme)
+               : write_html(report_of(exported), theme);
 }
 
 // Empty for a document that has not been saved.
@@ -48,37 +65,86 @@ std::string file_stem(const Program& program) {
     return std::filesystem::path(program.document.file.path).stem().string();
 }
 
-void print(const WindowPorts& ports, const DocumentReport& report, const std::string& title) {
-    const auto& traits = document_traits(ports.program.document.kind);
-    ports.pages.show({.document_name = title.empty() ? std::string(traits.printed_name) : title,
-                      .printer_scale = ports.program.settings.printer_scale,
-                      .run = [&report](PageContext& page) { write_print(report, page); },
-                      .file_name = file_stem(ports.program)});
+PrintRequest pages_of(const Exported& exported, float printer_scale) {
+    if (exported.output == ReportOutput::competition_labels)
+        return {.document_name = "",
+                .printer_scale = label_scale,
+                .run = [label = label_rows(exported.source, exported.entry)](
+                           PageContext& page) { write_labels_print(label, page); },
+                .on_one_page = true};
+    const bool is_form = exported.output == ReportOutput::competition_form;
+    return {.document_name = "",
+            .printer_scale = is_form ? exported.selection.scale : printer_scale,
+            .run = [report = report_of(exported)](PageContext& page) { write_print(report, page); }};
+}
+
+void print(const WindowPorts& ports, const Exported& exported) {
+    const auto& program = ports.program;
+    const auto title = line_text(program.document.recipe.title);
+    auto request = pages_of(exported, program.settings.printer_scale);
+    request.document_name =
+        title.empty() ? std::string(document_traits(program.document.kind).printed_name) : title;
+    request.file_name = file_stem(program);
+    ports.pages.show(request);
+}
+
+std::string proposed_name(const Program& program, ReportOutput output) {
+    const auto title = line_text(program.document.recipe.title);
+    return program.document.kind == DocumentKind::session
+               ? session_file_name(title, program.document.session, output, program.settings)
+               : recipe_file_name(title, output);
+}
+
+// Where a report goes, asked before anything is made; nothing if the user stops there.
+struct Destination {
+    ReportForm form;
+    std::string path{}; ///< of a file
+};
+
+std::optional<Destination> choose_destination(const WindowPorts& ports, ReportForm form,
+                                              const std::string& name) {
+    if (form != ReportForm::text_file && form != ReportForm::html_file) return Destination{form};
+    const bool is_text = form == ReportForm::text_file;
+    auto path =
+        is_text ? choose_file(ports, name, text_files) : choose_file(ports, html_file_name(name), html_files);
+    return path ? std::optional(Destination{form, *std::move(path)}) : std::nullopt;
+}
+
+void put_out(const WindowPorts& ports, const Exported& exported, const Destination& to) {
+    switch (to.form) {
+    case ReportForm::print:
+        return print(ports, exported);
+    case ReportForm::clipboard:
+        return copy_text(ports.clipboard, text_of(exported));
+    case ReportForm::text_file:
+        save_text(to.path, text_of(exported), ports.prompts);
+        return;
+    case ReportForm::html_file:
+        save_html(to.path, html_of(exported, ports.program.html_theme), ports.prompts);
+    }
+}
+
+bool is_inventory_wanted(const OpenDocument& open, PrintSelection selection) {
+    return open.session != nullptr && selection[PrintSection::inventory] != 0;
 }
 
 } // namespace
 
-void export_document(const WindowPorts& ports, const RecipeView& view) {
+void export_document(const WindowPorts& ports, const RecipeView& view, const CompetitionQuestion& ask,
+                     ReportPart part) {
     auto& program = ports.program;
+    const auto selection = part == ReportPart::recipe ? program.recipe_print : print_selection(program);
+    const auto output = report_output(selection);
+    const auto destination =
+        choose_destination(ports, report_form(selection), proposed_name(program, output));
+    if (!destination || (output != ReportOutput::report && !ask(output))) return;
     const auto open = live_document(program);
-    const auto& selection = print_selection(program);
-    const auto report =
-        document_report({open, view, program.color_table, evaporation_rate(program)}, selection);
-    const auto title = line_text(program.document.recipe.title);
-    const auto name = recipe_file_name(title, ReportOutput::report);
-    switch (report_form(selection)) {
-    case ReportForm::print:
-        return print(ports, report, title);
-    case ReportForm::clipboard:
-        return copy_text(ports.clipboard, text_of(report));
-    case ReportForm::text_file:
-        if (const auto path = choose_file(ports, name, text_files))
-            save_text(*path, text_of(report), ports.prompts);
-        return;
-    case ReportForm::html_file:
-        if (const auto path = choose_file(ports, html_file_name(name), html_files))
-            save_html(*path, write_html(report, program.html_theme), ports.prompts);
-    }
+    Stocks stocks;
+    if (is_inventory_wanted(open, selection)) LoadStocks(program.data_folder, stocks);
+    const ReportSource source{open, view, program.color_table, evaporation_rate(program), &stocks};
+    const CompetitionEntry entry{program.document.competition, program.system.competition,
+                                 program.document.session};
+    put_out(ports, {source, entry, selection, output, part}, *destination);
 }
 
 void save_as_default(DocumentKind kind, const PrintSelection& selection, const std::string& data_folder,

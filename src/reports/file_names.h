@@ -1,6 +1,9 @@
 // The names that the file dialogs of reports propose.
 #pragma once
 
+#include "records/documents/session_document.h"
+#include "settings/settings.h"
+
 #include <string>
 #include <string_view>
 
@@ -8,13 +11,19 @@ namespace wortlex {
 
 enum class ReportOutput { report, competition_form, competition_labels };
 
-/// What stands before the name: "Comp_" of a form, "CompL_" of labels.
-std::string_view name_prefix(ReportOutput output);
-
-/// The name of a recipe's text file, without an ending. `title` is UTF-8.
+/// The name of a recipe's text file, without an ending: "Comp_" stands before that of a form, "CompL_" before
+/// that of labels. `title` is UTF-8.
 std::string recipe_file_name(std::string_view title, ReportOutput output);
+
+/// That of a session, with the date of its brew day, or without a title that date alone. A date that no
+/// calendar has is left out.
+std::string session_file_name(std::string_view title, const SessionDocument& session, ReportOutput output,
+                              const Settings& settings);
 
 /// The same for a page of HTML: what an address had better not hold becomes "_".
 std::string html_file_name(std::string name);
+
+/// A name with its ending, that every file system takes: no folder in it, and no longer than it may be.
+std::string proposed_file(std::string name, std::string_view extension);
 
 } // namespace wortlex

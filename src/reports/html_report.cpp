@@ -160,6 +160,7 @@ HtmlWriter write_html(const DocumentReport& report, const HtmlTheme& theme) {
     HtmlWriter page(theme);
     page.page_start(report.html_title);
     write_heading(page, report.html_title);
+    if (!report.html_subtitle.empty()) write_heading(page, report.html_subtitle);
     page.rule();
     for (const auto& section : report.sections) {
         if (!section.heading.empty()) write_heading(page, section.heading);

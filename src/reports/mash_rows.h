@@ -11,8 +11,8 @@ struct ShownWater {
     std::string_view unit;
 };
 
-/// An amount of mash water in the unit of the mash and, in a brewery, also in that of its vessels.
-std::vector<ShownWater> shown_waters(float quarts, const Settings& settings);
+/// An amount of mash water in the unit of the mash and, of a brewery's recipe, also in that of its vessels.
+std::vector<ShownWater> shown_waters(float quarts, const ReportSource& source);
 
 std::vector<ReportBlock> simple_schedule(const ReportSource& source);
 std::vector<ReportBlock> complex_schedule(const ReportSource& source);

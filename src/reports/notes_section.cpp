@@ -1,6 +1,8 @@
 #include "base/windows1252.h"
 #include "reports/sections.h"
 
+#include <array>
+
 namespace wortlex {
 
 ReportText::ReportText(std::string_view typed) {
@@ -12,12 +14,43 @@ ReportText::ReportText(std::string_view typed) {
     }
 }
 
+namespace {
+
+ReportSection text_section(std::string heading, std::string_view stored) {
+    return section_of(std::move(heading), ReportText{utf8_from_windows1252(stored)});
+}
+
+// Under a session's heading of print, where the recipe's texts stand before those of the session.
+ReportSection recipe_text_section(const std::string& heading, std::string_view stored,
+                                  const ReportSource& source) {
+    auto section = text_section(heading, stored);
+    if (source.open.session != nullptr) section.print_heading = "Recipe " + heading;
+    return section;
+}
+
+constexpr std::array session_headings = {"Mash Notes", "Fermentation Notes", "Tasting Notes",
+                                         "Problem Notes"};
+
+} // namespace
+
 ReportSection notes_section(const ReportSource& source) {
-    return section_of("Notes", ReportText{utf8_from_windows1252(source.open.document.notes.view())});
+    return recipe_text_section("Notes", source.open.document.notes.view(), source);
 }
 
 ReportSection awards_section(const ReportSource& source) {
-    return section_of("Awards", ReportText{utf8_from_windows1252(source.open.document.awards.view())});
+    return recipe_text_section("Awards", source.open.document.awards.view(), source);
+}
+
+bool has_session_note(const ReportSource& source, SessionNote note) {
+    return !source.open.session->session_notes.at(static_cast<std::size_t>(note)).view().empty();
+}
+
+ReportSection session_note_section(const ReportSource& source, SessionNote note) {
+    const auto index = static_cast<std::size_t>(note);
+    auto section =
+        text_section(session_headings.at(index), source.open.session->session_notes.at(index).view());
+    section.print_order = 1;
+    return section;
 }
 
 } // namespace wortlex

@@ -2,23 +2,70 @@
 
 #include "forms/print_scale.h"
 
+#include <span>
+
 namespace wortlex {
 namespace {
 
-void text_rows(Rows& rows, PrintSelection& selection, bool has_mash) {
-    const auto section = [&](const char* key, const char* label, PrintSection place) -> CheckRow& {
-        return rows.check(key, selection[place]).label(label);
-    };
-    section("style", "&Style Guidelines", PrintSection::recipe_style_guidelines);
-    section("pre_boil", "Pre-&Boil Specifics", PrintSection::pre_boil);
-    section("formulas", "&Formula Specifics", PrintSection::formula_specifics);
-    section("water", "&Water Profile", PrintSection::water_profile);
-    section("mash", "&Mash Schedule", PrintSection::mash_schedule).enabled(has_mash);
-    section("notes", "&Notes && Awards", PrintSection::notes_and_awards);
+struct SectionSwitch {
+    const char* key;
+    const char* label;
+    PrintSection section;
+    bool is_on_form = false; ///< of a competition
+    bool is_of_mash = false;
+};
+
+constexpr std::array recipe_switches = {
+    SectionSwitch{"style", "&Style Guidelines", PrintSection::recipe_style_guidelines},
+    SectionSwitch{"pre_boil", "Pre-&Boil Specifics", PrintSection::pre_boil},
+    SectionSwitch{"formulas", "&Formula Specifics", PrintSection::formula_specifics},
+    SectionSwitch{"water", "&Water Profile", PrintSection::water_profile, true},
+    SectionSwitch{"mash", "&Mash Schedule", PrintSection::mash_schedule, true, true},
+    SectionSwitch{"notes", "&Notes && Awards", PrintSection::notes_and_awards}};
+
+constexpr std::array session_recipe_switches = {
+    SectionSwitch{"style", "&Style Guidelines", PrintSection::session_style_guidelines},
+    SectionSwitch{"pre_boil", "Pre-&Boil Specifics", PrintSection::pre_boil},
+    SectionSwitch{"formulas", "&Formula Specifics", PrintSection::formula_specifics},
+    SectionSwitch{"water", "&Water Profile", PrintSection::water_profile, true},
+    SectionSwitch{"notes", "&Notes && Awards", PrintSection::notes_and_awards}};
+
+constexpr std::array session_switches = {
+    SectionSwitch{"mash", "&Mash Schedule", PrintSection::mash_schedule, true, true},
+    SectionSwitch{"water_analysis", "Water Profile Anal&ysis", PrintSection::water_analysis},
+    SectionSwitch{"water_needed", "Water Nee&ded", PrintSection::water_needed},
+    SectionSwitch{"efficiency", "&Efficiency Specifics", PrintSection::efficiency},
+    SectionSwitch{"fermentation", "Fe&rmentation Specifics", PrintSection::fermentation, true},
+    SectionSwitch{"bottling", "Bottling/&Kegging Specifics", PrintSection::bottling, true},
+    SectionSwitch{"inventory", "&Inventory Analysis", PrintSection::inventory},
+    SectionSwitch{"session_notes", "Sessi&on Notes", PrintSection::session_notes}};
+
+const char* why_disabled(const SectionSwitch& section, const PrintSelection& selection) {
+    if (report_output(selection) == ReportOutput::competition_labels)
+        return "Labels hold nothing but the style, the name and the brewer";
+    const bool is_form = report_output(selection) == ReportOutput::competition_form;
+    return is_form && !section.is_on_form ? "A competition form does not hold it"
+                                          : "There is no grain to mash";
+}
+
+bool can_be_chosen(const SectionSwitch& section, const PrintSelection& selection,
+                   const PrintedDocument& document) {
+    if (section.is_of_mash && !document.has_mash) return false;
+    const auto output = report_output(selection);
+    return output == ReportOutput::report || (output == ReportOutput::competition_form && section.is_on_form);
+}
+
+void section_rows(Rows& rows, std::span<const SectionSwitch> switches, PrintSelection& selection,
+                  const PrintedDocument& document) {
+    for (const auto& section : switches)
+        rows.check(section.key, selection[section.section])
+            .label(section.label)
+            .enabled([&section, &selection, document] { return can_be_chosen(section, selection, document); })
+            .disabled_because([&section, &selection] { return why_disabled(section, selection); });
 }
 
 // There is no chart to print yet: the switches keep what the file says.
-void graph_rows(Rows& rows, PrintSelection& selection) {
+void graph_rows(Rows& rows, PrintSelection& selection, DocumentKind kind) {
     const auto disabled = [&](const char* key, const char* label, std::uint8_t& flag) {
         rows.check(key, flag).label(label).enabled(false).disabled_because(not_yet);
     };
@@ -27,6 +74,18 @@ void graph_rows(Rows& rows, PrintSelection& selection) {
     disabled("solid_fill", "Solid Fill", selection[PrintOption::solid_fill]);
     disabled("decoction_spikes", "Decoction Spikes", selection[PrintOption::decoction_spikes]);
     disabled("infusion_spikes", "Infusion Spikes", selection[PrintOption::infusion_spikes]);
+    if (kind == DocumentKind::session)
+        disabled("water_graph", "Water Profile Graph", selection[PrintSection::water_graph]);
+}
+
+// The one takes the other out.
+CheckRow& competition_row(Rows& rows, const char* key, PrintSelection& selection, PrintSection own,
+                          PrintSection other) {
+    return rows.check(key, {[&selection, own] { return selection[own] != 0; },
+                            [&selection, own, other](bool is_on) {
+                                selection[own] = is_on ? 1 : 0;
+                                if (is_on) selection[other] = 0;
+                            }});
 }
 
 void output_rows(Rows& rows, PrintSelection& selection, const PrintOptionsActions& actions) {
@@ -37,15 +96,30 @@ void output_rows(Rows& rows, PrintSelection& selection, const PrintOptionsAction
             {"&Print to Printer", "Export to &Text File", "Export to &HTML File (webpage)",
              "&Copy to Clipboard"})
         .look(ChoiceRow::Look::down);
-    rows.check("competition_form", selection[PrintSection::competition_form])
-        .label("As Competition Form")
-        .enabled(false)
-        .disabled_because(not_yet);
-    rows.check("competition_labels", selection[PrintSection::competition_labels])
-        .label("As Competition Labels")
-        .enabled(false)
-        .disabled_because(not_yet);
+    competition_row(rows, "competition_form", selection, PrintSection::competition_form,
+                    PrintSection::competition_labels)
+        .label("&As Competition Form");
+    competition_row(rows, "competition_labels", selection, PrintSection::competition_labels,
+                    PrintSection::competition_form)
+        .label("As Competition Lab&els");
     rows.button("html_themes", "HTM&L Themes", actions.html_themes);
+}
+
+// Of a competition form; a report takes the one of the settings.
+void scale_row(Rows& rows, PrintSelection& selection) {
+    print_scale_row(rows, "scale", selection.scale)
+        .enabled([&selection] {
+            return report_form(selection) == ReportForm::print &&
+                   report_output(selection) == ReportOutput::competition_form;
+        })
+        .disabled_because("Only a printed competition form has a scale of its own");
+}
+
+void text_groups(Form& form, PrintSelection& selection, const PrintedDocument& document) {
+    if (document.kind == DocumentKind::recipe)
+        return section_rows(form.group("Text"), recipe_switches, selection, document);
+    section_rows(form.group("Recipe Specific Text"), session_recipe_switches, selection, document);
+    section_rows(form.group("Session Specific Text"), session_switches, selection, document);
 }
 
 } // namespace
@@ -63,14 +137,20 @@ void set_report_form(PrintSelection& selection, ReportForm form) {
     selection[PrintOption::clipboard] = form == ReportForm::clipboard ? 1 : 0;
 }
 
-void recipe_print_form(Form& form, PrintSelection& selection, bool has_mash,
-                       const PrintOptionsActions& actions) {
-    text_rows(form.group("Text"), selection, has_mash);
+ReportOutput report_output(const PrintSelection& selection) {
+    auto read = selection;
+    if (read[PrintSection::competition_form] != 0) return ReportOutput::competition_form;
+    return read[PrintSection::competition_labels] != 0 ? ReportOutput::competition_labels
+                                                       : ReportOutput::report;
+}
+
+void print_options_form(Form& form, PrintSelection& selection, const PrintedDocument& document,
+                        const PrintOptionsActions& actions) {
+    text_groups(form, selection, document);
     form.next_column();
-    graph_rows(form.group("Graph"), selection);
-    print_scale_row(form.group("Scaling Ratio"), "scale", selection.scale)
-        .enabled(false)
-        .disabled_because(not_yet);
+    graph_rows(form.group(document.kind == DocumentKind::session ? "Graphs" : "Graph"), selection,
+               document.kind);
+    scale_row(form.group("Scaling Ratio"), selection);
     form.next_column();
     output_rows(form.group("Output"), selection, actions);
     auto& buttons = form.group();

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "forms/form.h"
+#include "reports/file_names.h"
 #include "settings/system_files.h"
 
 namespace wortlex {
@@ -12,13 +13,22 @@ enum class ReportForm : std::int32_t { print, text_file, html_file, clipboard };
 ReportForm report_form(const PrintSelection& selection);
 void set_report_form(PrintSelection& selection, ReportForm form);
 
+/// The same for what is put out, in two flags.
+ReportOutput report_output(const PrintSelection& selection);
+
 struct PrintOptionsActions {
     std::function<void()> html_themes, save_as_default, help; ///< an empty one is disabled
 };
 
-/// The options of a recipe's report, on `selection`, which must outlive the form. Without grain to mash there
-/// is no schedule to choose.
-void recipe_print_form(Form& form, PrintSelection& selection, bool has_mash,
-                       const PrintOptionsActions& actions);
+/// Of which document the options are, and what it has.
+struct PrintedDocument {
+    DocumentKind kind = DocumentKind::recipe;
+    bool has_mash = true; ///< grain to mash, without which there is no schedule
+};
+
+/// The options of a report, on `selection`, which must outlive the form. What the chosen output does not hold
+/// cannot be chosen.
+void print_options_form(Form& form, PrintSelection& selection, const PrintedDocument& document,
+                        const PrintOptionsActions& actions);
 
 } // namespace wortlex

@@ -8,12 +8,6 @@ namespace {
 
 constexpr int colour_box = 250; // behind the figure that it belongs to
 
-std::string tabbed(const std::vector<std::string>& cells) {
-    std::string out;
-    for (const auto& cell : cells) out += (&cell == &cells.front() ? "" : "\t") + cell;
-    return out;
-}
-
 // At the top of a page no line is left blank, and at its end none goes over to the next one.
 void leave_blank(PageContext& page, int lines) {
     for (int line = 0; line < lines && page.y() > 0; ++line)
@@ -35,7 +29,7 @@ void write_line(PageContext& page, std::span<const int> tabs, const ReportRow& r
     for (auto& part : page.wrapped(cells.back(), last == 0 ? 0 : tabs[last - 1])) {
         cells.back() = std::move(part);
         page.SelectFont(font);
-        page.TabbedLine(tabs, tabbed(cells));
+        page.TabbedLine(tabs, tabbed_line(cells));
         for (auto& cell : cells) cell.clear();
     }
 }

@@ -40,6 +40,7 @@ struct ReportRow {
     std::string print_format{};
     std::optional<std::uint32_t> colour{}; ///< 0x00BBGGRR, of a box beside it in print and HTML
     bool is_title = false;                 ///< printed in the font of headings
+    bool is_underlined = false;            ///< in the text form, by dashes
 };
 
 /// Labels and figures, or sentences: rows of one cell.
@@ -80,6 +81,7 @@ struct ReportSection {
     std::string heading; ///< none where empty
     std::vector<ReportBlock> blocks;
     std::optional<std::string> print_heading{}; ///< where print has its own
+    std::string text_heading{};                 ///< where the text form has its own, with all its lines
     int print_order = 0;                        ///< those of a larger number come later in print
 };
 
@@ -92,11 +94,12 @@ ReportSection section_of(std::string heading, Blocks... blocks) {
 }
 
 struct DocumentReport {
-    std::string text_title;
+    std::string text_head;   ///< the text form above its sections, with all its lines
     std::string page_title;  ///< at the head of every printed page
     std::string print_title; ///< on the first one, where there is one
     std::string html_title;
-    std::vector<ReportSection> sections;
+    std::vector<ReportSection> sections{};
+    std::string html_subtitle{}; ///< below the title, where there is one
 };
 
 } // namespace wortlex

@@ -2,7 +2,9 @@
 
 #include "base/number.h"
 #include "base/windows1252.h"
+#include "brewing/calendar.h"
 #include "forms/numeric_fields.h"
+#include "measures/gravity.h"
 #include "measures/precision.h"
 #include "measures/rounding.h"
 #include "measures/units.h"
@@ -69,6 +71,25 @@ std::string plato_column(int width, int gap, const Settings& settings) {
 
 int shown_degrees(std::int32_t fahrenheit, const Settings& settings) {
     return truncate(to_shown_temperature(static_cast<float>(fahrenheit), settings));
+}
+
+ReportRow style_row(const StyleRecord& style) {
+    const auto name = line_text(style.name), category = line_text(style.category);
+    if (style.letter == '\0') return {"%02d  |%s, %s\n\n", {style.number, name, category}};
+    const auto letter = line_text(std::string_view(&style.letter, 1));
+    return {"%02d-%c  |%s, %s\n\n", {style.number, letter, name, category}};
+}
+
+ReportRow gravity_line(const GravityWords& words, float sg, const Settings& settings) {
+    std::string format(words.label);
+    format.append(sg_pattern(words.width, settings)).append(words.gap);
+    format.append(words.plato).append(plato_pattern(words.plato_width, settings)).append("\n");
+    return {format, {trunc_to_precision(sg, 5), trunc_to_precision(sg_to_plato(sg), 3)}};
+}
+
+std::string date_words(const CalendarDate& date, const Settings& settings) {
+    const bool has_name = settings.date_format == DateFormat::day_name_year;
+    return short_date(date, has_name && !is_day(date) ? DateFormat::month_day_year : settings.date_format);
 }
 
 std::string line_text(std::string_view windows1252) {

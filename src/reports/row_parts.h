@@ -1,6 +1,7 @@
 // Parts that the rows of several sections share: labels, places for figures in the chosen precision, texts.
 #pragma once
 
+#include "base/ports/clock.h"
 #include "documents/figure_catalogue.h"
 #include "records/documents/lines.h"
 #include "reports/report.h"
@@ -31,6 +32,22 @@ std::string plato_column(int width, int gap, const Settings& settings);
 
 /// Whole degrees as shown, cut off.
 int shown_degrees(std::int32_t fahrenheit, const Settings& settings);
+
+/// "01-A" with the blanks behind it, by which style and category of a beer follow.
+ReportRow style_row(const StyleRecord& style);
+
+/// The words of a line that tells a gravity in both scales. A label ends in the mark of its cell.
+struct GravityWords {
+    std::string_view label;
+    int width = 0;                 ///< of the SG
+    std::string_view gap = "   |"; ///< behind it
+    std::string_view plato = "Plato:           |";
+    int plato_width = 6;
+};
+ReportRow gravity_line(const GravityWords& words, float sg, const Settings& settings);
+
+/// A date by the setting; one that no calendar has in its numbers.
+std::string date_words(const CalendarDate& date, const Settings& settings);
 
 /// A text of a record for one line of a report, UTF-8 without control characters.
 std::string line_text(std::string_view windows1252);

@@ -1,7 +1,6 @@
 #include "reports/row_words.h"
 
 #include "base/number.h"
-#include "page/text_sink.h"
 
 #include <algorithm>
 
@@ -114,7 +113,9 @@ std::string text_words(const ReportRow& row) {
     auto format = row.format;
     std::erase(format, cell_end);
     Values values(row.values);
-    return words(format, values, Width::as_told);
+    auto text = words(format, values, Width::as_told);
+    if (row.is_underlined) text.append(dashes_below(without_line_ends(text))).append("\n");
+    return text;
 }
 
 std::vector<ReportCell> row_cells(const ReportRow& row) {
@@ -135,6 +136,19 @@ std::vector<std::string> print_cells(const ReportRow& row) {
     std::string_view format = row.print_format;
     while (!format.empty()) cells.push_back(words(take_cell(format), values, Width::of_figures));
     return cells;
+}
+
+std::string tabbed_line(const std::vector<std::string>& cells) {
+    std::string out;
+    for (const auto& cell : cells) out += (&cell == &cells.front() ? "" : "\t") + cell;
+    return out;
+}
+
+void put_words(std::string_view words, TextSink& sink) {
+    if (words.find('%') == std::string_view::npos) return sink.put(words);
+    std::string piece;
+    for (const char c : words) piece.append(c == '%' ? 2 : 1, c);
+    sink.put(piece);
 }
 
 BlankLines blank_lines(std::string_view format) {

@@ -1,6 +1,7 @@
 // From a row of a report to the words of its forms.
 #pragma once
 
+#include "page/text_sink.h"
 #include "reports/report.h"
 
 namespace wortlex {
@@ -18,6 +19,11 @@ std::vector<ReportCell> row_cells(const ReportRow& row);
 
 /// The cells in the words of print.
 std::vector<std::string> print_cells(const ReportRow& row);
+/// Those of a line, a tab between them.
+std::string tabbed_line(const std::vector<std::string>& cells);
+
+/// Words in which every percent sign is meant, though the sink takes two for one.
+void put_words(std::string_view words, TextSink& sink);
 
 /// How many lines are left blank in front of a row and behind it.
 struct BlankLines {

@@ -21,4 +21,16 @@ ReportSection mash_section(const ReportSource& source);
 ReportSection notes_section(const ReportSource& source);
 ReportSection awards_section(const ReportSource& source);
 
+/// Of a session only, as those that follow.
+ReportSection water_needed_section(const ReportSource& source);
+ReportSection efficiency_section(const ReportSource& source);
+ReportSection fermentation_section(const ReportSource& source);
+ReportSection bottling_section(const ReportSource& source);
+ReportSection inventory_section(const ReportSource& source);
+
+/// In the order of the record.
+enum class SessionNote : std::uint8_t { mash, fermentation, tasting, problems };
+bool has_session_note(const ReportSource& source, SessionNote note);
+ReportSection session_note_section(const ReportSource& source, SessionNote note);
+
 } // namespace wortlex

@@ -56,37 +56,76 @@ ReportRow evaporation_row(const ReportSource& source) {
             {to_shown_volume(source.evaporation_rate, settings)}};
 }
 
+void add_pre_boil(std::vector<ReportRow>& rows, std::string_view what, const PreBoil& before,
+                  const Settings& settings) {
+    constexpr std::size_t kettle_size_column = 34, kettle_gravity_column = 35;
+    const float sg = sg_from_points(before.points);
+    rows.push_back({padded_label(std::string(what) + " Wort Size:", kettle_size_column) + "%6.2f    |" +
+                        volume_unit(settings).usual + "\n",
+                    {to_shown_volume(before.volume, settings)}});
+    rows.push_back({padded_label(std::string(what) + " Gravity:", kettle_gravity_column) +
+                        sg_column(6, 3, settings) + "|SG          |" + plato_pattern(6, settings) +
+                        "    |Plato\n\n",
+                    {trunc_to_precision(sg, 5), trunc_to_precision(sg_to_plato(sg), 3)}});
+}
+
+void add_fermented(std::vector<ReportRow>& rows, const SessionDocument& session, const Settings& settings) {
+    const auto figures = update_attenuation(session, settings);
+    rows.push_back(gravity_line({.label = "Actual OG:  |"}, session.actual_og, settings));
+    rows.push_back(gravity_line({.label = "Actual FG:  |"}, session.actual_fg, settings));
+    rows.push_back({"Alc by Weight: |%5.2f      |by Volume: |%5.2f  |From Measured Gravities.\n",
+                    {figures.alcohol_by_weight, figures.alcohol_by_volume}});
+    rows.push_back(
+        {"ADF:           |%5.1f      |RDF        |%5.1f  |Apparent & Real Degree of Fermentation.\n\n",
+         {figures.apparent_attenuation, figures.real_attenuation}});
+}
+
+void add_efficiency(std::vector<ReportRow>& rows, const ReportSource& source) {
+    const auto& document = source.open.document;
+    const auto figures = recorded_efficiency(document, *source.open.session, source.open.settings);
+    rows.push_back({"Actual Mash System Efficiency: |%0.0f %s\n", {double{figures.efficiency} * 100, "%"}});
+    rows.push_back(
+        {"Anticipated Points From Mash:  |%0.2f\n", {double{figures.mash_points} * document.efficiency}});
+    rows.push_back({"Actual Points From Mash:       |%0.2f\n\n", {figures.actual_mash_points}});
+}
+
 } // namespace
 
 ReportSection specifics_section(const ReportSource& source) {
     auto efficiency_row = row("Brewhouse Efficiency:", recipe_figure::efficiency, " %s", source);
     efficiency_row.values.emplace_back("%");
-    return section_of(
-        "Recipe Specifics",
-        ReportLines{{160, 250, 380},
-                    {size_row(source), weight_row("Total Grain", recipe_figure::total_grain, source),
-                     weight_row("Total Extract", recipe_figure::total_extract, source), gravity_row(source),
-                     colour_row(source), row("Anticipated IBU:", recipe_figure::total_ibu, "", source),
-                     efficiency_row,
-                     row("Wort Boil Time:", recipe_figure::boil_minutes, "    |Minutes\n", source)}});
+    ReportLines lines{{160, 250, 380},
+                      {size_row(source), weight_row("Total Grain", recipe_figure::total_grain, source),
+                       weight_row("Total Extract", recipe_figure::total_extract, source), gravity_row(source),
+                       colour_row(source), row("Anticipated IBU:", recipe_figure::total_ibu, "", source),
+                       efficiency_row,
+                       row("Wort Boil Time:", recipe_figure::boil_minutes, "    |Minutes\n", source)}};
+    auto section = section_of("Recipe Specifics", std::move(lines));
+    if (const auto* const session = source.open.session; session != nullptr) {
+        ReportLines measured{{160, 210, 280, 330}, {}};
+        add_fermented(measured.rows, *session, source.open.settings);
+        add_efficiency(measured.rows, source);
+        section.blocks.emplace_back(std::move(measured));
+    }
+    return section;
 }
 
 ReportSection pre_boil_section(const ReportSource& source) {
     const auto& settings = source.open.settings;
-    const auto before = raw_pre_boil(source.open.document, source.evaporation_rate, settings);
-    const float sg = sg_from_points(before.points);
-    return section_of(
-        "Pre-Boil Amounts",
-        ReportLines{{160, 230, 280, 340},
-                    {evaporation_row(source),
-                     {"Raw Pre-Boil Amounts - only targeted volume/gravity and evaporation\n", {}},
-                     {"rate taken into account:\n\n", {}},
-                     {"Pre-Boil Wort Size:               |%6.2f    |" +
-                          std::string(volume_unit(settings).usual) + "\n",
-                      {to_shown_volume(before.volume, settings)}},
-                     {"Pre-Boil Gravity:                  |" + sg_column(6, 3, settings) + "|SG          |" +
-                          plato_pattern(6, settings) + "    |Plato\n\n",
-                      {trunc_to_precision(sg, 5), trunc_to_precision(sg_to_plato(sg), 3)}}}});
+    ReportLines lines{{160, 230, 280, 340},
+                      {evaporation_row(source),
+                       {"Raw Pre-Boil Amounts - only targeted volume/gravity and evaporation\n", {}},
+                       {"rate taken into account:\n\n", {}}}};
+    add_pre_boil(lines.rows, "Pre-Boil",
+                 raw_pre_boil(source.open.document, source.evaporation_rate, settings), settings);
+    if (const auto* const session = source.open.session; session != nullptr) {
+        lines.rows.push_back(
+            {"With sparge water, mash water, additional infusions, vessel losses, top-up\n", {}});
+        lines.rows.push_back({"water and evaporation rate recorded in the Water Needed Calculator:\n\n", {}});
+        add_pre_boil(lines.rows, "Water Needed Pre-Boil",
+                     water_pre_boil(source.open.document, session->water_needs, settings), settings);
+    }
+    return section_of("Pre-Boil Amounts", std::move(lines));
 }
 
 } // namespace wortlex

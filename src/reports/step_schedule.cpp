@@ -13,8 +13,9 @@ constexpr std::size_t heat_width = 9;
 constexpr std::size_t step_label_column = 24;
 constexpr double shown_thickness = 0.4784; // a thickness in litres per kilogram is quarts per pound over this
 
-void add_waters(std::vector<ReportRow>& rows, float quarts, std::string_view note, const Settings& settings) {
-    for (const auto& [shown, unit] : shown_waters(quarts, settings)) {
+void add_waters(std::vector<ReportRow>& rows, float quarts, std::string_view note,
+                const ReportSource& source) {
+    for (const auto& [shown, unit] : shown_waters(quarts, source)) {
         const auto label = "Total Water " + std::string(unit) + ":";
         rows.push_back(
             {padded_label(label, step_label_column) + "%8.2f - %s\n", {shown, note}, label + "|%6.2f|- %s"});
@@ -29,7 +30,7 @@ ReportLines opening(const ReportSource& source) {
     lines.rows.push_back({padded_label(grain_label, step_label_column) + "%8.2f\n",
                           {figure_value(recipe_figure::mash_grain, source)}});
     add_waters(lines.rows, source.open.document.simple_mash.dough_in_water, "Before Additional Infusions",
-               settings);
+               source);
     lines.rows.push_back(
         {"\nGrain Temp:             |%8.2f " + std::string(temperature_unit(settings).usual) + "\n",
          {shown_degrees(mash.grain_temperature, settings)}});
@@ -51,7 +52,14 @@ std::vector<ReportColumn> step_columns() {
             {"Infuse\nRatio", 75, 560, 70, right, 550, 583}};
 }
 
-void add_heat(ReportRow& row, const MashStep& step, const Settings& settings) {
+// A session keeps to the thickness as it is stored.
+double decoction_thickness(const MashStep& step, const ReportSource& source) {
+    const bool is_stored = source.open.session != nullptr || is_american(source.open.settings.volume_units);
+    return is_stored ? step.ratio : step.ratio / shown_thickness;
+}
+
+void add_heat(ReportRow& row, const MashStep& step, const ReportSource& source) {
+    const auto& settings = source.open.settings;
     const float amount = quarts_to_shown(step.amount, settings);
     const int degrees = shown_degrees(step.infuse_temperature, settings);
     const auto add = [&row](std::string_view format, std::string_view print,
@@ -63,17 +71,16 @@ void add_heat(ReportRow& row, const MashStep& step, const Settings& settings) {
     if (step.heat_type == StepHeat::direct) {
         add("%s|%s     |%s   |%s\n", "%s|---|-----|----", {{"Direct", heat_width}, "---", "-------", "----"});
     } else if (step.heat_type == StepHeat::decoction) {
-        const double thickness =
-            is_american(settings.volume_units) ? step.ratio : step.ratio / shown_thickness;
         add("%s|%3d     |%7.2f   |%4.2f (Decoc Thickness)\n", "%s|%3d|%5.2f|%4.2f (Decoc Thickness)",
-            {{"Decoc", heat_width}, degrees, std::max(amount, 0.0F), thickness});
+            {{"Decoc", heat_width}, degrees, std::max(amount, 0.0F), decoction_thickness(step, source)});
     } else {
         add("%s|%3d     |%7.2f   |%4.2f\n", "%s|%3d|%5.2f|%4.2f",
             {{"Infuse", heat_width}, degrees, amount, step.ratio});
     }
 }
 
-ReportRow step_row(const MashStep& step, const Settings& settings) {
+ReportRow step_row(const MashStep& step, const ReportSource& source) {
+    const auto& settings = source.open.settings;
     ReportRow row{"%s|%3d    |%3d    |%3d     |%3d   |",
                   {{line_text(step.name), step_name_width},
                    step.step_minutes,
@@ -81,7 +88,7 @@ ReportRow step_row(const MashStep& step, const Settings& settings) {
                    shown_degrees(step.start_temperature, settings),
                    shown_degrees(step.stop_temperature, settings)},
                   "%s|%3d|%3d|%3d|%3d|"};
-    add_heat(row, step, settings);
+    add_heat(row, step, source);
     return row;
 }
 
@@ -114,9 +121,9 @@ std::vector<ReportBlock> complex_schedule(const ReportSource& source) {
     const auto& settings = source.open.settings;
     ReportTable steps{step_columns(), {}};
     for (const auto& step : source.open.document.mash.used_steps())
-        steps.rows.push_back(step_row(step, settings));
+        steps.rows.push_back(step_row(step, source));
     ReportLines totals{{190, 255}, {}};
-    add_waters(totals.rows, source.open.figures.mash.quarts, "After Additional Infusions", settings);
+    add_waters(totals.rows, source.open.figures.mash.quarts, "After Additional Infusions", source);
     totals.rows.front().format.insert(0, "\n\n");
     totals.rows.push_back(mash_volume_row(source));
     add_notes(totals.rows, settings);

@@ -5,13 +5,6 @@
 namespace wortlex {
 namespace {
 
-ReportRow name_row(const StyleRecord& style) {
-    const auto name = line_text(style.name), category = line_text(style.category);
-    if (style.letter == '\0') return {"%02d  |%s, %s\n\n", {style.number, name, category}};
-    const auto letter = line_text(std::string_view(&style.letter, 1));
-    return {"%02d-%c  |%s, %s\n\n", {style.number, letter, name, category}};
-}
-
 ReportRow gravity_row(const StyleRecord& style, const Settings& settings) {
     return {"Min OG:  |" + sg_column(5, 3, settings) + "|Max OG:  |" + sg_column(5, 0, settings) + "\n",
             {style.min_og, style.max_og}};
@@ -30,7 +23,7 @@ ReportSection style_section(const ReportSource& source) {
     const auto& style = source.open.document.style;
     return section_of(style.book == 0 ? "AHA Style and Style Guidelines" : "BJCP Style and Style Guidelines",
                       ReportLines{{90, 170, 260, 340},
-                                  {name_row(style),
+                                  {style_row(style),
                                    gravity_row(style, source.open.settings),
                                    {"Min IBU: |%5.0f   |Max IBU: |%5.0f\n", {style.min_ibu, style.max_ibu}},
                                    colour_row(style, source.open.settings)}});

@@ -16,7 +16,7 @@ TEST(ReportCommand, writes_one_text_after_the_other_with_the_exports_line_ends) 
     EXPECT_EQ(ran.out, report({"--text", bitter}).out + report({"--text", brown_ale}).out +
                            report({"--text", brew_day}).out);
     for (const auto* text : {"Recipe:       First Batch Brown Ale\r\n", "BJCP Style and Style Guidelines\r\n",
-                             "A Wortlex Brewing Session - Recipe Details Report\r\n"})
+                             "A Wortlex Brewing Session Report\r\n"})
         EXPECT_THAT(ran.out, HasSubstr(text));
 }
 

@@ -219,7 +219,7 @@ struct Exports : Kitchen {
     std::vector<std::string> send(ReportForm form, std::deque<std::optional<std::string>> paths = {}) {
         set_report_form(program.recipe_print, form);
         ScriptedFiles files(std::move(paths));
-        export_document({program, prompts, files, pages, clipboard, easel, pictures}, {});
+        export_document({program, prompts, files, pages, clipboard, easel, pictures}, {}, nullptr);
         return files.offers;
     }
     static std::string content(const std::string& path) {
@@ -255,7 +255,7 @@ TEST(PrintOptions, KeepTheOutputInItsFlags) {
         EXPECT_EQ(report_form(selection), form);
     }
     Form form;
-    recipe_print_form(form, selection, false, {});
+    print_options_form(form, selection, {.has_mash = false}, {});
     EXPECT_FALSE(form.row("mash").is_enabled()) << "there is nothing to mash";
     form.check(dynamic_cast<CheckRow&>(form.row("style")), true);
     EXPECT_EQ(selection[PrintSection::recipe_style_guidelines], 1);

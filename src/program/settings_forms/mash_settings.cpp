@@ -2,6 +2,7 @@
 
 #include "base/number.h"
 #include "measures/unit_words.h"
+#include "measures/units.h"
 #include "program/settings_forms/settings_rows.h"
 
 #include <memory>
@@ -10,7 +11,6 @@ namespace wortlex {
 namespace {
 
 constexpr double litres_per_kilogram = 2.0888;   // of a quart a pound
-constexpr double absorption_per_kilogram = 8.41; // litres, of a gallon a pound
 constexpr double litres_per_quart = 0.94696;
 
 // What the image has in thousandths, as the dialog holds it until OK.

@@ -7,7 +7,6 @@
 #include "desktop/scrolled.h"
 #include "documents/method_check.h"
 #include "program/documents.h"
-#include "program/export_report.h"
 #include "program/recovery.h"
 #include "windows/documents/recipe_actions.h"
 #include "windows/documents/simple_mash_printout.h"
@@ -209,7 +208,7 @@ void RecipeWindow::follow_save(const std::string& path_before) {
 }
 
 void RecipeWindow::print() {
-    if (choose_print_options(ports_, this)) export_document(ports_, editor_.view);
+    print_or_export(ports_, editor_.view, this);
 }
 
 bool RecipeWindow::may_close() {

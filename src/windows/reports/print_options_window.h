@@ -1,14 +1,16 @@
-// The options of a recipe's report on the screen.
+// The way to a printed or exported report: its options, and what a competition asks besides.
 #pragma once
 
-#include "program/program.h"
 #include "program/window_ports.h"
+#include "reports/catalogue.h"
 
-#include <QWidget>
+class QWidget;
 
 namespace wortlex {
 
-/// Lets the user choose; after OK the choice is the program's. False after Cancel.
-bool choose_print_options(const WindowPorts& ports, QWidget* owner);
+/// Asks what of the live document is to be put out, or of a session's recipe alone, and puts it out. The
+/// lists show what `view` does.
+void print_or_export(const WindowPorts& ports, const RecipeView& view, QWidget* owner,
+                     ReportPart part = ReportPart::whole);
 
 } // namespace wortlex
