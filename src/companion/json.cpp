@@ -3,11 +3,16 @@
 #include "base/number.h"
 #include "companion/utf8.h"
 
-#include <array>
+#include <algorithm>
 #include <cmath>
 
 namespace wortlex {
 namespace {
+
+// Most of a line does, and is taken over in one piece.
+bool stands_for_itself(char c) {
+    return c >= ' ' && c <= '~' && c != '"' && c != '\\';
+}
 
 void append_escaped(std::string& out, char c) {
     constexpr std::string_view digits = "0123456789abcdef";
@@ -31,10 +36,6 @@ void append_escaped(std::string& out, char c) {
         break;
     }
     const auto byte = static_cast<unsigned char>(c);
-    if (byte >= 0x20 && byte < 0x7F) {
-        out += c;
-        return;
-    }
     out += "\\u00";
     out += digits[byte >> 4];
     out += digits[byte & 0x0F];
@@ -84,14 +85,22 @@ void JsonWriter::name(std::string_view key) {
 void JsonWriter::quote(std::string_view value) {
     text_ += '"';
     while (!value.empty()) {
-        const auto length = character_length(value);
-        if (length == 0) text_ += "\xEF\xBF\xBD";
-        if (length == 1) append_escaped(text_, value[0]);
-        if (length > 1 && is_control(value)) append_escaped(text_, value[1]); // its number is that byte
-        if (length > 1 && !is_control(value)) text_ += value.substr(0, length);
-        value.remove_prefix(length == 0 ? 1 : length);
+        const auto end = std::find_if_not(value.begin(), value.end(), stands_for_itself);
+        text_.append(value.begin(), end);
+        value.remove_prefix(static_cast<std::size_t>(end - value.begin()));
+        if (!value.empty()) value.remove_prefix(escape_first(value));
     }
     text_ += '"';
+}
+
+// Returns how many bytes of `value` that was.
+std::size_t JsonWriter::escape_first(std::string_view value) {
+    const auto length = character_length(value);
+    if (length == 0) text_ += "\xEF\xBF\xBD";
+    if (length == 1) append_escaped(text_, value[0]);
+    if (length > 1 && is_control(value)) append_escaped(text_, value[1]); // its number is that byte
+    if (length > 1 && !is_control(value)) text_ += value.substr(0, length);
+    return length == 0 ? 1 : length;
 }
 
 } // namespace wortlex

@@ -26,6 +26,7 @@ private:
     JsonWriter& end(char bracket);
     void name(std::string_view key);
     void quote(std::string_view value);
+    std::size_t escape_first(std::string_view value);
 
     std::string text_;
     bool needs_comma_ = false;
