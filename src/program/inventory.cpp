@@ -70,9 +70,9 @@ bool has_own_file(const DocumentFile& file) {
 // With a file of its own nothing of the session is left unsaved, and without one the copy is all there is.
 void add_session(std::vector<FileChange>& changes, const std::string& data_folder,
                  const DocumentSaving& saving) {
-    const auto image = image_of(saving.editor.open);
+    const auto image = image_to_save(saving.editor);
     const bool is_saved = has_own_file(saving.file);
-    if (is_saved) changes.push_back({saving.file.path, document_bytes(image)});
+    if (is_saved) changes.push_back({saving.file.path, saved_bytes(image)});
     changes.push_back(
         {work_path(data_folder), is_saved ? std::nullopt : std::optional(kept_work(image, saving.file))});
 }

@@ -52,9 +52,7 @@ std::optional<std::string> ask_name(const DocumentSaving& saving) {
 
 bool write(DocumentSaving& saving, const std::string& path) {
     if (!may_overwrite(saving, path)) return false;
-    const auto image = snapshot_document(saving.editor.open, SnapshotScope::with_schedule);
-    saving.editor.history.settle(saving.editor.open);
-    if (!save_document(path, image, saving.prompts)) return false;
+    if (!save_document(path, image_to_save(saving.editor), saving.prompts)) return false;
     count_as_saved(saving, path);
     return true;
 }
@@ -63,6 +61,12 @@ bool write(DocumentSaving& saving, const std::string& path) {
 
 bool is_modified(const OpenDocument& open, const DocumentImage& saved, const DocumentFile& file) {
     return file.recovered || document_changed(open, saved);
+}
+
+DocumentImage image_to_save(RecipeEditor& editor) {
+    auto image = snapshot_document(editor.open, SnapshotScope::with_schedule);
+    editor.history.settle(editor.open);
+    return image;
 }
 
 bool may_overwrite(const DocumentSaving& saving, const std::string& path) {

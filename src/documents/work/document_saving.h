@@ -28,6 +28,9 @@ enum class SaveAs { no, yes };
 /// then the document as it is counts as saved. False if the user left it or the file could not be written.
 bool save(DocumentSaving& saving, SaveAs save_as);
 
+/// The document as a save writes it, worked out anew.
+DocumentImage image_to_save(RecipeEditor& editor);
+
 /// Nobody loses what another program wrote into the document's file meanwhile, unless he says so.
 bool may_overwrite(const DocumentSaving& saving, const std::string& path);
 

@@ -1,5 +1,6 @@
 #include "records/documents/document_traits.h"
 
+#include "base/files.h"
 #include "records/documents/document_parts.h"
 
 #include <algorithm>
@@ -89,10 +90,14 @@ Bytes document_bytes(const DocumentImage& image) {
     return document_traits(image.kind()).encode(image);
 }
 
-bool save_document(const std::string& path, DocumentImage& image, Prompts& prompts) {
+Bytes saved_bytes(const DocumentImage& image) {
     auto written = image;
     if (written.session) repair_recording(*written.session, written.recipe);
-    return save_document(path, document_bytes(written), image.recipe, prompts);
+    return document_bytes(written);
+}
+
+bool save_document(const std::string& path, const DocumentImage& image, Prompts& prompts) {
+    return save_or_tell(path, saved_bytes(image), prompts);
 }
 
 } // namespace wortlex

@@ -43,9 +43,11 @@ LoadResult read_document(DocumentKind kind, ByteView file, DocumentImage& image,
 /// The bytes as its file would have them.
 Bytes document_bytes(const DocumentImage& image);
 
-/// Replaces the file atomically; a failure is told through `prompts` and changes nothing. A success leaves
-/// the packed flag byte in the image. What a load would put in stands in the file at once, so that a file
-/// that is read and saved stays as it was.
-bool save_document(const std::string& path, DocumentImage& image, Prompts& prompts);
+/// The same as a save writes them: what a load would put in stands in the file at once, so that a file that
+/// is read and saved stays as it was.
+Bytes saved_bytes(const DocumentImage& image);
+
+/// Replaces the file atomically; a failure is told through `prompts` and changes nothing.
+bool save_document(const std::string& path, const DocumentImage& image, Prompts& prompts);
 
 } // namespace wortlex
