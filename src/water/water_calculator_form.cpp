@@ -45,17 +45,17 @@ std::function<void()> picking(std::function<std::optional<WaterRecord>()> pick, 
     };
 }
 
-// Who weighs an analysis by the other of its charges trusts it too much.
-void balance_note(Rows& rows, const char* key, const char* water_words, const WaterRecord& water) {
-    rows.note(key,
-              [&water, water_words] {
-                  const auto charges = charges_of(water);
-                  return std::string(water_words) +
-                         formatted(" has %0.1f meq/l of cations but ", charges.cations) +
-                         formatted("%0.1f of anions: its analysis is rounded, incomplete or in error.",
-                                   charges.anions);
-              })
-        .visible([&water] { return !charges_of(water).are_balanced(); });
+// Empty for a water that may be real.
+std::string balance_words(const WaterRecord& water) {
+    const auto charges = charges_of(water);
+    if (charges.are_balanced()) return {};
+    return formatted("Not balanced: %0.1f meq/l of cations, ", charges.cations) +
+           formatted("%0.1f of anions", charges.anions);
+}
+
+void balance_note(Rows& rows, const char* key, const WaterRecord& water) {
+    rows.note(key, [&water] { return balance_words(water); })
+        .hint("In a real water they are equal: this analysis is rounded, incomplete or in error");
 }
 
 void name_rows(Rows& rows, WaterAnalysis& analysis, WaterActions& actions) {
@@ -83,8 +83,8 @@ void name_rows(Rows& rows, WaterAnalysis& analysis, WaterActions& actions) {
         .range(0, 1)
         .step(0.1F)
         .format("%0.2f");
-    balance_note(rows, "target_balance", "The target water", analysis.target);
-    balance_note(rows, "source_balance", "Your water", analysis.source);
+    balance_note(rows, "target_balance", analysis.target);
+    balance_note(rows, "source_balance", analysis.source);
 }
 
 void water_rows(Rows& rows, const WaterAnalysis& analysis) {

@@ -2,6 +2,7 @@
 
 #include "desktop/captions.h"
 #include "desktop/form_dialog.h"
+#include "desktop/scrolled.h"
 #include "program/program.h"
 #include "water/salt_suggestion.h"
 #include "water/water_match_printout.h"
@@ -60,31 +61,32 @@ Form WaterCalculatorWindow::made_form() {
 }
 
 void WaterCalculatorWindow::lay_out_rows() {
-    auto* const layout = new QVBoxLayout(this);
-    layout->addLayout(water_part());
+    auto* const work = new QVBoxLayout;
+    work->addLayout(water_part());
     auto* const box = new QGroupBox(tr("Amounts in PPM"), this);
     box->setLayout(water_grid(widgets_, *box));
-    layout->addWidget(box);
-    layout->addLayout(tool_part());
-    layout->addStretch();
+    work->addWidget(box);
+    work->addLayout(tool_part());
+    work->addStretch();
+    auto* const layout = new QVBoxLayout(this);
+    layout->addWidget(new Scrolled(work, this), 1);
     layout->addLayout(file_part());
 }
 
-// What a water cannot be is said below its name.
+// What speaks against a water stands behind its name.
 QLayout* WaterCalculatorWindow::water_part() {
     auto* const grid = new QGridLayout;
     int line = 0;
     for (const std::string water : {"target", "source"}) {
+        auto* const warning = qobject_cast<QLabel*>(&widgets_.field(water + "_balance"));
+        warning->setWordWrap(false);
         grid->addWidget(widgets_.label(water + "_name"), line, 0);
         grid->addWidget(&widgets_.field(water + "_name"), line, 1);
         grid->addWidget(&widgets_.field("pick_" + water), line, 2);
-        auto* const warning = qobject_cast<QLabel*>(&widgets_.field(water + "_balance"));
-        warning->setWordWrap(false); // it comes and goes, and makes room for itself
-        grid->addWidget(warning, line + 1, 0, 1, 6);
-        line += 2;
+        grid->addWidget(warning, line++, 3);
     }
-    grid->addWidget(widgets_.label("dilution_rate"), 2, 3, Qt::AlignRight | Qt::AlignVCenter);
-    grid->addWidget(&widgets_.field("dilution_rate"), 2, 4);
+    grid->addWidget(widgets_.label("dilution_rate"), line, 0);
+    grid->addWidget(&widgets_.field("dilution_rate"), line, 1, Qt::AlignLeft);
     grid->setColumnStretch(3, 1);
     return grid;
 }

@@ -56,7 +56,8 @@ private:
 
     void add_cell(const std::string& key, std::size_t ion) {
         auto& field = widgets_.field(key + '_' + ions[ion].key);
-        field.setMaximumWidth(QWIDGETSIZE_MAX); // as wide as its column
+        field.setMaximumWidth(QWIDGETSIZE_MAX); // as wide as its column, which its least width makes
+        field.setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
         grid_->addWidget(&field, line_, column_of(ion));
     }
 

@@ -2,6 +2,7 @@
 
 #include "desktop/captions.h"
 #include "desktop/qt_text.h"
+#include "desktop/scrolled.h"
 #include "program/program.h"
 
 #include <QGridLayout>
@@ -35,7 +36,10 @@ QLayout* stage_rows(const Group& group, const FormWidgets& widgets) {
         auto& field = widgets.field(*row);
         grid->addWidget(widgets.label(*row), line, 0);
         field.setMaximumWidth(QWIDGETSIZE_MAX); // figures as wide as the fields
-        if (is_result(*row)) stand_out(field);
+        if (is_result(*row)) {
+            field.setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+            stand_out(field);
+        }
         grid->addWidget(&field, line, 1);
         if (auto* const unit = widgets.unit(*row)) grid->addWidget(unit, line, 2);
         ++line;
@@ -74,9 +78,9 @@ Form WaterNeedsWindow::made_form() {
 
 // The stages from the left to the right, their sum and their picture below.
 void WaterNeedsWindow::lay_out_rows() {
-    auto* const layout = new QVBoxLayout(this);
+    auto* const work = new QVBoxLayout;
     auto* const columns = new QHBoxLayout;
-    layout->addLayout(columns);
+    work->addLayout(columns);
     QVBoxLayout* column = nullptr;
     for (const auto& group : form_.groups()) {
         if (group->heading().empty()) continue;
@@ -93,8 +97,10 @@ void WaterNeedsWindow::lay_out_rows() {
     need->addWidget(widgets_.unit(form_.row("needed")));
     need->addStretch();
     need->addWidget(&widgets_.field("units"));
-    layout->addLayout(need);
-    layout->addWidget(&widgets_.field("flow"), 1);
+    work->addLayout(need);
+    work->addWidget(&widgets_.field("flow"), 1);
+    auto* const layout = new QVBoxLayout(this);
+    layout->addWidget(new Scrolled(work, this), 1);
     auto* const buttons = new QHBoxLayout;
     for (const auto* const key : {"save_default", "print", "help"}) buttons->addWidget(&widgets_.field(key));
     buttons->addStretch();
