@@ -38,7 +38,7 @@ struct SessionDesk : Brewery {
         SaveYeasts(folder.path(), {});
     }
     static OpenDocument start_session(Program& program) {
-        new_session(program);
+        new_session(program, {6, 12, 2026});
         return live_document(program);
     }
     void stock(float pounds) const {
