@@ -3,6 +3,7 @@
 
 #include <QAbstractSpinBox>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QtTest/QTest>
 
 namespace wortlex {
@@ -18,6 +19,15 @@ inline void type_over(QLineEdit& line, const char* keys) {
     line.setFocus();
     line.selectAll();
     QTest::keyClicks(&line, QString::fromUtf8(keys));
+}
+
+/// What the field of a row shows.
+inline QString text_of(const QWidget& window, const char* key) {
+    return line_of(*window.findChild<QWidget*>(QString::fromLatin1(key)))->text();
+}
+
+inline void press(const QWidget& window, const char* key) {
+    window.findChild<QPushButton*>(QString::fromLatin1(key))->click();
 }
 
 } // namespace wortlex

@@ -52,10 +52,6 @@ struct Brewhouse : Brewery {
     }
 };
 
-QString text_of(const QWidget& page, const char* key) {
-    return line_of(*page.findChild<QWidget*>(QString::fromLatin1(key)))->text();
-}
-
 void type_into(const QWidget& page, const char* key, const char* text) {
     type_over(*line_of(*page.findChild<QWidget*>(QString::fromLatin1(key))), text);
 }
@@ -70,7 +66,7 @@ void press_and_answer(const QWidget& page, const char* key, const std::function<
         answer(*dialog);
     });
     user.start(1);
-    page.findChild<QPushButton*>(QString::fromLatin1(key))->click();
+    press(page, key);
 }
 
 TEST(SessionLog, EveryChangeReachesEveryPage) {

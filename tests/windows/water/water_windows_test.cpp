@@ -31,14 +31,6 @@ struct Tools {
     }
 };
 
-void press_in(const QWidget& window, const char* button) {
-    window.findChild<QPushButton*>(QString::fromLatin1(button))->click();
-}
-
-QString shown_in(const QWidget& window, const char* field) {
-    return line_of(*window.findChild<QWidget*>(QString::fromLatin1(field)))->text();
-}
-
 // Whether a window is painted anew from here on.
 struct Painted : QObject {
     bool is_painted = false;
@@ -53,22 +45,22 @@ struct Painted : QObject {
 TEST(WaterCalculatorWindow, ItsChartFollowsEachKeyAndBecomesAPicture) {
     Tools tools;
     auto& window = tools.open(command::water_profile, "CHEMICALDIALOG");
-    press_in(window, "show_graph");
+    press(window, "show_graph");
     auto* const chart = Tools::shown("WATERGRAPHDIALOG");
     ASSERT_NE(chart, nullptr);
     ASSERT_TRUE(QTest::qWaitForWindowExposed(chart));
-    press_in(window, "show_graph");
+    press(window, "show_graph");
     EXPECT_EQ(Tools::shown("WATERGRAPHDIALOG"), chart) << "once at most";
     QApplication::processEvents();
     Painted painted(*chart->findChild<QWidget*>("chart"));
     type_over(*line_of(*window.findChild<QWidget*>("gypsum_rate")), "2");
     QTRY_VERIFY(painted.is_painted);
-    EXPECT_EQ(shown_in(window, "totals_sulfate"), "294.8");
+    EXPECT_EQ(text_of(window, "totals_sulfate"), "294.8");
     tools.brewery.files.add("burton.jpg");
-    press_in(*chart, "jpg");
+    press(*chart, "jpg");
     const auto& picture = tools.brewery.pictures.files.at("burton.jpg");
     EXPECT_EQ(picture.height, water_chart_window.height - 30);
-    press_in(*chart, "print");
+    press(*chart, "print");
     EXPECT_EQ(tools.brewery.pages.jobs.size(), 1U);
     QTest::keyClick(chart, Qt::Key_Escape);
     Tools::at_work(window);
@@ -92,15 +84,15 @@ TEST(WaterNeedsWindow, ReadsItsFileAtEveryOpening) {
     type_over(*line_of(*window.findChild<QWidget*>("sparge")), "5");
     tools.brewery.prompts.expect("yes/no", "Really Overwrite the Default Water Usage Data?", Answer::yes,
                                  Icon::question);
-    press_in(window, "save_default");
+    press(window, "save_default");
     EXPECT_EQ(program.water_usage.sparge, 5) << "a new session begins with it";
     type_over(*line_of(*window.findChild<QWidget*>("sparge")), "7");
     program.settings.cooling_shrink = 0.5F;
     program.notices.tell(Change::settings);
-    EXPECT_EQ(shown_in(window, "after_cooling"), "  3.50");
+    EXPECT_EQ(text_of(window, "after_cooling"), "  3.50");
     QTest::keyClick(&window, Qt::Key_Escape);
     auto& again = tools.open(command::water_needed, "WATERNEEDSDIALOG");
-    EXPECT_EQ(shown_in(again, "needed"), "  5.00");
+    EXPECT_EQ(text_of(again, "needed"), "  5.00");
     again.close();
 }
 
