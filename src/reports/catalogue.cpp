@@ -88,6 +88,8 @@ constexpr std::array catalogue = {
     Entry{.section = yeast_section, .is_on_form = true},
     Entry{water_section, PrintSection::water_profile, false, true},
     Entry{mash_section, PrintSection::mash_schedule, false, true, has_mash},
+    Entry{water_match_section, PrintSection::water_analysis, true},
+    Entry{water_adjustment_section, PrintSection::water_analysis, true},
     Entry{water_needed_section, PrintSection::water_needed, true},
     Entry{efficiency_section, PrintSection::efficiency, true},
     Entry{fermentation_section, PrintSection::fermentation, true, true},

@@ -6,7 +6,8 @@
 namespace wortlex {
 namespace {
 
-constexpr int colour_box = 250; // behind the figure that it belongs to
+constexpr int lines_with_body = 12; // below a heading, before a new page is begun for it
+constexpr int colour_box = 250;     // behind the figure that it belongs to
 
 // At the top of a page no line is left blank, and at its end none goes over to the next one.
 void leave_blank(PageContext& page, int lines) {
@@ -126,6 +127,12 @@ bool is_bare(const ReportSection& section) {
 
 void write(const ReportSection& section, int lines_below, PageContext& page) {
     const auto& heading = section.print_heading ? *section.print_heading : section.heading;
+    if (section.print_body) {
+        page.KeepTogether(lines_with_body);
+        write_heading(heading, page);
+        section.print_body(page);
+        return leave_blank(page, 1);
+    }
     if (!section.blocks.empty()) keep_together(section.blocks.front(), heading.empty() ? 0 : 2, page);
     write_heading(heading, page);
     for (const auto& block : section.blocks) {

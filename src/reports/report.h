@@ -3,7 +3,9 @@
 #pragma once
 
 #include "page/html_writer.h"
+#include "page/page.h"
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <variant>
@@ -80,9 +82,10 @@ using ReportBlock = std::variant<ReportLines, ReportTable, ReportText>;
 struct ReportSection {
     std::string heading; ///< none where empty
     std::vector<ReportBlock> blocks;
-    std::optional<std::string> print_heading{}; ///< where print has its own
-    std::string text_heading{};                 ///< where the text form has its own, with all its lines
-    int print_order = 0;                        ///< those of a larger number come later in print
+    std::optional<std::string> print_heading{};     ///< where print has its own
+    std::string text_heading{};                     ///< where the text form has its own, with all its lines
+    int print_order = 0;                            ///< those of a larger number come later in print
+    std::function<void(PageContext&)> print_body{}; ///< what print has instead of the blocks
 };
 
 /// A section of such blocks, which are moved.

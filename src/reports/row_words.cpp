@@ -164,7 +164,7 @@ std::string text_titles(const ReportTable& table) {
     for (const auto& column : table.columns) {
         const auto split = std::min(column.title.find('\n'), column.title.size());
         const bool is_double = split < column.title.size();
-        first.resize(std::max(first.size(), column.place), ' ');
+        if (split > 0) first.resize(std::max(first.size(), column.place), ' ');
         first += column.title.substr(0, split);
         if (!is_double) continue;
         second.resize(std::max(second.size(), column.place), ' ');

@@ -22,6 +22,8 @@ ReportSection notes_section(const ReportSource& source);
 ReportSection awards_section(const ReportSource& source);
 
 /// Of a session only, as those that follow.
+ReportSection water_match_section(const ReportSource& source);
+ReportSection water_adjustment_section(const ReportSource& source);
 ReportSection water_needed_section(const ReportSource& source);
 ReportSection efficiency_section(const ReportSource& source);
 ReportSection fermentation_section(const ReportSource& source);

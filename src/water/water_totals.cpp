@@ -121,6 +121,11 @@ void water_totals_form(Form& form, WaterAnalysis& analysis, const Settings& sett
     buttons.button("help", "&Help", std::move(actions.help));
 }
 
+std::array<std::string, 2> water_adjustment_heads(const WaterAnalysis& analysis, const Settings& settings) {
+    return {adjusted(volumes[0].caption, analysis, volumes[0], settings),
+            adjusted(volumes[1].caption, analysis, volumes[1], settings)};
+}
+
 void print_water_adjustment(PageContext& page, const WaterAnalysis& analysis, const Settings& settings) {
     const char* const unit = analysis.unit == SaltUnit::grams ? "\tGrams of " : "\tOunces of ";
     for (const auto& volume : volumes) {

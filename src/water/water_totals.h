@@ -18,6 +18,9 @@ struct WaterTotalsActions {
 void water_totals_form(Form& form, WaterAnalysis& analysis, const Settings& settings,
                        WaterTotalsActions actions);
 
+/// What stands above the quantities for the mash, and for the sparge.
+std::array<std::string, 2> water_adjustment_heads(const WaterAnalysis& analysis, const Settings& settings);
+
 /// The body of the page, below its headers.
 void print_water_adjustment(PageContext& page, const WaterAnalysis& analysis, const Settings& settings);
 

@@ -1,0 +1,27 @@
+#include "documents/session_water.h"
+
+#include "brewing/salts.h"
+
+namespace wortlex {
+
+WaterAnalysis water_analysis_of(const BrewDocument& document, const SessionDocument& session) {
+    WaterAnalysis analysis;
+    analysis.rates = session.salt_grams;
+    for (std::size_t i = 0; i < salt_effects.size(); ++i)
+        analysis.added(salt_effects.at(i).salt) = session.salt_effects.at(i);
+    analysis.target = document.water;
+    analysis.source = session.source_water;
+    analysis.dilution_rate = session.dilution_rate;
+    analysis.totals.ph = session.tail.calculated_ph;
+    analysis.unit = SaltUnit::ounces;
+    if (document.recipe_kind != RecipeKind::extract) {
+        analysis.mash_gallons = session.water_needs.mash_water;
+        analysis.sparge_gallons = session.water_needs.sparge;
+    }
+    analysis.mash_quarts = narrow(analysis.mash_gallons * 4.0);
+    analysis.sparge_quarts = narrow(analysis.sparge_gallons * 4.0);
+    settle_water(analysis);
+    return analysis;
+}
+
+} // namespace wortlex
