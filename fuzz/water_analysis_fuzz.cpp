@@ -1,5 +1,6 @@
 // A matched water, as its window shows it, prints it and draws it: whatever a file holds, no figure is shown
 // that is no number.
+#include "brewing/salt_proposal.h"
 #include "fuzz_input.h"
 #include "shown_figures.h"
 #include "water/water_calculator_form.h"

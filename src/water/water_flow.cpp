@@ -25,7 +25,8 @@ float less(float before, float after) {
 
 // In pixels, of at most `longest`.
 int length_of(double gallons, double most, int longest) {
-    return gallons > 0 ? truncate(std::min(gallons / most, 1.0) * longest + 0.5) : 0;
+    const double share = gallons / most;
+    return share > 0 ? truncate(std::min(share, 1.0) * longest + 0.5) : 0; // what is no number has no bar
 }
 
 double most_of(const std::vector<WaterStage>& stages) {
