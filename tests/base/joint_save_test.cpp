@@ -20,20 +20,22 @@ struct JointDesk {
     std::string journal = folder / "journal";
 
     JointDesk() {
-        for (const auto* const name : {"a", "b", "gone"}) save_atomically(folder / name, content_bytes("old"));
+        for (const auto* const name : {"a", "b", "gone"})
+            save_atomically(folder / name, content_bytes("old"));
     }
     std::string content() const {
         std::string all;
         for (const auto* const name : {"a", "b", "gone"}) {
             const auto file = read_file(folder / name);
-            all += file ? std::string(reinterpret_cast<const char*>(file->data()), file->size()) : "none";
+            for (const auto byte : file.value_or(content_bytes("none"))) all += static_cast<char>(byte);
             all += ' ';
         }
         return all;
     }
     std::vector<FileChange> changes() const {
-        return {
-            {folder / "a", content_bytes("new")}, {folder / "b", content_bytes("n")}, {folder / "gone", std::nullopt}};
+        return {{folder / "a", content_bytes("new")},
+                {folder / "b", content_bytes("n")},
+                {folder / "gone", std::nullopt}};
     }
 };
 

@@ -1,6 +1,7 @@
 // Finalizes one session after another in a brewery folder, until it is killed. Each takes one of everything,
 // so what is left in stock tells how many were booked, and the session's title and mark how many should be.
 // Every start compares them first.
+#include "base/number.h"
 #include "base/ports/quiet_prompts.h"
 #include "documents/work/stocks.h"
 #include "program/inventory.h"
@@ -78,7 +79,7 @@ struct BrewDay {
         program.settings = settings_from(image);
         new_session(program, {6, 12, 2026});
     }
-    int number() const { return std::atoi(program.document.recipe.title.bytes.data()); }
+    int number() const { return parse_whole(program.document.recipe.title.view()).value_or(0); }
     bool load() {
         return load_session(path, program.document.recipe, program.document.session, program.settings) ==
                LoadResult::loaded;

@@ -1,5 +1,6 @@
 #include "documents/forms/inventory_form.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace wortlex {

@@ -1,8 +1,11 @@
 #include "documents/work/inventory_analysis.h"
 
+#include "base/number.h"
 #include "base/windows1252.h"
 #include "measures/unit_words.h"
 #include "measures/units.h"
+
+#include <algorithm>
 
 namespace wortlex {
 namespace {

@@ -6,6 +6,8 @@
 
 #include <QGridLayout>
 
+#include <utility>
+
 namespace wortlex {
 
 DateDialog::DateDialog(std::string_view template_name, const CalendarDate& date, const Places& places,

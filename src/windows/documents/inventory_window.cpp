@@ -9,6 +9,8 @@
 #include <QShortcut>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace wortlex {
 
 InventoryWindow::InventoryWindow(const WindowPorts& ports, QWidget* origin)
