@@ -85,9 +85,10 @@ void JsonWriter::name(std::string_view key) {
 void JsonWriter::quote(std::string_view value) {
     text_ += '"';
     while (!value.empty()) {
-        const auto end = std::find_if_not(value.begin(), value.end(), stands_for_itself);
-        text_.append(value.begin(), end);
-        value.remove_prefix(static_cast<std::size_t>(end - value.begin()));
+        const auto plain = static_cast<std::size_t>(
+            std::find_if_not(value.begin(), value.end(), stands_for_itself) - value.begin());
+        text_ += value.substr(0, plain);
+        value.remove_prefix(plain);
         if (!value.empty()) value.remove_prefix(escape_first(value));
     }
     text_ += '"';
