@@ -3,6 +3,7 @@
 #include "base/number.h"
 #include "measures/gravity.h"
 
+#include <algorithm>
 #include <cmath>
 #include <optional>
 
@@ -10,6 +11,7 @@ namespace wortlex {
 namespace {
 
 constexpr float reading_where_none_fits = 8.0F;
+constexpr double reading_step = 0.001;
 
 // All but the alcohol by volume, which the search has no need of.
 AlcoholFigures extracts_from_reading(float sg, float net_zeiss) {
@@ -24,21 +26,45 @@ AlcoholFigures extracts_from_reading(float sg, float net_zeiss) {
     return figures;
 }
 
-// Steps up from water to where `plato_at` a Brix reading lies closest to `goal`.
+// Steps add up as they are stored.
+float next_reading(float brix) {
+    return narrow(brix + reading_step);
+}
+
+float reading_after(float brix, int steps) {
+    for (int count = 0; count < steps; ++count) brix = next_reading(brix);
+    return brix;
+}
+
+// Whether nothing between two readings close to each other comes near the goal: extracts rise with the
+// reading or, where a formula begins to hold, jump once. The margin is far more than they rise in a stretch.
+bool lie_on_one_side(float first_plato, float last_plato, float goal) {
+    constexpr float margin = 1;
+    return std::max(first_plato, last_plato) < goal - margin ||
+           std::min(first_plato, last_plato) > goal + margin;
+}
+
+// Steps up from water to where `plato_at` a Brix reading lies closest to `goal`. Most of the way is far from
+// it.
 template <class PlatoAt>
 float fitting_reading(float goal, const Settings& settings, PlatoAt plato_at) {
-    constexpr int most_steps = 100000;
-    constexpr double step = 0.001, tolerance = 0.005;
+    constexpr int stretches = 1000, stretch_steps = 100;
+    constexpr double tolerance = 0.005;
     float brix = settings.water_brix;
     std::optional<float> last_difference;
-    for (int count = 0; count < most_steps; ++count) {
-        const float difference = narrow(std::abs(double{plato_at(brix)} - goal));
-        if (difference <= tolerance) {
+    for (int stretch = 0; stretch < stretches; ++stretch) {
+        const float end = reading_after(brix, stretch_steps);
+        if (lie_on_one_side(plato_at(brix), plato_at(end), goal)) {
+            brix = end;
+            continue;
+        }
+        for (int count = 0; count < stretch_steps; ++count, brix = next_reading(brix)) {
+            const float difference = narrow(std::abs(double{plato_at(brix)} - goal));
+            if (!(difference <= tolerance)) continue;
             // Past the best fit: the step before it was the one.
-            if (last_difference && difference > *last_difference) return narrow(brix - step);
+            if (last_difference && difference > *last_difference) return narrow(brix - reading_step);
             last_difference = difference;
         }
-        brix = narrow(brix + step);
     }
     return reading_where_none_fits;
 }
