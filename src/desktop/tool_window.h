@@ -32,6 +32,11 @@ public:
     /// Keeps unsaved work for a run that breaks off, without a word; false if it could not be written.
     virtual bool keep_work() { return true; }
 
+    /// What it works on is gone: it closes without a word.
+    virtual void dismiss() { close(); }
+    /// What it works on was saved as it stands: Cancel no longer goes behind that.
+    virtual void keep() {}
+
     std::function<void()> closed; ///< told once, when it is gone from the screen
 
 protected:

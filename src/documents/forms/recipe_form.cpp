@@ -326,10 +326,15 @@ void page_rows(Rows& rows, const RecipeSubject& subject) {
     const auto& actions = subject.actions;
     rows.button("yeast_and_water", "Yeast &And Water", actions.yeast_and_water);
     rows.button("extras_and_notes", "Extras && &Notes", actions.extras_and_notes);
-    rows.button("mash_schedule", "&Mash Schedule", actions.mash_schedule)
-        .enabled([&document] { return has_mashable_grain(document) && !has_steps(document); })
-        .disabled_because([&document] { return mash_hint(document); });
-    rows.button("save", "&Save", actions.save);
+    if (kind_of(subject.editor.open) == DocumentKind::session) {
+        rows.button("save_as", "Sa&ve As", actions.save_as)
+            .hint("Writes the recipe into a file of its own; the session stays as it is");
+    } else {
+        rows.button("mash_schedule", "&Mash Schedule", actions.mash_schedule)
+            .enabled([&document] { return has_mashable_grain(document) && !has_steps(document); })
+            .disabled_because([&document] { return mash_hint(document); });
+        rows.button("save", "&Save", actions.save);
+    }
     rows.button("print", "&Print", actions.print);
     rows.button("help", "Help", actions.help);
 }

@@ -15,6 +15,7 @@ struct RecipeActions {
     std::function<void()> new_hop, edit_hop, lose_alpha;
     std::function<void()> yeast_and_water, extras_and_notes, mash_schedule;
     std::function<void()> save, print, help;
+    std::function<void()> save_as; ///< of a session: the recipe alone
     std::function<void()> show_colour;
 };
 
@@ -25,7 +26,7 @@ struct RecipeSubject {
     RecipeActions actions = {};
 };
 
-/// Fills `form` with the rows of the recipe window.
+/// Fills `form` with the rows of the recipe window, or of the ingredients page of a session.
 void recipe_form(Form& form, const RecipeSubject& subject);
 
 } // namespace wortlex

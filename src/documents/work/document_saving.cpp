@@ -95,6 +95,20 @@ bool save(DocumentSaving& saving, SaveAs save_as) {
     return path && write(saving, *path);
 }
 
+std::optional<std::string> save_recipe_part(const OpenDocument& open, Files& files, Prompts& prompts,
+                                            const std::string& folder) {
+    auto recipe = open.document;
+    if (!has_file_title(recipe, prompts)) return std::nullopt;
+    const auto& traits = document_traits(DocumentKind::recipe);
+    const auto ending = std::string(".").append(traits.extension);
+    const auto title = utf8_from_windows1252(recipe.title.view());
+    auto path = files.choose_to_save(
+        {traits.filter, folder, title.empty() ? title : title + ending, traits.extension});
+    if (!path) return std::nullopt;
+    if (document_kind(*path) == DocumentKind::session) *path += ending; // never over a session
+    return save_recipe(*path, recipe, prompts) ? path : std::nullopt;
+}
+
 bool may_leave(DocumentSaving& saving) {
     const auto& open = saving.editor.open;
     if (!is_modified(open, saving.saved, saving.file)) return true;

@@ -37,6 +37,11 @@ bool may_overwrite(const DocumentSaving& saving, const std::string& path);
 /// The file holds the document now: it comes from there, and there is nothing to save.
 void count_as_saved(DocumentSaving& saving, const std::string& path);
 
+/// Writes the recipe part of a session into a recipe file that is asked for, and answers its path. The
+/// session, its file and its title stay as they are.
+std::optional<std::string> save_recipe_part(const OpenDocument& open, Files& files, Prompts& prompts,
+                                            const std::string& folder);
+
 /// Before the document is left for another one: true if nothing is to be saved, or has been, or shall not be.
 bool may_leave(DocumentSaving& saving);
 

@@ -1,18 +1,13 @@
 #include "windows/documents/recipe_actions.h"
 
+#include "windows/calculators/color_swatch_window.h"
+#include "windows/documents/document_keys.h"
 #include "windows/documents/line_dialogs.h"
 
 namespace wortlex {
 namespace {
 
-struct Side {
-    RecipeEditor& editor;
-    WindowPorts ports;
-    Opener opener;
-    QWidget* owner;
-};
-
-void add_malt_actions(RecipeActions& actions, const Side& side) {
+void add_malt_actions(RecipeActions& actions, const RecipeSide& side) {
     actions.new_malt = [side] {
         if (const auto malt = pick_malt(side.ports, side.opener, side.owner)) add_malt(side.editor, *malt);
     };
@@ -30,17 +25,17 @@ void add_malt_actions(RecipeActions& actions, const Side& side) {
 }
 
 // One of the dialogs that hand a hop line back changed.
-using HopDialog = std::optional<HopUse> (*)(const Side&, const HopUse&);
+using HopDialog = std::optional<HopUse> (*)(const RecipeSide&, const HopUse&);
 
-std::optional<HopUse> edit_hop(const Side& side, const HopUse& hop) {
+std::optional<HopUse> edit_hop(const RecipeSide& side, const HopUse& hop) {
     return edit_hop_line(side.ports, side.editor.open, hop, side.opener, side.owner);
 }
 
-std::optional<HopUse> lose_alpha(const Side& side, const HopUse& hop) {
+std::optional<HopUse> lose_alpha(const RecipeSide& side, const HopUse& hop) {
     return lose_hop_alpha(side.ports, hop, side.opener, side.owner);
 }
 
-std::function<void()> change_by(HopDialog dialog, const Side& side) {
+std::function<void()> change_by(HopDialog dialog, const RecipeSide& side) {
     return [side, dialog] {
         const auto line = selected_hop(side.editor);
         if (!line) return;
@@ -49,10 +44,7 @@ std::function<void()> change_by(HopDialog dialog, const Side& side) {
     };
 }
 
-} // namespace
-
-RecipeActions line_actions(RecipeEditor& editor, const WindowPorts& ports, Opener opener, QWidget* owner) {
-    const Side side{editor, ports, opener, owner};
+RecipeActions line_actions(const RecipeSide& side) {
     RecipeActions actions;
     actions.pick_style = [side] {
         if (const auto style = pick_style(side.ports, side.opener, side.owner))
@@ -68,9 +60,7 @@ RecipeActions line_actions(RecipeEditor& editor, const WindowPorts& ports, Opene
     return actions;
 }
 
-YeastWaterActions yeast_water_actions(RecipeEditor& editor, const WindowPorts& ports, Opener opener,
-                                      QWidget* owner) {
-    const Side side{editor, ports, opener, owner};
+YeastWaterActions yeast_water_actions(const RecipeSide& side) {
     YeastWaterActions actions;
     actions.pick_yeast = [side] {
         if (const auto yeast = pick_yeast(side.ports, side.opener, side.owner))
@@ -83,8 +73,7 @@ YeastWaterActions yeast_water_actions(RecipeEditor& editor, const WindowPorts& p
     return actions;
 }
 
-ExtrasActions extras_actions(RecipeEditor& editor, const WindowPorts& ports, Opener opener, QWidget* owner) {
-    const Side side{editor, ports, opener, owner};
+ExtrasActions extras_actions(const RecipeSide& side) {
     ExtrasActions actions;
     actions.new_extra = [side] {
         if (const auto extra = pick_extra(side.ports, side.opener, side.owner))
@@ -101,6 +90,61 @@ ExtrasActions extras_actions(RecipeEditor& editor, const WindowPorts& ports, Ope
             replace_extra(side.editor, *changed);
     };
     return actions;
+}
+
+RecipeSide over(const RecipeSide& side, QWidget* page) {
+    return {side.editor, side.ports, side.opener, page};
+}
+
+RecipePageUse yeast_water_page(const RecipeSide& side) {
+    return {.template_name = yeast_water_template(side.opener),
+            .step = "Yeast And Water",
+            .opener = side.opener,
+            .fill = [side](Form& form, QWidget* page) {
+                yeast_water_form(form, side.editor, yeast_water_actions(over(side, page)));
+            }};
+}
+
+RecipePageUse extras_page(const RecipeSide& side) {
+    return {
+        .template_name = extras_template(side.opener),
+        .step = "Extras & Notes",
+        .opener = side.opener,
+        .fill = [side](Form& form,
+                       QWidget* page) { extras_form(form, side.editor, extras_actions(over(side, page))); },
+        .arrange = arrange_extras};
+}
+
+} // namespace
+
+void show_page(const RecipeSide& side, OpenPages& pages, const RecipePageUse& use,
+               const std::function<void()>& save) {
+    pages.show(use.template_name, [&] {
+        auto* const page = new RecipePage(side.editor, use, places(side.ports.program), side.owner);
+        add_document_keys(*page, side.editor, save);
+        return page;
+    });
+}
+
+RecipeActions recipe_actions(const RecipeSide& side, OpenPages& pages, const std::function<void()>& save) {
+    auto actions = line_actions(side);
+    actions.yeast_and_water = [side, &pages, save] { show_page(side, pages, yeast_water_page(side), save); };
+    actions.extras_and_notes = [side, &pages, save] { show_page(side, pages, extras_page(side), save); };
+    actions.show_colour = [side, &pages] { show_colour(side, pages); };
+    return actions;
+}
+
+std::string_view yeast_water_template(Opener opener) {
+    return opener == Opener::session ? "BATCH4DIALOG" : "RECIPE4DIALOG";
+}
+
+std::string_view extras_template(Opener opener) {
+    return opener == Opener::session ? "BATCHEXTRADIALOG" : "RECIPEEXTRADIALOG";
+}
+
+void show_colour(const RecipeSide& side, OpenPages& pages) {
+    pages.show("COLORSWATCHDIALOG",
+               [&] { return new ColorSwatchWindow(side.ports.program, side.opener, side.owner); });
 }
 
 } // namespace wortlex

@@ -21,10 +21,8 @@ class RecipePage : public ToolWindow {
 public:
     RecipePage(RecipeEditor& editor, RecipePageUse use, const Places& places, QWidget* origin);
 
-    /// Closes without a word: the recipe is another one now, or gone.
-    void dismiss();
-    /// The recipe was saved with what stands on the page, which Cancel then leaves alone.
-    void keep() const { form_.keep(); }
+    void dismiss() override;
+    void keep() override { form_.keep(); }
 
 protected:
     bool may_close() override;

@@ -24,26 +24,21 @@ struct Bench {
     const OpenDocument& open;
 };
 
-PrintedSession printed(const Bench& bench) {
-    const auto& open = bench.open;
-    return {utf8_from_windows1252(open.document.title.view()),
-            short_date(existing_day(brew_date(*open.session)), open.settings.date_format)};
-}
-
 MeasureGravity by_hydrometer(const Bench& bench, HydrometerUse use) {
     return [bench, use](float sg) { return correct_gravity(bench.ports, bench.page, sg, use); };
 }
 
 MeasureGravity of_raw_wort(const Bench& bench, RefractometerUse use, RefractometerPair& stored) {
     return [bench, use, &stored](float sg) {
-        return measure_raw_wort(bench.ports, bench.page, use, sg, stored, printed(bench));
+        return measure_raw_wort(bench.ports, bench.page, use, sg, stored, printed_session(bench.open));
     };
 }
 
 MeasureGravity of_beer(const Bench& bench) {
     return [bench, &session = *bench.open.session](float sg) {
         return measure_finishing_gravity(bench.ports, bench.page, sg_to_plato(session.actual_og),
-                                         sg_to_plato(sg), session.tail.actual_fg_reading, printed(bench));
+                                         sg_to_plato(sg), session.tail.actual_fg_reading,
+                                         printed_session(bench.open));
     };
 }
 
@@ -59,7 +54,8 @@ FermentationActions fermentation_actions(const Bench& bench, RecipeEditor& edito
     auto& session = *bench.open.session;
     const auto alcohol = [bench, &session, &editor] {
         measure_alcohol(bench.ports, bench.page, sg_to_plato(session.actual_og),
-                        sg_to_plato(session.actual_fg), session.tail.alcohol_reading, printed(bench));
+                        sg_to_plato(session.actual_fg), session.tail.alcohol_reading,
+                        printed_session(bench.open));
         tell_change(editor);
     };
     return {.hydrometer = by_hydrometer(bench, HydrometerUse::session_gravity),
@@ -102,6 +98,11 @@ BottlingActions bottling_actions(const Bench& bench, RecipeEditor& editor) {
 }
 
 } // namespace
+
+PrintedSession printed_session(const OpenDocument& open) {
+    return {utf8_from_windows1252(open.document.title.view()),
+            short_date(existing_day(brew_date(*open.session)), open.settings.date_format)};
+}
 
 RecipePageUse efficiency_page(RecipeEditor& editor, const WindowPorts& ports) {
     return {.template_name = "BATCHEFFDIALOG",

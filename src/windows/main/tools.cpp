@@ -11,6 +11,7 @@
 #include "windows/calculators/time_sheet_window.h"
 #include "windows/databases/ingredient_windows.h"
 #include "windows/documents/recipe_window.h"
+#include "windows/documents/session_window.h"
 #include "windows/main/about_window.h"
 #include "windows/main/settings_windows.h"
 #include "windows/mash/strike_calculator_window.h"
@@ -35,9 +36,18 @@ bool begin_recipe(const WindowPorts& ports) {
     return true;
 }
 
-bool choose_recipe(const WindowPorts& ports) {
-    return want_document(ports.program.tools, DocumentKind::recipe, ports.prompts) == Wanted::go_on &&
-           choose_and_open(ports.program, DocumentKind::recipe, ports.files, ports.prompts);
+bool begin_session(const WindowPorts& ports) {
+    if (want_document(ports.program.tools, DocumentKind::session, ports.prompts) != Wanted::go_on)
+        return false;
+    const SystemClock clock;
+    new_session(ports.program, clock.today());
+    return true;
+}
+
+template <DocumentKind kind>
+bool choose_document(const WindowPorts& ports) {
+    return want_document(ports.program.tools, kind, ports.prompts) == Wanted::go_on &&
+           choose_and_open(ports.program, kind, ports.files, ports.prompts);
 }
 
 void degrade_hops(const WindowPorts& ports, QWidget* main) {
@@ -74,7 +84,7 @@ void leave_program(const WindowPorts&, QWidget* main) {
 }
 
 constexpr WindowInfo recipe_window = {"RECIPEDIALOG", {"Wortlex Recipe Formulation"}, from_main(100)};
-constexpr WindowInfo session_window = {"BATCH1DIALOG", {""}};
+constexpr WindowInfo session_window = {"BATCH1DIALOG", {"Wortlex - Brewing Session"}, from_main(101)};
 
 // clang-format off
 constexpr std::array all_tools = {
@@ -87,15 +97,16 @@ constexpr std::array all_tools = {
          .menus = {{{Menu::open, "&Recipe"}}},
          .button = {"rb02", {186, 76}, "Open Recipe", "Open Recipe"},
          .key = QKeySequence::Open,
-         .window = recipe_window, .make = made<RecipeWindow>, .prepare = choose_recipe},
+         .window = recipe_window, .make = made<RecipeWindow>, .prepare = choose_document<DocumentKind::recipe>},
     Tool{.command = command::new_session,
          .menus = {{{Menu::create, "&Brewing Session"}}},
          .button = {"rb03", {386, 76}, "New Session", "New Brewing Session"},
-         .window = session_window},
+         .window = session_window, .make = made<SessionWindow>, .prepare = begin_session},
     Tool{.command = command::open_session,
          .menus = {{{Menu::open, "&Brewing Session"}}},
          .button = {"rb04", {486, 76}, "Open Session", "Open Brewing Session"},
-         .window = session_window},
+         .window = session_window, .make = made<SessionWindow>,
+         .prepare = choose_document<DocumentKind::session>},
     Tool{.command = command::open_recent, .menus = {{{Menu::file, "Open &Recent"}}}},
     Tool{.command = command::exit,
          .menus = {{{Menu::file, "E&xit"}}},

@@ -1,0 +1,67 @@
+#include "documents/work/session_pages.h"
+
+#include <algorithm>
+
+namespace wortlex {
+namespace {
+
+bool has_schedule(const BrewDocument& document) {
+    const auto& mash = document.simple_mash;
+    return has_complex_schedule(document) ? !document.mash.used_steps().empty()
+                                          : mash.saccharification.is_present() || mash.dough_in_water != 0;
+}
+
+bool has_salts(const SessionDocument& session) {
+    const auto& grams = session.salt_grams;
+    return !session.source_water.name.empty() ||
+           std::any_of(grams.begin(), grams.end(), [](float salt) { return salt != 0; });
+}
+
+// A load puts batch size and actual gravity where nothing was recorded.
+bool has_recording(const BrewDocument& document, const SessionDocument& session) {
+    const auto& tail = session.tail;
+    return tail.recorded_volume != 0 &&
+           (tail.recorded_volume != document.batch_size || tail.recorded_og != session.actual_og);
+}
+
+bool has_fermented(const BrewDocument& document, const SessionDocument& session) {
+    const auto fresh = new_session(document);
+    return session.fermentation != fresh.fermentation || session.actual_fg != fresh.actual_fg;
+}
+
+bool is_bottled(const BottlingLog& log) {
+    return log.bottling_day != 0 ||
+           std::any_of(log.used.begin(), log.used.end(), [](auto used) { return used != 0; });
+}
+
+bool has_notes(const SessionNotes& notes) {
+    return !std::all_of(notes.begin(), notes.end() - 1, [](const auto& text) { return text.empty(); });
+}
+
+} // namespace
+
+bool is_filled(SessionPage page, const BrewDocument& document, const SessionDocument& session) {
+    switch (page) {
+    case SessionPage::ingredients:
+        return !document.malts.empty() || !document.hops.empty();
+    case SessionPage::mash:
+        return has_schedule(document);
+    case SessionPage::water_needed:
+        return session.water_needs.sparge != 0 || session.water_needs.top_up != 0;
+    case SessionPage::water_profile:
+        return has_salts(session);
+    case SessionPage::efficiency:
+        return has_recording(document, session);
+    case SessionPage::fermentation:
+        return has_fermented(document, session);
+    case SessionPage::bottling:
+        return is_bottled(session.bottling);
+    case SessionPage::notes:
+        return has_notes(session.session_notes);
+    case SessionPage::inventory:
+        return session.inventory_finalized != 0;
+    }
+    return false;
+}
+
+} // namespace wortlex
