@@ -24,6 +24,7 @@ class FormWidgets : private RowVisitor {
 public:
     FormWidgets(Form& form, const Places& places, QWidget& parent);
 
+    const Form& form() const { return form_; }
     /// The field, button or list of a row.
     QWidget& field(std::string_view key) const;
     QWidget& field(const Row& row) const;

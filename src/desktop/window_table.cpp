@@ -34,10 +34,8 @@ constexpr std::array windows = {
     WindowInfo{"BATCHPREPRINTDIALOG", {"Brewing Session Print and Export Options"}, no_places, 0},
     WindowInfo{
         "COMP_PREPRINTDIALOG", {"Competition Printout - Additional Competition Information"}, no_places, 0},
-    WindowInfo{"COMP_PREPRINTDIALOG2",
-               {"Competition Bottle Label Printout - Additional Information"},
-               no_places,
-               0},
+    WindowInfo{
+        "COMP_PREPRINTDIALOG2", {"Competition Bottle Label Printout - Additional Information"}, no_places, 0},
     WindowInfo{"MALTSHORTEDITDIALOG", {"Edit Grain/Extract Amounts"}, from_documents(76, 77), 0},
     WindowInfo{"HOPSHORTEDITDIALOG", {"Hop Amounts"}, from_documents(78, 79), 0},
     WindowInfo{"HOPSHORTEDITDIALOG1", {"Hop Amounts"}, from_documents(78, 79), 0},
@@ -50,6 +48,7 @@ constexpr std::array windows = {
         "BATCHYEASTINFO", {"Brewing Session - Fermentation Specifics"}, from_documents(no_place, 22), 0},
     WindowInfo{
         "BATCHBOTTLINGINFO", {"Brewing Session - Bottling and Kegging"}, from_documents(no_place, 25), 0},
+    WindowInfo{"BATCHWATERNEEDSDIALOG", {"Brewing Session - Water Needed"}, from_documents(no_place, 30), 0},
     WindowInfo{"BATCHNOTESDIALOG", {"Brewing Session Notes"}, from_documents(no_place, 26), 0},
     WindowInfo{"USERBOTTLEDATEDIALOG", {"Bottling/Kegging Date"}, from_documents(no_place, 87), 0},
     WindowInfo{"BATCHNATURALCARBDIALOG", {"Brewing Session - Natural Carbonation Calculator"}, no_places, 0},

@@ -180,13 +180,22 @@ void Form::for_each(const std::function<void(Row&)>& action) const {
     for (const auto& group : groups_) group->content.walk(action);
 }
 
+bool Form::has(std::string_view key) const {
+    return find(key) != nullptr;
+}
+
 Row& Form::row(std::string_view key) const {
+    auto* const found = find(key);
+    assert(found != nullptr);
+    return *found;
+}
+
+Row* Form::find(std::string_view key) const {
     Row* found = nullptr;
     for_each([&](Row& row) {
         if (row.key == key) found = &row;
     });
-    assert(found != nullptr);
-    return *found;
+    return found;
 }
 
 std::string Form::heading_of(const Row& row) const {

@@ -155,6 +155,7 @@ public:
 
     /// Every row in order, those of grids included.
     void for_each(const std::function<void(Row&)>& action) const;
+    bool has(std::string_view key) const;
     /// The row of a key; it must be there.
     Row& row(std::string_view key) const;
     /// Of the group that a row stands in; empty where it has none.
@@ -166,6 +167,7 @@ public:
 
 private:
     bool finish(Row& row, bool has_changed, const Row* being_typed);
+    Row* find(std::string_view key) const;
 
     std::vector<std::unique_ptr<Group>> groups_;
     bool column_is_due_ = false;

@@ -8,13 +8,20 @@
 
 namespace wortlex {
 
-/// What the window works on: a record, the balance that follows it, and the units of this window alone. All
-/// must outlive its form.
+/// What a window works on: a record and the balance that follows it. All must outlive its form.
 struct WaterPlan {
     WaterNeeds& needs;
     WaterBalance& balance;
-    Units& units;
+    const Units& units;
+    Units* own_units =
+        nullptr; ///< the tool's, to be chosen in its window; a session is shown in the system's
+    std::function<bool()> has_mash = nullptr; ///< of a session, whose grain, mash and boil are its document's
 };
+
+/// Whether the grain is mashed: always in the tool.
+inline bool has_mash(const WaterPlan& plan) {
+    return !plan.has_mash || plan.has_mash();
+}
 
 /// The tool's own record. It lasts for the run.
 struct WaterNeedsTool {
@@ -22,7 +29,7 @@ struct WaterNeedsTool {
     WaterBalance balance;
     Units units = Units::american;
 
-    WaterPlan plan() { return {needs, balance, units}; }
+    WaterPlan plan() { return {needs, balance, units, &units}; }
 };
 
 /// At every opening: reads the brewer's usual figures anew, where there are any, in the units of the

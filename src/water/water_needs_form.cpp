@@ -61,35 +61,80 @@ private:
                       [this_ = *this](float shown) { return this_.from_shown(shown); });
     }
 
+    bool is_session() const { return plan_.own_units == nullptr; }
+
+    // Without a mash nothing is sparged, whatever stands in the record.
+    void need_mash(NumberRow& row) const {
+        row.enabled([plan = plan_] { return has_mash(plan); })
+            .when_disabled("0.00")
+            .disabled_because("An extract recipe has no mash");
+    }
+    // Only shown, and 0 without a mash.
+    ShownRow& of_mash(Rows& rows, const char* key, const Live<std::string>& label,
+                      const std::function<float()>& value) const {
+        return rows
+            .shown_number(
+                key, [plan = plan_, value] { return has_mash(plan) ? value() : 0; }, figure_pattern)
+            .label(label);
+    }
+
     void sparge_rows(Rows& rows) const {
         const auto label = [this_ = *this] {
             const auto& words = water_unit(this_.plan_.units, this_.settings_);
             const bool is_long = &words == &words_of(Unit::hectolitres);
             return std::string("&Sparge ") + (is_long ? words.usual : words.full);
         };
-        volume(rows, "sparge", label, plan_.needs.sparge);
-        volume(rows, "sparge_deadspace", "Sparge &Deadspace", plan_.needs.sparge_deadspace);
-        result(rows, "total_into_mash", "Total Into Mash", plan_.needs.total_into_mash);
+        need_mash(volume(rows, "sparge", label, plan_.needs.sparge));
+        need_mash(volume(rows, "sparge_deadspace", "Sparge &Deadspace", plan_.needs.sparge_deadspace));
+        of_mash(rows, "total_into_mash", "Total Into Mash",
+                [this_ = *this, &needs = plan_.needs] { return this_.to_shown(needs.total_into_mash); });
+    }
+
+    void grain_entries(Rows& rows) const {
+        auto& needs = plan_.needs;
+        const auto& units = plan_.units;
+        entry(rows, "grain", grain_label(),
+              {[&needs] { return needs.grain; }, [&needs](float pounds) { enter_grain(needs, pounds); }})
+            .shown_as([&units](float pounds) { return shown_grain(pounds, units); },
+                      [&units](float shown) { return grain_from_shown(shown, units); });
+        entry(rows, "ratio", ratio_label(),
+              {[&needs, &units] { return shown_water_ratio(needs, units); },
+               [&needs, &units](float ratio) { enter_water_ratio(needs, ratio, units); }})
+            .step(0.01F);
+        volume(rows, "mash_water", mash_label(),
+               {[&needs] { return needs.mash_water; },
+                [&needs](float gallons) { enter_mash_water(needs, gallons); }});
+    }
+    void grain_figures(Rows& rows) const {
+        const auto& needs = plan_.needs;
+        const auto& units = plan_.units;
+        of_mash(rows, "grain", grain_label(), [&] { return shown_grain(needs.grain, units); });
+        of_mash(rows, "ratio", ratio_label(), [&] { return shown_water_ratio(needs, units); });
+        of_mash(rows, "mash_water", mash_label(),
+                [this_ = *this, &needs] { return this_.to_shown(needs.mash_water); });
+    }
+    Live<std::string> grain_label() const {
+        return [&units = plan_.units, session = is_session()] {
+            return std::string(session ? "Total Grain " : "Total &Grain ") + grain_unit(units).capital;
+        };
+    }
+    Live<std::string> ratio_label() const {
+        return [&units = plan_.units, session = is_session()] {
+            if (session) return std::string(is_american(units) ? "Quarts Per LBS" : "Liters Per kg");
+            return std::string(is_american(units) ? "&Quarts Per LBS" : "&Liters Per kg");
+        };
+    }
+    Live<std::string> mash_label() const {
+        return
+            [this_ = *this] { return std::string(this_.is_session() ? "Mash " : "&Mash ") + this_.unit(); };
     }
 
     void mash_rows(Rows& rows) const {
         auto& needs = plan_.needs;
-        const auto& units = plan_.units;
-        entry(rows, "grain", [&units] { return std::string("Total &Grain ") + grain_unit(units).capital; },
-              {[&needs] { return needs.grain; }, [&needs](float pounds) { enter_grain(needs, pounds); }})
-            .shown_as([&units](float pounds) { return shown_grain(pounds, units); },
-                      [&units](float shown) { return grain_from_shown(shown, units); });
-        entry(rows, "ratio",
-              [&units] { return std::string(is_american(units) ? "&Quarts Per LBS" : "&Liters Per kg"); },
-              {[&needs, &units] { return shown_water_ratio(needs, units); },
-               [&needs, &units](float ratio) { enter_water_ratio(needs, ratio, units); }})
-            .step(0.01F);
-        volume(rows, "mash_water", [this_ = *this] { return std::string("&Mash ") + this_.unit(); },
-               {[&needs] { return needs.mash_water; },
-                [&needs](float gallons) { enter_mash_water(needs, gallons); }});
-        result(rows, "grain_absorption", "Grain Absorbtion", needs.grain_absorption).unit([this_ = *this] {
-            return std::string(this_.unit());
-        });
+        is_session() ? grain_figures(rows) : grain_entries(rows);
+        of_mash(rows, "grain_absorption", "Grain Absorbtion", [this_ = *this, &needs] {
+            return this_.to_shown(needs.grain_absorption);
+        }).unit([this_ = *this] { return std::string(this_.unit()); });
         result(rows, "from_mash", "Total  From Mash", plan_.balance.from_mash);
     }
 
@@ -102,12 +147,20 @@ private:
 
     bool is_by_volume() const { return settings_.evaporation_by_volume != 0; }
 
+    void boil_time(Rows& rows) const {
+        auto& minutes = plan_.needs.boil_minutes;
+        if (is_session())
+            rows.shown_number(
+                    "boil_minutes", [&minutes] { return minutes; }, "%0.2f")
+                .label("Boil Time")
+                .unit("(Minutes)");
+        else
+            entry(rows, "boil_minutes", "&Boil Time", minutes).step(5).format("%0.2f").unit("(Minutes)");
+    }
+
     void boil_rows(Rows& rows) const {
         auto& rate = plan_.needs.evaporation_rate;
-        entry(rows, "boil_minutes", "&Boil Time", plan_.needs.boil_minutes)
-            .step(5)
-            .format("%0.2f")
-            .unit("(Minutes)");
+        boil_time(rows);
         entry(rows, "evaporation_rate", "&Evaporation Rate",
               {[this_ = *this, &rate] { return this_.is_by_volume() ? this_.to_shown(rate) : rate; },
                [this_ = *this, &rate](float shown) {
@@ -166,14 +219,15 @@ void water_needs_form(Form& form, WaterPlan plan, const Settings& settings, Wate
     rows.result(need, "needed", "You Will Need", plan.balance.needed).unit([rows] {
         return std::string(rows.unit()) + " of Water";
     });
-    unit_choice(need, plan.units, settings);
+    if (plan.own_units != nullptr) unit_choice(need, *plan.own_units, settings);
     need.canvas("flow", water_flow_size,
                 [plan, &settings](Surface& surface) { draw_water_flow(surface, plan, settings); })
         .named("The way of the water");
     need.button("save_default", "Sa&ve As Default", std::move(actions.save_default));
     need.button("print", "&Print", std::move(actions.print));
     need.button("help", "Help", std::move(actions.help));
-    form.after_edit([plan, &settings](Row&) { plan.balance = BalanceWater(plan.needs, true, settings); });
+    form.after_edit(
+        [plan, &settings](Row&) { plan.balance = BalanceWater(plan.needs, has_mash(plan), settings); });
 }
 
 } // namespace wortlex

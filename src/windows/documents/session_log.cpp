@@ -9,10 +9,14 @@
 #include "documents/forms/session_notes_form.h"
 #include "measures/gravity.h"
 #include "program/program.h"
+#include "water/water_needs_calculator.h"
 #include "windows/calculators/carbonation_dialogs.h"
 #include "windows/calculators/date_dialogs.h"
 #include "windows/calculators/gravity_dialogs.h"
 #include "windows/documents/session_log_layout.h"
+#include "windows/water/water_needs_window.h"
+
+#include <QVBoxLayout>
 
 namespace wortlex {
 namespace {
@@ -97,6 +101,28 @@ BottlingActions bottling_actions(const Bench& bench, RecipeEditor& editor) {
                 }};
 }
 
+// Cancel puts the entries back; what the mash gives stays as it is by then.
+void water_needed_form(Form& form, const Bench& bench) {
+    const auto& open = bench.open;
+    auto& needs = open.session->water_needs;
+    form.restore_on_cancel(needs);
+    form.on_cancel([&open] { refresh_water(open); });
+    const auto save_default = [bench, &needs] {
+        auto& program = bench.ports.program;
+        if (save_usual_water(needs, program.data_folder, bench.ports.prompts)) program.water_usage = needs;
+    };
+    const auto has_mash = [&document = open.document] { return document.recipe_kind != RecipeKind::extract; };
+    water_needs_form(form, {needs, *open.water, open.settings.volume_units, nullptr, has_mash}, open.settings,
+                     {.save_default = save_default, .print = nullptr, .help = nullptr});
+}
+
+QLayout* arrange_water_needed(const FormWidgets& widgets) {
+    auto* const page = new QVBoxLayout;
+    page->addLayout(arrange_water_needs(widgets));
+    page->addWidget(&widgets.field("save_default"), 0, Qt::AlignLeft);
+    return page;
+}
+
 } // namespace
 
 PrintedSession printed_session(const OpenDocument& open) {
@@ -144,6 +170,17 @@ RecipePageUse session_notes_page(RecipeEditor& editor) {
                     session_notes_form(form, editor.open.session->session_notes, nullptr);
                 },
             .arrange = arrange_notes};
+}
+
+RecipePageUse water_needed_page(RecipeEditor& editor, const WindowPorts& ports) {
+    return {.template_name = "BATCHWATERNEEDSDIALOG",
+            .step = "Water Needed",
+            .opener = Opener::session,
+            .fill =
+                [&editor, ports](Form& form, QWidget* page) {
+                    water_needed_form(form, {ports, page, editor.open});
+                },
+            .arrange = arrange_water_needed};
 }
 
 } // namespace wortlex

@@ -49,7 +49,36 @@ QLayout* stage_rows(const Group& group, const FormWidgets& widgets) {
     return grid;
 }
 
+QLayout* stage_columns(const FormWidgets& widgets) {
+    auto* const columns = new QHBoxLayout;
+    QVBoxLayout* column = nullptr;
+    for (const auto& group : widgets.form().groups()) {
+        if (group->heading().empty()) continue;
+        if (column == nullptr || group->begins_column) columns->addLayout(column = new QVBoxLayout);
+        auto* const box = new QGroupBox(string_of(group->heading()));
+        box->setLayout(stage_rows(*group, widgets));
+        column->addWidget(box, 1);
+    }
+    return columns;
+}
+
 } // namespace
+
+QLayout* arrange_water_needs(const FormWidgets& widgets) {
+    auto* const page = new QVBoxLayout;
+    page->addLayout(stage_columns(widgets));
+    auto* const need = new QHBoxLayout;
+    for (auto* const words : {static_cast<QWidget*>(widgets.label("needed")), &widgets.field("needed")})
+        stand_out(*words, large);
+    need->addWidget(widgets.label("needed"));
+    need->addWidget(&widgets.field("needed"));
+    need->addWidget(widgets.unit("needed"));
+    need->addStretch();
+    if (widgets.form().has("units")) need->addWidget(&widgets.field("units"));
+    page->addLayout(need);
+    page->addWidget(&widgets.field("flow"), 1);
+    return page;
+}
 
 WaterNeedsWindow::WaterNeedsWindow(const WindowPorts& ports, const WindowInfo& info, QWidget* origin)
     : ToolWindow(info, 0, Opener::main, origin, places(ports.program)), ports_(ports), form_(made_form()),
@@ -76,31 +105,9 @@ Form WaterNeedsWindow::made_form() {
     return form;
 }
 
-// The stages from the left to the right, their sum and their picture below.
 void WaterNeedsWindow::lay_out_rows() {
-    auto* const work = new QVBoxLayout;
-    auto* const columns = new QHBoxLayout;
-    work->addLayout(columns);
-    QVBoxLayout* column = nullptr;
-    for (const auto& group : form_.groups()) {
-        if (group->heading().empty()) continue;
-        if (column == nullptr || group->begins_column) columns->addLayout(column = new QVBoxLayout);
-        auto* const box = new QGroupBox(string_of(group->heading()), this);
-        box->setLayout(stage_rows(*group, widgets_));
-        column->addWidget(box, 1);
-    }
-    auto* const need = new QHBoxLayout;
-    for (auto* const words : {static_cast<QWidget*>(widgets_.label("needed")), &widgets_.field("needed")})
-        stand_out(*words, large);
-    need->addWidget(widgets_.label("needed"));
-    need->addWidget(&widgets_.field("needed"));
-    need->addWidget(widgets_.unit(form_.row("needed")));
-    need->addStretch();
-    need->addWidget(&widgets_.field("units"));
-    work->addLayout(need);
-    work->addWidget(&widgets_.field("flow"), 1);
     auto* const layout = new QVBoxLayout(this);
-    layout->addWidget(new Scrolled(work, this), 1);
+    layout->addWidget(new Scrolled(arrange_water_needs(widgets_), this), 1);
     auto* const buttons = new QHBoxLayout;
     for (const auto* const key : {"save_default", "print", "help"}) buttons->addWidget(&widgets_.field(key));
     buttons->addStretch();

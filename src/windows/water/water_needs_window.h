@@ -26,4 +26,8 @@ private:
     FormWidgets widgets_;
 };
 
+/// The stages from the left to the right, their sum and their picture below. The buttons are left to the
+/// window.
+QLayout* arrange_water_needs(const FormWidgets& widgets);
+
 } // namespace wortlex
