@@ -50,29 +50,45 @@ Paper paper_of(const PaperChoice& choice) {
 MeasuringSurface::MeasuringSurface()
     : image_(1, 1, QImage::Format_RGB32), painter_(&image_), surface_(painter_, {1, 1}) {}
 
-PagedPrinter::PagedPrinter(QPagedPaintDevice& device, const Paper& paper)
-    : device_(device), area_(paper.area), surface_(painter_, paper.area) {}
+QPageLayout whole_sheet_layout(PaperKind kind) {
+    auto layout = layout_of({.kind = kind});
+    layout.setMode(QPageLayout::FullPageMode);
+    return layout;
+}
+
+Paper whole_sheet(PaperKind kind) {
+    const auto sheet = extent_of(layout_of({.kind = kind}).fullRectPixels(print_resolution).size());
+    return {.sheet = sheet, .area = sheet, .is_exact = true};
+}
+
+PagedPrinter::PagedPrinter(QPagedPaintDevice& device, const Paper& paper, const PrintShift& shift)
+    : device_(device), paper_(paper), shift_(shift), surface_(painter_, paper.area) {}
+
+double PagedPrinter::scale() const {
+    const double dots = static_cast<double>(device_.logicalDpiX()) / print_resolution;
+    if (paper_.is_exact) return dots;
+    const auto room = device_.pageLayout().paintRectPixels(device_.logicalDpiX());
+    return std::min({dots, static_cast<double>(room.width()) / paper_.area.width,
+                     static_cast<double>(room.height()) / paper_.area.height});
+}
 
 bool PagedPrinter::begin(std::string_view /*document_name*/) {
     if (!painter_.begin(&device_)) return false;
-    const auto room = device_.pageLayout().paintRectPixels(device_.logicalDpiX());
-    const double dots = static_cast<double>(device_.logicalDpiX()) / print_resolution;
-    const double fit = std::min({dots, static_cast<double>(room.width()) / area_.width,
-                                 static_cast<double>(room.height()) / area_.height});
-    painter_.scale(fit, fit);
+    painter_.scale(scale(), scale());
+    painter_.translate(shift_.across * paper_.dots_per_millimetre, shift_.down * paper_.dots_per_millimetre);
     return true;
 }
 
-Bytes pdf_of(const PageJob& job, const PaperChoice& choice, Prompts& prompts) {
+Bytes pdf_of(const PageJob& job, const PaperChoice& choice, Prompts& prompts, const PrintShift& shift) {
     QBuffer buffer;
     buffer.open(QIODevice::WriteOnly);
     {
         QPdfWriter writer(&buffer);
         writer.setResolution(print_resolution);
-        writer.setPageLayout(layout_of(choice));
+        writer.setPageLayout(job.paper.is_exact ? whole_sheet_layout(choice.kind) : layout_of(choice));
         writer.setTitle(string_of(job.document_name));
         writer.setCreator(QStringLiteral("Wortlex"));
-        PagedPrinter printer(writer, job.paper);
+        PagedPrinter printer(writer, job.paper, shift);
         if (!print_pages(job, {}, printer, prompts)) return {};
     }
     return bytes_of(buffer.data());

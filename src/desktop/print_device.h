@@ -4,7 +4,7 @@
 #include "base/bytes.h"
 #include "desktop/painter_surface.h"
 #include "page/page_job.h"
-#include "settings/paper_choice.h"
+#include "settings/label_sheets.h"
 
 #include <QImage>
 #include <QPageLayout>
@@ -19,6 +19,9 @@ PaperChoice usual_paper();
 /// With margins of a fifth of an inch, which every printer manages.
 QPageLayout layout_of(const PaperChoice& choice);
 Paper paper_of(const PaperChoice& choice);
+/// The same without margins, for what has its exact place on the sheet.
+QPageLayout whole_sheet_layout(PaperKind kind);
+Paper whole_sheet(PaperKind kind);
 
 /// Tells how wide texts will be on paper.
 class MeasuringSurface {
@@ -36,7 +39,7 @@ private:
 /// wider margins or has been given a smaller sheet.
 class PagedPrinter : public Printer {
 public:
-    PagedPrinter(QPagedPaintDevice& device, const Paper& paper);
+    PagedPrinter(QPagedPaintDevice& device, const Paper& paper, const PrintShift& shift = {});
 
     bool begin(std::string_view document_name) override;
     Surface& page() override { return surface_; }
@@ -45,12 +48,15 @@ public:
 
 private:
     QPagedPaintDevice& device_;
-    Extent area_;
+    double scale() const;
+
+    Paper paper_;
+    PrintShift shift_;
     QPainter painter_;
     PainterSurface surface_;
 };
 
 /// The job as the bytes of a PDF file; empty if it could not be made.
-Bytes pdf_of(const PageJob& job, const PaperChoice& choice, Prompts& prompts);
+Bytes pdf_of(const PageJob& job, const PaperChoice& choice, Prompts& prompts, const PrintShift& shift = {});
 
 } // namespace wortlex

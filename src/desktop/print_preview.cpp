@@ -165,7 +165,7 @@ void PrintPreview::add_key(const QKeySequence& keys, std::string_view button) {
 void PrintPreview::print() {
     QPrinter printer(QPrinter::HighResolution);
     printer.setResolution(print_resolution);
-    printer.setPageLayout(layout_of(pages_.paper()));
+    printer.setPageLayout(pages_.layout());
     printer.setDocName(string_of(pages_.job().document_name));
     QPrintDialog dialog(&printer, this);
     dialog.setWindowModality(Qt::WindowModal);
@@ -173,7 +173,7 @@ void PrintPreview::print() {
                       QAbstractPrintDialog::PrintCurrentPage);
     dialog.setMinMax(1, static_cast<int>(pages_.count()));
     if (dialog.exec() != QDialog::Accepted) return;
-    PagedPrinter paper(printer, pages_.job().paper);
+    PagedPrinter paper(printer, pages_.job().paper, pages_.shift_of(printer.printerName().toStdString()));
     print_pages(pages_.job(), range_of(printer, pages_.current()), paper, ports_.prompts);
 }
 
@@ -185,7 +185,7 @@ void PrintPreview::save() {
                                      .extension = "pdf"});
     if (!path) return;
     follow_user(ports_.folders, FolderKind::text_exports, *path);
-    const auto file = pdf_of(pages_.job(), pages_.paper(), ports_.prompts);
+    const auto file = pdf_of(pages_.job(), pages_.paper(), ports_.prompts, pages_.shift_of(""));
     if (!file.empty()) save_or_tell(*path, file, ports_.prompts);
 }
 

@@ -30,9 +30,9 @@ Binding<std::int32_t> half_of_paper(PreviewPages& pages, Half PaperChoice::*half
             }};
 }
 
-void drop_down(Rows& rows, const char* key, const char* label, Binding<std::int32_t> code,
-               std::vector<Live<std::string>> words) {
-    rows.choice(key, std::move(code), std::move(words)).look(ChoiceRow::Look::drop_down).label(label);
+ChoiceRow& drop_down(Rows& rows, const char* key, const char* label, Binding<std::int32_t> code,
+                     std::vector<Live<std::string>> words) {
+    return rows.choice(key, std::move(code), std::move(words)).look(ChoiceRow::Look::drop_down).label(label);
 }
 
 } // namespace
@@ -43,7 +43,8 @@ PreviewPages::PreviewPages(const PrintRequest& request, PaperChoice& paper)
 }
 
 void PreviewPages::record() {
-    job_ = record_report(request_, paper_of(paper_), measure_.surface()).value_or(PageJob{});
+    const auto paper = request_.sheet ? whole_sheet(*request_.sheet) : paper_of(paper_);
+    job_ = record_report(request_, paper, measure_.surface()).value_or(PageJob{});
     turn(0);
 }
 
@@ -67,6 +68,18 @@ void PreviewPages::choose(PreviewZoom zoom) {
     tell();
 }
 
+PaperChoice PreviewPages::paper() const {
+    return request_.sheet ? PaperChoice{.kind = *request_.sheet} : paper_;
+}
+
+QPageLayout PreviewPages::layout() const {
+    return request_.sheet ? whole_sheet_layout(*request_.sheet) : layout_of(paper_);
+}
+
+PrintShift PreviewPages::shift_of(const std::string& printer) const {
+    return request_.shift ? request_.shift(printer) : PrintShift{};
+}
+
 std::string PreviewPages::file_name() const {
     return request_.file_name.empty() ? request_.document_name : request_.file_name;
 }
@@ -82,9 +95,14 @@ void preview_form(Form& form, PreviewPages& pages, const PreviewButtons& buttons
               {[&pages] { return static_cast<std::int32_t>(pages.zoom()); },
                [&pages](std::int32_t code) { pages.choose(static_cast<PreviewZoom>(code)); }},
               {"Fit Page", "Fit Width", "100 %", "150 %", "200 %"});
-    drop_down(rows, "paper", "Pape&r:", half_of_paper(pages, &PaperChoice::kind), {"A4", "Letter"});
+    const auto told_by_sheet = "The sheet of labels tells its paper";
+    drop_down(rows, "paper", "Pape&r:", half_of_paper(pages, &PaperChoice::kind), {"A4", "Letter"})
+        .enabled(pages.has_choice_of_paper())
+        .disabled_because(told_by_sheet);
     drop_down(rows, "turn", "&Orientation:", half_of_paper(pages, &PaperChoice::turn),
-              {"Portrait", "Landscape"});
+              {"Portrait", "Landscape"})
+        .enabled(pages.has_choice_of_paper())
+        .disabled_because(told_by_sheet);
     rows.button("print", "Prin&t...", buttons.print)
         .enabled(buttons.has_printer)
         .hint(buttons.has_printer ? "Ctrl+P"

@@ -28,7 +28,12 @@ public:
     /// Shows a page, the first or last where there is none so far.
     void go_to(std::ptrdiff_t page);
     void turn(std::ptrdiff_t pages) { go_to(static_cast<std::ptrdiff_t>(current_) + pages); }
-    PaperChoice paper() const { return paper_; }
+    /// What the pages are made for: the user's choice, or the sheet on which all has its exact place.
+    PaperChoice paper() const;
+    bool has_choice_of_paper() const { return !request_.sheet; }
+    QPageLayout layout() const;
+    /// By how far the pages are moved on a printer of that name.
+    PrintShift shift_of(const std::string& printer) const;
     void choose(PaperChoice paper);
     PreviewZoom zoom() const { return zoom_; }
     void choose(PreviewZoom zoom);

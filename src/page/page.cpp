@@ -137,6 +137,13 @@ void PageContext::begin_page() {
     }
 }
 
+Surface& PageContext::WholePage() {
+    EndPage();
+    job_.pages.emplace_back(*measure_, job_.paper.area);
+    y_ = job_.paper.area.height;
+    return page();
+}
+
 // A long title gives way to the page number.
 void PageContext::write_title(const std::string& title) {
     auto font = font_of(PageFont::title_italic);
@@ -344,7 +351,7 @@ std::optional<PageJob> record_report(const PrintRequest& request, const Paper& p
         page.EndPage();
         page.EndJob();
         const auto smaller = page.smaller_scale(request.on_one_page);
-        if (!smaller || recording == most_recordings) return page.Release();
+        if (!smaller || request.sheet || recording == most_recordings) return page.Release();
         scale = *smaller;
     }
 }

@@ -9,6 +9,7 @@
 
 #include "page/line_breaks.h"
 #include "page/page_job.h"
+#include "settings/label_sheets.h"
 
 #include <array>
 #include <initializer_list>
@@ -75,6 +76,10 @@ public:
     /// A long text in lines between the margins, of 101 characters at most. Carriage returns end lines, line
     /// feeds are dropped. The last line keeps so many lines below it on its page.
     void Paragraph(std::string_view text, int lines_below = 0);
+
+    /// A new page without headers, to be drawn on at will.
+    Surface& WholePage();
+    const Paper& paper() const { return job_.paper; }
 
     /// Ends the page if so many lines do not fit on it; whether it did.
     bool KeepTogether(int lines);
@@ -155,7 +160,10 @@ struct PrintRequest {
     float printer_scale = 1;
     Report run;
     std::string file_name{}; ///< proposed for a file of the pages, without its ending; empty: as the document
-    bool on_one_page = false; ///< what is too long for one is drawn smaller
+    bool on_one_page = false;         ///< what is too long for one is drawn smaller
+    std::optional<PaperKind> sheet{}; ///< for such a sheet alone, on which all has its exact place
+    /// How far a printer misses that place, by its name; of a PDF file by none.
+    std::function<PrintShift(const std::string& printer)> shift{};
 };
 
 /// The pages of a report on such paper; nothing if the paper cannot be printed on. What is too wide for it

@@ -16,6 +16,8 @@ struct Paper {
     Extent area;
     int top_offset = 0; ///< from the edge of the sheet to the area
     bool is_landscape = false;
+    double dots_per_millimetre = 300 / 25.4;
+    bool is_exact = false; ///< all of the sheet, drawn at its true size, whatever the printer's margins
 };
 
 /// What is drawn on it is kept. Texts are measured on the surface that it is made for.

@@ -65,23 +65,37 @@ std::string file_stem(const Program& program) {
     return std::filesystem::path(program.document.file.path).stem().string();
 }
 
-PrintRequest pages_of(const Exported& exported, float printer_scale) {
+PrintRequest label_sheets_of(const Exported& exported, const LabelRun& run, const LabelSettings& settings) {
+    return {.document_name = "",
+            .run = [label = label_rows(exported.source, exported.entry),
+                    run](PageContext& page) { draw_label_sheets(label, run, page); },
+            .sheet = run.sheet.paper,
+            .shift = shift_by_printer(settings)};
+}
+
+PrintRequest label_blocks_of(const Exported& exported) {
+    return {.document_name = "",
+            .printer_scale = label_scale,
+            .run = [label = label_rows(exported.source, exported.entry)](
+                       PageContext& page) { write_labels_print(label, page); },
+            .on_one_page = true};
+}
+
+PrintRequest pages_of(const Exported& exported, const Program& program) {
     if (exported.output == ReportOutput::competition_labels)
-        return {.document_name = "",
-                .printer_scale = label_scale,
-                .run = [label = label_rows(exported.source, exported.entry)](
-                           PageContext& page) { write_labels_print(label, page); },
-                .on_one_page = true};
+        return program.labels.is_on_sheet()
+                   ? label_sheets_of(exported, program.labels.run, LoadLabelSettings(program.data_folder))
+                   : label_blocks_of(exported);
     const bool is_form = exported.output == ReportOutput::competition_form;
     return {.document_name = "",
-            .printer_scale = is_form ? exported.selection.scale : printer_scale,
+            .printer_scale = is_form ? exported.selection.scale : program.settings.printer_scale,
             .run = [report = report_of(exported)](PageContext& page) { write_print(report, page); }};
 }
 
 void print(const WindowPorts& ports, const Exported& exported) {
     const auto& program = ports.program;
     const auto title = line_text(program.document.recipe.title);
-    auto request = pages_of(exported, program.settings.printer_scale);
+    auto request = pages_of(exported, program);
     request.document_name =
         title.empty() ? std::string(document_traits(program.document.kind).printed_name) : title;
     request.file_name = file_stem(program);
@@ -137,7 +151,7 @@ void export_document(const WindowPorts& ports, const RecipeView& view, const Com
     const auto output = report_output(selection);
     const auto destination =
         choose_destination(ports, report_form(selection), proposed_name(program, output));
-    if (!destination || (output != ReportOutput::report && !ask(output))) return;
+    if (!destination || (output != ReportOutput::report && !ask(output, destination->form))) return;
     const auto open = live_document(program);
     Stocks stocks;
     if (is_inventory_wanted(open, selection)) LoadStocks(program.data_folder, stocks);

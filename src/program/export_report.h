@@ -4,13 +4,13 @@
 #include "documents/work/recipe_view.h"
 #include "program/window_ports.h"
 #include "reports/catalogue.h"
-#include "reports/file_names.h"
+#include "reports/print_options.h"
 #include "settings/system_files.h"
 
 namespace wortlex {
 
 /// Asks what a competition's form or labels tell beside the beer; false stops.
-using CompetitionQuestion = std::function<bool(ReportOutput)>;
+using CompetitionQuestion = std::function<bool(ReportOutput, ReportForm)>;
 
 /// Gives the report of the live document the form that the selection of its kind asks for, or of a session
 /// the report on its recipe that of the recipes' selection. Its lists show what `view` does. A file is asked

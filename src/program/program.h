@@ -16,6 +16,7 @@
 #include "program/open_tools.h"
 #include "program/recent.h"
 #include "records/ingredients/database_file.h"
+#include "reports/label_form.h"
 #include "settings/settings.h"
 #include "settings/system_files.h"
 #include "water/water_needs_calculator.h"
@@ -50,6 +51,7 @@ struct Program {
     WaterNeeds water_usage; ///< the brewer's usual figures
 
     LiveDocument document; ///< the one there is
+    LabelChoice labels;    ///< how competition labels were printed last
     RecentDocuments recent_documents;
 
     Database<WaterRecord> water_database; ///< the one that stays in memory

@@ -8,6 +8,7 @@
 #include "windows/reports/html_theme_window.h"
 
 #include <QApplication>
+#include <QPrinterInfo>
 
 namespace wortlex {
 namespace {
@@ -28,12 +29,39 @@ bool choose_print_options(const WindowPorts& ports, DocumentKind kind, QWidget* 
     return run_dialog(form, {.template_name = name}, places(program), owner);
 }
 
-bool ask_competition(Program& program, ReportOutput output, QWidget* owner) {
+std::vector<std::string> printer_names() {
+    std::vector<std::string> names;
+    for (const auto& name : QPrinterInfo::availablePrinterNames()) names.push_back(name.toStdString());
+    return names;
+}
+
+void show_ruler(const WindowPorts& ports, const LabelDesk& desk) {
+    const auto& sheet = desk.choice.run.sheet;
+    if (!desk.is_sound()) return;
+    ports.pages.show({.document_name = "Ruler Page",
+                      .run = [sheet](PageContext& page) { draw_ruler_page(sheet, page); },
+                      .sheet = sheet.paper,
+                      .shift = shift_by_printer(desk.settings)});
+}
+
+// What is printed asks for its sheet, too.
+bool ask_labels(const WindowPorts& ports, ReportForm to, QWidget* owner) {
+    auto& program = ports.program;
+    auto labels = program.labels;
+    LabelDesk desk(labels, program.data_folder, printer_names(), ports.prompts);
+    Form form;
+    competition_texts_form(form, program.document.competition, ReportOutput::competition_labels);
+    if (to == ReportForm::print) label_form(form, desk, [&] { show_ruler(ports, desk); });
+    form.commit_copy(labels, program.labels);
+    return run_dialog(form, {.template_name = "COMP_PREPRINTDIALOG2"}, places(program), owner);
+}
+
+bool ask_competition(const WindowPorts& ports, ReportOutput output, ReportForm to, QWidget* owner) {
+    if (output == ReportOutput::competition_labels) return ask_labels(ports, to, owner);
+    auto& program = ports.program;
     Form form;
     competition_texts_form(form, program.document.competition, output);
-    const auto* const name =
-        output == ReportOutput::competition_form ? "COMP_PREPRINTDIALOG" : "COMP_PREPRINTDIALOG2";
-    return run_dialog(form, {.template_name = name}, places(program), owner);
+    return run_dialog(form, {.template_name = "COMP_PREPRINTDIALOG"}, places(program), owner);
 }
 
 } // namespace
@@ -42,8 +70,8 @@ void print_or_export(const WindowPorts& ports, const RecipeView& view, QWidget* 
     const auto kind = part == ReportPart::recipe ? DocumentKind::recipe : ports.program.document.kind;
     if (!choose_print_options(ports, kind, owner)) return;
     export_document(
-        ports, view, [&](ReportOutput output) { return ask_competition(ports.program, output, owner); },
-        part);
+        ports, view,
+        [&](ReportOutput output, ReportForm to) { return ask_competition(ports, output, to, owner); }, part);
 }
 
 } // namespace wortlex

@@ -1,0 +1,54 @@
+// Which sheet labels are printed on, how many, and by how far each printer misses it.
+#pragma once
+
+#include "base/ports/prompts.h"
+#include "forms/form.h"
+#include "reports/label_printing.h"
+
+#include <optional>
+
+namespace wortlex {
+
+/// How labels are printed: without a sheet, four blocks down the page.
+struct LabelChoice {
+    std::optional<std::string> sheet_name{};
+    LabelRun run{common_label_sheets().front(), common_label_sheets().front().count(), 1};
+
+    bool is_on_sheet() const { return sheet_name.has_value(); }
+};
+
+/// The work on it. All must outlive the form.
+class LabelDesk {
+public:
+    /// `printers` are those installed; PDF files are added to them.
+    LabelDesk(LabelChoice& label_choice, std::string folder, std::vector<std::string> printers,
+              Prompts& asked);
+
+    LabelChoice& choice;
+    Prompts& prompts;
+    LabelSettings settings;
+    std::vector<std::string> printers; ///< the first one, without a name, stands for PDF files
+    std::int32_t printer = 0;
+
+    std::vector<std::string> sheet_names() const;
+    /// 0: no sheet.
+    std::int32_t chosen() const;
+    void choose(std::int32_t place);
+    PrintShift& shift() { return settings.shifts[printers.at(static_cast<std::size_t>(printer))]; }
+
+    /// Puts the sheet among the brewer's own, in the place of one of the same name.
+    void keep_sheet();
+    /// False, and told, where the labels would not lie on the paper.
+    bool is_sound() const;
+    void save();
+
+private:
+    const LabelSheet* sheet_at(std::int32_t place) const;
+
+    std::string data_folder_;
+};
+
+/// `ruler` shows the page that tells how far a printer is off.
+void label_form(Form& form, LabelDesk& desk, std::function<void()> ruler);
+
+} // namespace wortlex
