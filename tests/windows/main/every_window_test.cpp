@@ -95,9 +95,10 @@ private:
         for (const QPointer<QWidget> window : QApplication::topLevelWidgets()) {
             if (window.isNull() || !window->isVisible() || !window->isWindow()) continue;
             const bool is_page = window->windowType() == Qt::Window || window->windowType() == Qt::Dialog;
-            if (!is_page || !open_.insert(window).second) continue;
+            auto* const place = window.data(); // which another window may have after its end
+            if (!is_page || !open_.insert(place).second) continue;
             visit(*window);
-            open_.erase(window);
+            open_.erase(place);
             if (!window.isNull() && window->isVisible()) window->close();
         }
     }
