@@ -20,13 +20,9 @@ struct WaterActions {
     std::function<void()> changed; ///< called after each change; may be empty
 };
 
-/// The lines of waters in the grid. Each has a shown row an ion, keyed by line and ion: "target_calcium".
-inline constexpr std::array water_lines = {"target", "source", "difference"};
-/// Below the salts.
-inline constexpr std::array sum_lines = {"totals", "remaining"};
-
-/// Edits `analysis`, which must outlive the form. Besides the lines there is a row "gypsum_rate" a salt, and
-/// one for each of the two ions that it adds: "gypsum_calcium".
+/// Edits `analysis`, which must outlive the form. Cells are keyed by their line and ion: "target_calcium",
+/// with the lines target, source (diluted), difference, each salt by its key, totals and remaining; a salt
+/// has a row "gypsum_rate" besides, and cells only of the two ions that it adds.
 void water_calculator_form(Form& form, WaterAnalysis& analysis, WaterActions actions);
 
 /// What is still to be added of an ion, in words: "met" within 5 ppm or a tenth of the target, else how much

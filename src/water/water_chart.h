@@ -39,7 +39,7 @@ WaterChart water_chart(const WaterAnalysis& analysis);
 
 /// The client area of the chart's window. What is drawn leaves the lowest 30 pixels to the buttons.
 inline constexpr Extent water_chart_window{500, 360};
-inline constexpr Extent water_chart_size{500, 330};
+inline constexpr Extent water_chart_size{water_chart_window.width, water_chart_window.height - 30};
 
 /// On white, as it stands when it is called; `analysis` must outlive the drawing.
 ChartDrawing water_chart_drawing(const WaterAnalysis& analysis);
