@@ -34,6 +34,7 @@ SessionActions SessionWindow::actions() {
     actions.show_colour = [this] { wortlex::show_colour(side(), pages()); };
     actions.ingredients = [this] { show_ingredients(); };
     actions.mash = [this] { show_mash(); };
+    actions.water_needed = [this] { show(water_needed_page(editor(), ports())); };
     actions.efficiency = [this] { show(efficiency_page(editor(), ports())); };
     actions.fermentation = [this] { show(fermentation_page(editor(), ports())); };
     actions.bottling = [this] { show(bottling_page(editor(), ports())); };
