@@ -153,9 +153,10 @@ void export_document(const WindowPorts& ports, const RecipeView& view, const Com
         choose_destination(ports, report_form(selection), proposed_name(program, output));
     if (!destination || (output != ReportOutput::report && !ask(output, destination->form))) return;
     const auto open = live_document(program);
-    Stocks stocks;
-    if (is_inventory_wanted(open, selection)) LoadStocks(program.data_folder, stocks);
-    const ReportSource source{open, view, program.color_table, evaporation_rate(program), &stocks};
+    std::optional<Stocks> stocks;
+    if (is_inventory_wanted(open, selection)) LoadStocks(program.data_folder, stocks.emplace());
+    const ReportSource source{open, view, program.color_table, evaporation_rate(program),
+                              stocks ? &*stocks : nullptr};
     const CompetitionEntry entry{program.document.competition, program.system.competition,
                                  program.document.session};
     put_out(ports, {source, entry, selection, output, part}, *destination);

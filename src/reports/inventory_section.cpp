@@ -18,8 +18,8 @@ std::string shortened(const std::string& name, bool is_hop) {
     return std::string(first_characters(name, stock_name_width - character_count(behind))) + behind;
 }
 
-ReportValue shortage(const StockLine& line) {
-    return line.is_short() ? "  *" : "";
+std::string ending(const StockLine& line) {
+    return line.is_short() ? "  *\n" : "\n";
 }
 
 ReportTable weighed_list(const char* head, const std::string& unit, const StockList& list, bool is_hop) {
@@ -30,29 +30,30 @@ ReportTable weighed_list(const char* head, const std::string& unit, const StockL
                        {unit + " Needed", 75, 460, 85, HtmlAlign::right}},
                       {}};
     for (const auto& line : list.lines)
-        table.rows.push_back({"%s |%s |%10.2f    |%12.2f  |%10.2f%s\n",
+        table.rows.push_back({"%s |%s |%10.2f    |%12.2f  |%10.2f" + ending(line),
                               {{shortened(line.name, is_hop), stock_name_width},
                                {line.origin, stock_origin_width},
                                line.wanted,
                                line.in_stock,
-                               line.needed,
-                               shortage(line)}});
+                               line.needed}});
     return table;
 }
 
-ReportTable counted_list(const std::string& head, const char* wanted, const StockList& list, bool is_hop) {
+// The amounts stand below their heads, the first of which may be longer.
+ReportTable counted_list(const std::string& head, const std::string& wanted, const StockList& list,
+                         bool is_hop) {
+    constexpr std::size_t place = 31, gap = 2, stock_width = 8;
+    const auto in_stock = place + wanted.size() + gap;
     ReportTable table{{{head, 0, 0, 290},
-                       {wanted, 31, 290, 85, HtmlAlign::right},
-                       {"In Stock", 39, 370, 90, HtmlAlign::right},
-                       {"Needed", 49, 460, 85, HtmlAlign::right}},
+                       {wanted, place, 290, 85, HtmlAlign::right},
+                       {"In Stock", in_stock, 370, 90, HtmlAlign::right},
+                       {"Needed", in_stock + stock_width + gap, 460, 85, HtmlAlign::right}},
                       {}};
+    const auto amounts = "%" + std::to_string(wanted.size()) + ".2f  |%8.2f  |%6.2f";
     for (const auto& line : list.lines)
-        table.rows.push_back({"%s |%6.2f  |%8.2f  |%6.2f%s\n",
-                              {{shortened(line.name, is_hop), stock_name_width},
-                               line.wanted,
-                               line.in_stock,
-                               line.needed,
-                               shortage(line)}});
+        table.rows.push_back(
+            {"%s |" + amounts + ending(line),
+             {{shortened(line.name, is_hop), stock_name_width}, line.wanted, line.in_stock, line.needed}});
     return table;
 }
 
@@ -60,8 +61,9 @@ ReportTable counted_list(const std::string& head, const char* wanted, const Stoc
 
 ReportSection inventory_section(const ReportSource& source) {
     const auto& settings = source.open.settings;
-    const auto analysis = analyze_inventory(source.open.document,
-                                            source.stocks != nullptr ? *source.stocks : Stocks(), settings);
+    const auto& document = source.open.document;
+    const auto analysis = source.stocks != nullptr ? analyze_inventory(document, *source.stocks, settings)
+                                                   : analyze_inventory(document, {}, settings);
     ReportSection section{"Inventory Analysis", {}};
     const auto add = [&](ReportTable table) {
         section.blocks.emplace_back(std::move(table));

@@ -124,7 +124,7 @@ std::vector<ReportBlock> simple_schedule(const ReportSource& source) {
     const auto& mash = source.open.document.simple_mash;
     if (mash.mash_kind == MashKind::none) return {};
     const auto& settings = source.open.settings;
-    ReportLines lines{{170, 210, 250}, {type_row(mash.mash_kind)}};
+    ReportLines lines{{170, 225, 265}, {type_row(mash.mash_kind)}};
     if (const auto* const session = source.open.session; session != nullptr) {
         const bool is_infused = session->infusions.heat_type == SimpleHeat::infusion;
         lines.rows.push_back(

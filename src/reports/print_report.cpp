@@ -40,6 +40,7 @@ void write(const ReportLines& lines, int lines_below, PageContext& page) {
         const auto blank = blank_lines(row.format);
         if (lines_below > 0 && &row == &lines.rows.back()) page.KeepTogether(lines_of(row) + lines_below);
         leave_blank(page, blank.before);
+        if (blank.before == static_cast<int>(row.format.size())) continue;
         if (row.colour) page.ColourBox(colour_box, *row.colour);
         write_line(page, lines.tabs, row);
         leave_blank(page, blank.behind);

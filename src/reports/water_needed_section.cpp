@@ -67,7 +67,7 @@ private:
             amount_row(is_american(settings_.volume_units) ? "Qts Per LBS:" : "L Per kg:",
                        shown_ratio(narrow(needs.mash_water * 4.0), needs.grain, settings_.volume_units)));
         const bool is_short = &unit() == &words_of(Unit::hectolitres);
-        add(std::string("Mash ") + (is_short ? unit().usual : unit().full) + ":", needs.mash_water);
+        add(std::string("Mash ") + (is_short ? "hL    :" : std::string(unit().full) + ":"), needs.mash_water);
         add("Grain Absorption:", needs.grain_absorption);
         add("Total From Mash:", balance_.water.from_mash);
         end_block();

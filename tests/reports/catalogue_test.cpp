@@ -1,3 +1,4 @@
+#include "report_forms.h"
 #include "reported_recipe.h"
 
 #include "base/files.h"
@@ -51,20 +52,6 @@ TEST(RowWords, marks_end_cells_in_all_forms_but_that_of_text) {
     }
 }
 
-SystemSettings metric_brewery() {
-    auto image = WriteDefaultSettings();
-    image.system_mode = SystemMode::pro_brewer;
-    image.volume_units = image.weight_units = image.hop_weight_units = Units::metric;
-    image.temperature_units = TemperatureUnits::celsius;
-    image.color_units = ColorUnits::ebc_traditional;
-    image.potential_display = PotentialDisplay::plato;
-    image.plato_precision = 2;
-    image.evaporation_by_volume = 1;
-    image.display_home_bittering = 1;
-    image.HopFormula = HopFormulaCode::Generic;
-    return image;
-}
-
 SystemSettings precise_extract() {
     auto image = WriteDefaultSettings();
     image.sg_precision = 2;
@@ -78,16 +65,6 @@ SystemSettings precise_extract() {
     return image;
 }
 
-// Golden files have plain line ends; a report must have the other ones throughout.
-std::string plain_lines(const std::string& text) {
-    std::string plain;
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        if (text[i] != '\r') plain += text[i];
-        EXPECT_EQ(text[i] == '\r', i + 1 < text.size() && text[i + 1] == '\n') << "at " << i;
-    }
-    return plain;
-}
-
 // The texts of a page's cells, a row a line.
 std::string html_cells(const std::string& page) {
     const std::pair<const char*, const char*> steps[] = {
@@ -96,17 +73,6 @@ std::string html_cells(const std::string& page) {
     auto text = page;
     for (const auto& [what, with] : steps) text = std::regex_replace(text, std::regex(what), with);
     return text;
-}
-
-std::string golden(const std::string& name, const std::string& made) {
-    std::ifstream file(std::string(GOLDEN_FOLDER) + name, std::ios::binary);
-    std::string kept{std::istreambuf_iterator<char>(file), {}};
-    if (kept != made) std::ofstream(testing::TempDir() + name, std::ios::binary) << made;
-    return kept;
-}
-
-void expect_golden(const std::string& name, const std::string& made) {
-    EXPECT_EQ(made, golden(name, made)) << "made: " << testing::TempDir() << name;
 }
 
 TEST(Catalogue, reads_as_it_always_has) {

@@ -1,0 +1,164 @@
+#include "reported_session.h"
+
+#include "report_forms.h"
+#include "reports/file_names.h"
+#include "reports/label_printing.h"
+#include "support/recording_desk.h"
+#include "support/temporary_folder.h"
+
+#include <gmock/gmock.h>
+
+namespace wortlex {
+namespace {
+
+using testing::HasSubstr;
+using testing::Not;
+
+TEST(SessionReport, ReadsAsItDid) {
+    ReportedSession home(WriteDefaultSettings());
+    home.document.hops.resize(2);
+    home.document.extras.resize(1);
+    expect_golden("session.txt", plain_lines(home.text()));
+
+    auto image = metric_brewery();
+    image.date_format = DateFormat::day_name_year;
+    ReportedSession brewery(image);
+    brewery.document.mash_flags = 1;
+    brewery.session.bottling.used = {0, 0, 1};
+    expect_golden("session_metric_brewery.txt", plain_lines(brewery.text()));
+}
+
+TEST(SessionReport, AnExtractBrewHasNoMashAndNoEfficiency) {
+    ReportedSession session(WriteDefaultSettings());
+    session.document.recipe_kind = RecipeKind::extract;
+    session.session.water_needs.top_up = 6;
+    const auto text = plain_lines(session.text());
+    EXPECT_THAT(text, HasSubstr("Actual Mash System Efficiency: 0 %\n"));
+    EXPECT_THAT(text, HasSubstr("Actual Points From Mash:       0.00\n"));
+    EXPECT_THAT(text, HasSubstr("Sparge Amount:    0.00\n"));
+    EXPECT_THAT(text, HasSubstr("Amount into Kettle:    6.00\n"));
+    EXPECT_THAT(text, HasSubstr("Adjust Sparge Water - 0.00 Gallons (0.00 Quarts) with:\n"));
+}
+
+TEST(SessionReport, WithAllSwitchesOffLeavesWhatEveryReportHas) {
+    ReportedSession session(WriteDefaultSettings());
+    session.wanted.sections.fill(0);
+    const auto opened = session.recalculated();
+    std::vector<std::string> headings;
+    for (const auto& section : document_report(session.source(opened), session.wanted).sections)
+        headings.push_back(section.heading);
+    EXPECT_THAT(headings, testing::ElementsAre("", "Recipe Specifics", "Grain/Extract/Sugar", "Hops",
+                                               "Extras", "Yeast"));
+    EXPECT_THAT(session.text(ReportPart::recipe),
+                testing::AllOf(HasSubstr("A Wortlex Brewing Session - Recipe Details Report"),
+                               Not(HasSubstr("Actual OG"))));
+}
+
+TEST(Competition, FormAndLabelsReadAsTheyDid) {
+    ReportedSession session(WriteDefaultSettings());
+    session.document.hops.clear();
+    session.document.extras.clear();
+    session.contact.address.assign("1 Mash Lane\r\nGrist");
+    session.contact.email_address.assign("a@b.example");
+    session.texts.name.assign("Spring Cup");
+    expect_golden("competition_form.txt", plain_lines(session.form_text()));
+    expect_golden("competition_labels.txt", plain_lines(session.label_text()));
+}
+
+TEST(Competition, LeavesOutWhatIsNotTold) {
+    ReportedSession session(WriteDefaultSettings());
+    session.session.head_brewer.assign("");
+    session.texts.style.assign("7C, dark");
+    session.session.bottling.used = {};
+    session.session.infusions.heat_type = SimpleHeat::direct;
+    const auto form = plain_lines(session.form_text());
+    EXPECT_THAT(form, testing::StartsWith("Wortlex Competition Form Printout\n"));
+    EXPECT_THAT(form, HasSubstr("Competition Style: 7C, dark\n\nSubmitted By:\n-------------\nTom\n\n"
+                                "AHA Style\n--------------\n07-C  "));
+    EXPECT_THAT(form, HasSubstr("Qts Water Per Lbs Grain: 1.26\n"));
+    EXPECT_THAT(form, testing::AllOf(Not(HasSubstr("Bottling")), Not(HasSubstr("Generated"))));
+    EXPECT_THAT(plain_lines(session.label_text()), Not(HasSubstr("AHA Style")));
+}
+
+TEST(FileNames, OfSessionsHoldTheDayThatThereWas) {
+    auto image = WriteDefaultSettings();
+    auto settings = settings_from(image);
+    SessionDocument session;
+    set_brew_date(session, {5, 3, 2001});
+    const auto name = [&](const char* title, ReportOutput output) {
+        return session_file_name(title, session, output, settings);
+    };
+    EXPECT_EQ(name("Ale", ReportOutput::report), "03-05-2001_Ale");
+    EXPECT_EQ(name("", ReportOutput::competition_form), "03-05-2001");
+    settings.session_name_before_date = 1;
+    settings.date_format = DateFormat::day_name_year;
+    EXPECT_EQ(name("Ale", ReportOutput::competition_labels), "CompL_Ale_05-Mar-2001");
+    session.brew_month = 13;
+    EXPECT_EQ(name("Ale", ReportOutput::report), "Ale");
+    EXPECT_EQ(proposed_file("a/b", "txt"), "a_b.txt");
+    std::string umlauts;
+    for (int i = 0; i < 200; ++i) umlauts += "\u00E4";
+    EXPECT_EQ(proposed_file(umlauts, "txt").size(), 254U) << "no half character";
+}
+
+TEST(LabelSheets, EachLabelLandsInItsPlace) {
+    // Ten dots a millimetre.
+    const Paper paper{
+        .sheet = {2100, 2970}, .area = {2100, 2970}, .dots_per_millimetre = 10, .is_exact = true};
+    const LabelSheet sheet{"two by two", PaperKind::a4, 2, 2, 90, 50, 10, 20, 5, 2};
+    const std::vector<ReportRow> label{{"Name: |%s\n", {"Ale"}}};
+    RecordingSurface measure;
+    const auto job = record_report({.document_name = "",
+                                    .run =
+                                        [&](PageContext& page) {
+                                            draw_label_sheets(label, {sheet, 3, 3}, page);
+                                        },
+                                    .sheet = PaperKind::a4},
+                                   paper, measure);
+    ASSERT_EQ(job->pages.size(), 2U);
+    EXPECT_THAT(texts_on(*job, 0), testing::ElementsAre("750 @130 Name: Ale", "750 @1080 Name: Ale"));
+    EXPECT_THAT(texts_on(*job, 1), testing::ElementsAre("230 @130 Name: Ale"));
+}
+
+TEST(LabelSheets, WhatDoesNotFitIsDrawnSmaller) {
+    const Paper paper{
+        .sheet = {2100, 2970}, .area = {2100, 2970}, .dots_per_millimetre = 10, .is_exact = true};
+    const auto& sheet = common_label_sheets().front();
+    struct Narrow : RecordingSurface {
+        mutable int height = 16;
+        void set_font(const Font& font) override { height = font.cell_height; }
+        Extent text_extent(std::string_view text) const override {
+            return {static_cast<int>(text.size()) * height / 2, height};
+        }
+    } measure;
+    const std::vector<ReportRow> label(40, {"%s\n", {std::string(100, 'w')}});
+    const auto job = record_report({.document_name = "",
+                                    .run =
+                                        [&](PageContext& page) {
+                                            draw_label_sheets(label, {sheet, 1, 1}, page);
+                                        },
+                                    .sheet = PaperKind::a4},
+                                   paper, measure);
+    const auto texts = texts_on(*job, 0);
+    EXPECT_LT(std::stoi(texts.back()), 131 + 677 - 30);
+    std::size_t letters = 0;
+    for (const auto& text : texts)
+        letters += static_cast<std::size_t>(std::count(text.begin(), text.end(), 'w'));
+    EXPECT_EQ(letters, 4000U) << "nothing is cut";
+}
+
+TEST(LabelSheets, TheirFileKeepsWhatIsSound) {
+    const TemporaryFolder folder;
+    LabelSettings kept{{common_label_sheets()[4]}, {{"Laser", {0.5F, -1.25F}}}};
+    kept.own.front().name = "Mine";
+    ASSERT_TRUE(SaveLabelSettings(folder.path(), kept));
+    EXPECT_EQ(LoadLabelSettings(folder.path()), kept);
+    std::ofstream(folder / "WlxLabels.txt") << "sheet: too wide | A4 | 3 | 1 | 99 | 10 | 0 | 0 | 0 | 0\n"
+                                               "sheet: short | A4 | 3\nsheet: odd | A4 | -1 | nan | x\n"
+                                               "offset: Far | 1e30 | -99\noffset: none\n";
+    EXPECT_EQ(LoadLabelSettings(folder.path()), (LabelSettings{{}, {{"Far", {20, -20}}}}));
+    for (const auto& sheet : common_label_sheets()) EXPECT_TRUE(is_usable(sheet)) << sheet.name;
+}
+
+} // namespace
+} // namespace wortlex
