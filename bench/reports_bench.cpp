@@ -1,5 +1,5 @@
-// The report of a recipe with every section in its three forms, by the number of lines; print is recorded on
-// paper of 300 dots an inch, with its texts measured as in the preview.
+// The reports of a recipe and of a session with every section in their three forms, by the number of lines;
+// print is recorded on paper of 300 dots an inch, with its texts measured as in the preview.
 #include "desktop/print_device.h"
 #include "documents/opening.h"
 #include "reports/catalogue.h"
@@ -17,31 +17,41 @@ struct Measured {
     Settings settings;
     BrewDocument document;
     RecipeFigures figures;
+    SessionDocument session;
+    WaterBalance water;
     RecipeView view;
     PrintSelection wanted;
+    Stocks stocks;
     ColorTable colours = built_in_color_table();
+    bool is_session = false;
 
-    explicit Measured(std::size_t lines) {
+    explicit Measured(std::size_t lines, bool with_session = false) : is_session(with_session) {
         auto image = WriteDefaultSettings();
         settings = settings_from(image);
         document = sample_document(lines, settings);
         document.notes.assign(std::string(4000, 'n'));
         document.awards.assign(std::string(4000, 'a'));
+        session = new_session(document);
+        for (auto& note : session.session_notes) note.assign(std::string(4000, 's'));
+        session.bottling.used.fill(1);
         view = default_report_view(settings);
         wanted.sections.fill(1);
         recalculate_opened(open());
     }
 
-    OpenDocument open() { return {document, figures, settings}; }
+    OpenDocument open() {
+        if (!is_session) return {document, figures, settings};
+        return {document, figures, settings, &session, &water};
+    }
 
     DocumentReport report() {
         const auto opened = open();
-        return document_report({opened, view, colours, 10}, wanted);
+        return document_report({opened, view, colours, 10, &stocks}, wanted);
     }
 };
 
 void text(benchmark::State& state) {
-    Measured measured(static_cast<std::size_t>(state.range(0)));
+    Measured measured(static_cast<std::size_t>(state.range(0)), state.range(1) != 0);
     for (auto _ : state) {
         TextSink sink;
         write_text(measured.report(), sink);
@@ -50,14 +60,14 @@ void text(benchmark::State& state) {
 }
 
 void html(benchmark::State& state) {
-    Measured measured(static_cast<std::size_t>(state.range(0)));
+    Measured measured(static_cast<std::size_t>(state.range(0)), state.range(1) != 0);
     HtmlTheme theme;
     take_built_in(theme, BuiltInTheme::mint);
     for (auto _ : state) benchmark::DoNotOptimize(write_html(measured.report(), theme).page().data());
 }
 
 void print(benchmark::State& state) {
-    Measured measured(static_cast<std::size_t>(state.range(0)));
+    Measured measured(static_cast<std::size_t>(state.range(0)), state.range(1) != 0);
     MeasuringSurface measure;
     const auto paper = paper_of(PaperChoice{});
     for (auto _ : state) {
@@ -68,7 +78,12 @@ void print(benchmark::State& state) {
     }
 }
 
-#define EACH_SIZE Arg(25)->Arg(100)->Unit(benchmark::kMicrosecond)
+#define EACH_SIZE                                                                                            \
+    ArgNames({"lines", "session"})                                                                           \
+        ->Args({25, 0})                                                                                      \
+        ->Args({100, 0})                                                                                     \
+        ->Args({25, 1})                                                                                      \
+        ->Unit(benchmark::kMicrosecond)
 BENCHMARK(text)->EACH_SIZE;
 BENCHMARK(html)->EACH_SIZE;
 BENCHMARK(print)->EACH_SIZE;

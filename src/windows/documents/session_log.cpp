@@ -14,6 +14,7 @@
 #include "windows/calculators/date_dialogs.h"
 #include "windows/calculators/gravity_dialogs.h"
 #include "windows/documents/session_log_layout.h"
+#include "windows/documents/session_printouts.h"
 #include "windows/water/water_needs_window.h"
 
 #include <QVBoxLayout>
@@ -51,7 +52,7 @@ EfficiencyActions efficiency_actions(const Bench& bench) {
     return {.hydrometer = by_hydrometer(bench, HydrometerUse::session_efficiency),
             .refractometer =
                 of_raw_wort(bench, RefractometerUse::recorded_efficiency, tail.recorded_og_reading),
-            .print = nullptr};
+            .print = [bench] { print_session_page(bench.ports, SessionPrint::efficiency); }};
 }
 
 FermentationActions fermentation_actions(const Bench& bench, RecipeEditor& editor) {
@@ -113,7 +114,13 @@ void water_needed_form(Form& form, const Bench& bench) {
     };
     const auto has_mash = [&document = open.document] { return document.recipe_kind != RecipeKind::extract; };
     water_needs_form(form, {needs, *open.water, open.settings.volume_units, nullptr, has_mash}, open.settings,
-                     {.save_default = save_default, .print = nullptr, .help = nullptr});
+                     {.save_default = save_default,
+                      .print = [bench] { print_session_page(bench.ports, SessionPrint::water_needed); },
+                      .help = nullptr});
+}
+
+void print_button(Form& form, const char* caption, const WindowPorts& ports, SessionPrint print) {
+    form.group().button("print", caption, [ports, print] { print_session_page(ports, print); });
 }
 
 QLayout* arrange_water_needed(const FormWidgets& widgets) {
@@ -147,6 +154,7 @@ RecipePageUse fermentation_page(RecipeEditor& editor, const WindowPorts& ports) 
             .opener = Opener::session,
             .fill = [&editor, ports](Form& form, QWidget* page) {
                 fermentation_form(form, editor, fermentation_actions({ports, page, editor.open}, editor));
+                print_button(form, "&Print", ports, SessionPrint::fermentation);
             }};
 }
 
@@ -157,17 +165,19 @@ RecipePageUse bottling_page(RecipeEditor& editor, const WindowPorts& ports) {
             .fill =
                 [&editor, ports](Form& form, QWidget* page) {
                     bottling_form(form, editor, bottling_actions({ports, page, editor.open}, editor));
+                    print_button(form, "Prin&t", ports, SessionPrint::bottling);
                 },
             .arrange = arrange_bottling};
 }
 
-RecipePageUse session_notes_page(RecipeEditor& editor) {
+RecipePageUse session_notes_page(RecipeEditor& editor, const WindowPorts& ports) {
     return {.template_name = "BATCHNOTESDIALOG",
             .step = "Notes",
             .opener = Opener::session,
             .fill =
-                [&editor](Form& form, QWidget*) {
-                    session_notes_form(form, editor.open.session->session_notes, nullptr);
+                [&editor, ports](Form& form, QWidget*) {
+                    session_notes_form(form, editor.open.session->session_notes,
+                                       [ports] { print_session_page(ports, SessionPrint::notes); });
                 },
             .arrange = arrange_notes};
 }

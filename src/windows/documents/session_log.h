@@ -11,7 +11,7 @@ namespace wortlex {
 RecipePageUse efficiency_page(RecipeEditor& editor, const WindowPorts& ports);
 RecipePageUse fermentation_page(RecipeEditor& editor, const WindowPorts& ports);
 RecipePageUse bottling_page(RecipeEditor& editor, const WindowPorts& ports);
-RecipePageUse session_notes_page(RecipeEditor& editor);
+RecipePageUse session_notes_page(RecipeEditor& editor, const WindowPorts& ports);
 RecipePageUse water_needed_page(RecipeEditor& editor, const WindowPorts& ports);
 
 /// The head of what its instruments print.

@@ -12,6 +12,7 @@
 #include "windows/documents/inventory_window.h"
 #include "windows/documents/session_log.h"
 #include "windows/documents/session_mash_window.h"
+#include "windows/documents/session_printouts.h"
 #include "windows/reports/print_options_window.h"
 
 #include <utility>
@@ -38,7 +39,7 @@ SessionActions SessionWindow::actions() {
     actions.efficiency = [this] { show(efficiency_page(editor(), ports())); };
     actions.fermentation = [this] { show(fermentation_page(editor(), ports())); };
     actions.bottling = [this] { show(bottling_page(editor(), ports())); };
-    actions.notes = [this] { show(session_notes_page(editor())); };
+    actions.notes = [this] { show(session_notes_page(editor(), ports())); };
     actions.analyze = [this] {
         pages().show("BATCHINVENTORY", [this] { return new InventoryWindow(ports(), this); });
     };
@@ -118,9 +119,11 @@ void SessionWindow::show_ingredients() {
 
 void SessionWindow::show_mash() {
     pages().show("MASHENTRYDIALOG1", [this] {
-        const SessionMashLinks links{.printed = [this] { return printed_session(editor().open); },
-                                     .save = [this] { save_document(SaveAs::no); },
-                                     .revert_to_complex = nullptr};
+        const SessionMashLinks links{
+            .printed = [this] { return printed_session(editor().open); },
+            .save = [this] { save_document(SaveAs::no); },
+            .revert_to_complex = nullptr,
+            .print = [this](const SimpleMashWork& work) { print_session_mash(ports(), work); }};
         return make_session_mash_window(ports(), editor(), links, this);
     });
 }
