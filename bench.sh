@@ -15,6 +15,7 @@ build/bench/bench/documents_bench --benchmark_counters_tabular=true
 build/bench/bench/lists_bench
 build/bench/bench/inventory_bench
 build/bench/bench/recipe_window_bench
+build/bench/bench/session_pages_bench
 build/bench/bench/reports_bench
 build/bench/bench/tools_bench
 build/bench/bench/water_bench

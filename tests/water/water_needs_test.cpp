@@ -182,5 +182,28 @@ TEST(WaterNeedsPrintout, IsTheWorksheet) {
                                        "Grain absorption rate is: 1.67 (L Per kg)"}));
 }
 
+TEST(WaterNeeds, OfASessionTakeMashAndBoilFromItsDocument) {
+    Needs tool;
+    bool is_mashed = true;
+    WaterNeeds needs{.sparge = 5, .sparge_deadspace = 0.5F, .grain = 10, .mash_water = 3, .top_up = 1};
+    WaterBalance balance;
+    FormUser page;
+    water_needs_form(
+        page.form, {needs, balance, tool.settings.volume_units, nullptr, [&is_mashed] { return is_mashed; }},
+        tool.settings, {});
+    page.type("lauter_loss", "0.25");
+    // 4.5 sparged and 3 from the mash, of which the grain keeps 2, and the top-up.
+    EXPECT_EQ(page.shown_all({"mash_water", "total_into_mash", "into_kettle"}), "  3.00|  4.50|  6.25");
+    EXPECT_TRUE(page.row<EntryRow>("grain").is_read_only() &&
+                page.row<EntryRow>("boil_minutes").is_read_only());
+    EXPECT_FALSE(page.form.has("units")) << "those of the system";
+    is_mashed = false;
+    page.type("top_up", "6");
+    EXPECT_EQ(page.shown_all({"sparge", "total_into_mash", "grain", "mash_water", "into_kettle"}),
+              "0.00|  0.00|  0.00|  0.00|  6.00")
+        << "an extract brew is its top-up alone";
+    EXPECT_EQ(needs.sparge, 5.0F) << "and the record keeps the rest";
+}
+
 } // namespace
 } // namespace wortlex

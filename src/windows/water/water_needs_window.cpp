@@ -38,6 +38,7 @@ QLayout* stage_rows(const Group& group, const FormWidgets& widgets) {
         field.setMaximumWidth(QWIDGETSIZE_MAX); // figures as wide as the fields
         if (is_result(*row)) {
             field.setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+            grid->setColumnMinimumWidth(1, field.minimumWidth()); // a stage may have figures alone
             stand_out(field);
         }
         grid->addWidget(&field, line, 1);
