@@ -1,9 +1,10 @@
-// The recipe window with 25 malts and 25 hops: what it takes to open, and from a keystroke until all figures
-// are painted anew.
+// The windows of a recipe and of a session with 25 malts and 25 hops: what they take to open, and from a
+// keystroke until all figures are painted anew.
 #include "measured_brewery.h"
 #include "paint_watch.h"
 #include "sample_document.h"
 #include "windows/documents/recipe_window.h"
+#include "windows/documents/session_window.h"
 
 #include <QAbstractItemView>
 #include <QAbstractSpinBox>
@@ -16,7 +17,10 @@ namespace wortlex {
 namespace {
 
 constexpr int lines = 25;
-constexpr WindowInfo recipe_info = {"RECIPEDIALOG", {"Wortlex Recipe Formulation"}};
+template <class Window>
+constexpr WindowInfo window_of = {"RECIPEDIALOG", {"Wortlex Recipe Formulation"}};
+template <>
+constexpr WindowInfo window_of<SessionWindow> = {"BATCH1DIALOG", {"Wortlex - Brewing Session"}};
 
 // A program with a full recipe.
 struct Brewery : MeasuredBrewery {
@@ -35,15 +39,29 @@ void press(QWidget& field, int key, const QString& text) {
     }
 }
 
+// The brew day of that recipe, in another window.
+struct BrewDay : Brewery {
+    BrewDay() {
+        program.document.kind = DocumentKind::session;
+        program.document.session = new_session(program.document.recipe);
+        program.document.session.has_recipe = 1;
+        program.document.session.tail.fg_by_refractometer = 1; // the search for it takes longest
+    }
+};
+
+template <class Window>
+std::unique_ptr<Window> made(Brewery& brewery) {
+    auto window = std::make_unique<Window>(brewery.ports(), window_of<Window>, nullptr);
+    window->setAttribute(Qt::WA_DeleteOnClose, false);
+    return window;
+}
+
 // Every keystroke makes the batch another size, and with it everything on the screen.
-void keystroke(benchmark::State& state, Brewery& brewery) {
-    RecipeWindow window(brewery.ports(), recipe_info, nullptr);
-    window.setAttribute(Qt::WA_DeleteOnClose, false);
-    window.show();
+void type_sizes(benchmark::State& state, const QWidget& page, QWidget& last) {
     QApplication::processEvents();
-    auto& field = *window.findChild<QAbstractSpinBox*>(QStringLiteral("batch_size"));
-    PaintWatch figures(*window.findChild<QLineEdit*>(QStringLiteral("sg")));
-    PaintWatch hops(*window.findChild<QAbstractItemView*>(QStringLiteral("hops"))->viewport());
+    auto& field = *page.findChild<QAbstractSpinBox*>(QStringLiteral("batch_size"));
+    PaintWatch figures(last);
+    PaintWatch hops(*page.findChild<QAbstractItemView*>(QStringLiteral("hops"))->viewport());
     int size = 4;
     for (auto _ : state) {
         state.PauseTiming();
@@ -57,14 +75,34 @@ void keystroke(benchmark::State& state, Brewery& brewery) {
         figures.wait();
         hops.wait();
     }
-    window.hide();
 }
 
-void opening(benchmark::State& state, Brewery& brewery) {
+void keystroke(benchmark::State& state) {
+    Brewery brewery;
+    const auto window = made<RecipeWindow>(brewery);
+    window->show();
+    type_sizes(state, *window, *window->findChild<QLineEdit*>(QStringLiteral("sg")));
+    window->hide();
+}
+
+// Until the window behind the page shows the gravity too.
+void session_keystroke(benchmark::State& state) {
+    BrewDay brewery;
+    const auto window = made<SessionWindow>(brewery);
+    window->show();
+    window->findChild<QAbstractButton*>(QStringLiteral("ingredients"))->click();
+    for (auto* const page : QApplication::topLevelWidgets())
+        if (page->objectName() == QLatin1String("BATCHRECIPEDIALOG"))
+            type_sizes(state, *page, *window->findChild<QLineEdit*>(QStringLiteral("est_og")));
+    window->hide();
+}
+
+template <class Window, class Of>
+void opening(benchmark::State& state, const char* figure) {
+    Of brewery;
     for (auto _ : state) {
-        auto window = std::make_unique<RecipeWindow>(brewery.ports(), recipe_info, nullptr);
-        window->setAttribute(Qt::WA_DeleteOnClose, false);
-        PaintWatch figures(*window->findChild<QLineEdit*>(QStringLiteral("sg")));
+        auto window = made<Window>(brewery);
+        PaintWatch figures(*window->template findChild<QLineEdit*>(QString::fromLatin1(figure)));
         window->show();
         figures.wait();
         state.PauseTiming();
@@ -75,14 +113,15 @@ void opening(benchmark::State& state, Brewery& brewery) {
     }
 }
 
-void run(Brewery& brewery) {
-    const auto measured = [&](const char* name, void (*function)(benchmark::State&, Brewery&)) {
-        benchmark::RegisterBenchmark(name, [&brewery, function](benchmark::State& state) {
-            function(state, brewery);
-        })->Unit(benchmark::kMillisecond);
+void run() {
+    const auto measured = [](const char* name, void (*function)(benchmark::State&)) {
+        benchmark::RegisterBenchmark(name, function)->Unit(benchmark::kMillisecond);
     };
     measured("keystroke to paint", keystroke);
-    measured("open the window", opening);
+    measured("open the window", [](benchmark::State& state) { opening<RecipeWindow, Brewery>(state, "sg"); });
+    measured("keystroke on a session's ingredients to paint", session_keystroke);
+    measured("open a session",
+             [](benchmark::State& state) { opening<SessionWindow, BrewDay>(state, "actual_og"); });
     benchmark::RunSpecifiedBenchmarks();
 }
 
@@ -93,7 +132,6 @@ int main(int count, char** arguments) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const QApplication application(count, arguments);
     benchmark::Initialize(&count, arguments);
-    wortlex::Brewery brewery;
-    wortlex::run(brewery);
+    wortlex::run();
     return 0;
 }

@@ -32,6 +32,10 @@ public:
     /// Keeps unsaved work for a run that breaks off, without a word; false if it could not be written.
     virtual bool keep_work() { return true; }
 
+    /// Whether it has changes of its own that its OK would hand over, and that OK.
+    virtual bool holds_changes() const { return false; }
+    virtual void hand_over() {}
+
     /// What it works on is gone: it closes without a word.
     virtual void dismiss() { close(); }
     /// What it works on was saved as it stands: Cancel no longer goes behind that.

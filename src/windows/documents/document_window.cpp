@@ -124,7 +124,7 @@ bool DocumentWindow::may_leave_document() {
     is_asking_ = true;
     auto current = saving();
     const auto before = document_.file.path;
-    const bool may = may_leave_pages() && may_leave(current);
+    const bool may = pages_.may_leave(ports_.prompts) && may_leave(current);
     is_asking_ = false;
     follow_save(before);
     return may;

@@ -37,8 +37,6 @@ protected:
     virtual void make_new() = 0;
     /// Follows the name of the file in the caption.
     virtual QString state_words() const { return {}; }
-    /// Whether the open pages let the document go.
-    virtual bool may_leave_pages() { return true; }
 
     bool may_close() override;
     /// The name of the file, and what can be undone.

@@ -3,6 +3,12 @@
 #include <algorithm>
 
 namespace wortlex {
+namespace {
+
+constexpr std::string_view not_handed_over =
+    "What you have changed on this page is not in your work yet.\nDo you want to take it over, as with OK?";
+
+} // namespace
 
 void OpenPages::show(std::string_view name, const std::function<ToolWindow*()>& make) {
     auto& page = pages_[name];
@@ -14,6 +20,18 @@ bool OpenPages::show_modal_child() const {
     return std::any_of(pages_.begin(), pages_.end(), [](const auto& page) {
         return !page.second.isNull() && wortlex::show_modal_child(*page.second);
     });
+}
+
+bool OpenPages::may_leave(Prompts& prompts) const {
+    for (const auto& [name, page] : pages_) {
+        if (page.isNull() || !page->holds_changes()) continue;
+        bring_forward(*page);
+        const auto answer =
+            prompts.ask_yes_no_cancel({.text = not_handed_over, .icon = Icon::question, .safe = Answer::yes});
+        if (answer == Answer::cancel) return false;
+        if (answer == Answer::yes) page->hand_over();
+    }
+    return true;
 }
 
 void OpenPages::keep() const {

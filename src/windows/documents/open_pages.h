@@ -1,6 +1,7 @@
 // The pages that stand open beside a document's window.
 #pragma once
 
+#include "base/ports/prompts.h"
 #include "desktop/tool_window.h"
 
 #include <QPointer>
@@ -18,6 +19,8 @@ public:
 
     /// Brings forward the dialog that a page has open; false if none has.
     bool show_modal_child() const;
+    /// Asks about each page that has changes of its own; false if the user stays.
+    bool may_leave(Prompts& prompts) const;
     /// The document was saved as it stands.
     void keep() const;
     /// Closes a page without a word, and all of them.

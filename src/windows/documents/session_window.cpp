@@ -98,7 +98,7 @@ void SessionWindow::pick_date() {
 }
 
 void SessionWindow::pick_recipe() {
-    if (pages().show_modal_child()) return;
+    if (pages().show_modal_child() || !pages().may_leave(ports().prompts)) return;
     auto recipe = choose_recipe_for_session(program(), ports().files, ports().prompts);
     if (!recipe) return;
     pages().dismiss(); // they are about the one before

@@ -44,10 +44,11 @@ SimpleMashWindow::SimpleMashWindow(const SimpleMashWork& work, const Settings& s
         connect(new QShortcut(key, this), &QShortcut::activated, this, &SimpleMashWindow::accept);
     for (const auto& sequence : QKeySequence::keyBindings(QKeySequence::Save))
         connect(new QShortcut(sequence, this), &QShortcut::activated, this, &SimpleMashWindow::save);
-    if (calls_.heat_chosen)
-        form_.after_edit([this](const Row& row) {
-            if (row.key == "heat_type") calls_.heat_chosen(work_.session.infusions.heat_type);
-        });
+    form_.after_edit([this](const Row& row) {
+        is_changed_ = true;
+        if (row.key == "heat_type" && calls_.heat_chosen)
+            calls_.heat_chosen(work_.session.infusions.heat_type);
+    });
     widgets_.field("saccharification_temperature").setFocus();
 }
 
@@ -86,12 +87,14 @@ std::function<void()> SimpleMashWindow::work_action(const SimpleMashCalls::Work&
     if (!change) return nullptr;
     return [this, change] {
         change(work_, this);
+        is_changed_ = true;
         work_out_infusions(work_);
     };
 }
 
-void SimpleMashWindow::save() const {
+void SimpleMashWindow::save() {
     calls_.accepted(work_);
+    is_changed_ = false;
     calls_.save();
 }
 

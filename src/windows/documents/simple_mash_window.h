@@ -37,13 +37,16 @@ public:
     SimpleMashWindow(const SimpleMashWork& work, const Settings& settings, MashSide side,
                      SimpleMashCalls calls, const Places& places, QWidget* origin);
 
+    bool holds_changes() const override { return is_changed_; }
+    void hand_over() override { accept(); }
+
 protected:
     /// With another grain bill it takes the new weight, and the water by the ratio.
     void follow(Change change) override;
 
 private:
     void accept();
-    void save() const;
+    void save();
     SimpleMashActions actions();
     std::function<void()> revert_action();
     std::function<void()> show_action(const SimpleMashCalls::Show& show);
@@ -53,6 +56,7 @@ private:
     SimpleMashWork work_;
     Form form_;
     FormWidgets widgets_;
+    bool is_changed_ = false; ///< since it was opened or taken over
 };
 
 } // namespace wortlex
