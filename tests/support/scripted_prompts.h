@@ -58,6 +58,7 @@ private:
         // Whatever is asked, Enter loses nothing.
         const bool keeps = message.text.ends_with("save the changes?") ||
                            message.text.ends_with("before finalizing this brewing session?") ||
+                           message.text.ends_with("take it over, as with OK?") ||
                            message.text.starts_with("Wortlex ended before") ||
                            message.text.starts_with("A time line was left");
         EXPECT_EQ(message.safe, keeps ? Answer::yes : Answer::no) << message.text;

@@ -35,11 +35,11 @@ SessionActions SessionWindow::actions() {
     actions.show_colour = [this] { wortlex::show_colour(side(), pages()); };
     actions.ingredients = [this] { show_ingredients(); };
     actions.mash = [this] { show_mash(); };
-    actions.water_needed = [this] { show(water_needed_page(editor(), ports())); };
-    actions.efficiency = [this] { show(efficiency_page(editor(), ports())); };
-    actions.fermentation = [this] { show(fermentation_page(editor(), ports())); };
-    actions.bottling = [this] { show(bottling_page(editor(), ports())); };
-    actions.notes = [this] { show(session_notes_page(editor(), ports())); };
+    actions.water_needed = [this] { open_page(water_needed_page(editor(), ports())); };
+    actions.efficiency = [this] { open_page(efficiency_page(editor(), ports())); };
+    actions.fermentation = [this] { open_page(fermentation_page(editor(), ports())); };
+    actions.bottling = [this] { open_page(bottling_page(editor(), ports())); };
+    actions.notes = [this] { open_page(session_notes_page(editor(), ports())); };
     actions.analyze = [this] {
         pages().show("BATCHINVENTORY", [this] { return new InventoryWindow(ports(), this); });
     };
@@ -55,7 +55,7 @@ RecipeSide SessionWindow::side() {
     return {editor(), ports(), Opener::session, this};
 }
 
-void SessionWindow::show(const RecipePageUse& page) {
+void SessionWindow::open_page(const RecipePageUse& page) {
     show_page(side(), pages(), page, [this] { save_document(SaveAs::no); });
 }
 

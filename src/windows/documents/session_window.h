@@ -25,7 +25,7 @@ private:
     SessionActions actions();
     QLayout* bottom_part();
     RecipeSide side();
-    void show(const RecipePageUse& page);
+    void open_page(const RecipePageUse& page);
     void pick_date();
     void pick_recipe();
     void show_ingredients();
