@@ -19,6 +19,8 @@ struct BrewKitchen : Kitchen {
     BrewKitchen() {
         BrewDocument mild;
         load_recipe(recipe_path, mild, program.settings);
+        mild.malts.resize(1); // the other is no malt that there could be
+        EXPECT_TRUE(save_recipe(recipe_path, mild, prompts));
         auto malt = mild.malts[0].record;
         malt.stock = 20;
         SaveMalts(folder.path(), database_of(malt));
