@@ -96,6 +96,7 @@ HtmlWriter write_labels_html(const std::vector<ReportRow>& label, const HtmlThem
     HtmlWriter page(theme);
     page.page_start("Wortlex Competition Labels");
     for (int i = 0; i < label_count; ++i) write_html_label(label, page);
+    page.rule();
     page.page_end();
     return page;
 }

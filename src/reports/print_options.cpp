@@ -37,7 +37,7 @@ constexpr std::array session_switches = {
     SectionSwitch{"efficiency", "&Efficiency Specifics", PrintSection::efficiency},
     SectionSwitch{"fermentation", "Fe&rmentation Specifics", PrintSection::fermentation, true},
     SectionSwitch{"bottling", "Bottling/&Kegging Specifics", PrintSection::bottling, true},
-    SectionSwitch{"inventory", "&Inventory Analysis", PrintSection::inventory},
+    SectionSwitch{"inventory", "In&ventory Analysis", PrintSection::inventory},
     SectionSwitch{"session_notes", "Sessi&on Notes", PrintSection::session_notes}};
 
 const char* why_disabled(const SectionSwitch& section, const PrintSelection& selection) {
@@ -101,7 +101,7 @@ void output_rows(Rows& rows, PrintSelection& selection, const PrintOptionsAction
         .label("&As Competition Form");
     competition_row(rows, "competition_labels", selection, PrintSection::competition_labels,
                     PrintSection::competition_form)
-        .label("As Competition Lab&els");
+        .label("As Compet&ition Labels");
     rows.button("html_themes", "HTM&L Themes", actions.html_themes);
 }
 
@@ -154,7 +154,7 @@ void print_options_form(Form& form, PrintSelection& selection, const PrintedDocu
     form.next_column();
     output_rows(form.group("Output"), selection, actions);
     auto& buttons = form.group();
-    buttons.button("save_as_default", "Save As &Default", actions.save_as_default);
+    buttons.button("save_as_default", "Save As Defa&ult", actions.save_as_default);
     buttons.button("help", "Help", actions.help);
 }
 
