@@ -40,7 +40,7 @@ private:
         const auto& plot = chart_.frame.plot;
         use(pen);
         surface_.set_brush(std::nullopt);
-        surface_.rectangle({plot.left, plot.top, plot.right + 2, plot.bottom + 2}); // on both edges
+        surface_.rectangle({plot.left, plot.top, plot.right + 1, plot.bottom + 1}); // on its edges
     }
 
     void draw_fills() {

@@ -110,7 +110,8 @@ public:
     }
 
     MashCourse course(const MashChartOptions& options) const {
-        MashCourse course{.name = {}, .is_simple = true};
+        MashCourse course;
+        course.is_simple = true;
         DegreeRange range;
         for (const auto& shown : rests_) {
             range.cover(shown.rest.temperature);
@@ -165,7 +166,8 @@ bool has_infusions(const ComplexMash& mash) {
 }
 
 MashCourse course_of(const ComplexMash& mash, const MashChartOptions& options) {
-    MashCourse course{.name = utf8_from_windows1252(mash.mash_name.view())};
+    MashCourse course;
+    course.name = utf8_from_windows1252(mash.mash_name.view());
     range_of(mash, options).put(course);
     CoursePoint at{0, course.low};
     const auto steps = mash.used_steps();
