@@ -131,17 +131,14 @@ private:
         const bool every_second =
             frame_.is_paper ? grid < least_minute_grid_labelled_on_paper : grid == least_minute_grid;
         const double step = line_step(grid, scale_.per_minute());
-        const int room = dots(upright_label_room);
-        int labelled = frame_.plot.left - room;
-        bool is_due = true;
+        const int labelled = every_second ? 2 : 1; // of so many lines one, or fewer where they are crowded
+        const double between = labelled * step * scale_.per_minute();
+        const int stride = labelled * truncate(std::max(std::ceil(dots(upright_label_room) / between), 1.0));
+        int line = 0;
         const auto label = [&](double minute) {
-            const int x = scale_.x(minute);
-            if (is_due && x - labelled >= room) {
-                chart_.labels.push_back(
-                    {{x - across(7), frame_.plot.bottom + down(7)}, formatted("%d", truncate(minute))});
-                labelled = x;
-            }
-            is_due = !every_second || !is_due;
+            if (line++ % stride != 0) return;
+            chart_.labels.push_back({{scale_.x(minute) - across(7), frame_.plot.bottom + down(7)},
+                                     formatted("%d", truncate(minute))});
         };
         for (double minute = 0; minute < course_.minutes; minute += step) {
             chart_.uprights.push_back(scale_.x(minute));
