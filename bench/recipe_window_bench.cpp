@@ -92,7 +92,7 @@ void session_keystroke(benchmark::State& state) {
     window->show();
     window->findChild<QAbstractButton*>(QStringLiteral("ingredients"))->click();
     for (auto* const page : QApplication::topLevelWidgets())
-        if (page->objectName() == QLatin1String("BATCHRECIPEDIALOG"))
+        if (page->objectName() == QLatin1String("BATCHRECIPEDIALOG") && page->isVisible())
             type_sizes(state, *page, *window->findChild<QLineEdit*>(QStringLiteral("est_og")));
     window->hide();
 }

@@ -30,7 +30,7 @@ std::string volume_added_label(const Settings& settings) {
 } // namespace
 
 IntegerRow& whole_degrees_row(Rows& rows, const std::string& key, std::int32_t& degrees,
-                            TemperatureUnits units) {
+                              TemperatureUnits units) {
     const Binding<std::int32_t> shown{
         [&degrees, units] { return shown_degrees(degrees, units); },
         [&degrees, units](std::int32_t typed) { degrees = stored_degrees(typed, units); }};
@@ -38,7 +38,7 @@ IntegerRow& whole_degrees_row(Rows& rows, const std::string& key, std::int32_t& 
 }
 
 void heat_row(Rows& rows, SessionMash& session) {
-    rows.choice("heat_type", session.infusions.heat_type, {"&Direct", "In&fusion"});
+    rows.choice("heat_type", session.infusions.heat_type, {"&Direct", "In&fusion"}).named("Heat of the mash");
 }
 
 void add_infusion_captions(std::vector<Live<std::string>>& captions, const Settings& settings) {

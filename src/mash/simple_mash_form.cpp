@@ -82,7 +82,9 @@ void rest_rows(Rows& rows, SimpleMashWork& work, const Settings& settings, MashS
                std::function<void()> calculate_strike) {
     auto& mash = work.mash;
     const bool is_session = side == MashSide::session;
-    rows.choice("mash_kind", mash.mash_kind, {"&Single Step", "M&ulti Step"}).codes({2, 3});
+    rows.choice("mash_kind", mash.mash_kind, {"&Single Step", "M&ulti Step"})
+        .codes({2, 3})
+        .named("Steps of the mash");
     if (is_session) heat_row(rows, work.session);
     RestRows rests(rows.grid("rests", rest_captions(settings, side)), work, settings.temperature_units);
     const auto infused = [&](Rows& line, const char* key, InfusedRest rest, Infusion& infusion) {

@@ -103,7 +103,8 @@ void recording_rows(Rows& rows, RecipeEditor& editor, const EfficiencyActions& a
     const auto& open = editor.open;
     auto& tail = open.session->tail;
     rows.choice("measured_in_fermenter", tail.measured_in_fermenter,
-                {"Measurement Taken in &Kettle", "Measurement Taken In &Fermenter"});
+                {"Measurement Taken in &Kettle", "Measurement Taken In &Fermenter"})
+        .named("Place of the measurement");
     rows.note("where_note", [&tail] { return tail.measured_in_fermenter != 0 ? in_fermenter : in_kettle; });
     volume_rows(rows, open);
     const auto gravity = gravity_fields(rows, "recorded_og", "Recorded O&G:", tail.recorded_og,

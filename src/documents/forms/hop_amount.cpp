@@ -104,7 +104,9 @@ void revert_rows(Rows& rows, HopUse& line, const OpenDocument& open, Prompts& pr
         line.alpha = line.record.alpha;
         update_hop_line(open, line);
     };
-    rows.button("revert", "&Revert", revert).enabled([&line] { return line.alpha != line.record.alpha; });
+    rows.button("revert", "&Revert", revert)
+        .enabled([&line] { return line.alpha != line.record.alpha; })
+        .disabled_because("The alpha acid is as the hop came");
 }
 
 } // namespace

@@ -31,6 +31,8 @@ struct NoFiles : Files {
 };
 
 QString name_of(QWidget& widget) {
+    // The toolkit gives what is chosen for the name of a box, and the label beside it.
+    if (qobject_cast<QComboBox*>(&widget) != nullptr) return widget.accessibleName();
     auto* const seen = QAccessible::queryAccessibleInterface(&widget);
     return seen == nullptr ? widget.accessibleName() : seen->text(QAccessible::Name);
 }
@@ -146,16 +148,18 @@ void fill_databases(const std::string& folder) {
 }
 
 // A line of each kind, so that all their buttons open something.
-std::string save_full_recipe(Brewery& brewery) {
+std::string save_full(Brewery& brewery, DocumentKind kind) {
     auto document = new_document(brewery.program.settings, ScheduleKind::simple);
     document.malts.resize(1);
     document.malts[0].record.malt_type = MaltType::grain;
     document.malts[0].amount = 10;
     document.hops.resize(1);
     document.extras.resize(1);
-    auto path = brewery.folder.path() + "Mild.rec";
+    DocumentImage image{.recipe = std::move(document)};
+    if (kind == DocumentKind::session) image.session = new_session(image.recipe);
+    auto path = brewery.folder.path() + "Mild." + std::string(document_traits(kind).extension);
     QuietPrompts quiet;
-    EXPECT_TRUE(save_recipe(path, document, quiet));
+    EXPECT_TRUE(save_document(path, image, quiet));
     return path;
 }
 
@@ -166,7 +170,6 @@ TEST(EveryWindow, IsReadByEarAndTellsWhatItsButtonsDo) {
     NoFiles files;
     auto& program = brewery.program;
     program.water_database = one<WaterRecord>("Burton");
-    const auto path = save_full_recipe(brewery);
     MainWindow window(
         {program, prompts, files, brewery.pages, brewery.clipboard, brewery.easel, brewery.pictures});
     window.show();
@@ -181,8 +184,12 @@ TEST(EveryWindow, IsReadByEarAndTellsWhatItsButtonsDo) {
                 << tool.window.template_name;
         }
     }
-    visitor.seen.erase("RECIPEDIALOG"); // that of a new recipe had no lines
-    visitor.press([&] { window.open_file(path); });
+    for (const auto& [kind, name] : {std::pair(DocumentKind::recipe, "RECIPEDIALOG"),
+                                     std::pair(DocumentKind::session, "BATCH1DIALOG")}) {
+        visitor.seen.erase(name); // a new document had no lines
+        const auto path = save_full(brewery, kind);
+        visitor.press([&] { window.open_file(path); });
+    }
     EXPECT_GT(visitor.seen.size(), 50U) << "not all that can be opened has been";
 }
 
