@@ -13,6 +13,8 @@
 
 #include <benchmark/benchmark.h>
 
+#include <algorithm>
+
 namespace wortlex {
 namespace {
 
@@ -91,10 +93,13 @@ void session_keystroke(benchmark::State& state) {
     const auto window = made<SessionWindow>(brewery);
     window->show();
     window->findChild<QAbstractButton*>(QStringLiteral("ingredients"))->click();
-    for (auto* const page : QApplication::topLevelWidgets())
-        if (page->objectName() == QLatin1String("BATCHRECIPEDIALOG") && page->isVisible())
-            type_sizes(state, *page, *window->findChild<QLineEdit*>(QStringLiteral("est_og")));
+    const auto pages = QApplication::topLevelWidgets();
+    const auto page = std::find_if(pages.begin(), pages.end(), [](const QWidget* each) {
+        return each->isVisible() && each->objectName() == QLatin1String("BATCHRECIPEDIALOG");
+    });
+    type_sizes(state, **page, *window->findChild<QLineEdit*>(QStringLiteral("est_og")));
     window->hide();
+    QApplication::processEvents();
 }
 
 template <class Window, class Of>

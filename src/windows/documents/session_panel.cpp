@@ -62,23 +62,26 @@ QWidget* SessionPanel::recipe_part() {
     return frame;
 }
 
-// The style's words, and its ranges behind them: the least above the most.
+// The style's words have room, its ranges stand below them.
 QWidget* SessionPanel::style_part() {
     auto* const frame = box("style_class");
-    auto* const grid = new QGridLayout(frame);
+    auto* const lines = new QVBoxLayout(frame);
+    auto* const words = new QGridLayout;
     int place = 0;
     for (const auto* const key : {"style_class", "style_name", "style_type", "style_book"}) {
-        add_field(*grid, widgets_, key, place % 2, place / 2 * 2);
+        add_field(*words, widgets_, key, place / 2, place % 2 * 2);
         ++place;
     }
-    int column = 4;
-    for (const auto& [low, high] : {std::pair("min_sg", "max_sg"), std::pair("min_ibu", "max_ibu"),
-                                    std::pair("min_colour", "max_colour")}) {
-        add_field(*grid, widgets_, low, 0, column);
-        add_field(*grid, widgets_, high, 1, column);
+    words->setColumnStretch(1, 1);
+    words->setColumnStretch(3, 1);
+    lines->addLayout(words);
+    auto* const ranges = new QGridLayout;
+    int column = 0;
+    for (const auto* const key : {"min_sg", "max_sg", "min_ibu", "max_ibu", "min_colour", "max_colour"}) {
+        add_field(*ranges, widgets_, key, 0, column);
         column += 2;
     }
-    grid->setColumnStretch(1, 1);
+    lines->addLayout(ranges);
     return frame;
 }
 
