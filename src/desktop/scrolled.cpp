@@ -1,6 +1,7 @@
 #include "desktop/scrolled.h"
 
 #include <QApplication>
+#include <QEvent>
 #include <QLayout>
 
 namespace wortlex {
@@ -35,6 +36,11 @@ QSize Scrolled::minimumSizeHint() const {
 
 bool Scrolled::hasHeightForWidth() const {
     return widget() != nullptr && widget()->layout()->hasHeightForWidth();
+}
+
+bool Scrolled::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == widget() && event->type() == QEvent::LayoutRequest) updateGeometry();
+    return QScrollArea::eventFilter(watched, event);
 }
 
 } // namespace wortlex

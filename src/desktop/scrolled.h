@@ -17,6 +17,8 @@ public:
     QSize minimumSizeHint() const override;
     bool hasHeightForWidth() const override;
     int heightForWidth(int width) const override { return widget()->heightForWidth(width); }
+    /// The window hears that the part has become larger or smaller.
+    bool eventFilter(QObject* watched, QEvent* event) override;
 };
 
 } // namespace wortlex

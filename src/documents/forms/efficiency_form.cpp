@@ -102,10 +102,6 @@ void volume_rows(Rows& rows, const OpenDocument& open) {
 void recording_rows(Rows& rows, RecipeEditor& editor, const EfficiencyActions& actions) {
     const auto& open = editor.open;
     auto& tail = open.session->tail;
-    rows.choice("measured_in_fermenter", tail.measured_in_fermenter,
-                {"Measurement Taken in &Kettle", "Measurement Taken In &Fermenter"})
-        .named("Place of the measurement");
-    rows.note("where_note", [&tail] { return tail.measured_in_fermenter != 0 ? in_fermenter : in_kettle; });
     volume_rows(rows, open);
     const auto gravity = gravity_fields(rows, "recorded_og", "Recorded O&G:", tail.recorded_og,
                                         highest_recorded, open.settings);
@@ -115,6 +111,10 @@ void recording_rows(Rows& rows, RecipeEditor& editor, const EfficiencyActions& a
                    tell);
     measure_button(rows, "refractometer", "&Refractometer", tail.recorded_og, highest_recorded,
                    actions.refractometer, tell);
+    rows.choice("measured_in_fermenter", tail.measured_in_fermenter,
+                {"Measurement Taken in &Kettle", "Measurement Taken In &Fermenter"})
+        .named("Place of the measurement");
+    rows.note("where_note", [&tail] { return tail.measured_in_fermenter != 0 ? in_fermenter : in_kettle; });
 }
 
 // Points of one kind: the most there are, and those aimed at.

@@ -152,12 +152,12 @@ QWidget* vessel_part(const FormWidgets& widgets) {
 QLayout* arrange_efficiency(const FormWidgets& widgets) {
     auto* const page = new QVBoxLayout;
     page->addLayout(answer_part(widgets));
-    page->addWidget(&widgets.field("measured_in_fermenter"));
-    page->addWidget(&widgets.field("where_note"));
     auto* const beside = new QHBoxLayout;
     beside->addWidget(box_of("Targets", figure_table(widgets, target_columns, target_lines)), 1);
     beside->addWidget(box_of("Recorded", recorded_part(widgets)));
     page->addLayout(beside);
+    page->addWidget(&widgets.field("measured_in_fermenter"));
+    page->addWidget(&widgets.field("where_note"));
     page->addWidget(box_of("Points", points_part(widgets)));
     page->addStretch();
     return page;
