@@ -297,16 +297,17 @@ void PageContext::ColourBox(int position, std::uint32_t colour) {
     page().set_brush(std::nullopt);
 }
 
-ChartPlace PageContext::PlaceChart(ChartForm form) {
+ChartPlace PageContext::PlaceChart(ChartForm form, std::optional<float> chart_scale) {
     const auto [width, height] = job_.paper.area;
-    const bool is_short = form == ChartForm::alone || y_ + chart_share * height * printer_scale_ > height;
+    const double ratio = chart_scale ? sensible(*chart_scale) : printer_scale_;
+    const bool is_short = form == ChartForm::alone || y_ + chart_share * height * ratio > height;
     if (y_ > 0 && is_short) EndPage();
     if (y_ == 0) begin_page();
     const int room = height - y_;
-    const double scale = std::min({printer_scale_ * width / ChartPlace::units.width,
-                                   printer_scale_ * height / ChartPlace::units.height,
-                                   static_cast<double>(width) / ChartPlace::units.width,
-                                   static_cast<double>(room) / ChartPlace::units.height});
+    const double scale =
+        std::min({ratio * width / ChartPlace::units.width, ratio * height / ChartPlace::units.height,
+                  static_cast<double>(width) / ChartPlace::units.width,
+                  static_cast<double>(room) / ChartPlace::units.height});
     const int free_above =
         form == ChartForm::alone ? truncate((room - ChartPlace::units.height * scale) / 2) : 0;
     const ChartPlace place{

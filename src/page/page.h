@@ -92,7 +92,8 @@ public:
     /// A patch of colour (0x00BBGGRR) in the line that is written next, at a tab position.
     void ColourBox(int position, std::uint32_t colour);
     /// Room for a chart, on a new page where it is short; lines go on below it.
-    ChartPlace PlaceChart(ChartForm form);
+    /// A chart of a report has a scaling ratio of its own.
+    ChartPlace PlaceChart(ChartForm form, std::optional<float> chart_scale = std::nullopt);
 
     /// What follows goes to a new page. Does nothing on a page that has not begun.
     void EndPage();

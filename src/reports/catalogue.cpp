@@ -120,6 +120,8 @@ DocumentReport with_sections(DocumentReport report, const ReportSource& source,
                              const PrintSelection& wanted) {
     for (const auto& entry : catalogue)
         if (is_wanted(entry, source, wanted)) report.sections.push_back(entry.section(source));
+    if (has_water_graph(source) && is_on(source, wanted, PrintSection::water_graph))
+        report.sections.push_back(water_graph_section(source, wanted.scale));
     return report;
 }
 

@@ -163,6 +163,7 @@ HtmlWriter write_html(const DocumentReport& report, const HtmlTheme& theme) {
     if (!report.html_subtitle.empty()) write_heading(page, report.html_subtitle);
     page.rule();
     for (const auto& section : report.sections) {
+        if (is_of_print(section)) continue;
         if (!section.heading.empty()) write_heading(page, section.heading);
         for (const auto& block : section.blocks)
             std::visit([&](const auto& content) { write(content, page); }, block);

@@ -64,7 +64,11 @@ void section_rows(Rows& rows, std::span<const SectionSwitch> switches, PrintSele
             .disabled_because([&section, &selection] { return why_disabled(section, selection); });
 }
 
-// There is no chart to print yet: the switches keep what the file says.
+bool is_printed_report(const PrintSelection& selection) {
+    return report_form(selection) == ReportForm::print && report_output(selection) == ReportOutput::report;
+}
+
+// There is no chart of a mash to print yet: its switches keep what the file says.
 void graph_rows(Rows& rows, PrintSelection& selection, DocumentKind kind) {
     const auto disabled = [&](const char* key, const char* label, std::uint8_t& flag) {
         rows.check(key, flag).label(label).enabled(false).disabled_because(not_yet);
@@ -75,7 +79,10 @@ void graph_rows(Rows& rows, PrintSelection& selection, DocumentKind kind) {
     disabled("decoction_spikes", "Decoction Spikes", selection[PrintOption::decoction_spikes]);
     disabled("infusion_spikes", "Infusion Spikes", selection[PrintOption::infusion_spikes]);
     if (kind == DocumentKind::session)
-        disabled("water_graph", "Water Profile Graph", selection[PrintSection::water_graph]);
+        rows.check("water_graph", selection[PrintSection::water_graph])
+            .label("Water Profile Graph")
+            .enabled([&selection] { return is_printed_report(selection); })
+            .disabled_because("Only a printed report has graphs");
 }
 
 // The one takes the other out.
@@ -105,14 +112,18 @@ void output_rows(Rows& rows, PrintSelection& selection, const PrintOptionsAction
     rows.button("html_themes", "HTM&L Themes", actions.html_themes);
 }
 
-// Of a competition form; a report takes the one of the settings.
-void scale_row(Rows& rows, PrintSelection& selection) {
+// Of graphs and of a competition form; the lines of a report take that of the settings.
+bool has_scale(PrintSelection& selection, DocumentKind kind) {
+    if (report_form(selection) != ReportForm::print) return false;
+    if (report_output(selection) == ReportOutput::competition_form) return true;
+    return is_printed_report(selection) && kind == DocumentKind::session &&
+           selection[PrintSection::water_graph] != 0;
+}
+
+void scale_row(Rows& rows, PrintSelection& selection, DocumentKind kind) {
     print_scale_row(rows, "scale", selection.scale)
-        .enabled([&selection] {
-            return report_form(selection) == ReportForm::print &&
-                   report_output(selection) == ReportOutput::competition_form;
-        })
-        .disabled_because("Only a printed competition form has a scale of its own");
+        .enabled([&selection, kind] { return has_scale(selection, kind); })
+        .disabled_because("Only graphs and printed competition forms have a scale of their own");
 }
 
 void text_groups(Form& form, PrintSelection& selection, const PrintedDocument& document) {
@@ -150,7 +161,7 @@ void print_options_form(Form& form, PrintSelection& selection, const PrintedDocu
     form.next_column();
     graph_rows(form.group(document.kind == DocumentKind::session ? "Graphs" : "Graph"), selection,
                document.kind);
-    scale_row(form.group("Scaling Ratio"), selection);
+    scale_row(form.group("Scaling Ratio"), selection, document.kind);
     form.next_column();
     output_rows(form.group("Output"), selection, actions);
     auto& buttons = form.group();

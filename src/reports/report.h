@@ -88,6 +88,11 @@ struct ReportSection {
     std::function<void(PageContext&)> print_body{}; ///< what print has instead of the blocks
 };
 
+/// Whether there is nothing of it in the other forms.
+inline bool is_of_print(const ReportSection& section) {
+    return section.heading.empty() && section.blocks.empty();
+}
+
 /// A section of such blocks, which are moved.
 template <class... Blocks>
 ReportSection section_of(std::string heading, Blocks... blocks) {

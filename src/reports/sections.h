@@ -24,6 +24,10 @@ ReportSection awards_section(const ReportSource& source);
 /// Of a session only, as those that follow.
 ReportSection water_match_section(const ReportSource& source);
 ReportSection water_adjustment_section(const ReportSource& source);
+/// The chart of the water, in print alone, behind all sections; `scale` is its scaling ratio.
+ReportSection water_graph_section(const ReportSource& source, float scale);
+/// Whether the brewer's own water has a name, without which there is none.
+bool has_water_graph(const ReportSource& source);
 ReportSection water_needed_section(const ReportSource& source);
 ReportSection efficiency_section(const ReportSource& source);
 ReportSection fermentation_section(const ReportSource& source);
