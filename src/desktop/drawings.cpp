@@ -31,9 +31,12 @@ void SwatchButton::paintEvent(QPaintEvent*) {
     style()->drawPrimitive(QStyle::PE_FrameFocusRect, &option, &painter, this);
 }
 
-Canvas::Canvas(Extent least, std::function<void(Surface&)> draw, QWidget* parent)
-    : QWidget(parent), draw_(std::move(draw)) {
+Canvas::Canvas(std::function<void(Surface&)> draw, QWidget* parent)
+    : QWidget(parent), draw_(std::move(draw)) {}
+
+void Canvas::show_again(Extent least) {
     setMinimumSize(least.width, least.height);
+    update();
 }
 
 void Canvas::paintEvent(QPaintEvent*) {

@@ -24,7 +24,8 @@ private:
 
 class Canvas : public QWidget {
 public:
-    Canvas(Extent least, std::function<void(Surface&)> draw, QWidget* parent);
+    Canvas(std::function<void(Surface&)> draw, QWidget* parent);
+    void show_again(Extent least);
     QSize sizeHint() const override { return minimumSize(); }
 
 protected:

@@ -424,8 +424,8 @@ void FormWidgets::visit(SwatchRow& row) {
 }
 
 void FormWidgets::visit(CanvasRow& row) {
-    auto* const canvas = new Canvas(row.size, row.draw, &parent_);
-    keep(row, *canvas, [canvas] { canvas->update(); });
+    auto* const canvas = new Canvas(row.draw, &parent_);
+    keep(row, *canvas, [&row, canvas] { canvas->show_again(row.size()); });
 }
 
 void FormWidgets::visit(ListRow& row) {

@@ -74,8 +74,8 @@ SwatchRow& Rows::swatch(std::string key, std::function<std::uint32_t()> colour) 
     return add<SwatchRow>(std::move(key), std::move(colour));
 }
 
-CanvasRow& Rows::canvas(std::string key, Extent least, std::function<void(Surface&)> draw) {
-    return add<CanvasRow>(std::move(key), least, std::move(draw));
+CanvasRow& Rows::canvas(std::string key, Live<Extent> least, std::function<void(Surface&)> draw) {
+    return add<CanvasRow>(std::move(key), std::move(least), std::move(draw));
 }
 
 ListRow& Rows::list(std::string key, std::vector<ListColumn> columns, std::function<std::size_t()> count,

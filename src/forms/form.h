@@ -35,7 +35,7 @@ public:
     CheckRow& check(std::string key, Binding<bool> value);
     NoteRow& note(std::string key, const Live<std::string>& text);
     SwatchRow& swatch(std::string key, std::function<std::uint32_t()> colour);
-    CanvasRow& canvas(std::string key, Extent least, std::function<void(Surface&)> draw);
+    CanvasRow& canvas(std::string key, Live<Extent> least, std::function<void(Surface&)> draw);
     ListRow& list(std::string key, std::vector<ListColumn> columns, std::function<std::size_t()> count,
                   std::function<std::string(std::size_t row, std::size_t column)> cell);
     ButtonRow& button(std::string key, const Live<std::string>& caption, std::function<void()> press);

@@ -87,11 +87,11 @@ public:
 /// A drawing. `size` is the least it needs.
 class CanvasRow : public RowOptions<CanvasRow, Row> {
 public:
-    CanvasRow(std::string row_key, Extent least, std::function<void(Surface&)> paint)
-        : RowOptions(std::move(row_key), std::nullopt), size(least), draw(std::move(paint)) {}
+    CanvasRow(std::string row_key, Live<Extent> least, std::function<void(Surface&)> paint)
+        : RowOptions(std::move(row_key), std::nullopt), size(std::move(least)), draw(std::move(paint)) {}
     void accept(RowVisitor& visitor) override { visitor.visit(*this); }
 
-    Extent size;
+    Live<Extent> size; ///< at least
     std::function<void(Surface&)> draw;
 };
 

@@ -22,11 +22,6 @@ int name_count(const MashCourse& course, const MashChartOptions& options) {
     return options.solid_fill ? static_cast<int>(course.names.size()) : 0;
 }
 
-bool has_spikes(const MashCourse& course, bool decoctions) {
-    return std::any_of(course.spikes.begin(), course.spikes.end(),
-                       [=](const CourseSpike& spike) { return spike.is_decoction == decoctions; });
-}
-
 // A long legend of rests moves the row of the spikes down.
 int spike_row_on_screen(const MashCourse& course, const MashChartOptions& options) {
     if (!course.is_simple) return spike_row;
@@ -83,8 +78,8 @@ private:
             if (names > 0) place.y += down(spikes_below_on_paper);
         }
         const int step = frame_.is_paper ? across(spike_step_on_paper) : column_step;
-        if (has_spikes(course_, true)) add_decoction(place);
-        if (has_spikes(course_, false)) add_infusion({place.x + step, place.y});
+        if (course_.explains_decoctions) add_decoction(place);
+        if (course_.explains_infusions) add_infusion({place.x + step, place.y});
     }
 
     void add_spike_name(Point mark, const char* name) {
@@ -123,7 +118,7 @@ Extent mash_chart_size(const MashCourse& course, const MashChartOptions& options
     auto size = simple_ground;
     size.height += row_step * std::max(name_count(course, options) - rows_of_simple_ground, 0);
     const int spikes = ChartFrame().plot.bottom + spike_row_on_screen(course, options) + letter_height + 2;
-    if (!course.spikes.empty()) size.height = std::max(size.height, spikes);
+    if (course.explains_infusions) size.height = std::max(size.height, spikes);
     return size;
 }
 

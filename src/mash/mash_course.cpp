@@ -35,10 +35,9 @@ double heating_minutes(const ComplexMash& mash, std::size_t at) {
     return at > 0 && step.heat_type == StepHeat::decoction ? ramp_minutes : step.step_minutes;
 }
 
-bool has_later(const ComplexMash& mash, StepHeat heat) {
-    const auto steps = mash.used_steps();
-    return steps.size() > 1 && std::any_of(steps.begin() + 1, steps.end(),
-                                           [heat](const MashStep& step) { return step.heat_type == heat; });
+bool has_heat(std::span<const MashStep> steps, StepHeat heat) {
+    return std::any_of(steps.begin(), steps.end(),
+                       [heat](const MashStep& step) { return step.heat_type == heat; });
 }
 
 bool is_spiked(const MashStep& step, const MashChartOptions& options) {
@@ -86,7 +85,7 @@ struct ShownRest {
 
 class SimpleCourse {
 public:
-    SimpleCourse(const SimpleMash& mash, const InfusionExtras* infusions) {
+    SimpleCourse(const SimpleMash& mash, const InfusionExtras* infusions) : infusions_(infusions) {
         const bool is_multi = mash.mash_kind != MashKind::single_step;
         const bool acid = is_multi && mash.acid.is_present();
         const bool protein = is_multi && mash.protein.is_present();
@@ -112,13 +111,7 @@ public:
     MashCourse course(const MashChartOptions& options) const {
         MashCourse course;
         course.is_simple = true;
-        DegreeRange range;
-        for (const auto& shown : rests_) {
-            range.cover(shown.rest.temperature);
-            if (options.infusion_spikes && shown.infusion != nullptr)
-                range.cover_above(shown.infusion->temperature);
-        }
-        range.put(course);
+        range(options).put(course);
         CoursePoint at{0, course.low};
         for (const auto& shown : rests_) {
             if (options.infusion_spikes && is_infused(shown))
@@ -136,6 +129,15 @@ private:
     bool is_infused(const ShownRest& shown) const {
         return shown.infusion != nullptr && shown.infusion->temperature != 0 && &shown != &rests_.front();
     }
+    DegreeRange range(const MashChartOptions& options) const {
+        DegreeRange range;
+        for (const auto& shown : rests_) range.cover(shown.rest.temperature);
+        if (infusions_ == nullptr || !options.infusion_spikes) return range;
+        for (const auto* infusion : {&infusions_->protein, &infusions_->intermediate,
+                                     &infusions_->saccharification, &infusions_->mash_out})
+            range.cover_above(infusion->temperature);
+        return range;
+    }
     static void add_rest(MashCourse& course, CoursePoint& at, const ShownRest& shown) {
         const auto degrees = static_cast<double>(shown.rest.temperature);
         const double minutes = shown.rest.minutes;
@@ -150,22 +152,11 @@ private:
         course.names.push_back({shown.name, shown.colour});
     }
 
+    const InfusionExtras* infusions_; ///< null where they do not heat
     std::vector<ShownRest> rests_;
 };
 
-} // namespace
-
-bool has_decoctions(const ComplexMash& mash) {
-    const auto steps = mash.used_steps();
-    return std::any_of(steps.begin(), steps.end(),
-                       [](const MashStep& step) { return step.heat_type == StepHeat::decoction; });
-}
-
-bool has_infusions(const ComplexMash& mash) {
-    return has_later(mash, StepHeat::infuse);
-}
-
-MashCourse course_of(const ComplexMash& mash, const MashChartOptions& options) {
+MashCourse complex_course(const ComplexMash& mash, const MashChartOptions& options) {
     MashCourse course;
     course.name = utf8_from_windows1252(mash.mash_name.view());
     range_of(mash, options).put(course);
@@ -183,9 +174,27 @@ MashCourse course_of(const ComplexMash& mash, const MashChartOptions& options) {
     return course;
 }
 
-MashCourse course_of(const SimpleMash& mash, const InfusionExtras* infusions,
-                     const MashChartOptions& options) {
-    return SimpleCourse(mash, infusions).course(options);
+} // namespace
+
+bool has_decoctions(const ChartedMash& mash) {
+    return mash.complex != nullptr && has_heat(mash.complex->used_steps(), StepHeat::decoction);
+}
+
+bool has_infusions(const ChartedMash& mash) {
+    if (mash.complex == nullptr)
+        return mash.infusions != nullptr && mash.infusions->heat_type == SimpleHeat::infusion;
+    const auto steps = mash.complex->used_steps();
+    return !steps.empty() && has_heat(steps.subspan(1), StepHeat::infuse);
+}
+
+MashCourse course_of(const ChartedMash& mash, const MashChartOptions& options) {
+    const bool infusions = has_infusions(mash);
+    auto course = mash.complex != nullptr
+                      ? complex_course(*mash.complex, options)
+                      : SimpleCourse(*mash.simple, infusions ? mash.infusions : nullptr).course(options);
+    course.explains_decoctions = options.decoction_spikes && has_decoctions(mash);
+    course.explains_infusions = options.infusion_spikes && infusions;
+    return course;
 }
 
 } // namespace wortlex

@@ -50,17 +50,23 @@ struct MashCourse {
     double low = 0;  ///< degrees F, of the axis
     double high = 0; ///< below `low` where there is no step at all
     std::vector<CoursePatch> patches;
-    std::vector<CourseSpike> spikes; ///< those shown
+    std::vector<CourseSpike> spikes;  ///< those shown
+    bool explains_decoctions = false; ///< in the legend
+    bool explains_infusions = false;
     std::vector<CourseName> names;
 };
 
-/// Whether a schedule has what such a spike shows.
-bool has_decoctions(const ComplexMash& mash);
-bool has_infusions(const ComplexMash& mash);
+/// One of the two kinds of schedule, which stays where it is.
+struct ChartedMash {
+    const ComplexMash* complex = nullptr;
+    const SimpleMash* simple = nullptr;
+    const InfusionExtras* infusions = nullptr; ///< of a session with the simple one
+};
 
-MashCourse course_of(const ComplexMash& mash, const MashChartOptions& options);
-/// `infusions` of a session that heats by them; nullptr in any other case.
-MashCourse course_of(const SimpleMash& mash, const InfusionExtras* infusions,
-                     const MashChartOptions& options);
+/// Whether a schedule has what such a spike shows.
+bool has_decoctions(const ChartedMash& mash);
+bool has_infusions(const ChartedMash& mash);
+
+MashCourse course_of(const ChartedMash& mash, const MashChartOptions& options);
 
 } // namespace wortlex

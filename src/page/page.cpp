@@ -297,22 +297,20 @@ void PageContext::ColourBox(int position, std::uint32_t colour) {
     page().set_brush(std::nullopt);
 }
 
-ChartPlace PageContext::PlaceChart(ChartForm form, std::optional<float> chart_scale) {
+ChartPlace PageContext::PlaceChart(ChartForm form, float ratio, int units_high) {
+    const double wanted = sensible(ratio);
     const auto [width, height] = job_.paper.area;
-    const double ratio = chart_scale ? sensible(*chart_scale) : printer_scale_;
-    const bool is_short = form == ChartForm::alone || y_ + chart_share * height * ratio > height;
-    if (y_ > 0 && is_short) EndPage();
+    const double widest = static_cast<double>(width) / ChartPlace::units.width;
+    const double wished = std::min({wanted * widest, wanted * height / ChartPlace::units.height, widest});
+    const double taken = std::max(chart_share * height * wanted, units_high * wished);
+    if (y_ > 0 && (form == ChartForm::alone || y_ + taken > height)) EndPage();
     if (y_ == 0) begin_page();
     const int room = height - y_;
-    const double scale =
-        std::min({ratio * width / ChartPlace::units.width, ratio * height / ChartPlace::units.height,
-                  static_cast<double>(width) / ChartPlace::units.width,
-                  static_cast<double>(room) / ChartPlace::units.height});
-    const int free_above =
-        form == ChartForm::alone ? truncate((room - ChartPlace::units.height * scale) / 2) : 0;
+    const double scale = std::min(wished, static_cast<double>(room) / units_high);
+    const int free_above = form == ChartForm::alone ? truncate((room - units_high * scale) / 2) : 0;
     const ChartPlace place{
         page(), {truncate((width - ChartPlace::units.width * scale) / 2), y_ + free_above}, scale};
-    y_ = place.offset.y + truncate(ChartPlace::units.height * scale);
+    y_ = place.offset.y + truncate(units_high * scale);
     return place;
 }
 

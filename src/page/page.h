@@ -92,8 +92,9 @@ public:
     /// A patch of colour (0x00BBGGRR) in the line that is written next, at a tab position.
     void ColourBox(int position, std::uint32_t colour);
     /// Room for a chart, on a new page where it is short; lines go on below it.
-    /// A chart of a report has a scaling ratio of its own.
-    ChartPlace PlaceChart(ChartForm form, std::optional<float> chart_scale = std::nullopt);
+    ChartPlace PlaceChart(ChartForm form) { return PlaceChart(form, printer_scale_); }
+    /// Likewise at a scale of its own; `height` are its units where it is higher than usual.
+    ChartPlace PlaceChart(ChartForm form, float scale, int height = ChartPlace::units.height);
 
     /// What follows goes to a new page. Does nothing on a page that has not begun.
     void EndPage();

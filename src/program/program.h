@@ -10,6 +10,7 @@
 #include "documents/opening.h"
 #include "documents/session_figures.h"
 #include "forms/places.h"
+#include "mash/mash_chart_form.h"
 #include "mash/strike_calculator.h"
 #include "page/html_theme.h"
 #include "program/documents.h"
@@ -59,6 +60,7 @@ struct Program {
     CalculatorDefaults calculator_defaults;
     HopMemory hop_memory;
     CalculatorStates calculators;
+    MashChartChoice mash_charts;
     std::optional<StrikeCalculator> strike_calculator; ///< none before its window first opens
     WaterNeedsTool water_needs;
     PickChoices picks;

@@ -13,7 +13,8 @@ enum class Change {
     settings,    ///< the working values
     databases,   ///< the files of the ingredient databases
     calibration, ///< of the refractometers, for this run
-    water        ///< of the water profile calculator, whose chart follows
+    water,       ///< of the water profile calculator, whose chart follows
+    mash         ///< of a schedule under work, or of what its charts show
 };
 
 /// Kept by who listens; with its end he hears nothing more, and it may end after the board.
