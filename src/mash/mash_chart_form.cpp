@@ -51,7 +51,7 @@ ChartDrawing mash_chart_drawing(const ChartedMash& mash, const MashChartOptions&
 }
 
 void print_mash_chart(PageContext& page, const MashCourse& course, const MashChartOptions& options,
-                      const Pen& spikes, ChartForm form, double scale) {
+                      const Pen& spikes, ChartForm form, float scale) {
     const int height = std::max(ChartPlace::units.height, mash_chart_paper_height(course, options));
     const auto place = page.PlaceChart(form, scale, height);
     draw_mash_chart(place.surface, mash_chart(course, options, paper_frame(place.offset, place.scale)),
@@ -60,7 +60,7 @@ void print_mash_chart(PageContext& page, const MashCourse& course, const MashCha
 
 PrintRequest mash_chart_printout(const ChartedMash& mash, const MashChartOptions& options,
                                  const SystemSettings& settings) {
-    const double scale = settings.printer_scale;
+    const float scale = settings.printer_scale;
     return {
         chart_page_title, settings.printer_scale,
         [course = course_of(mash, options), options, spikes = spike_pen(settings), scale](PageContext& page) {

@@ -25,7 +25,7 @@ ChartDrawing mash_chart_drawing(const ChartedMash& mash, const MashChartOptions&
 
 /// With every step in the legend. `scale` is that of the printer settings or of a report.
 void print_mash_chart(PageContext& page, const MashCourse& course, const MashChartOptions& options,
-                      const Pen& spikes, ChartForm form, double scale);
+                      const Pen& spikes, ChartForm form, float scale);
 
 /// On a page of its own.
 PrintRequest mash_chart_printout(const ChartedMash& mash, const MashChartOptions& options,
