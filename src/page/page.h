@@ -92,7 +92,7 @@ public:
     /// A patch of colour (0x00BBGGRR) in the line that is written next, at a tab position.
     void ColourBox(int position, std::uint32_t colour);
     /// Room for a chart, on a new page where it is short; lines go on below it.
-    ChartPlace PlaceChart(ChartForm form) { return PlaceChart(form, printer_scale_); }
+    ChartPlace PlaceChart(ChartForm form) { return PlaceChart(form, static_cast<float>(printer_scale_)); }
     /// Likewise at a scale of its own; `height` are its units where it is higher than usual.
     ChartPlace PlaceChart(ChartForm form, float scale, int height = ChartPlace::units.height);
 

@@ -33,6 +33,15 @@ ComplexMash chart_schedule() {
     return mash;
 }
 
+MashCourse course_of(const ComplexMash& mash, const MashChartOptions& options) {
+    return course_of(ChartedMash{.complex = &mash}, options);
+}
+
+MashCourse course_of(const SimpleMash& mash, const InfusionExtras* infusions,
+                     const MashChartOptions& options) {
+    return course_of(ChartedMash{.simple = &mash, .infusions = infusions}, options);
+}
+
 std::vector<std::string> labels(const MashChart& chart) {
     std::vector<std::string> all;
     for (const auto& [at, text] : chart.labels) all.push_back(text);
@@ -70,7 +79,7 @@ TEST(MashChart, ShowsInfusionsAfterTheFirstWhereTheyAreWanted) {
     EXPECT_EQ(chart.captions.back().at.x, 70 + 125 + 10);
     mash.step_count = 1;
     EXPECT_TRUE(course_of(mash, options).spikes.empty());
-    EXPECT_FALSE(has_infusions(mash) || has_decoctions(mash));
+    EXPECT_FALSE(has_infusions({.complex = &mash}) || has_decoctions({.complex = &mash}));
     options.infusion_spikes = false;
     EXPECT_EQ(course_of(mash, options).high, 150) << "the water that is not shown needs no room";
 }

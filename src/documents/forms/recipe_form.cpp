@@ -27,7 +27,7 @@ std::string pattern_of(const Figure& figure) {
 // A band beside the limits: where the recipe stands between them.
 void band(Rows& rows, std::string key, const std::string& what, const std::function<StyleBand()>& figure,
           const BrewDocument& document) {
-    rows.canvas(std::move(key), {90, 9},
+    rows.canvas(std::move(key), Extent{90, 9},
                 [figure, &document](Surface& surface) {
                     draw_style_band(surface, has_style(document) ? figure() : StyleBand{});
                 })

@@ -35,7 +35,7 @@ public:
             return has_picked_recipe(open) && is_filled(page, open.document, *open.session);
         };
         rows_
-            .canvas(key + page_mark, {18, 18},
+            .canvas(key + page_mark, Extent{18, 18},
                     [is_full](Surface& surface) { draw_page_mark(surface, is_full()); })
             .named([is_full, what] { return what + (is_full() ? ": filled" : ": empty"); })
             .hint([is_full] { return std::string(is_full() ? "Filled" : "Empty"); });
