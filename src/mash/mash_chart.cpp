@@ -10,7 +10,9 @@
 namespace wortlex {
 namespace {
 
-constexpr double offsets_on_paper = 0.6; // of texts, to the dots of a pixel: letters and offsets keep apart
+// Of texts on paper, to the dots of a pixel: what stands farthest to the left is just on the page.
+constexpr double across_on_paper = 70.0 / 120, down_on_paper = 0.6;
+constexpr double sum_error = 1e-6; // of dots: a line on the frame stays on it
 constexpr int least_minute_grid = 5, least_minute_grid_labelled_on_paper = 10;
 constexpr int level_label_room = 8, upright_label_room = 16; // pixels that a label needs
 
@@ -29,11 +31,13 @@ public:
     double per_minute() const { return per_minute_; }
     double per_degree() const { return per_degree_; }
     int x(double minute) const {
-        return std::clamp(truncate(plot_.left + minute * per_minute_), plot_.left, plot_.right);
+        return std::clamp(truncate(plot_.left + minute * per_minute_ + sum_error), plot_.left, plot_.right);
     }
     int y(double degrees) const { return std::clamp(free_y(degrees), plot_.top, plot_.bottom); }
     /// Not held to the frame.
-    int free_y(double degrees) const { return truncate(plot_.bottom - (degrees - low_) * per_degree_); }
+    int free_y(double degrees) const {
+        return truncate(plot_.bottom - (degrees - low_) * per_degree_ + sum_error);
+    }
     Point place(const CoursePoint& point) const { return {x(point.minute), y(point.degrees)}; }
 
 private:
@@ -195,8 +199,8 @@ ChartFrame paper_frame(Point offset, double unit) {
     const auto down = [&](int pixels) { return offset.y + truncate(pixels * unit); };
     const auto& plot = screen.plot;
     return {{across(plot.left), down(plot.top), across(plot.right), down(plot.bottom)},
-            offsets_on_paper * unit,
-            offsets_on_paper * unit,
+            across_on_paper * unit,
+            down_on_paper * unit,
             unit,
             true};
 }

@@ -86,7 +86,7 @@ struct ShownRest {
 class SimpleCourse {
 public:
     SimpleCourse(const SimpleMash& mash, const InfusionExtras* infusions) : infusions_(infusions) {
-        const bool is_multi = mash.mash_kind != MashKind::single_step;
+        const bool is_multi = mash.mash_kind != MashKind::single_step && mash.mash_kind != MashKind::none;
         const bool acid = is_multi && mash.acid.is_present();
         const bool protein = is_multi && mash.protein.is_present();
         const bool intermediate = is_multi && mash.intermediate.is_present();
@@ -175,6 +175,14 @@ MashCourse complex_course(const ComplexMash& mash, const MashChartOptions& optio
 }
 
 } // namespace
+
+ChartedMash charted(const ComplexMash& mash) {
+    return {&mash, nullptr, nullptr};
+}
+
+ChartedMash charted(const SimpleMash& mash, const InfusionExtras* infusions) {
+    return {nullptr, &mash, infusions};
+}
 
 bool has_decoctions(const ChartedMash& mash) {
     return mash.complex != nullptr && has_heat(mash.complex->used_steps(), StepHeat::decoction);

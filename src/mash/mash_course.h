@@ -63,6 +63,10 @@ struct ChartedMash {
     const InfusionExtras* infusions = nullptr; ///< of a session with the simple one
 };
 
+ChartedMash charted(const ComplexMash& mash);
+/// `infusions` of a session; nullptr for a recipe.
+ChartedMash charted(const SimpleMash& mash, const InfusionExtras* infusions);
+
 /// Whether a schedule has what such a spike shows.
 bool has_decoctions(const ChartedMash& mash);
 bool has_infusions(const ChartedMash& mash);

@@ -1,4 +1,5 @@
-#include "mash/mash_chart.h"
+#include "mash/mash_chart_form.h"
+#include "support/form_user.h"
 #include "support/recording_surface.h"
 
 #include <gmock/gmock.h>
@@ -6,198 +7,262 @@
 #include <limits>
 
 namespace wortlex {
+
+// Places are told as their figures.
+void PrintTo(const Point& at, std::ostream* out) {
+    *out << at.x << ',' << at.y;
+}
+void PrintTo(const Box& box, std::ostream* out) {
+    *out << box.left << ',' << box.top << ',' << box.right << ',' << box.bottom;
+}
+void PrintTo(const ChartText& text, std::ostream* out) {
+    *out << text.at.x << ',' << text.at.y << ' ' << text.text;
+}
+
 namespace {
 
 using testing::ElementsAre;
+using testing::IsEmpty;
+using testing::SizeIs;
 
-MashStep chart_step(const char* name, StepHeat heat, std::int32_t degrees, std::int32_t minutes,
-                    std::int32_t heating = 5) {
-    MashStep step;
-    step.name.assign(name);
-    step.heat_type = heat;
-    step.start_temperature = step.stop_temperature = degrees;
-    step.infuse_temperature = 210;
-    step.rest_minutes = minutes;
-    step.step_minutes = heating;
-    return step;
+using Corners = std::vector<Point>;
+
+MATCHER_P3(Reads, x, y, words, "") {
+    return arg.at == Point{x, y} && arg.text == words;
 }
 
-// An infusion, one more and a decoction: 60 minutes, and 140 to 170 degrees on an axis from 130 to 220.
-ComplexMash chart_schedule() {
+// A rest at 104 F, and a decoction that was pulled 25 minutes before it is back: 100 minutes, 3 pixels each.
+struct Decocted {
     ComplexMash mash;
-    mash.step_count = 3;
-    mash.steps[0] = chart_step("Dough In", StepHeat::infuse, 140, 15, 0);
-    mash.steps[1] = chart_step("Saccharification", StepHeat::infuse, 150, 15, 10);
-    mash.steps[2] = chart_step("Mash Out", StepHeat::decoction, 170, 15, 10);
-    mash.steps[2].rest_colour = 0x123456;
-    return mash;
-}
+    MashChartOptions options;
 
-MashCourse course_of(const ComplexMash& mash, const MashChartOptions& options) {
-    return course_of(ChartedMash{.complex = &mash}, options);
-}
+    Decocted() {
+        mash.step_count = 2;
+        mash.mash_name.assign("Bock");
+        take(0, {"Acid", StepHeat::direct, 104, 104, 0, 20, 10});
+        take(1, {"Sugar", StepHeat::decoction, 150, 148, 212, 65, 25});
+    }
+    struct Figures {
+        const char* name;
+        StepHeat heat;
+        int start, stop, infuse, rest, step;
+    };
+    void take(std::size_t at, const Figures& figures) {
+        auto& step = mash.steps[at];
+        step.name.assign(figures.name);
+        step.heat_type = figures.heat;
+        step.start_temperature = figures.start;
+        step.stop_temperature = figures.stop;
+        step.infuse_temperature = figures.infuse;
+        step.rest_minutes = figures.rest;
+        step.step_minutes = figures.step;
+    }
+    MashCourse course() const { return course_of(charted(mash), options); }
+    MashChart chart(const ChartFrame& frame = {}) const { return mash_chart(course(), options, frame); }
+};
 
-MashCourse course_of(const SimpleMash& mash, const InfusionExtras* infusions,
-                     const MashChartOptions& options) {
-    return course_of(ChartedMash{.simple = &mash, .infusions = infusions}, options);
-}
-
-std::vector<std::string> labels(const MashChart& chart) {
-    std::vector<std::string> all;
-    for (const auto& [at, text] : chart.labels) all.push_back(text);
+std::vector<Corners> corners_of(const MashChart& chart) {
+    std::vector<Corners> all;
+    for (const auto& fill : chart.fills) all.push_back(fill.corners);
     return all;
 }
 
-// 5 dots a minute, 226 / 90 dots a degree: 140 stands at 256 - 25, 150 at 256 - 50, 170 at 256 - 100.
-TEST(MashChart, DrawsEachStepAsItIsHeatedAndRests) {
-    const MashChartOptions options;
-    const auto chart = mash_chart(course_of(chart_schedule(), options), options);
-    EXPECT_THAT(chart.curve,
-                ElementsAre(Point{70, 256}, Point{70, 256}, Point{70, 230}, Point{70, 230}, Point{145, 230},
-                            Point{145, 230}, Point{195, 205}, Point{195, 205}, Point{270, 205},
-                            Point{270, 205}, Point{295, 155}, Point{295, 155}, Point{370, 155}));
-    EXPECT_THAT(chart.fills[3].corners,
-                ElementsAre(Point{195, 205}, Point{270, 205}, Point{270, 256}, Point{195, 256}));
-    EXPECT_EQ(chart.fills[5].colour, 0x123456U);
+// From 94 to 222 F, 226 / 128 pixels a degree: 104 F is 10 * 1.7656 = 17.7 above the axis at 256.
+TEST(MashChart, ADecoctionTakesFiveMinutesAndRunsBackToWhereItWasPulled) {
+    const Decocted mash;
+    const auto chart = mash.chart();
+    EXPECT_THAT(corners_of(chart), ElementsAre(Corners{{70, 256}, {100, 238}, {100, 256}, {70, 256}},
+                                               Corners{{100, 238}, {160, 238}, {160, 256}, {100, 256}},
+                                               Corners{{160, 238}, {175, 157}, {175, 256}, {160, 256}},
+                                               Corners{{175, 157}, {370, 160}, {370, 256}, {175, 256}}));
+    EXPECT_EQ(chart.curve.front(), (Point{70, 256}));
+    EXPECT_EQ(chart.curve.back(), (Point{370, 160}));
     EXPECT_THAT(chart.spikes.front(),
-                ElementsAre(Point{295, 155}, Point{295, 55}, Point{250, 55}, Point{245, 205}))
-        << "pulled 10 minutes before it was back, though it takes 5 of the axis";
-    EXPECT_THAT(chart.uprights, ElementsAre(70, 220));
-    EXPECT_THAT(labels(chart), ElementsAre("140 F", "150 F", "160 F", "170 F", "180 F", "190 F", "200 F",
-                                           "210 F", "220 F", "0", "30", "60"));
-    EXPECT_EQ(chart.labels[0].at, (Point{28, 223}));
-    EXPECT_EQ(chart.labels.back().at, (Point{363, 263}));
+                ElementsAre(Point{175, 157}, Point{175, 47}, Point{105, 47}, Point{100, 238}));
+    EXPECT_THAT(chart.uprights, ElementsAre(70, 160, 250, 340));
+    ASSERT_THAT(chart.levels, SizeIs(13)) << "100 to 220 F";
+    EXPECT_EQ(chart.levels.front(), 245);
+    EXPECT_EQ(chart.levels.back(), 33);
+    EXPECT_THAT(chart.labels.front(), Reads(28, 238, "100 F"));
+    EXPECT_THAT(chart.labels.back(), Reads(333, 263, "90")) << "100 is no line of the grid";
+    EXPECT_THAT(chart.captions.front(), Reads(70, 4, "Bock"));
+    EXPECT_THAT(chart.captions.back(), Reads(80, 364, "Decoction Spike"));
+    EXPECT_EQ(chart.swatches.at(1).box, (Box{70, 307, 76, 313})) << "the second of the legend";
+    EXPECT_EQ(chart.swatches.at(1).name.text, "Sugar");
 }
 
-TEST(MashChart, ShowsInfusionsAfterTheFirstWhereTheyAreWanted) {
-    MashChartOptions options{.decoction_spikes = false, .infusion_spikes = true};
-    auto mash = chart_schedule();
-    const auto chart = mash_chart(course_of(mash, options), options);
-    EXPECT_THAT(chart.spikes[0], ElementsAre(Point{145, 230}, Point{145, 55})) << "where its water goes in";
-    EXPECT_EQ(chart.rings[0], (Box{143, 52, 148, 58}));
-    EXPECT_EQ(chart.captions.back().text, "Infusion Spike");
-    EXPECT_EQ(chart.captions.back().at.x, 70 + 125 + 10);
-    mash.step_count = 1;
-    EXPECT_TRUE(course_of(mash, options).spikes.empty());
-    EXPECT_FALSE(has_infusions({.complex = &mash}) || has_decoctions({.complex = &mash}));
-    options.infusion_spikes = false;
-    EXPECT_EQ(course_of(mash, options).high, 150) << "the water that is not shown needs no room";
+// Without its spike the chart goes from 94 to 160 F, and the highest line is the frame itself.
+TEST(MashChart, ItsOptionsChangeTheScaleTheGridAndTheLegend) {
+    Decocted mash;
+    mash.options = {.minute_grid = 5,
+                    .units = TemperatureUnits::celsius,
+                    .solid_fill = false,
+                    .fine_lines = true,
+                    .decoction_spikes = false,
+                    .infusion_spikes = true};
+    const auto chart = mash.chart();
+    EXPECT_THAT(chart.spikes, IsEmpty());
+    EXPECT_THAT(chart.swatches, IsEmpty());
+    EXPECT_THAT(chart.fine_levels, SizeIs(32)) << "96 to 158 F";
+    EXPECT_THAT(chart.levels, SizeIs(6)) << "100 to 150 F";
+    EXPECT_THAT(chart.labels.front(), Reads(28, 228, "37 C")) << "100 F, 6 * 3.424 above the axis";
+    EXPECT_THAT(chart.labels.at(6), Reads(28, 23, "71 C")) << "one more, on the frame";
+    EXPECT_THAT(chart.uprights, SizeIs(20));
+    EXPECT_THAT(chart.labels.at(8), Reads(93, 263, "10")) << "every second line";
+    EXPECT_THAT(chart.labels.back(), Reads(363, 263, "100")) << "where the grid ends";
 }
 
-TEST(MashChart, StandsOutsideAllReason) {
-    MashChartOptions options{.minute_grid = 1, .fine_lines = true};
-    const auto empty = mash_chart(course_of(ComplexMash(), options), options);
-    EXPECT_TRUE(empty.levels.empty() && empty.uprights.empty() && empty.fills.empty() &&
-                empty.labels.empty());
-    EXPECT_EQ(empty.captions.front().text, "Wortlex Mash Schedule Chart");
+TEST(MashChart, AnInfusionIsALineWithARingAtTheStartOfItsHeating) {
+    Decocted mash;
+    mash.options.infusion_spikes = true;
+    mash.mash.steps[0].heat_type = mash.mash.steps[1].heat_type = StepHeat::infuse;
+    const auto chart = mash.chart(); // 10 + 20 + 25 + 65 minutes: 2.5 pixels each
+    EXPECT_THAT(chart.spikes.front(), ElementsAre(Point{145, 238}, Point{145, 47}))
+        << "none of the first step";
+    EXPECT_EQ(chart.rings.front(), (Box{143, 44, 148, 50}));
+    EXPECT_THAT(chart.captions.back(), Reads(205, 364, "Infusion Spike"));
+}
 
-    ComplexMash mash;
-    mash.step_count = 1;
-    mash.steps[0] = chart_step("No Time", StepHeat::infuse, 150, 0, 0);
-    const auto flat = mash_chart(course_of(mash, options), options);
-    EXPECT_EQ(flat.curve.back(), (Point{70, 143})) << "all of it on the axis";
+// What was poured in by a brewer without a kettle, or by nobody, is drawn within its frame, and soon.
+TEST(MashChart, DrawsEverySchedule) {
+    Decocted none;
+    none.mash.step_count = 0;
+    const auto empty = none.chart();
+    EXPECT_THAT(empty.fills, IsEmpty());
+    EXPECT_THAT(empty.labels, IsEmpty());
+    EXPECT_EQ(empty.axis_captions.front().text, "Time (in minutes)");
 
+    Decocted flat;
+    flat.mash.step_count = 1;
+    flat.mash.steps[0].rest_minutes = flat.mash.steps[0].step_minutes = 0;
+    EXPECT_THAT(corners_of(flat.chart()), ElementsAre(Corners{{70, 256}, {70, 143}, {70, 256}, {70, 256}}))
+        << "in the middle of 94 to 114 F";
+    EXPECT_THAT(flat.chart().uprights, IsEmpty());
+
+    Decocted wild;
     constexpr auto most = std::numeric_limits<std::int32_t>::max();
-    for (const auto degrees : {most, -most}) {
-        mash.step_count = 50;
-        mash.steps.fill(chart_step("Sun", StepHeat::decoction, degrees, most, most));
-        mash.steps[0].start_temperature = 0;
-        const auto chart = mash_chart(course_of(mash, options), options);
-        EXPECT_LE(chart.levels.size(), 227U);
-        EXPECT_LE(chart.fine_levels.size(), 227U);
-        EXPECT_LE(chart.uprights.size(), 301U);
-        for (const auto& [x, y] : chart.curve) EXPECT_TRUE(x >= 70 && x <= 370 && y >= 30 && y <= 256);
-    }
+    wild.take(0, {"", StepHeat::direct, -most, most, 0, most, 0});
+    wild.options.fine_lines = true;
+    const auto chart = wild.chart();
+    EXPECT_LE(chart.uprights.size(), 301U);
+    EXPECT_LE(chart.levels.size() + chart.fine_levels.size(), 2 * 227U);
+    for (const auto& point : chart.curve)
+        EXPECT_TRUE(point.x >= 70 && point.x <= 370 && point.y >= 30 && point.y <= 256);
 }
 
-TEST(MashChart, LabelsEverySecondLineOfANarrowGrid) {
-    MashChartOptions options{.minute_grid = 2, .units = TemperatureUnits::celsius};
-    const auto course = course_of(chart_schedule(), options);
-    const auto chart = mash_chart(course, options);
-    EXPECT_EQ(chart.uprights.size(), 12U) << "never below 5 minutes";
-    const auto words = labels(chart);
-    EXPECT_THAT(words, testing::IsSupersetOf({"60 C", "0", "10", "50", "60"})) << "(140 - 32) / 1.8";
-    EXPECT_THAT(words, testing::Not(testing::Contains("5")));
-    options.minute_grid = 25;
-    EXPECT_EQ(labels(mash_chart(course, options)).back(), "50") << "the grid does not end with the mash";
+TEST(MashChart, ItsLegendHasTenNamesOnTheScreenAndAllOnPaper) {
+    Decocted mash;
+    mash.mash.step_count = 12;
+    for (std::size_t i = 2; i < 12; ++i) mash.mash.steps[i] = mash.mash.steps[0];
+    const auto screen = mash.chart();
+    ASSERT_THAT(screen.swatches, SizeIs(10));
+    EXPECT_EQ(screen.swatches[5].box, (Box{195, 301, 201, 307}));
+    EXPECT_THAT(screen.swatches[5].name, Reads(205, 298, "Acid"));
+    const auto paper = mash.chart(paper_frame({0, 0}, 10));
+    ASSERT_THAT(paper.swatches, SizeIs(12));
+    EXPECT_EQ(paper.swatches[1].box, (Box{0, 3268, 46, 3314})) << "118 * 6 below the frame at 2560";
+    EXPECT_EQ(paper.captions.front().text, "Bock - Wortlex Mash Schedule Chart");
+    EXPECT_GT(mash_chart_paper_height(mash.course(), mash.options), 256 + 60 + 11 * 10);
 }
 
-TEST(MashChart, NamesTenStepsOnTheScreenAndAllOnPaper) {
-    ComplexMash mash;
-    mash.step_count = 12;
-    mash.steps.fill(chart_step("Rest", StepHeat::direct, 150, 10));
-    MashChartOptions options;
-    const auto course = course_of(mash, options);
-    const auto screen = mash_chart(course, options).swatches;
-    EXPECT_EQ(screen.size(), 10U);
-    EXPECT_EQ(screen[0].box, (Box{70, 296, 76, 302}));
-    EXPECT_EQ(screen[4].box.top, 340);
-    EXPECT_EQ(screen[5].box, (Box{195, 301, 201, 307}));
-    EXPECT_EQ(screen[0].name.at.x, 80);
-    const auto paper = mash_chart(course, options, paper_frame({0, 0}, 10)).swatches;
-    EXPECT_EQ(paper.size(), 12U);
-    EXPECT_EQ(paper[0].box, (Box{-20, 3160, 28, 3208})) << "120, 100 and 8, times 6";
-    EXPECT_EQ(paper[1].box.top, 3268);
-    EXPECT_GT(mash_chart_paper_height(course, options), 316 + 11 * 10);
-    options.solid_fill = false;
-    EXPECT_TRUE(mash_chart(course, options).swatches.empty());
-}
-
-// 30 minutes of 10 dots: two ramps.
-TEST(MashChart, RampsBetweenTheRestsOfASimpleSchedule) {
+// Dough in and three rests in 120 minutes, from 94 to 178 F: 2.5 pixels a minute, 226 / 84 a degree.
+struct Stepped {
     SimpleMash mash;
-    mash.mash_kind = MashKind::single_step;
-    mash.acid = {100, 10};
-    mash.saccharification = {150, 20};
-    mash.mash_out = {170, 10};
-    mash.sparge = {170, 0};
-    MashChartOptions options{.infusion_spikes = true};
-    InfusionExtras water;
-    water.mash_out.temperature = 212;
-    const auto course = course_of(mash, &water, options);
-    EXPECT_EQ(std::tuple(course.minutes, course.low, course.high), std::tuple(30, 140, 222));
-    const auto chart = mash_chart(course, options);
-    EXPECT_THAT(chart.curve, ElementsAre(Point{70, 256}, Point{70, 228}, Point{270, 228}, Point{270, 228},
-                                         Point{320, 173}, Point{370, 173}));
-    EXPECT_EQ(chart.fills[1].corners.size(), 5U);
-    EXPECT_THAT(chart.spikes[0], ElementsAre(Point{270, 228}, Point{270, 57}));
-    EXPECT_EQ(chart.swatches[1].box, (Box{66, 313, 74, 321}));
-    EXPECT_EQ(chart.swatches[1].name.at, (Point{80, 310}));
-    EXPECT_EQ(chart.swatches[1].name.text, "- Mash Out");
-    EXPECT_EQ(mash_chart_size(course, options), (Extent{401, 380})) << "with the row of spikes";
-    EXPECT_EQ(mash_chart_size(course_of(mash, nullptr, options), options), (Extent{401, 351}));
+    InfusionExtras infusions;
+    MashChartOptions options;
 
-    mash.mash_kind = MashKind::multi_step;
-    for (auto* const rest : {&mash.dough_in, &mash.protein, &mash.intermediate, &mash.sparge})
-        *rest = {120, 10};
-    const auto full = course_of(mash, nullptr, options);
-    EXPECT_EQ(mash_chart_size(full, options), (Extent{401, 351 + 3 * 11})) << "seven rests";
-    std::string corners;
-    for (const auto& fill : mash_chart(full, options).fills) corners += std::to_string(fill.corners.size());
-    EXPECT_EQ(corners, "4455555");
-    mash.acid = mash.protein = mash.intermediate = {};
-    EXPECT_EQ(course_of(mash, nullptr, options).patches[1].points.size(), 2U)
-        << "the dough-in alone: no ramp";
+    Stepped() {
+        mash.mash_kind = MashKind::multi_step;
+        mash.dough_in = {104, 20};
+        mash.protein = {122, 30};
+        mash.saccharification = {152, 60};
+        mash.mash_out = {168, 10};
+        options.infusion_spikes = true;
+    }
+    MashCourse course() const { return course_of(charted(mash, &infusions), options); }
+    MashChart chart() const { return mash_chart(course(), options); }
+};
+
+TEST(SimpleMashChart, EachRestClimbsFiveMinutesOfItsOwnTime) {
+    Stepped stepped;
+    EXPECT_THAT(corners_of(stepped.chart()),
+                ElementsAre(Corners{{70, 229}, {120, 229}, {120, 256}, {70, 256}},
+                            Corners{{120, 229}, {132, 180}, {195, 180}, {195, 256}, {120, 256}},
+                            Corners{{195, 180}, {207, 99}, {345, 99}, {345, 256}, {195, 256}},
+                            Corners{{345, 99}, {357, 56}, {370, 56}, {370, 256}, {345, 256}}));
+    EXPECT_EQ(stepped.chart().captions.front().text, "Wortlex Mash Schedule Chart");
+    stepped.mash.mash_kind = MashKind::single_step;
+    const auto single = stepped.chart();
+    ASSERT_THAT(single.fills, SizeIs(3)) << "no protein rest";
+    EXPECT_THAT(single.fills[1].corners, SizeIs(4)) << "a dough-in alone gives no ramp";
+    EXPECT_THAT(single.fills[2].corners, SizeIs(5));
 }
 
-TEST(MashChart, IsDrawnInItsOrderAndColours) {
-    const auto drawn = [](const MashChartOptions& options, const ChartFrame& frame) {
-        RecordingSurface surface;
-        const auto course = course_of(chart_schedule(), options);
-        SystemSettings settings{};
-        settings.spike_thickness = SpikeThickness::thick;
-        draw_mash_chart(surface, mash_chart(course, options, frame), spike_pen(settings));
-        std::vector<std::string> pens;
-        for (const auto& line : surface.lines)
-            if (line.starts_with("pen") && (pens.empty() || pens.back() != line)) pens.push_back(line);
-        return pens;
-    };
-    const MashChartOptions plain{.solid_fill = false, .fine_lines = true};
-    EXPECT_THAT(drawn(plain, {}),
-                ElementsAre("pen FFFFFF 1 solid", "pen FFFF00 2 solid", "pen 0000FF 2 solid",
-                            "pen AAAAAA 1 solid", "pen 000000 1 solid", "pen 0000FF 2 solid",
-                            "pen 0000FF 2 dot", "pen 0000FF 1 solid", "pen 7D0000 1 solid"));
-    EXPECT_EQ(drawn(plain, paper_frame({0, 0}, 4))[0], "pen FFFF00 8 solid") << "paper is white already";
+TEST(SimpleMashChart, ItsInfusionsAreThoseOfASessionHeatedByThem) {
+    Stepped stepped;
+    stepped.infusions.saccharification.temperature = 212;
+    EXPECT_FALSE(has_infusions(charted(stepped.mash, &stepped.infusions)));
+    EXPECT_FALSE(has_infusions(charted(stepped.mash, nullptr)));
+    EXPECT_THAT(stepped.chart().spikes, IsEmpty());
+    stepped.infusions.heat_type = SimpleHeat::infusion;
+    const auto chart = stepped.chart(); // from 94 to 222 F
+    EXPECT_THAT(chart.spikes.front(), ElementsAre(Point{195, 206}, Point{195, 47}));
+    EXPECT_EQ(chart.captions.back().text, "Infusion Spike");
+}
+
+TEST(SimpleMashChart, ALongLegendMakesItHigher) {
+    Stepped stepped;
+    EXPECT_EQ(mash_chart_size(stepped.course(), stepped.options), (Extent{401, 351}));
+    stepped.mash.acid = {110, 10};
+    stepped.mash.intermediate = {140, 10};
+    stepped.mash.sparge = {170, 10};
+    EXPECT_EQ(mash_chart_size(stepped.course(), stepped.options), (Extent{401, 351 + 3 * 11}));
+    EXPECT_THAT(stepped.chart().swatches.back().name, Reads(80, 256 + 50 + 6 * 11 - 7, "- Sparge"));
+}
+
+std::size_t place_of(const RecordingSurface& surface, std::string_view call) {
+    const auto found = std::find_if(surface.lines.begin(), surface.lines.end(),
+                                    [call](const std::string& line) { return line.starts_with(call); });
+    EXPECT_NE(found, surface.lines.end()) << call;
+    return static_cast<std::size_t>(found - surface.lines.begin());
+}
+
+TEST(MashChart, IsDrawnInItsOrderWithThePensOfItsOptions) {
+    Decocted mash;
+    RecordingSurface solid;
+    draw_mash_chart(solid, mash.chart(), {0x0000FF, 2, PenStyle::dot});
+    EXPECT_LT(place_of(solid, "pen FFFF00 2"), place_of(solid, "polygon"));
+    EXPECT_LT(place_of(solid, "polygon"), place_of(solid, "text 28,238 100 F"));
+    EXPECT_LT(place_of(solid, "text 28,238 100 F"), place_of(solid, "polyline 70,256"));
+    EXPECT_LT(place_of(solid, "polyline 70,256"), place_of(solid, "pen 0000FF 2 dot"));
+    EXPECT_LT(place_of(solid, "polyline 175,157"), place_of(solid, "pen 7D0000 1"));
+    EXPECT_LT(place_of(solid, "pen 7D0000 1"), place_of(solid, "text 80,304 Sugar"));
+    mash.options.solid_fill = false;
+    RecordingSurface plain;
+    draw_mash_chart(plain, mash.chart(), {0x0000FF});
+    EXPECT_LT(place_of(plain, "pen 0000FF 2 solid"), place_of(plain, "brush FFFF00"));
+}
+
+TEST(MashChartForm, SpikesCanBeChosenWhereTheScheduleHasThem) {
+    Decocted mash;
+    SystemSettings settings;
+    FormUser user;
+    mash_chart_form(user.form, [&mash] { return charted(mash.mash); }, mash.options, settings, {});
+    const auto is_on = [&user](const char* key) { return user.row<CheckRow>(key).checked.get(); };
+    mash.options.infusion_spikes = true;
+    EXPECT_TRUE(is_on("decoction_spikes"));
+    EXPECT_FALSE(is_on("infusion_spikes") || user.can("infusion_spikes"));
+    mash.mash.steps[1].heat_type = StepHeat::infuse;
+    EXPECT_FALSE(is_on("decoction_spikes") || user.can("decoction_spikes"));
+    EXPECT_TRUE(is_on("infusion_spikes"));
+    user.type("minute_grid", "3");
+    EXPECT_EQ(mash.options.minute_grid, 5);
+
+    MashChartChoice choice;
+    follow_units(choice, TemperatureUnits::celsius);
+    choice.options.units = TemperatureUnits::fahrenheit;
+    follow_units(choice, TemperatureUnits::celsius);
+    EXPECT_EQ(choice.options.units, TemperatureUnits::fahrenheit) << "the user's choice";
 }
 
 } // namespace

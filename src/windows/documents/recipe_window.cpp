@@ -6,6 +6,7 @@
 #include "windows/documents/recipe_actions.h"
 #include "windows/documents/simple_mash_printout.h"
 #include "windows/documents/simple_mash_window.h"
+#include "windows/mash/mash_chart_window.h"
 #include "windows/reports/print_options_window.h"
 
 #include <QPushButton>
@@ -69,6 +70,12 @@ void RecipeWindow::show_mash() {
              .accepted = [this](const SimpleMashWork& planned) { set_simple_mash(editor(), planned.mash); },
              .save = [this] { save_document(SaveAs::no); },
              .revert_to_complex = nullptr,
+             .graph =
+                 [this](const SimpleMashWork& planned, QWidget* origin) {
+                     open_mash_chart(
+                         ports(), "MASHGRAPHDIALOG", [&planned] { return charted(planned.mash, nullptr); },
+                         origin);
+                 },
              .print =
                  [this](const SimpleMashWork& planned) {
                      ports().pages.show(simple_mash_printout(editor().open, program().color_table, planned));

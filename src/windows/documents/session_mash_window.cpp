@@ -4,6 +4,7 @@
 #include "documents/work/session_mash.h"
 #include "program/program.h"
 #include "windows/calculators/gravity_dialogs.h"
+#include "windows/mash/mash_chart_window.h"
 #include "windows/mash/strike_water_dialog.h"
 
 #include <memory>
@@ -60,7 +61,12 @@ SimpleMashWindow* make_session_mash_window(const WindowPorts& ports, RecipeEdito
              },
          .save = links.save,
          .revert_to_complex = links.revert_to_complex,
-         .graph = links.graph,
+         .graph =
+             [ports](const SimpleMashWork& planned, QWidget* owner) {
+                 open_mash_chart(
+                     ports, "MASHGRAPHDIALOG",
+                     [&planned] { return charted(planned.mash, &planned.session.infusions); }, owner);
+             },
          .print = links.print,
          .calculate_strike = [ports,
                               &editor](SimpleMashWork& planned,

@@ -13,8 +13,7 @@ struct SessionMashLinks {
     std::function<PrintedSession()> printed; ///< the head of a printed reading
     std::function<void()> save;
     std::function<void()> revert_to_complex;
-    SimpleMashCalls::Show graph = nullptr;
-    SimpleMashCalls::Show print = nullptr;
+    std::function<void(const SimpleMashWork& work)> print = nullptr;
 };
 
 /// On the live session, which `editor` works on and which must outlive the window.

@@ -30,8 +30,8 @@ SimpleMashWindow::SimpleMashWindow(const SimpleMashWork& work, const Settings& s
                                    SimpleMashCalls calls, const Places& places, QWidget* origin)
     : ToolWindow(info_of(side), 0, side == MashSide::session ? Opener::session : Opener::recipe, origin,
                  places),
-      calls_(std::move(calls)), work_(work), form_(made_form(work_, settings, side, actions())),
-      widgets_(form_, places, *this) {
+      notices_(places.notices), calls_(std::move(calls)), work_(work),
+      form_(made_form(work_, settings, side, actions())), widgets_(form_, places, *this) {
     auto* const layout = new QVBoxLayout(this);
     auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
     set_tips(*buttons, true);
@@ -45,9 +45,9 @@ SimpleMashWindow::SimpleMashWindow(const SimpleMashWork& work, const Settings& s
     for (const auto& sequence : QKeySequence::keyBindings(QKeySequence::Save))
         connect(new QShortcut(sequence, this), &QShortcut::activated, this, &SimpleMashWindow::save);
     form_.after_edit([this](const Row& row) {
-        is_changed_ = true;
         if (row.key == "heat_type" && calls_.heat_chosen)
             calls_.heat_chosen(work_.session.infusions.heat_type);
+        changed();
     });
     widgets_.field("saccharification_temperature").setFocus();
 }
@@ -59,10 +59,16 @@ void SimpleMashWindow::follow(Change) {
     work_out_infusions(work_);
 }
 
+// Its chart follows.
+void SimpleMashWindow::changed() {
+    is_changed_ = true;
+    notices_.tell(Change::mash);
+}
+
 SimpleMashActions SimpleMashWindow::actions() {
     return {.revert = revert_action(),
-            .graph = show_action(calls_.graph),
-            .print = show_action(calls_.print),
+            .graph = graph_action(),
+            .print = print_action(),
             .help = nullptr,
             .calculate_strike = work_action(calls_.calculate_strike),
             .correct_gravity = work_action(calls_.correct_gravity),
@@ -78,17 +84,22 @@ std::function<void()> SimpleMashWindow::revert_action() {
     };
 }
 
-std::function<void()> SimpleMashWindow::show_action(const SimpleMashCalls::Show& show) {
-    if (!show) return nullptr;
-    return [this, show] { show(work_); };
+std::function<void()> SimpleMashWindow::graph_action() {
+    if (!calls_.graph) return nullptr;
+    return [this] { calls_.graph(work_, this); };
+}
+
+std::function<void()> SimpleMashWindow::print_action() {
+    if (!calls_.print) return nullptr;
+    return [this] { calls_.print(work_); };
 }
 
 std::function<void()> SimpleMashWindow::work_action(const SimpleMashCalls::Work& change) {
     if (!change) return nullptr;
     return [this, change] {
         change(work_, this);
-        is_changed_ = true;
         work_out_infusions(work_);
+        changed();
     };
 }
 

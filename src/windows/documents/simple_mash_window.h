@@ -17,9 +17,9 @@ struct SimpleMashCalls {
     std::function<void()> save; ///< the document, with what was taken over
     /// After that, where the complex schedule is to come into force; empty: it cannot.
     std::function<void()> revert_to_complex;
-    using Show = std::function<void(const SimpleMashWork& work)>;
-    Show graph = nullptr;
-    Show print = nullptr;
+    /// Over the window, whose work it follows.
+    std::function<void(const SimpleMashWork& work, QWidget* origin)> graph = nullptr;
+    std::function<void(const SimpleMashWork& work)> print = nullptr;
 
     /// Of a session: each may change the work, over the window that it is given.
     using Work = std::function<void(SimpleMashWork& work, QWidget* owner)>;
@@ -47,11 +47,14 @@ protected:
 private:
     void accept();
     void save();
+    void changed();
     SimpleMashActions actions();
     std::function<void()> revert_action();
-    std::function<void()> show_action(const SimpleMashCalls::Show& show);
+    std::function<void()> graph_action();
+    std::function<void()> print_action();
     std::function<void()> work_action(const SimpleMashCalls::Work& change);
 
+    NoticeBoard& notices_;
     SimpleMashCalls calls_;
     SimpleMashWork work_;
     Form form_;
