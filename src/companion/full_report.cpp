@@ -5,9 +5,20 @@
 
 namespace wortlex {
 
+namespace {
+
+// No picture can stand beside a page that goes to the terminal.
+PrintSelection wanted_sections(const std::string& data_folder, DocumentKind kind) {
+    auto wanted = LoadPrintSelection(data_folder, kind, 1);
+    wanted[PrintSection::mash_graph] = wanted[PrintSection::water_graph] = 0;
+    return wanted;
+}
+
+} // namespace
+
 FullReports::FullReports(Program& program)
-    : program_(program), recipe_sections_(LoadPrintSelection(program.data_folder, DocumentKind::recipe, 1)),
-      session_sections_(LoadPrintSelection(program.data_folder, DocumentKind::session, 1)),
+    : program_(program), recipe_sections_(wanted_sections(program.data_folder, DocumentKind::recipe)),
+      session_sections_(wanted_sections(program.data_folder, DocumentKind::session)),
       theme_(LoadDefaultTheme(program.data_folder)) {
     if (!LoadColorTable(find_data_file(program.data_folder, color_table_file), color_table_))
         color_table_ = built_in_color_table();

@@ -1,10 +1,12 @@
 #include "program/export_report.h"
 
+#include "program/picture_desk.h"
 #include "program/program.h"
 #include "reports/competition.h"
 #include "reports/print_options.h"
 #include "reports/report_writers.h"
 #include "reports/row_parts.h"
+#include "settings/reminders.h"
 
 #include <filesystem>
 
@@ -54,10 +56,27 @@ TextSink text_of(const Exported& exported) {
     return sink;
 }
 
-HtmlWriter html_of(const Exported& exported, const HtmlTheme& theme) {
-    return exported.output == ReportOutput::competition_labels
-               ? write_labels_html(label_rows(exported.source, exported.entry, true), theme)
-               : write_html(report_of(exported), theme);
+void save_html_labels(const WindowPorts& ports, const Exported& exported, const std::string& path) {
+    const auto labels = label_rows(exported.source, exported.entry, true);
+    save_html(path, write_labels_html(labels, ports.program.html_theme), ports.prompts);
+}
+
+// The pictures stand beside the page, and the user is reminded to take them along.
+void save_html_report(const WindowPorts& ports, const Exported& exported, const std::string& path) {
+    auto& program = ports.program;
+    const auto report = report_of(exported);
+    const auto file = std::filesystem::path(path).filename().string();
+    const auto name = file.substr(0, file.find('.'));
+    if (!save_html(path, write_html(report, program.html_theme, name), ports.prompts)) return;
+    ChartPictureNames names;
+    for (const auto& section : report.sections) {
+        if (!section.chart) continue;
+        const auto picture = picture_name(name, *section.chart);
+        save_chart(std::filesystem::path(path).replace_filename(picture).string(), section.chart->drawing,
+                   picture_desk(ports));
+        (section.chart->ending == "_mash" ? names.mash : names.water) = picture;
+    }
+    remind_of_pictures(names, program.reminders, program.data_folder, ports.prompts);
 }
 
 // Empty for a document that has not been saved.
@@ -134,7 +153,9 @@ void put_out(const WindowPorts& ports, const Exported& exported, const Destinati
         save_text(to.path, text_of(exported), ports.prompts);
         return;
     case ReportForm::html_file:
-        save_html(to.path, html_of(exported, ports.program.html_theme), ports.prompts);
+        if (exported.output == ReportOutput::competition_labels)
+            return save_html_labels(ports, exported, to.path);
+        save_html_report(ports, exported, to.path);
     }
 }
 

@@ -48,6 +48,8 @@ struct Entry {
     bool is_of_session = false;
     bool is_on_form = false;
     bool (*has_any)(const ReportSource&) = nullptr; ///< else it is left out
+    /// Of a chart, instead of a section.
+    ReportSection (*chart)(const ReportSource&, const PrintSelection&) = nullptr;
 };
 
 bool has_mash(const ReportSource& source) {
@@ -88,8 +90,10 @@ constexpr std::array catalogue = {
     Entry{.section = yeast_section, .is_on_form = true},
     Entry{water_section, PrintSection::water_profile, false, true},
     Entry{mash_section, PrintSection::mash_schedule, false, true, has_mash},
+    Entry{nullptr, PrintSection::mash_graph, false, false, has_mash_chart, mash_chart_section},
     Entry{water_match_section, PrintSection::water_analysis, true},
     Entry{water_adjustment_section, PrintSection::water_analysis, true},
+    Entry{nullptr, PrintSection::water_graph, true, false, has_water_chart, water_chart_section},
     Entry{water_needed_section, PrintSection::water_needed, true},
     Entry{efficiency_section, PrintSection::efficiency, true},
     Entry{fermentation_section, PrintSection::fermentation, true, true},
@@ -118,10 +122,11 @@ bool is_wanted(const Entry& entry, const ReportSource& source, const PrintSelect
 
 DocumentReport with_sections(DocumentReport report, const ReportSource& source,
                              const PrintSelection& wanted) {
-    for (const auto& entry : catalogue)
-        if (is_wanted(entry, source, wanted)) report.sections.push_back(entry.section(source));
-    if (has_water_graph(source) && is_on(source, wanted, PrintSection::water_graph))
-        report.sections.push_back(water_graph_section(source, wanted.scale));
+    for (const auto& entry : catalogue) {
+        if (!is_wanted(entry, source, wanted)) continue;
+        report.sections.push_back(entry.chart != nullptr ? entry.chart(source, wanted)
+                                                         : entry.section(source));
+    }
     return report;
 }
 

@@ -156,15 +156,19 @@ void write(const ReportText& text, HtmlWriter& page) {
 
 } // namespace
 
-HtmlWriter write_html(const DocumentReport& report, const HtmlTheme& theme) {
+std::string picture_name(const std::string& file_name, const ReportChart& chart) {
+    return file_name + chart.ending + ".jpg";
+}
+
+HtmlWriter write_html(const DocumentReport& report, const HtmlTheme& theme, const std::string& file_name) {
     HtmlWriter page(theme);
     page.page_start(report.html_title);
     write_heading(page, report.html_title);
     if (!report.html_subtitle.empty()) write_heading(page, report.html_subtitle);
     page.rule();
     for (const auto& section : report.sections) {
-        if (is_of_print(section)) continue;
         if (!section.heading.empty()) write_heading(page, section.heading);
+        if (section.chart) page.image(picture_name(file_name, *section.chart), section.chart->alternative);
         for (const auto& block : section.blocks)
             std::visit([&](const auto& content) { write(content, page); }, block);
         page.line_break();

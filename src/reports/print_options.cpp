@@ -64,25 +64,49 @@ void section_rows(Rows& rows, std::span<const SectionSwitch> switches, PrintSele
             .disabled_because([&section, &selection] { return why_disabled(section, selection); });
 }
 
-bool is_printed_report(const PrintSelection& selection) {
-    return report_form(selection) == ReportForm::print && report_output(selection) == ReportOutput::report;
+bool can_hold_charts(const PrintSelection& selection) {
+    const auto form = report_form(selection);
+    return report_output(selection) == ReportOutput::report &&
+           (form == ReportForm::print || form == ReportForm::html_file);
 }
 
-// There is no chart of a mash to print yet: its switches keep what the file says.
-void graph_rows(Rows& rows, PrintSelection& selection, DocumentKind kind) {
-    const auto disabled = [&](const char* key, const char* label, std::uint8_t& flag) {
-        rows.check(key, flag).label(label).enabled(false).disabled_because(not_yet);
+bool wants_mash_chart(PrintSelection selection, const PrintedDocument& document) {
+    return document.has_mash && selection[PrintSection::mash_graph] != 0;
+}
+
+bool wants_water_chart(PrintSelection selection, const PrintedDocument& document) {
+    return document.kind == DocumentKind::session && selection[PrintSection::water_graph] != 0;
+}
+
+const char* why_no_chart(const PrintSelection& selection, const PrintedDocument& document) {
+    if (!can_hold_charts(selection)) return "Only a printed report and a page of HTML have charts";
+    return document.has_mash ? "It belongs to the mash graph" : "There is no grain to mash";
+}
+
+void graph_row(Rows& rows, const char* key, const char* label, std::uint8_t& flag,
+               const PrintSelection& selection, const PrintedDocument& document,
+               bool (*is_of)(PrintSelection, const PrintedDocument&)) {
+    rows.check(key, flag)
+        .label(label)
+        .enabled([&selection, document, is_of] {
+            return can_hold_charts(selection) && is_of(selection, document);
+        })
+        .disabled_because([&selection, document] { return why_no_chart(selection, document); });
+}
+
+void graph_rows(Rows& rows, PrintSelection& selection, const PrintedDocument& document) {
+    const auto row = [&](const char* key, const char* label, std::uint8_t& flag, auto is_of) {
+        graph_row(rows, key, label, flag, selection, document, is_of);
     };
-    disabled("mash_graph", "Mash &Graph", selection[PrintSection::mash_graph]);
-    disabled("fine_lines", "Fine Temp Lines", selection[PrintOption::fine_temperature_lines]);
-    disabled("solid_fill", "Solid Fill", selection[PrintOption::solid_fill]);
-    disabled("decoction_spikes", "Decoction Spikes", selection[PrintOption::decoction_spikes]);
-    disabled("infusion_spikes", "Infusion Spikes", selection[PrintOption::infusion_spikes]);
-    if (kind == DocumentKind::session)
-        rows.check("water_graph", selection[PrintSection::water_graph])
-            .label("Water Profile Graph")
-            .enabled([&selection] { return is_printed_report(selection); })
-            .disabled_because("Only a printed report has graphs");
+    row("mash_graph", "Mash &Graph", selection[PrintSection::mash_graph],
+        [](PrintSelection, const PrintedDocument& of) { return of.has_mash; });
+    row("fine_lines", "Fine Temp Lines", selection[PrintOption::fine_temperature_lines], wants_mash_chart);
+    row("solid_fill", "Solid Fill", selection[PrintOption::solid_fill], wants_mash_chart);
+    row("decoction_spikes", "Decoction Spikes", selection[PrintOption::decoction_spikes], wants_mash_chart);
+    row("infusion_spikes", "Infusion Spikes", selection[PrintOption::infusion_spikes], wants_mash_chart);
+    if (document.kind == DocumentKind::session)
+        row("water_graph", "Water Profile Graph", selection[PrintSection::water_graph],
+            [](PrintSelection, const PrintedDocument&) { return true; });
 }
 
 // The one takes the other out.
@@ -112,18 +136,18 @@ void output_rows(Rows& rows, PrintSelection& selection, const PrintOptionsAction
     rows.button("html_themes", "HTM&L Themes", actions.html_themes);
 }
 
-// Of graphs and of a competition form; the lines of a report take that of the settings.
-bool has_scale(PrintSelection& selection, DocumentKind kind) {
-    if (report_form(selection) != ReportForm::print) return false;
-    if (report_output(selection) == ReportOutput::competition_form) return true;
-    return is_printed_report(selection) && kind == DocumentKind::session &&
-           selection[PrintSection::water_graph] != 0;
+bool has_scale(const PrintSelection& selection, const PrintedDocument& document) {
+    if (report_output(selection) == ReportOutput::competition_form)
+        return report_form(selection) == ReportForm::print;
+    return can_hold_charts(selection) &&
+           (wants_mash_chart(selection, document) || wants_water_chart(selection, document));
 }
 
-void scale_row(Rows& rows, PrintSelection& selection, DocumentKind kind) {
+// Of charts, and of a competition form; the texts of a report take that of the settings.
+void scale_row(Rows& rows, PrintSelection& selection, const PrintedDocument& document) {
     print_scale_row(rows, "scale", selection.scale)
-        .enabled([&selection, kind] { return has_scale(selection, kind); })
-        .disabled_because("Only graphs and printed competition forms have a scale of their own");
+        .enabled([&selection, document] { return has_scale(selection, document); })
+        .disabled_because("Only charts and a printed competition form have a scale of their own");
 }
 
 void text_groups(Form& form, PrintSelection& selection, const PrintedDocument& document) {
@@ -159,9 +183,8 @@ void print_options_form(Form& form, PrintSelection& selection, const PrintedDocu
                         const PrintOptionsActions& actions) {
     text_groups(form, selection, document);
     form.next_column();
-    graph_rows(form.group(document.kind == DocumentKind::session ? "Graphs" : "Graph"), selection,
-               document.kind);
-    scale_row(form.group("Scaling Ratio"), selection, document.kind);
+    graph_rows(form.group(document.kind == DocumentKind::session ? "Graphs" : "Graph"), selection, document);
+    scale_row(form.group("Scaling Ratio"), selection, document);
     form.next_column();
     output_rows(form.group("Output"), selection, actions);
     auto& buttons = form.group();

@@ -120,14 +120,19 @@ void write_heading(const std::string& heading, PageContext& page) {
 }
 
 bool is_bare(const ReportSection& section) {
-    return std::all_of(section.blocks.begin(), section.blocks.end(), [](const ReportBlock& block) {
-        const auto* text = std::get_if<ReportText>(&block);
-        return text != nullptr && text->text().empty();
-    });
+    return !section.chart &&
+           std::all_of(section.blocks.begin(), section.blocks.end(), [](const ReportBlock& block) {
+               const auto* text = std::get_if<ReportText>(&block);
+               return text != nullptr && text->text().empty();
+           });
 }
 
 void write(const ReportSection& section, int lines_below, PageContext& page) {
     const auto& heading = section.print_heading ? *section.print_heading : section.heading;
+    if (section.chart) {
+        section.chart->print(page);
+        return leave_blank(page, 1);
+    }
     if (section.print_body) {
         page.KeepTogether(lines_with_body);
         write_heading(heading, page);

@@ -2,6 +2,7 @@
 // a row holds its values once and the line of the text form, in which a mark ends every cell of the others.
 #pragma once
 
+#include "charts/chart_picture.h"
 #include "page/html_writer.h"
 #include "page/page.h"
 
@@ -79,6 +80,14 @@ private:
 
 using ReportBlock = std::variant<ReportLines, ReportTable, ReportText>;
 
+/// A chart as the document stands: drawn on the pages, a picture beside HTML. A text has none.
+struct ReportChart {
+    std::string alternative; ///< words for who cannot see the picture
+    std::string ending;      ///< of the picture's file name: "_mash"
+    ChartDrawing drawing;
+    std::function<void(PageContext&)> print;
+};
+
 struct ReportSection {
     std::string heading; ///< none where empty
     std::vector<ReportBlock> blocks;
@@ -86,12 +95,8 @@ struct ReportSection {
     std::string text_heading{};                     ///< where the text form has its own, with all its lines
     int print_order = 0;                            ///< those of a larger number come later in print
     std::function<void(PageContext&)> print_body{}; ///< what print has instead of the blocks
+    std::optional<ReportChart> chart{};             ///< alone, without a heading
 };
-
-/// Whether there is nothing of it in the other forms.
-inline bool is_of_print(const ReportSection& section) {
-    return section.heading.empty() && section.blocks.empty();
-}
 
 /// A section of such blocks, which are moved.
 template <class... Blocks>

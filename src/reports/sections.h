@@ -3,6 +3,7 @@
 
 #include "reports/report.h"
 #include "reports/report_source.h"
+#include "settings/system_files.h"
 
 namespace wortlex {
 
@@ -21,13 +22,15 @@ ReportSection mash_section(const ReportSource& source);
 ReportSection notes_section(const ReportSource& source);
 ReportSection awards_section(const ReportSource& source);
 
+/// Of the schedule in force, by the options and the scale of the report.
+bool has_mash_chart(const ReportSource& source);
+ReportSection mash_chart_section(const ReportSource& source, const PrintSelection& wanted);
+
 /// Of a session only, as those that follow.
 ReportSection water_match_section(const ReportSource& source);
 ReportSection water_adjustment_section(const ReportSource& source);
-/// The chart of the water, in print alone, behind all sections; `scale` is its scaling ratio.
-ReportSection water_graph_section(const ReportSource& source, float scale);
-/// Whether the brewer's own water has a name, without which there is none.
-bool has_water_graph(const ReportSource& source);
+bool has_water_chart(const ReportSource& source);
+ReportSection water_chart_section(const ReportSource& source, const PrintSelection& wanted);
 ReportSection water_needed_section(const ReportSource& source);
 ReportSection efficiency_section(const ReportSource& source);
 ReportSection fermentation_section(const ReportSource& source);

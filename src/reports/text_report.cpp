@@ -31,7 +31,7 @@ void write_heading(const ReportSection& section, TextSink& sink) {
 void write_text(const DocumentReport& report, TextSink& sink) {
     put_words(report.text_head, sink);
     for (const auto& section : report.sections) {
-        if (is_of_print(section)) continue;
+        if (section.chart) continue;
         write_heading(section, sink);
         for (const auto& block : section.blocks)
             std::visit([&](const auto& content) { write(content, sink); }, block);

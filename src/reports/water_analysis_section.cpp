@@ -1,11 +1,9 @@
 #include "brewing/salts.h"
-#include "charts/chart_place.h"
 #include "documents/session_water.h"
 #include "page/text_sink.h"
 #include "reports/row_parts.h"
 #include "reports/sections.h"
 #include "water/salt_words.h"
-#include "water/water_chart.h"
 #include "water/water_match_printout.h"
 #include "water/water_totals.h"
 
@@ -128,20 +126,6 @@ ReportSection water_adjustment_section(const ReportSource& source) {
                    quantities(analysis, analysis.sparge_gallons, heads[1]));
     section.print_body = [analysis, &settings](PageContext& page) {
         print_water_adjustment(page, analysis, settings);
-    };
-    return section;
-}
-
-bool has_water_graph(const ReportSource& source) {
-    return source.open.session != nullptr && source.open.session->source_water.name.view().size() > 1;
-}
-
-ReportSection water_graph_section(const ReportSource& source, float scale) {
-    ReportSection section;
-    section.print_order = 2;
-    section.print_body = [analysis = analysis_of(source), scale](PageContext& page) {
-        const auto chart = water_chart_drawing(analysis);
-        draw_in_place(page.PlaceChart(ChartForm::in_report, scale), chart.size, chart.draw);
     };
     return section;
 }

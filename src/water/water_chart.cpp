@@ -140,12 +140,16 @@ ChartDrawing water_chart_drawing(const WaterAnalysis& analysis) {
             [&analysis](Surface& surface) { draw_chart(surface, analysis, water_chart_size); }};
 }
 
+void print_water_chart(PageContext& page, const WaterAnalysis& analysis, ChartForm form, float scale) {
+    draw_in_place(page.PlaceChart(form, scale), printed_size, [&](Surface& surface) {
+        draw_chart(surface, analysis, printed_size);
+        draw_additions(surface, analysis);
+    });
+}
+
 PrintRequest water_chart_printout(const WaterAnalysis& analysis, float printer_scale) {
-    return {"Wortlex Water Profile Chart", printer_scale, [analysis](PageContext& page) {
-                draw_in_place(page.PlaceChart(ChartForm::alone), printed_size, [&](Surface& surface) {
-                    draw_chart(surface, analysis, printed_size);
-                    draw_additions(surface, analysis);
-                });
+    return {"Wortlex Water Profile Chart", printer_scale, [analysis, printer_scale](PageContext& page) {
+                print_water_chart(page, analysis, ChartForm::alone, printer_scale);
             }};
 }
 

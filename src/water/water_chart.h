@@ -44,6 +44,9 @@ inline constexpr Extent water_chart_size{water_chart_window.width, water_chart_w
 /// On white, as it stands when it is called; `analysis` must outlive the drawing.
 ChartDrawing water_chart_drawing(const WaterAnalysis& analysis);
 
+/// The chart with the additions below it. `scale` is that of the printer settings or of a report.
+void print_water_chart(PageContext& page, const WaterAnalysis& analysis, ChartForm form, float scale);
+
 /// The chart alone on its page, with the additions listed below it.
 PrintRequest water_chart_printout(const WaterAnalysis& analysis, float printer_scale);
 
