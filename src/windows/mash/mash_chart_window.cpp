@@ -9,6 +9,7 @@
 #include "program/program.h"
 
 #include <QDialogButtonBox>
+#include <QGridLayout>
 #include <QShortcut>
 #include <QVBoxLayout>
 
@@ -29,8 +30,9 @@ public:
         layout->setSizeConstraint(QLayout::SetFixedSize); // the chart has one size
         auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Ok, this);
         set_tips(*buttons, false);
+        lay_out_beside_ok(form_, widgets_, *buttons);
         layout->addWidget(&widgets_.field("chart"), 0, Qt::AlignHCenter);
-        layout->addLayout(lay_out(form_, widgets_, buttons));
+        layout->addLayout(options_part());
         layout->addWidget(buttons);
         connect(buttons, &QDialogButtonBox::accepted, this, &QWidget::close);
         connect(new QShortcut(QKeySequence::Cancel, this), &QShortcut::activated, this, &QWidget::close);
@@ -52,6 +54,19 @@ private:
                         {.print = [this] { print(); }, .jpg = [this] { save_picture(); }, .help = nullptr});
         form.after_edit([this](const Row&) { ports_.program.notices.tell(Change::mash); });
         return form;
+    }
+
+    QLayout* options_part() {
+        auto* const grid = new QGridLayout;
+        grid->addWidget(widgets_.label("minute_grid"), 0, 0);
+        grid->addWidget(&widgets_.field("minute_grid"), 0, 1);
+        grid->addWidget(&widgets_.field("temperature_units"), 1, 0, 1, 2);
+        grid->addWidget(&widgets_.field("solid_fill"), 2, 0, 1, 2);
+        int line = 0;
+        for (const auto* const key : {"fine_lines", "decoction_spikes", "infusion_spikes"})
+            grid->addWidget(&widgets_.field(key), line++, 2);
+        grid->setColumnStretch(2, 1);
+        return grid;
     }
 
     void print() {
