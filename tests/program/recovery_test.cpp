@@ -247,6 +247,51 @@ TEST(ExportReport, ReachesPaperFilesAndClipboard) {
     EXPECT_EQ(exports.send(ReportForm::text_file, {std::nullopt}).size(), 1U) << "left: nothing is written";
 }
 
+TEST(ExportReport, ThePictureOfTheMashStandsBesideItsPage) {
+    Exports exports;
+    auto& program = exports.program;
+    MaltUse grain;
+    grain.record.malt_type = MaltType::grain;
+    grain.amount = 10;
+    program.document.recipe.malts = {grain};
+    program.document.recipe.mash_flags = 0; // the simple schedule
+    program.document.recipe.simple_mash.saccharification = {152, 60};
+    program.recipe_print[PrintOption::solid_fill] = 1;
+    program.recipe_print[PrintSection::mash_graph] = 1;
+    program.reminders.mash_chart_name = 0;
+    const auto html = exports.folder / "My bock.v2.html";
+    exports.send(ReportForm::html_file, {html});
+    EXPECT_THAT(exports.content(html),
+                testing::HasSubstr(R"(<IMG SRC="My%20bock_mash.jpg" ALT="Mash Schedule" BORDER="0">)"));
+    const auto& picture = exports.pictures.files.at(exports.folder / "My bock_mash.jpg");
+    EXPECT_EQ((Extent{picture.width, picture.height}), (Extent{401, 351}));
+    EXPECT_THAT(exports.easel.surface.lines,
+                testing::Contains(testing::EndsWith(" - Saccharification Rest")));
+    program.recipe_print[PrintSection::mash_graph] = 0;
+    exports.send(ReportForm::html_file, {html});
+    EXPECT_THAT(exports.content(html), testing::Not(testing::HasSubstr("IMG")));
+}
+
+TEST(PrintOptions, ChartsAreForPaperAndPagesWithAMash) {
+    PrintSelection selection;
+    selection.sections.fill(0);
+    Form form;
+    print_options_form(form, selection, {.has_mash = true}, {});
+    const auto enabled = [&form] {
+        std::string keys;
+        for (const auto* const key : {"mash_graph", "solid_fill", "scale"})
+            if (form.row(key).is_enabled()) keys += std::string(key) + " ";
+        return keys;
+    };
+    EXPECT_EQ(enabled(), "mash_graph ");
+    selection[PrintSection::mash_graph] = 1;
+    EXPECT_EQ(enabled(), "mash_graph solid_fill scale ");
+    set_report_form(selection, ReportForm::html_file);
+    EXPECT_EQ(enabled(), "mash_graph solid_fill scale ");
+    set_report_form(selection, ReportForm::clipboard);
+    EXPECT_EQ(enabled(), "");
+}
+
 TEST(PrintOptions, KeepTheOutputInItsFlags) {
     PrintSelection selection;
     for (const auto form :

@@ -93,6 +93,25 @@ TEST(Catalogue, reads_as_it_always_has) {
     expect_golden("precise_extract.txt", plain_lines(extract.text()));
 }
 
+// The frame is 300 of the 445 pixels of the paper's 2400 dots, at the scale that was chosen.
+TEST(Catalogue, the_chart_of_the_mash_ends_a_printed_recipe) {
+    const auto width_at = [](float scale) {
+        ReportedRecipe recipe(WriteDefaultSettings());
+        recipe.wanted.scale = scale;
+        const auto drawn = recipe.print();
+        EXPECT_LT(drawn.find("Awards"), drawn.find("Wortlex Mash Schedule Chart"));
+        std::smatch box;
+        EXPECT_TRUE(std::regex_search(
+            drawn, box, std::regex("pen FFFF00 \\d+ solid\nbrush none\nrectangle (\\d+),\\d+,(\\d+),")));
+        return std::stoi(box[2]) - std::stoi(box[1]);
+    };
+    for (const auto& [scale, width] : {std::pair{1.0F, 1617}, {0.75F, 1213}, {0.5F, 808}, {0.25F, 404}})
+        EXPECT_NEAR(width_at(scale), width, 3);
+    ReportedRecipe extract(WriteDefaultSettings());
+    extract.document.recipe_kind = RecipeKind::extract;
+    EXPECT_THAT(extract.print(), testing::Not(HasSubstr("Mash Schedule Chart")));
+}
+
 TEST(Catalogue, closing_notes_name_the_scale_of_the_grain_list) {
     const auto note = [](auto change) {
         auto image = WriteDefaultSettings();
