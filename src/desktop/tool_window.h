@@ -20,6 +20,9 @@ bool show_modal_child(const QWidget& window);
 /// Shows, raises and focuses a window, from its icon too.
 void bring_forward(QWidget& window);
 
+/// The two ways through what was done.
+enum class Travel { undo, redo };
+
 /// Modeless and without an owner, so that it can lie behind the main window. Deleted when closed.
 class ToolWindow : public QWidget {
 public:
@@ -35,6 +38,10 @@ public:
     /// Whether it has changes of its own that its OK would hand over, and that OK.
     virtual bool holds_changes() const { return false; }
     virtual void hand_over() {}
+
+    /// Whether it has steps of its own to undo or redo, which come before those of what it works on.
+    virtual bool can_travel(Travel) const { return false; }
+    virtual void travel(Travel) {}
 
     /// What it works on is gone: it closes without a word.
     virtual void dismiss() { close(); }

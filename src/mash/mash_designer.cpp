@@ -102,11 +102,27 @@ void follow_grain(MashDesigner& designer) {
     auto& design = designer.design;
     if (designer.owner.is_free() || designer.owner.grain() == design.grain_weight) return;
     design.grain_weight = designer.owner.grain();
+    if (designer.ratio > 0 && designer.ratio == ratio_of_dough_in(design)) return recalculate(designer);
     if (designer.ratio > 0)
         design.dough_in_water = narrow(double{design.grain_weight} * designer.ratio);
     else
         designer.ratio = ratio_of_dough_in(design);
     recalculate(designer);
+}
+
+bool follow_document(MashDesigner& designer, const ComplexMash& mash, float dough_in_water) {
+    auto& design = designer.design;
+    designer.history = {};
+    designer.thickness_is_set = false;
+    design.mash = mash;
+    design.dough_in_water = dough_in_water;
+    if (designer.owner.grain() != design.grain_weight) {
+        follow_grain(designer);
+        return design.dough_in_water != dough_in_water;
+    }
+    if (const float ratio = ratio_of_dough_in(design); ratio > 0) designer.ratio = ratio;
+    recalculate(designer);
+    return false;
 }
 
 void edit(MashDesigner& designer, std::string_view key, const std::function<void()>& change) {

@@ -53,6 +53,9 @@ void set_volume_units(MashDesigner& designer, Units units);
 /// The settings have changed, or the grain bill: the water follows by the ratio as it stands.
 void follow_settings(MashDesigner& designer, const Settings& settings);
 void follow_grain(MashDesigner& designer);
+/// The document has been worked on elsewhere: takes over what it has, and begins to remember anew. True: the
+/// water had to follow the grain.
+bool follow_document(MashDesigner& designer, const ComplexMash& mash, float dough_in_water);
 
 /// One edit: notes what was, changes, works everything out and tells the owner. Edits of the same key, if it
 /// is not empty, make one step of undo until `end_edit`.

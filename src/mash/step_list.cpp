@@ -14,6 +14,12 @@ std::string heat_word(StepHeat heat) {
     return heat == StepHeat::decoction ? "Decoc" : "Infuse";
 }
 
+// What cannot be pulled is nothing; nothing has no sign.
+float shown_amount(const MashStep& step) {
+    const bool is_pulled = step.heat_type == StepHeat::decoction;
+    return (is_pulled && step.amount < 0) || step.amount == 0 ? 0 : step.amount;
+}
+
 // In the order of the columns.
 enum class StepColumn : std::size_t {
     name,
@@ -52,7 +58,7 @@ std::string step_cell(const MashDesigner& designer, std::size_t row, std::size_t
     case StepColumn::infuse_temp:
         return is_direct ? "--" : degrees(step.infuse_temperature);
     case StepColumn::amount:
-        return is_direct ? "--" : formatted("%4.2f", std::max(quarts_to_shown(step.amount, settings), 0.0F));
+        return is_direct ? "--" : formatted("%4.2f", quarts_to_shown(shown_amount(step), settings));
     default:
         if (is_direct) return "--";
         return step.heat_type == StepHeat::decoction ? "-----" : formatted("%4.2f", step.ratio);

@@ -44,6 +44,7 @@ bool DocumentHistory::note(const OpenDocument& open, std::string_view name, std:
     const bool merges = !merge_key.empty() && merge_key == merge_key_ && !done_.empty();
     merge_key_ = merge_key;
     undone_.clear();
+    ++taken_;
     if (!merges) done_.push_back({std::string(name), now_});
     now_ = state_of(open);
     if (merges && now_.image == done_.back().state.image) { // typed back
@@ -71,6 +72,7 @@ void DocumentHistory::take(const OpenDocument& open, std::deque<Step>& from, std
     open.figures = now_.figures;
     if (open.water != nullptr) *open.water = now_.water;
     merge_key_.clear();
+    ++taken_;
 }
 
 bool DocumentHistory::undo(const OpenDocument& open) {

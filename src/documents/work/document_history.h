@@ -22,6 +22,8 @@ public:
     /// same `merge_key`, if it is not empty, make one step until `end_step`.
     bool note(const OpenDocument& open, std::string_view name, std::string_view merge_key = {});
     void end_step() { merge_key_.clear(); }
+    /// How many steps were made, undone or redone.
+    std::size_t taken() const { return taken_; }
     /// What was worked out since belongs to the last step.
     void settle(const OpenDocument& open) { now_ = state_of(open); }
 
@@ -51,6 +53,7 @@ private:
     State now_;
     std::deque<Step> done_, undone_; ///< the last one is the next to be taken
     std::string merge_key_;
+    std::size_t taken_ = 0;
 };
 
 } // namespace wortlex

@@ -194,4 +194,12 @@ void set_simple_mash(RecipeEditor& editor, const SimpleMash& mash) {
     });
 }
 
+// What a save has left beside the kind would count as complex.
+void set_schedule_kind(RecipeEditor& editor, ScheduleKind kind) {
+    edit(editor, "Mash Schedule Kind", [&] {
+        editor.open.document.mash_flags = static_cast<std::uint8_t>(kind);
+        mash_refresh(editor.open);
+    });
+}
+
 } // namespace wortlex

@@ -67,5 +67,7 @@ void lock_efficiency(RecipeEditor& editor, bool locked);
 /// Takes a style as picked, its book with it, and aims at the middle of its bitterness.
 void set_style(RecipeEditor& editor, const StyleRecord& style);
 void set_simple_mash(RecipeEditor& editor, const SimpleMash& mash);
+/// Puts the schedule of that kind in force; each keeps its own data.
+void set_schedule_kind(RecipeEditor& editor, ScheduleKind kind);
 
 } // namespace wortlex

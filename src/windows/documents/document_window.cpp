@@ -4,10 +4,11 @@
 #include "desktop/captions.h"
 #include "desktop/menus.h"
 #include "desktop/qt_text.h"
+#include "desktop/undo_keys.h"
 #include "documents/method_check.h"
 #include "program/documents.h"
 #include "program/recovery.h"
-#include "windows/documents/document_keys.h"
+#include "windows/documents/document_designer_window.h"
 
 #include <QBoxLayout>
 #include <QFileInfo>
@@ -55,7 +56,7 @@ DocumentWindow::DocumentWindow(const WindowPorts& ports, const WindowInfo& info,
 
 void DocumentWindow::begin(std::function<void()> print_it) {
     add_menu(std::move(print_it));
-    new DocumentUndo(*this);
+    new WindowUndo(*this);
     connect(&keeper_, &QTimer::timeout, this, [this] { keep_or_tell(); });
     keeper_.start(between_keeps);
     reopen();
@@ -81,10 +82,10 @@ void DocumentWindow::add_menu(std::function<void()> print_it) {
 void DocumentWindow::add_edit_menu(QMenuBar& bar) {
     auto* const menu = bar.addMenu(tr("E&dit"));
     menu->setToolTipsVisible(true);
-    undo_ = menu->addAction(tr("&Undo"), this, [this] { undo(editor_); });
+    undo_ = menu->addAction(tr("&Undo"), this, [this] { travel(Travel::undo); });
     undo_->setObjectName(QStringLiteral("undo"));
     undo_->setShortcuts(QKeySequence::Undo);
-    redo_ = menu->addAction(tr("&Redo"), this, [this] { redo(editor_); });
+    redo_ = menu->addAction(tr("&Redo"), this, [this] { travel(Travel::redo); });
     redo_->setObjectName(QStringLiteral("redo"));
     redo_->setShortcuts(QKeySequence::Redo);
 }
@@ -147,6 +148,25 @@ void DocumentWindow::open_another() {
     tell_once_shown();
 }
 
+// A page that has steps of its own goes first.
+void DocumentWindow::travel(Travel travel) {
+    if (auto* const page = pages_.traveller(travel)) return page->travel(travel);
+    travel == Travel::undo ? undo(editor_) : redo(editor_);
+}
+
+void DocumentWindow::put_in_force(ScheduleKind kind) {
+    set_schedule_kind(editor_, kind);
+    document_.water_to_grain = 0;
+}
+
+void DocumentWindow::show_designer(const std::function<void()>& revert) {
+    const auto is_session = document_.kind == DocumentKind::session;
+    pages_.show(is_session ? "BATCHSTEPMASHDETAIL" : "RECIPESTEPMASHDETAIL", [&] {
+        const DocumentDesignerCalls calls{[this] { save_document(SaveAs::no); }, revert};
+        return make_document_designer(ports_, editor_, calls, this);
+    });
+}
+
 void DocumentWindow::save_document(SaveAs save_as) {
     save_by([save_as](DocumentSaving& current) { return save(current, save_as); });
 }
@@ -179,8 +199,11 @@ bool DocumentWindow::may_close() {
 
 void DocumentWindow::follow(Change) {
     show_name();
-    for (const auto& [action, word, step] : {std::tuple(undo_, tr("&Undo"), editor_.history.to_undo()),
-                                             std::tuple(redo_, tr("&Redo"), editor_.history.to_redo())}) {
+    const auto& history = editor_.history;
+    for (const auto& [action, word, way, of_document] :
+         {std::tuple(undo_, tr("&Undo"), Travel::undo, history.to_undo()),
+          std::tuple(redo_, tr("&Redo"), Travel::redo, history.to_redo())}) {
+        const auto step = pages_.traveller(way) != nullptr ? "Mash Step" : of_document;
         action->setEnabled(!step.empty());
         const auto name = string_of(step).replace(QLatin1Char('&'), QLatin1String("&&"));
         action->setToolTip(step.empty() ? QStringLiteral("Nothing to %1").arg(spoken(word).toLower())

@@ -43,6 +43,10 @@ protected:
     void follow(Change change) override;
 
     void save_document(SaveAs save_as);
+    /// The mash goes by that schedule from now on; the water tells its ratio anew.
+    void put_in_force(ScheduleKind kind);
+    /// The designer of the complex schedule; `revert` puts the simple one in force and shows it.
+    void show_designer(const std::function<void()>& revert);
     /// Saves in a way of its own, which answers whether the document is saved now.
     void save_by(const std::function<bool(DocumentSaving&)>& way);
     QAction* action(int command) const;
@@ -67,6 +71,7 @@ private:
     /// The document may have been saved, and may have another file than before.
     void follow_save(const std::string& path_before);
     DocumentSaving saving();
+    void travel(Travel travel);
     void show_name();
     void keep_or_tell();
 

@@ -2,6 +2,7 @@
 
 #include "desktop/captions.h"
 #include "desktop/scrolled.h"
+#include "desktop/undo_keys.h"
 #include "documents/work/document_saving.h"
 #include "program/documents.h"
 #include "program/program.h"
@@ -35,7 +36,7 @@ IngredientsPage::IngredientsPage(RecipeEditor& editor, const WindowPorts& ports,
     layout->addWidget(new Scrolled(panel_, this), 1);
     layout->addLayout(page_part());
     add_document_keys(*this, editor, save);
-    new DocumentUndo(*this);
+    new WindowUndo(*this);
     panel_.widgets().field("malts").setFocus();
 }
 

@@ -34,6 +34,13 @@ bool OpenPages::may_leave(Prompts& prompts) const {
     return true;
 }
 
+ToolWindow* OpenPages::traveller(Travel travel) const {
+    const auto found = std::find_if(pages_.begin(), pages_.end(), [travel](const auto& page) {
+        return !page.second.isNull() && page.second->isVisible() && page.second->can_travel(travel);
+    });
+    return found == pages_.end() ? nullptr : found->second.data();
+}
+
 void OpenPages::keep() const {
     for (const auto& [name, page] : pages_)
         if (!page.isNull()) page->keep();

@@ -21,6 +21,8 @@ public:
     bool show_modal_child() const;
     /// Asks about each page that has changes of its own; false if the user stays.
     bool may_leave(Prompts& prompts) const;
+    /// The page that has steps of its own to undo or redo; null for none.
+    ToolWindow* traveller(Travel travel) const;
     /// The document was saved as it stands.
     void keep() const;
     /// Closes a page without a word, and all of them.

@@ -58,6 +58,16 @@ void RecipeWindow::print() {
 }
 
 void RecipeWindow::show_mash() {
+    if (!has_complex_schedule(document().recipe)) return show_simple_mash();
+    show_designer([this] { revert_to(ScheduleKind::simple); });
+}
+
+void RecipeWindow::revert_to(ScheduleKind kind) {
+    put_in_force(kind);
+    show_mash();
+}
+
+void RecipeWindow::show_simple_mash() {
     pages().show("MASHENTRYDIALOG", [this]() -> ToolWindow* {
         auto& live = document();
         const auto work = open_simple_mash(live.recipe.simple_mash, live.water_to_grain,
@@ -69,7 +79,7 @@ void RecipeWindow::show_mash() {
             {.mash_grain = [&live] { return live.figures.mash_grain; },
              .accepted = [this](const SimpleMashWork& planned) { set_simple_mash(editor(), planned.mash); },
              .save = [this] { save_document(SaveAs::no); },
-             .revert_to_complex = nullptr,
+             .revert_to_complex = [this] { revert_to(ScheduleKind::complex); },
              .graph =
                  [this](const SimpleMashWork& planned, QWidget* origin) {
                      open_mash_chart(

@@ -21,6 +21,8 @@ private:
     QLayout* page_part();
     void print();
     void show_mash();
+    void show_simple_mash();
+    void revert_to(ScheduleKind kind);
 
     RecipeSubject subject_;
     RecipePanel panel_;

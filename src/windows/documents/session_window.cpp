@@ -118,11 +118,21 @@ void SessionWindow::show_ingredients() {
 }
 
 void SessionWindow::show_mash() {
+    if (!has_complex_schedule(document().recipe)) return show_simple_mash();
+    show_designer([this] { revert_to(ScheduleKind::simple); });
+}
+
+void SessionWindow::revert_to(ScheduleKind kind) {
+    put_in_force(kind);
+    show_mash();
+}
+
+void SessionWindow::show_simple_mash() {
     pages().show("MASHENTRYDIALOG1", [this] {
         const SessionMashLinks links{
             .printed = [this] { return printed_session(editor().open); },
             .save = [this] { save_document(SaveAs::no); },
-            .revert_to_complex = nullptr,
+            .revert_to_complex = [this] { revert_to(ScheduleKind::complex); },
             .print = [this](const SimpleMashWork& work) { print_session_mash(ports(), work); }};
         return make_session_mash_window(ports(), editor(), links, this);
     });

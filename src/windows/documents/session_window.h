@@ -30,6 +30,8 @@ private:
     void pick_recipe();
     void show_ingredients();
     void show_mash();
+    void show_simple_mash();
+    void revert_to(ScheduleKind kind);
     void print();
 
     SessionSubject subject_;

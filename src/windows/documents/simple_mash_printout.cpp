@@ -9,13 +9,15 @@
 namespace wortlex {
 namespace {
 
-constexpr const char* title = "Wortlex Recipe - Mash Details Printout";
+constexpr const char* recipe_title = "Wortlex Recipe - Mash Details Printout";
+constexpr const char* session_title = "Wortlex Brewing Session - Mash Details Printout";
 
-DocumentReport mash_report(const ReportSource& source) {
+PrintRequest page_of(const char* title, std::vector<ReportSection> sections, const Settings& settings) {
     DocumentReport report;
     report.page_title = title;
-    report.sections = {heading_section(source), {"", simple_schedule(source)}};
-    return report;
+    report.sections = std::move(sections);
+    return {title, settings.printer_scale,
+            [report = std::move(report)](PageContext& page) { write_print(report, page); }};
 }
 
 } // namespace
@@ -31,9 +33,14 @@ PrintRequest simple_mash_printout(const OpenDocument& open, const ColorTable& co
     figures.mash.gallons = TotalMashVolume(work.grain, work.mash.dough_in_water, settings.grain_water_volume);
     const auto view = default_report_view(settings);
     const OpenDocument planned{document, figures, settings};
-    return {
-        title, settings.printer_scale,
-        [report = mash_report({planned, view, colours})](PageContext& page) { write_print(report, page); }};
+    const ReportSource source{planned, view, colours};
+    return page_of(recipe_title, {heading_section(source), {"", simple_schedule(source)}}, settings);
+}
+
+PrintRequest complex_mash_printout(const OpenDocument& open, const ColorTable& colours) {
+    const auto view = default_report_view(open.settings);
+    const char* const title = open.session == nullptr ? recipe_title : session_title;
+    return page_of(title, {{"", complex_schedule({open, view, colours})}}, open.settings);
 }
 
 } // namespace wortlex

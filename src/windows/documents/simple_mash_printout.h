@@ -12,4 +12,7 @@ namespace wortlex {
 PrintRequest simple_mash_printout(const OpenDocument& open, const ColorTable& colours,
                                   const SimpleMashWork& work);
 
+/// The complex schedule, of either kind of document.
+PrintRequest complex_mash_printout(const OpenDocument& open, const ColorTable& colours);
+
 } // namespace wortlex

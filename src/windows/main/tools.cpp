@@ -14,6 +14,7 @@
 #include "windows/documents/session_window.h"
 #include "windows/main/about_window.h"
 #include "windows/main/settings_windows.h"
+#include "windows/mash/mash_designer_window.h"
 #include "windows/mash/strike_calculator_window.h"
 #include "windows/water/water_calculator_window.h"
 #include "windows/water/water_needs_window.h"
@@ -151,7 +152,8 @@ constexpr std::array all_tools = {
     Tool{.command = command::mash_designer,
          .menus = {{{Menu::calculators, "&Mash Designer"}}},
          .button = {"cb08", {166, 260}, "Mash Design", "Mash Designer"},
-         .window = {"STEPMASHDETAIL", {"Mash Designer"}, from_main(9)}},
+         .window = {"STEPMASHDETAIL", {"Mash Designer"}, from_main(9)},
+         .make = made<MashDesignerWindow>},
     Tool{.command = command::strike_temperature,
          .menus = {{{Menu::calculators, "&Strike Temperature"}}},
          .button = {"cb07", {86, 260}, "Strike Temp.", "Strike Temperature"},

@@ -1,0 +1,26 @@
+#include "windows/mash/mash_designer_window.h"
+
+#include "desktop/captions.h"
+#include "mash/mash_designer_printout.h"
+#include "program/program.h"
+
+namespace wortlex {
+
+MashDesignerWindow::MashDesignerWindow(const WindowPorts& ports, const WindowInfo& info, QWidget* origin)
+    : DesignerWindow(ports, info, Opener::main, origin, free_designer(ports.program.settings)) {
+    begin(nullptr, nullptr);
+    press_in_window(QKeySequence::Save, "save");
+    auto* const ok = end_button("ok", tr("&OK"), tr("Closes the designer, after asking for unsaved changes"));
+    add_key(*ok, QKeySequence::Cancel);
+    connect(ok, &QPushButton::clicked, this, &QWidget::close);
+}
+
+void MashDesignerWindow::follow(Change change) {
+    if (change == Change::settings) follow_settings(designer(), ports().program.settings);
+}
+
+PrintRequest MashDesignerWindow::printout() const {
+    return mash_designer_printout(designer());
+}
+
+} // namespace wortlex
