@@ -12,7 +12,7 @@ constexpr std::string_view not_handed_over =
 
 void OpenPages::show(std::string_view name, const std::function<ToolWindow*()>& make) {
     auto& page = pages_[name];
-    if (page.isNull()) page = make();
+    if (page.isNull() || !page->isVisible()) page = make(); // a closed one may still wait for its end
     bring_forward(*page);
 }
 

@@ -80,8 +80,8 @@ std::optional<StepNaming> DesignerWindow::ask_naming(StepNaming naming, bool is_
 // As by the tab key, also where the window has not become the active one again yet: its text is selected.
 void DesignerWindow::enter_step() {
     auto& field = widgets_->field("start_temp");
-    field.setFocus(Qt::TabFocusReason);
-    QFocusEvent entered(QEvent::FocusIn, Qt::TabFocusReason);
+    field.setFocus(Qt::OtherFocusReason);
+    QFocusEvent entered(QEvent::FocusIn, Qt::OtherFocusReason);
     QApplication::sendEvent(&field, &entered);
 }
 
