@@ -8,7 +8,7 @@ namespace wortlex {
 
 /// A temperature of a schedule: whole degrees F, in the unit shown.
 IntegerRow& whole_degrees_row(Rows& rows, const std::string& key, std::int32_t& degrees,
-                            TemperatureUnits units);
+                              TemperatureUnits units);
 
 struct InfusedCells {
     InfusedRest rest;

@@ -14,7 +14,8 @@
 namespace wortlex {
 namespace {
 
-Settings mash_kitchen(Units units = Units::american, TemperatureUnits degrees = TemperatureUnits::fahrenheit) {
+Settings mash_kitchen(Units units = Units::american,
+                      TemperatureUnits degrees = TemperatureUnits::fahrenheit) {
     Settings settings;
     settings.volume_units = settings.weight_units = units;
     settings.temperature_units = degrees;

@@ -10,7 +10,7 @@
 namespace wortlex {
 namespace {
 
-constexpr double litres_per_kilogram = 2.0888;   // of a quart a pound
+constexpr double litres_per_kilogram = 2.0888; // of a quart a pound
 constexpr double litres_per_quart = 0.94696;
 
 // What the image has in thousandths, as the dialog holds it until OK.
