@@ -30,8 +30,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     promise(water_analysis_bytes(read_water_analysis(file).analysis) == file);
     settle_water(analysis);
     Form calculator, totals;
-    water_calculator_form(calculator, analysis, {});
-    water_totals_form(totals, analysis, settings, {});
+    water_calculator_form(calculator, analysis, {}, WaterSide::tool);
+    water_totals_form(totals, analysis, settings, {}, WaterSide::tool);
     check_figures(calculator);
     check_figures(totals);
     check_chart(analysis);

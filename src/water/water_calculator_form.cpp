@@ -25,23 +25,23 @@ void ion_cell(Rows& rows, const std::string& line, const std::string& words, con
         .named(words + ' ' + ion.symbol);
 }
 
-std::function<void()> with_change(std::function<void()> action, const std::function<void()>& changed) {
+std::function<void()> pressing(std::function<void()> action, const std::function<void()>& pressed) {
     if (!action) return nullptr;
-    return [action = std::move(action), changed] {
+    return [action = std::move(action), pressed] {
         action();
-        changed();
+        pressed();
     };
 }
 
 std::function<void()> picking(std::function<std::optional<WaterRecord>()> pick, WaterAnalysis& analysis,
-                              WaterRecord WaterAnalysis::*water, const std::function<void()>& changed) {
+                              WaterRecord WaterAnalysis::*water, const std::function<void()>& pressed) {
     if (!pick) return nullptr;
-    return [pick = std::move(pick), &analysis, water, changed] {
+    return [pick = std::move(pick), &analysis, water, pressed] {
         const auto picked = pick();
         if (!picked) return;
         analysis.*water = *picked;
         compare_waters(analysis);
-        changed();
+        pressed();
     };
 }
 
@@ -58,18 +58,22 @@ void balance_note(Rows& rows, const char* key, const WaterRecord& water) {
         .hint("In a real water they are equal: this analysis is rounded, incomplete or in error");
 }
 
-void name_rows(Rows& rows, WaterAnalysis& analysis, WaterActions& actions) {
+void target_button(Rows& rows, WaterAnalysis& analysis, WaterActions& actions) {
+    rows.button("pick_target", "Pick &Water",
+                picking(std::move(actions.pick_target), analysis, &WaterAnalysis::target, actions.pressed))
+        .named("Pick Target Water")
+        .hint("Picks the water to be matched");
+}
+
+void name_rows(Rows& rows, WaterAnalysis& analysis, WaterActions& actions, WaterSide side) {
     const auto name_of = [](const WaterRecord& water) {
         return [&water] { return utf8_from_windows1252(water.name.view()); };
     };
     rows.shown("target_name", name_of(analysis.target)).label("Target Profile Name").width(24);
-    rows.button("pick_target", "Pick &Water",
-                picking(std::move(actions.pick_target), analysis, &WaterAnalysis::target, actions.changed))
-        .named("Pick Target Water")
-        .hint("Picks the water to be matched");
+    if (side == WaterSide::tool) target_button(rows, analysis, actions);
     rows.shown("source_name", name_of(analysis.source)).label("Your Water Name").width(24);
     rows.button("pick_source", "P&ick Water",
-                picking(std::move(actions.pick_source), analysis, &WaterAnalysis::source, actions.changed))
+                picking(std::move(actions.pick_source), analysis, &WaterAnalysis::source, actions.pressed))
         .named("Pick Your Water")
         .hint("Picks the water that you have");
     rows.number("dilution_rate", {[&analysis] { return analysis.dilution_rate; },
@@ -120,25 +124,32 @@ void salt_rows(Rows& rows, WaterAnalysis& analysis) {
     }
 }
 
-void ph_rows(Rows& rows, WaterAnalysis& analysis, const std::function<void()>& changed) {
+void ph_rows(Rows& rows, WaterAnalysis& analysis, const std::function<void()>& pressed) {
     rows.number("ph", analysis.totals.ph).label("&PH").range(0, most_ph_of_salts).step(1).format("%0.2f");
-    rows.button("calculate_ph", "C&alc",
-                with_change([&analysis] { analysis.totals.ph = ph_of_salts(analysis.totals.bicarbonate); },
-                            changed))
+    rows.button(
+            "calculate_ph", "C&alc",
+            pressing([&analysis] { analysis.totals.ph = ph_of_salts(analysis.totals.bicarbonate); }, pressed))
         .hint("The pH that goes with the carbonate of the totals");
 }
 
-void file_rows(Rows& rows, WaterAnalysis& analysis, WaterActions& actions) {
-    rows.button("load", "L&oad", with_change(std::move(actions.load), actions.changed));
-    rows.button("save", "&Save", std::move(actions.save));
-    rows.button("reset", "Rese&t", with_change([&analysis] { reset_salts(analysis); }, actions.changed))
+void reset(WaterAnalysis& analysis, WaterSide side) {
+    const float ph = analysis.totals.ph;
+    reset_salts(analysis);
+    if (side == WaterSide::session) analysis.totals.ph = ph;
+}
+
+void file_rows(Rows& rows, WaterAnalysis& analysis, WaterActions& actions, WaterSide side) {
+    rows.button("load", "L&oad", pressing(std::move(actions.load), actions.pressed))
+        .hint("Reads waters and salts from a file");
+    rows.button("save", "&Save", std::move(actions.save)).hint("Writes waters and salts to a file");
+    rows.button("reset", "Rese&t", pressing([&analysis, side] { reset(analysis, side); }, actions.pressed))
         .hint("All salts to nothing; the waters stay");
     rows.button("print", "Pri&nt", std::move(actions.print));
     rows.button("help", "&Help", std::move(actions.help));
 }
 
 void tool_rows(Rows& rows, WaterActions& actions) {
-    rows.button("suggest", "S&uggest", with_change(std::move(actions.suggest), actions.changed))
+    rows.button("suggest", "S&uggest", pressing(std::move(actions.suggest), actions.pressed))
         .hint("Proposes salts that come close to the difference");
     rows.button("show_totals", "&Mash And Sparge Totals", std::move(actions.show_totals));
     rows.button("show_graph", "G&raph", std::move(actions.show_graph));
@@ -154,16 +165,15 @@ std::string remaining_text(const WaterAnalysis& analysis, const Ion& ion) {
     return formatted(left > 0 ? "%0.1f more" : "%0.1f less", std::abs(left));
 }
 
-void water_calculator_form(Form& form, WaterAnalysis& analysis, WaterActions actions) {
-    if (!actions.changed) actions.changed = [] {};
+void water_calculator_form(Form& form, WaterAnalysis& analysis, WaterActions actions, WaterSide side) {
+    if (!actions.pressed) actions.pressed = [] {};
     auto& rows = form.group();
-    name_rows(rows, analysis, actions);
+    name_rows(rows, analysis, actions, side);
     water_rows(rows, analysis);
     salt_rows(rows, analysis);
-    ph_rows(rows, analysis, actions.changed);
+    ph_rows(rows, analysis, actions.pressed);
     tool_rows(rows, actions);
-    file_rows(rows, analysis, actions);
-    form.after_edit([changed = actions.changed](Row&) { changed(); });
+    file_rows(rows, analysis, actions, side);
 }
 
 } // namespace wortlex

@@ -3,6 +3,7 @@
 
 #include "forms/form.h"
 #include "records/water/water_analysis.h"
+#include "water/water_side.h"
 
 namespace wortlex {
 
@@ -17,13 +18,14 @@ struct WaterActions {
     std::function<void()> suggest;
     std::function<void()> print;
     std::function<void()> help;
-    std::function<void()> changed; ///< called after each change; may be empty
+    std::function<void()> pressed; ///< called after a button that changes something; may be empty
 };
 
 /// Edits `analysis`, which must outlive the form. Cells are keyed by their line and ion: "target_calcium",
 /// with the lines target, source (diluted), difference, each salt by its key, totals and remaining; a salt
 /// has a row "gypsum_rate" besides, and cells only of the two ions that it adds.
-void water_calculator_form(Form& form, WaterAnalysis& analysis, WaterActions actions);
+/// A session picks no target, and its Reset leaves the pH.
+void water_calculator_form(Form& form, WaterAnalysis& analysis, WaterActions actions, WaterSide side);
 
 /// What is still to be added of an ion, in words: "met" within 5 ppm or a tenth of the target, else how much
 /// more or less; empty before a target is picked.

@@ -52,10 +52,30 @@ float small_from_shown(float shown, const Settings& settings) {
     return narrow(shown * gallons_per_litre * quarts_per_gallon);
 }
 
+Live<std::string> unit_words(const Settings& settings, Unit VolumeUnits::*unit) {
+    return [&settings, unit] { return std::string(words_of(units_of(settings).*unit).full); };
+}
+
 void as_water(NumberRow& row, const Settings& settings, Unit VolumeUnits::*unit) {
-    row.range(0, most_water).step(0.25F).unit([&settings, unit] {
-        return std::string(words_of(units_of(settings).*unit).full);
-    });
+    row.range(0, most_water).step(0.25F).unit(unit_words(settings, unit));
+}
+
+std::string small_name(const WaterVolume& volume) {
+    return volume.caption + std::string(" in the small unit");
+}
+
+void shown_volume_rows(Rows& rows, const WaterAnalysis& analysis, const WaterVolume& volume,
+                       const Settings& settings) {
+    const std::string key = volume.key;
+    rows.shown_number(
+            key + "_large", [&] { return to_shown_volume(analysis.*volume.gallons, settings); }, "%0.2f")
+        .label(volume.label)
+        .unit(unit_words(settings, &VolumeUnits::large));
+    rows.shown_number(
+            key + "_small", [&] { return small_to_show(analysis.*volume.quarts, settings); }, "%0.2f")
+        .label("or")
+        .named(small_name(volume))
+        .unit(unit_words(settings, &VolumeUnits::small));
 }
 
 void volume_rows(Rows& rows, WaterAnalysis& analysis, const WaterVolume& volume, const Settings& settings) {
@@ -77,7 +97,7 @@ void volume_rows(Rows& rows, WaterAnalysis& analysis, const WaterVolume& volume,
                                               gallons = narrow(value / quarts_per_gallon);
                                           }})
                  .label("or")
-                 .named(volume.caption + std::string(" in the small unit"))
+                 .named(small_name(volume))
                  .shown_as([&settings](float value) { return small_to_show(value, settings); },
                            [&settings](float shown) { return small_from_shown(shown, settings); }),
              settings, &VolumeUnits::small);
@@ -110,9 +130,14 @@ std::string adjusted(const char* what, const WaterAnalysis& analysis, const Wate
 } // namespace
 
 void water_totals_form(Form& form, WaterAnalysis& analysis, const Settings& settings,
-                       WaterTotalsActions actions) {
+                       WaterTotalsActions actions, WaterSide side) {
     auto& water = form.group();
-    for (const auto& volume : volumes) volume_rows(water, analysis, volume, settings);
+    for (const auto& volume : volumes) {
+        if (side == WaterSide::session)
+            shown_volume_rows(water, analysis, volume, settings);
+        else
+            volume_rows(water, analysis, volume, settings);
+    }
     form.group("Amounts Are In:").choice("unit", analysis.unit, {"&Ounces", "&Grams"});
     form.next_column();
     quantity_lines(form.group("Quantities You Need"), analysis);

@@ -5,6 +5,7 @@
 #include "page/page.h"
 #include "records/water/water_analysis.h"
 #include "settings/settings.h"
+#include "water/water_side.h"
 
 namespace wortlex {
 
@@ -13,10 +14,10 @@ struct WaterTotalsActions {
     std::function<void()> help;
 };
 
-/// Edits the volumes of `analysis`, each in its two units, and the unit of the quantities. Both must outlive
-/// the form.
+/// Edits the volumes of `analysis`, each in its two units, and the unit of the quantities. The volumes of a
+/// session are only shown. Both must outlive the form.
 void water_totals_form(Form& form, WaterAnalysis& analysis, const Settings& settings,
-                       WaterTotalsActions actions);
+                       WaterTotalsActions actions, WaterSide side);
 
 /// What stands above the quantities for the mash, and for the sparge.
 std::array<std::string, 2> water_adjustment_heads(const WaterAnalysis& analysis, const Settings& settings);

@@ -18,7 +18,7 @@ struct Totals : FormUser {
         settings.system_mode = mode;
         set_salt_rate(analysis, salt_effects[0], 2);
         set_salt_rate(analysis, salt_effects[1], 0.5F);
-        water_totals_form(form, analysis, settings, {});
+        water_totals_form(form, analysis, settings, {}, WaterSide::tool);
     }
     std::vector<std::string> page() const {
         return printed_lines(water_adjustment_printout(analysis, settings));

@@ -25,7 +25,53 @@ void press_in_window(QWidget& window, QKeySequence::StandardKey key, QWidget& bu
     QObject::connect(new QShortcut(key, &window), &QShortcut::activated, pressed, &QPushButton::click);
 }
 
+// What speaks against a water stands behind its name.
+QLayout* water_part(const FormWidgets& widgets) {
+    auto* const grid = new QGridLayout;
+    int line = 0;
+    for (const std::string water : {"target", "source"}) {
+        auto* const warning = qobject_cast<QLabel*>(&widgets.field(water + "_balance"));
+        warning->setWordWrap(false);
+        grid->addWidget(widgets.label(water + "_name"), line, 0);
+        grid->addWidget(&widgets.field(water + "_name"), line, 1);
+        if (widgets.form().has("pick_" + water)) grid->addWidget(&widgets.field("pick_" + water), line, 2);
+        grid->addWidget(warning, line++, 3);
+    }
+    grid->addWidget(widgets.label("dilution_rate"), line, 0);
+    grid->addWidget(&widgets.field("dilution_rate"), line, 1, Qt::AlignLeft);
+    grid->setColumnStretch(3, 1);
+    return grid;
+}
+
+QLayout* tool_part(const FormWidgets& widgets) {
+    auto* const line = new QHBoxLayout;
+    line->addWidget(widgets.label("ph"));
+    for (const auto* const key : {"ph", "calculate_ph"}) line->addWidget(&widgets.field(key));
+    line->addStretch();
+    for (const auto* const key : {"suggest", "show_totals", "show_graph"})
+        line->addWidget(&widgets.field(key));
+    return line;
+}
+
 } // namespace
+
+QLayout* arrange_water_profile(const FormWidgets& widgets) {
+    auto* const work = new QVBoxLayout;
+    work->addLayout(water_part(widgets));
+    auto* const box = new QGroupBox(QObject::tr("Amounts in PPM"));
+    box->setLayout(water_grid(widgets, *box));
+    work->addWidget(box);
+    work->addLayout(tool_part(widgets));
+    return work;
+}
+
+void suggest_salts(const WindowPorts& ports, WaterAnalysis& analysis, QWidget* owner) {
+    SaltSuggestion suggestion;
+    Form form;
+    salt_suggestion_form(form, analysis, suggestion);
+    if (run_dialog(form, {.template_name = "WATERSUGGESTDIALOG"}, places(ports.program), owner))
+        take_proposal(analysis, suggestion.proposal);
+}
 
 WaterCalculatorWindow::WaterCalculatorWindow(const WindowPorts& ports, const WindowInfo& info,
                                              QWidget* origin)
@@ -46,6 +92,7 @@ Form WaterCalculatorWindow::made_form() {
     const auto print = [this] {
         ports_.pages.show(water_match_printout(calculator_.work, ports_.program.settings));
     };
+    const auto told = [this] { ports_.program.notices.tell(Change::water); };
     water_calculator_form(form, calculator_.work,
                           {.pick_target = pick,
                            .pick_source = pick,
@@ -53,52 +100,22 @@ Form WaterCalculatorWindow::made_form() {
                            .save = [this] { calculator_.save(); },
                            .show_totals = [this] { show_totals(); },
                            .show_graph = [this] { show_chart(); },
-                           .suggest = [this] { suggest(); },
+                           .suggest = [this] { suggest_salts(ports_, calculator_.work, this); },
                            .print = print,
                            .help = nullptr,
-                           .changed = [this] { ports_.program.notices.tell(Change::water); }});
+                           .pressed = told},
+                          WaterSide::tool);
+    form.after_edit([told](Row&) { told(); });
     return form;
 }
 
 void WaterCalculatorWindow::lay_out_rows() {
     auto* const work = new QVBoxLayout;
-    work->addLayout(water_part());
-    auto* const box = new QGroupBox(tr("Amounts in PPM"), this);
-    box->setLayout(water_grid(widgets_, *box));
-    work->addWidget(box);
-    work->addLayout(tool_part());
+    work->addLayout(arrange_water_profile(widgets_));
     work->addStretch();
     auto* const layout = new QVBoxLayout(this);
     layout->addWidget(new Scrolled(work, this), 1);
     layout->addLayout(file_part());
-}
-
-// What speaks against a water stands behind its name.
-QLayout* WaterCalculatorWindow::water_part() {
-    auto* const grid = new QGridLayout;
-    int line = 0;
-    for (const std::string water : {"target", "source"}) {
-        auto* const warning = qobject_cast<QLabel*>(&widgets_.field(water + "_balance"));
-        warning->setWordWrap(false);
-        grid->addWidget(widgets_.label(water + "_name"), line, 0);
-        grid->addWidget(&widgets_.field(water + "_name"), line, 1);
-        grid->addWidget(&widgets_.field("pick_" + water), line, 2);
-        grid->addWidget(warning, line++, 3);
-    }
-    grid->addWidget(widgets_.label("dilution_rate"), line, 0);
-    grid->addWidget(&widgets_.field("dilution_rate"), line, 1, Qt::AlignLeft);
-    grid->setColumnStretch(3, 1);
-    return grid;
-}
-
-QLayout* WaterCalculatorWindow::tool_part() {
-    auto* const line = new QHBoxLayout;
-    line->addWidget(widgets_.label("ph"));
-    for (const auto* const key : {"ph", "calculate_ph"}) line->addWidget(&widgets_.field(key));
-    line->addStretch();
-    for (const auto* const key : {"suggest", "show_totals", "show_graph"})
-        line->addWidget(&widgets_.field(key));
-    return line;
 }
 
 QLayout* WaterCalculatorWindow::file_part() {
@@ -114,21 +131,13 @@ QLayout* WaterCalculatorWindow::file_part() {
     return line;
 }
 
-void WaterCalculatorWindow::suggest() {
-    SaltSuggestion suggestion;
-    Form form;
-    salt_suggestion_form(form, calculator_.work, suggestion);
-    if (run_dialog(form, {.template_name = "WATERSUGGESTDIALOG"}, places(ports_.program), this))
-        take_proposal(calculator_.work, suggestion.proposal);
-}
-
 void WaterCalculatorWindow::show_totals() {
     const auto& settings = ports_.program.settings;
     const auto print = [this, &settings] {
         ports_.pages.show(water_adjustment_printout(calculator_.work, settings));
     };
     Form form;
-    water_totals_form(form, calculator_.work, settings, {.print = print, .help = nullptr});
+    water_totals_form(form, calculator_.work, settings, {.print = print, .help = nullptr}, WaterSide::tool);
     run_dialog(form, {.template_name = "WATERTOTALSDIALOG", .has_cancel = false, .enter_closes = false},
                places(ports_.program), this);
 }

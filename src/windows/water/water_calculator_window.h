@@ -20,10 +20,7 @@ protected:
 private:
     Form made_form();
     void lay_out_rows();
-    QLayout* water_part();
-    QLayout* tool_part();
     QLayout* file_part();
-    void suggest();
     void show_totals();
     void show_chart();
 
@@ -33,5 +30,12 @@ private:
     FormWidgets widgets_;
     QPointer<WaterChartWindow> chart_;
 };
+
+/// The waters, the grid and the tools of a `water_calculator_form`. The buttons for its files, for print and
+/// help are left to the window.
+QLayout* arrange_water_profile(const FormWidgets& widgets);
+
+/// Takes the salts that the dialog proposes, if the brewer does.
+void suggest_salts(const WindowPorts& ports, WaterAnalysis& analysis, QWidget* owner);
 
 } // namespace wortlex
