@@ -49,6 +49,12 @@ constexpr std::array windows = {
     WindowInfo{
         "BATCHBOTTLINGINFO", {"Brewing Session - Bottling and Kegging"}, from_documents(no_place, 25), 0},
     WindowInfo{"BATCHWATERNEEDSDIALOG", {"Brewing Session - Water Needed"}, from_documents(no_place, 30), 0},
+    WindowInfo{"BATCHCHEMICALDIALOG",
+               {"Brewing Session - Water Profile Calculator"},
+               from_documents(no_place, 31),
+               0},
+    WindowInfo{
+        "BATCHWATERTOTALSDIALOG", {"Brewing Session Water and Salt Totals"}, from_documents(no_place, 85), 0},
     WindowInfo{"BATCHNOTESDIALOG", {"Brewing Session Notes"}, from_documents(no_place, 26), 0},
     WindowInfo{"USERBOTTLEDATEDIALOG", {"Bottling/Kegging Date"}, from_documents(no_place, 87), 0},
     WindowInfo{"BATCHNATURALCARBDIALOG", {"Brewing Session - Natural Carbonation Calculator"}, no_places, 0},
@@ -150,7 +156,7 @@ constexpr std::array windows = {
     WindowInfo{"MASHGRAPHDIALOG", {"Mash Graph"}, no_places, 0},
     WindowInfo{"BATCHDETAILMASHGRAPHDIALOG", {"Mash Graph"}, no_places, 0},
     WindowInfo{"BATCHMASHGRAPHDIALOG", {"Mash Graph"}, no_places, 0},
-    WindowInfo{"WATERTOTALSDIALOG", {"Water Totals"}, no_places, 0},
+    WindowInfo{"WATERTOTALSDIALOG", {"Water Totals"}, from_main(84), 0},
     WindowInfo{"WATERSUGGESTDIALOG", {"Suggested Salts"}, no_places, 0},
     WindowInfo{"TIMELINEENTRYDIALOG", {"Time Line Comment"}, no_places, 0},
     WindowInfo{"PRINTPREVIEW", {"Print Preview"}, no_places, 0},

@@ -5,6 +5,7 @@
 #include "brewing/water_balance.h"
 #include "documents/figures.h"
 #include "records/documents/session_document.h"
+#include "records/water/water_analysis.h"
 #include "settings/system_files.h"
 
 namespace wortlex {
@@ -16,6 +17,7 @@ struct OpenDocument {
     const Settings& settings;
     SessionDocument* session = nullptr;
     WaterBalance* water = nullptr; ///< of the session
+    SaltUnit* salt_unit = nullptr; ///< of the quantities of its salts; none: ounces
 };
 
 inline DocumentKind kind_of(const OpenDocument& open) {

@@ -17,7 +17,7 @@ BrewDocument empty_recipe(const LiveDocument& live, const Settings& settings) {
 
 OpenDocument view_of(LiveDocument& live, const Settings& settings) {
     if (live.kind == DocumentKind::recipe) return {live.recipe, live.figures, settings};
-    return {live.recipe, live.figures, settings, &live.session, &live.water};
+    return {live.recipe, live.figures, settings, &live.session, &live.water, &live.salt_unit};
 }
 
 void take_usual_schedule(LiveDocument& live, const Settings& settings) {
@@ -36,6 +36,7 @@ void start_recipe(LiveDocument& live, const Settings& settings) {
 void start_session(LiveDocument& live, const WaterNeeds& usual, const Settings& settings,
                    const CalendarDate& today) {
     live.kind = DocumentKind::session;
+    live.salt_unit = SaltUnit::ounces;
     start_session(view_of(live, settings), usual, today);
     live.water_to_grain = settings.quarts_per_pound;
     live.file = {};
@@ -47,6 +48,7 @@ LoadResult read_into(LiveDocument& live, DocumentKind kind, ByteView file, const
     const auto result = read_document(kind, file, image, settings);
     if (!is_sound(result)) return result;
     live.kind = kind;
+    live.salt_unit = SaltUnit::ounces;
     live.recipe = std::move(image.recipe);
     if (image.session) live.session = *image.session;
     live.water_to_grain = 0;

@@ -31,6 +31,7 @@ struct LiveDocument {
     SessionDocument session; ///< of a session, as the water
     RecipeFigures figures;
     WaterBalance water;
+    SaltUnit salt_unit = SaltUnit::ounces; ///< as the brewer reads his quantities; no file holds it
     float water_to_grain = 0; ///< of the simple mash, quarts per pound; 0 for a loaded document
     DocumentFile file;
     CompetitionTexts competition;

@@ -6,8 +6,11 @@
 
 namespace wortlex {
 
-/// What the session holds of it, with what follows from that worked out. Quantities are in ounces, and of an
-/// extract recipe for no water.
-WaterAnalysis water_analysis_of(const BrewDocument& document, const SessionDocument& session);
+/// What an open session holds of it, with what follows from that worked out. The water to be matched is that
+/// of the recipe, the volumes are those of the water needs, and none of an extract recipe.
+WaterAnalysis water_analysis_of(const OpenDocument& open);
+
+/// Puts back what the session itself holds: neither the water to be matched nor the volumes.
+void keep_water_analysis(const WaterAnalysis& analysis, const OpenDocument& open);
 
 } // namespace wortlex

@@ -57,7 +57,7 @@ bool has_water_chart(const ReportSource& source) {
 }
 
 ReportSection water_chart_section(const ReportSource& source, const PrintSelection& wanted) {
-    const auto analysis = water_analysis_of(source.open.document, *source.open.session);
+    const auto analysis = water_analysis_of(source.open);
     return chart_section(
         {"Water Profile",
          "_water",

@@ -48,7 +48,9 @@ void add_points(std::vector<ReportRow>& rows, const char* heading, double mash, 
 
 // "Ferementer" has always been spelt so.
 ReportSection efficiency_section(const ReportSource& source) {
-    const auto& [document, figures, settings, session, water] = source.open;
+    const auto& document = source.open.document;
+    const auto& settings = source.open.settings;
+    const auto* const session = source.open.session;
     const auto actual = recorded_efficiency(document, *session, settings);
     const double planned = double{actual.mash_points} * document.efficiency;
     std::vector<ReportRow> rows{

@@ -15,6 +15,8 @@ const char* page_title(SessionPrint print) {
     case SessionPrint::efficiency:
         return "Wortlex Brewing Session - Mash Efficiency Details Printout";
     case SessionPrint::water_needed:
+    case SessionPrint::water_match:
+    case SessionPrint::water_adjustment:
         return "Wortlex Brewing Session";
     case SessionPrint::fermentation:
         return "Wortlex Brewing Session - Fermentation Details";
@@ -59,6 +61,12 @@ void add_page(std::vector<ReportSection>& sections, SessionPrint print, const Re
     case SessionPrint::water_needed:
         return sections.push_back(
             under("Water Needed For Brewing Session Printout", water_needed_section(source)));
+    case SessionPrint::water_match:
+        return sections.push_back(
+            under("Water Analysis - Regional Matching Printout", water_match_section(source)));
+    case SessionPrint::water_adjustment:
+        return sections.push_back(
+            under("Water Adjustment Detail Printout", water_adjustment_section(source)));
     case SessionPrint::fermentation:
         return sections.push_back(under("", fermentation_section(source)));
     case SessionPrint::bottling:

@@ -6,7 +6,16 @@
 
 namespace wortlex {
 
-enum class SessionPrint { mash, efficiency, water_needed, fermentation, bottling, notes };
+enum class SessionPrint {
+    mash,
+    efficiency,
+    water_needed,
+    water_match,
+    water_adjustment,
+    fermentation,
+    bottling,
+    notes
+};
 
 /// Of a session. That of the mash is for the simple schedule.
 DocumentReport session_page(SessionPrint print, const ReportSource& source);

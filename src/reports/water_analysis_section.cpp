@@ -16,7 +16,7 @@ constexpr std::size_t water_column = 22;
 constexpr std::size_t ion_width = 8;
 
 WaterAnalysis analysis_of(const ReportSource& source) {
-    return water_analysis_of(source.open.document, *source.open.session);
+    return water_analysis_of(source.open);
 }
 
 void add_ion_columns(ReportTable& table, std::size_t place, int width, const char* last) {

@@ -121,6 +121,10 @@ void RecipePage::dismiss() {
     close();
 }
 
+void RecipePage::follow(Change change) {
+    if (use_.follow && change == Change::document) use_.follow();
+}
+
 bool RecipePage::may_close() {
     if (is_dismissed_) return true;
     end_page(editor_, use_.step);

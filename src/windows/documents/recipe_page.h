@@ -15,6 +15,7 @@ struct RecipePageUse {
     Opener opener = Opener::recipe;
     std::function<void(Form& form, QWidget* page)> fill;
     std::function<QLayout*(const FormWidgets& widgets)> arrange = nullptr; ///< empty: as forms are laid out
+    std::function<void()> follow = nullptr; ///< the document changed, the rows are not yet shown anew
 };
 
 class RecipePage : public ToolWindow {
@@ -25,6 +26,7 @@ public:
     void keep() override { form_.keep(); }
 
 protected:
+    void follow(Change change) override;
     bool may_close() override;
     void keyPressEvent(QKeyEvent* event) override;
 

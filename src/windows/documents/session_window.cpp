@@ -13,6 +13,7 @@
 #include "windows/documents/session_log.h"
 #include "windows/documents/session_mash_window.h"
 #include "windows/documents/session_printouts.h"
+#include "windows/documents/session_water_page.h"
 #include "windows/reports/print_options_window.h"
 
 #include <utility>
@@ -36,6 +37,7 @@ SessionActions SessionWindow::actions() {
     actions.ingredients = [this] { show_ingredients(); };
     actions.mash = [this] { show_mash(); };
     actions.water_needed = [this] { open_page(water_needed_page(editor(), ports())); };
+    actions.water_profile = [this] { open_page(water_profile_page(editor(), ports())); };
     actions.efficiency = [this] { open_page(efficiency_page(editor(), ports())); };
     actions.fermentation = [this] { open_page(fermentation_page(editor(), ports())); };
     actions.bottling = [this] { open_page(bottling_page(editor(), ports())); };

@@ -1,9 +1,14 @@
+#include "base/files.h"
+#include "documents/forms/page_forms.h"
 #include "documents/opening.h"
 #include "documents/work/session_editor.h"
 #include "support/qt_keys.h"
 #include "support/started_brewery.h"
 #include "windows/documents/line_dialogs.h"
 #include "windows/documents/session_log.h"
+#include "windows/documents/session_water_page.h"
+
+#include <gmock/gmock.h>
 
 #include <QCalendarWidget>
 #include <QDialog>
@@ -29,6 +34,7 @@ struct Brewhouse : Brewery {
         new_session(program, {25, 1, 2001});
         editor.open.session = &session;
         editor.open.water = &program.document.water;
+        editor.open.salt_unit = &program.document.salt_unit;
         editor.notices = &program.notices;
         start_editing(editor, {});
         auto recipe = new_document(settings, ScheduleKind::simple);
@@ -154,6 +160,81 @@ TEST(SessionLog, TheBottlingDateFollowsTheFermentation) {
         dialog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok)->click();
     });
     EXPECT_EQ(text_of(*page, "bottling_date"), "02-04-2001") << "ten days after 25 January";
+}
+
+TEST(SessionWater, FollowsTheSessionAndIsPutBackByCancel) {
+    Brewhouse b;
+    auto water = b.program.document.recipe.water;
+    water.name.assign("Burton");
+    water.calcium = 295;
+    set_water(b.editor, water);
+    b.session.source_water.calcium = 50;
+    b.session.salt_grams[4] = 1; // of no salt
+    b.session.tail.calculated_ph = 7.4F;
+    const auto before = b.session;
+    const auto page = b.open(water_profile_page(b.editor, b.ports()));
+    EXPECT_EQ(page->findChild<QWidget*>("pick_target"), nullptr);
+    EXPECT_EQ(text_of(*page, "difference_calcium"), "245.0");
+    water.calcium = 300;
+    set_water(b.editor, water);
+    EXPECT_EQ(text_of(*page, "difference_calcium"), "250.0");
+    type_into(*page, "gypsum_rate", "2");
+    EXPECT_EQ(b.session.salt_grams[0], 2);
+    EXPECT_EQ(b.session.salt_effects[0].calcium, 123);
+    press(*page, "reset");
+    EXPECT_EQ(text_of(*page, "totals_calcium"), " 0.0");
+    EXPECT_EQ(b.session.tail.calculated_ph, 7.4F) << "a session's Reset is of the rates";
+    type_into(*page, "dilution_rate", "0.5");
+    press(*page, "calculate_ph");
+    EXPECT_EQ(b.session.tail.calculated_ph, 7);
+    QTest::keyClick(page.get(), Qt::Key_Escape);
+    EXPECT_EQ(b.session, before);
+}
+
+TEST(SessionWater, QuantitiesAreForTheWaterNeedsInTheUnitOfTheReport) {
+    Brewhouse b;
+    b.session.salt_grams[0] = 2;
+    const auto page = b.open(water_profile_page(b.editor, b.ports()));
+    press_and_answer(*page, "show_totals", [&](QDialog& dialog) {
+        EXPECT_EQ(text_of(dialog, "mash_large") + text_of(dialog, "sparge_small"), "3.0016.00");
+        EXPECT_EQ(text_of(dialog, "gypsum_sparge"), "0.28") << "8 / 28.35";
+        auto mash = b.program.document.recipe.simple_mash;
+        mash.dough_in_water = 16;
+        set_simple_mash(b.editor, mash);
+        EXPECT_EQ(text_of(dialog, "mash_large"), "4.00");
+        for (auto* const button : dialog.findChildren<QAbstractButton*>())
+            if (button->text().contains("Grams")) button->click();
+        EXPECT_EQ(text_of(dialog, "gypsum_mash"), "8.00");
+        press(dialog, "print");
+        QTest::keyClick(&dialog, Qt::Key_Escape);
+    });
+    EXPECT_THAT(texts_on(b.pages.jobs.back(), 0), testing::Contains(testing::HasSubstr("Grams of Gypsum")));
+    set_kind(b.editor, RecipeKind::extract);
+    press_and_answer(*page, "show_totals", [](QDialog& dialog) {
+        EXPECT_EQ(text_of(dialog, "mash_large") + text_of(dialog, "gypsum_sparge"), "0.000.00");
+        QTest::keyClick(&dialog, Qt::Key_Escape);
+    });
+}
+
+TEST(SessionWater, AFileBringsSaltsAndSourceButNoVolumesAndNoTarget) {
+    Brewhouse b;
+    WaterAnalysis written;
+    written.target.name.assign("Pilsen");
+    written.source.name.assign("Well");
+    written.rate(Salt::chalk) = 2;
+    written.mash_gallons = 99;
+    const auto path = b.folder / "well.wtr";
+    ASSERT_TRUE(save_atomically(path, water_analysis_bytes(written)));
+    const auto page = b.open(water_profile_page(b.editor, b.ports()));
+    b.files.add(path);
+    press(*page, "load");
+    EXPECT_EQ(text_of(*page, "source_name") + text_of(*page, "chalk_calcium"), "Well211.6");
+    EXPECT_EQ(text_of(*page, "target_name"), "");
+    b.files.add(path);
+    press(*page, "save");
+    const auto saved = read_water_analysis(*read_file(path, water_analysis_layout.size)).analysis;
+    EXPECT_EQ((std::array{saved.mash_gallons, saved.mash_quarts, saved.sparge_gallons, saved.sparge_quarts}),
+              (std::array{3.0F, 12.0F, 4.0F, 16.0F}));
 }
 
 } // namespace
