@@ -113,9 +113,9 @@ void step_list_rows(Rows& rows, MashDesigner& designer, const DesignerActions& a
     rows.button("new_step", "&New Step", [&designer, actions] { ask_for_new(designer, actions); })
         .enabled([&designer] { return may_add_step(designer); })
         .disabled_because("The schedule is full.");
-    rows.button("delete_step", "&Delete Step", [&designer] { delete_step(designer); }).enabled([&designer] {
-        return has_step(designer);
-    });
+    rows.button("delete_step", "&Delete Step", [&designer] { delete_step(designer); })
+        .enabled([&designer] { return has_step(designer); })
+        .disabled_because("There is no step.");
 }
 
 } // namespace wortlex

@@ -60,7 +60,9 @@ void thickness_rows(Rows& rows, MashDesigner& designer) {
         .format("%2.2f")
         .enabled([&designer] { return is_decoction(designer); });
     const auto button = [&](const char* key, const char* caption, std::function<void()> press) {
-        rows.button(key, caption, std::move(press)).enabled([&designer] { return is_decoction(designer); });
+        rows.button(key, caption, std::move(press))
+            .enabled([&designer] { return is_decoction(designer); })
+            .disabled_because("Only a decoction has a thickness.");
     };
     const auto& settings = designer.settings;
     button("thick", "Thi&ck", [&] { press_thickness(designer, settings.thick_ratio); });

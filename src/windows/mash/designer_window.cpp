@@ -7,6 +7,7 @@
 #include "desktop/scrolled.h"
 #include "desktop/undo_keys.h"
 #include "program/program.h"
+#include "windows/mash/mash_chart_window.h"
 
 #include <QApplication>
 #include <QFocusEvent>
@@ -56,7 +57,13 @@ DesignerActions DesignerWindow::actions(std::function<void()> revert) {
             .load = [this] { load_schedule(designer_, desk()); },
             .save = [this] { save_schedule(designer_, desk()); },
             .revert = std::move(revert),
-            .graph = nullptr,
+            .graph =
+                [this] {
+                    const auto* const chart =
+                        designer_.owner.is_free() ? "BATCHMASHGRAPHDIALOG" : "BATCHDETAILMASHGRAPHDIALOG";
+                    open_mash_chart(
+                        ports_, chart, [this] { return charted(designer_.design.mash); }, this);
+                },
             .print = [this] { ports_.pages.show(printout()); },
             .help = nullptr};
 }

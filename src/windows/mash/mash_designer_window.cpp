@@ -8,6 +8,9 @@ namespace wortlex {
 
 MashDesignerWindow::MashDesignerWindow(const WindowPorts& ports, const WindowInfo& info, QWidget* origin)
     : DesignerWindow(ports, info, Opener::main, origin, free_designer(ports.program.settings)) {
+    designer().owner.told = [&board = ports.program.notices](const MashDesign&, float) {
+        board.tell(Change::mash);
+    };
     begin(nullptr, nullptr);
     press_in_window(QKeySequence::Save, "save");
     auto* const ok = end_button("ok", tr("&OK"), tr("Closes the designer, after asking for unsaved changes"));
