@@ -312,15 +312,6 @@ void hop_rows(Rows& rows, const RecipeSubject& subject) {
 
 // A schedule of steps has a window of its own, which is not there yet. The mark that a save leaves in the
 // flag byte makes no steps.
-bool has_steps(const BrewDocument& document) {
-    return (document.mash_flags & 0x0F) != 0;
-}
-
-std::string mash_hint(const BrewDocument& document) {
-    if (!has_mashable_grain(document)) return "There is no grain to mash.";
-    return has_steps(document) ? "This recipe has a schedule of steps, which cannot be edited yet." : "";
-}
-
 void page_rows(Rows& rows, const RecipeSubject& subject) {
     const auto& document = subject.editor.open.document;
     const auto& actions = subject.actions;
@@ -331,8 +322,8 @@ void page_rows(Rows& rows, const RecipeSubject& subject) {
             .hint("Writes the recipe into a file of its own; the session stays as it is");
     } else {
         rows.button("mash_schedule", "&Mash Schedule", actions.mash_schedule)
-            .enabled([&document] { return has_mashable_grain(document) && !has_steps(document); })
-            .disabled_because([&document] { return mash_hint(document); });
+            .enabled([&document] { return has_mashable_grain(document); })
+            .disabled_because("There is no grain to mash.");
         rows.button("save", "&Save", actions.save);
     }
     rows.button("print", "&Print", actions.print);

@@ -60,9 +60,7 @@ private:
 };
 
 std::string no_mash(const BrewDocument& document) {
-    if (!has_mashable_grain(document)) return "There is no grain to mash.";
-    const bool has_steps = (document.mash_flags & 0x0F) != 0; // above them a save leaves its mark
-    return has_steps ? "This session has a schedule of steps, which cannot be edited yet." : "";
+    return has_mashable_grain(document) ? "" : "There is no grain to mash.";
 }
 
 std::string mash_of_extract(const BrewDocument& document) {

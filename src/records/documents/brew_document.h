@@ -44,6 +44,11 @@ inline bool has_complex_schedule(const BrewDocument& document) {
     return document.mash_flags != 0;
 }
 
+/// The schedule that the brewer has chosen, whatever a save has left beside it.
+inline ScheduleKind chosen_schedule(const BrewDocument& document) {
+    return (document.mash_flags & 0x0F) != 0 ? ScheduleKind::complex : ScheduleKind::simple;
+}
+
 /// An empty recipe: sizes, thermal mass and grain temperature from the settings, the schedule kind as it is
 /// in force.
 BrewDocument new_document(const Settings& settings, ScheduleKind schedule_in_force);

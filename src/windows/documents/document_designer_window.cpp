@@ -130,7 +130,7 @@ void DocumentDesignerWindow::take_wort() {
 
 void DocumentDesignerWindow::follow(Change change) {
     if (is_closing_ || change != Change::document) return;
-    if (!has_complex_schedule(editor_.open.document)) return dismiss(); // undone beneath it
+    if (chosen_schedule(editor_.open.document) == ScheduleKind::simple) return dismiss(); // undone beneath it
     take_wort();
     follow_document();
 }

@@ -120,7 +120,7 @@ void SessionWindow::show_ingredients() {
 }
 
 void SessionWindow::show_mash() {
-    if (!has_complex_schedule(document().recipe)) return show_simple_mash();
+    if (chosen_schedule(document().recipe) == ScheduleKind::simple) return show_simple_mash();
     show_designer([this] { revert_to(ScheduleKind::simple); });
 }
 
