@@ -1,5 +1,6 @@
 #include "documents/forms/yeast_rows.h"
 
+#include "base/number.h"
 #include "base/windows1252.h"
 #include "databases/yeasts.h"
 #include "measures/units.h"
