@@ -32,7 +32,7 @@ struct LiveDocument {
     RecipeFigures figures;
     WaterBalance water;
     SaltUnit salt_unit = SaltUnit::ounces; ///< as the brewer reads his quantities; no file holds it
-    float water_to_grain = 0; ///< of the simple mash, quarts per pound; 0 for a loaded document
+    float water_to_grain = 0;              ///< of the simple mash, quarts per pound; 0 for a loaded document
     DocumentFile file;
     CompetitionTexts competition;
 };
