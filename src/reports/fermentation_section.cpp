@@ -36,7 +36,7 @@ int shown_celsius(std::int32_t fahrenheit) {
 }
 
 // What the log tells of one of the two fermenters.
-struct Fermenter {
+struct ReportedFermenter {
     std::string name;
     Vessel vessel;
     bool is_open;
@@ -45,7 +45,7 @@ struct Fermenter {
     bool is_celsius;
 };
 
-void add_fermenter(std::vector<ReportRow>& rows, const Fermenter& fermenter) {
+void add_fermenter(std::vector<ReportRow>& rows, const ReportedFermenter& fermenter) {
     constexpr std::size_t column = 22;
     const auto& name = fermenter.name;
     const int degrees = fermenter.is_celsius ? shown_celsius(fermenter.fahrenheit) : fermenter.fahrenheit;

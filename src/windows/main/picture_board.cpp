@@ -10,7 +10,7 @@ namespace wortlex {
 namespace {
 
 constexpr int caption_pixels = 11;
-constexpr int title_height = 15; // the gap below a button
+constexpr int words_height = 15; // the gap below a button
 constexpr int title_width = 80;  // from one button to the next
 constexpr double asleep = 0.35;  // of a button whose command is not to be had
 
@@ -119,7 +119,7 @@ void PictureBoard::draw_titles(QPainter& painter) const {
     for (std::size_t i = 0; i < buttons_.size(); ++i) {
         const auto& told = told_[i].picture;
         const QRect place(origin.x + told.at.x + (button_side - title_width) / 2,
-                          origin.y + told.at.y + button_side, title_width, title_height);
+                          origin.y + told.at.y + button_side, title_width, words_height);
         const auto text = string_of(told.title);
         painter.setOpacity(buttons_[i]->isEnabled() ? 1 : 0.6);
         painter.setPen(Qt::black);
