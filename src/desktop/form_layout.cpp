@@ -89,7 +89,7 @@ private:
     // Cells of lines that are called alike are told apart by their groups, or else by their keys.
     QString distinct(const QString& name, const Row& cell) const {
         if (cell_names_.insert(name.toLower()).second) return name;
-        const auto of_group = name + QLatin1String(", ") + heading_;
+        auto of_group = name + QLatin1String(", ") + heading_;
         if (!heading_.isEmpty() && cell_names_.insert(of_group.toLower()).second) return of_group;
         return name + QLatin1String(", ") + string_of(cell.key).replace(QLatin1Char('_'), QLatin1Char(' '));
     }

@@ -95,7 +95,7 @@ void preview_form(Form& form, PreviewPages& pages, const PreviewButtons& buttons
               {[&pages] { return static_cast<std::int32_t>(pages.zoom()); },
                [&pages](std::int32_t code) { pages.choose(static_cast<PreviewZoom>(code)); }},
               {"Fit Page", "Fit Width", "100 %", "150 %", "200 %"});
-    const auto told_by_sheet = "The sheet of labels tells its paper";
+    const auto* const told_by_sheet = "The sheet of labels tells its paper";
     drop_down(rows, "paper", "Pape&r:", half_of_paper(pages, &PaperChoice::kind), {"A4", "Letter"})
         .enabled(pages.has_choice_of_paper())
         .disabled_because(told_by_sheet);

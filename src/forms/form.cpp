@@ -28,7 +28,7 @@ IntegerRow& Rows::integer(std::string key, Binding<std::int32_t> value) {
 }
 
 IntegerRow& Rows::temperature(std::string key, Binding<std::int32_t> value, Live<TemperatureUnits> units) {
-    return integer(std::move(key), std::move(value)).temperature(units);
+    return integer(std::move(key), std::move(value)).temperature(std::move(units));
 }
 
 ParsedRow& Rows::parsed(std::string key, std::function<std::string()> text,

@@ -104,8 +104,11 @@ private:
 
     void add_fine_levels() {
         const double step = line_step(2, scale_.per_degree());
-        for (double at = std::floor(course_.low / 2) * 2 + 2; at < course_.high; at += step)
+        double at = std::floor(course_.low / 2) * 2 + 2;
+        while (at < course_.high) {
             chart_.fine_levels.push_back(scale_.y(at));
+            at += step;
+        }
     }
 
     void add_levels() {
@@ -120,11 +123,13 @@ private:
             add_level_label(at, y);
             labelled = y;
         };
-        for (; at < last; at += step) {
+        while (at < last) {
             const int y = scale_.free_y(at);
-            if (y < frame_.plot.top) continue;
-            chart_.levels.push_back(y);
-            label(y);
+            if (y >= frame_.plot.top) {
+                chart_.levels.push_back(y);
+                label(y);
+            }
+            at += step;
         }
         if (const int y = scale_.free_y(at); y >= frame_.plot.top) label(y);
     }
@@ -144,9 +149,11 @@ private:
             chart_.labels.push_back({{scale_.x(minute) - across(7), frame_.plot.bottom + down(7)},
                                      formatted("%d", truncate(minute))});
         };
-        for (double minute = 0; minute < course_.minutes; minute += step) {
+        double minute = 0;
+        while (minute < course_.minutes) {
             chart_.uprights.push_back(scale_.x(minute));
             label(minute);
+            minute += step;
         }
         if (std::fmod(course_.minutes, step) == 0) label(course_.minutes);
     }
@@ -164,7 +171,7 @@ private:
     }
 
     std::string title() const {
-        const std::string usual = "Wortlex Mash Schedule Chart";
+        std::string usual = "Wortlex Mash Schedule Chart";
         if (course_.name.empty()) return usual;
         return frame_.is_paper ? course_.name + " - " + usual : course_.name;
     }

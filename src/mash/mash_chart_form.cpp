@@ -9,10 +9,11 @@ constexpr std::int32_t least_grid = 5, most_grid = 1000, grid_step = 5; // minut
 constexpr const char* chart_page_title = "Wortlex Mash Detail Printout";
 
 // Disabled and not set where the schedule has nothing of the kind; the wish itself is kept.
-void spike_check(Rows& rows, const char* key, const char* label, bool& option, std::function<bool()> has) {
+void spike_check(Rows& rows, const char* key, const char* label, bool& option,
+                 const std::function<bool()>& has) {
     rows.check(key, {[&option, has] { return option && has(); }, [&option](bool on) { option = on; }})
         .label(label)
-        .enabled(std::move(has));
+        .enabled(has);
 }
 
 void option_rows(Form& form, const MashAsked& mash, MashChartOptions& options) {

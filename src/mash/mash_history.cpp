@@ -21,7 +21,7 @@ void MashHistory::begin(const State& before, std::string_view key) {
 MashHistory::State MashHistory::take(const State& now, std::deque<State>& from, std::deque<State>& to) {
     key_.clear();
     to.push_back(now);
-    auto state = std::move(from.back());
+    const auto state = from.back();
     from.pop_back();
     return state;
 }

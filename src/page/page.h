@@ -93,8 +93,8 @@ public:
     void ColourBox(int position, std::uint32_t colour);
     /// Room for a chart, on a new page where it is short; lines go on below it.
     ChartPlace PlaceChart(ChartForm form) { return PlaceChart(form, static_cast<float>(printer_scale_)); }
-    /// Likewise at a scale of its own; `height` are its units where it is higher than usual.
-    ChartPlace PlaceChart(ChartForm form, float scale, int height = ChartPlace::units.height);
+    /// Likewise at a scale of its own; `units_high` are its units where it is higher than usual.
+    ChartPlace PlaceChart(ChartForm form, float ratio, int units_high = ChartPlace::units.height);
 
     /// What follows goes to a new page. Does nothing on a page that has not begun.
     void EndPage();

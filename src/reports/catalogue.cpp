@@ -43,7 +43,7 @@ DocumentReport session_titles(const ReportSource& source) {
 
 // What has a section. A switch that stands for none is always on.
 struct Entry {
-    ReportSection (*section)(const ReportSource&);
+    ReportSection (*section)(const ReportSource&) = nullptr;
     std::optional<PrintSection> wanted_by{};
     bool is_of_session = false;
     bool is_on_form = false;

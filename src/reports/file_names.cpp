@@ -35,7 +35,7 @@ std::string session_file_name(std::string_view title, const SessionDocument& ses
                               const Settings& settings) {
     const auto day = brew_date(session);
     if (!is_day(day)) return title.empty() ? "" : recipe_file_name(title, output);
-    const auto date = short_date(day, settings.date_format);
+    auto date = short_date(day, settings.date_format);
     if (title.empty()) return date;
     const auto name = std::string(title);
     const bool name_first = settings.session_name_before_date != 0;

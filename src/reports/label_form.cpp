@@ -109,14 +109,13 @@ const LabelSheet* LabelDesk::sheet_at(std::int32_t place) const {
 
 std::vector<std::string> LabelDesk::sheet_names() const {
     std::vector<std::string> names{"Four blocks on a page"};
-    for (std::int32_t place = 1; const auto* const sheet = sheet_at(place); ++place)
-        names.push_back(sheet->name);
+    for (std::int32_t place = 1; sheet_at(place) != nullptr; ++place) names.push_back(sheet_at(place)->name);
     return names;
 }
 
 std::int32_t LabelDesk::chosen() const {
-    for (std::int32_t place = 1; const auto* const sheet = sheet_at(place); ++place)
-        if (sheet->name == choice.sheet_name) return place;
+    for (std::int32_t place = 1; sheet_at(place) != nullptr; ++place)
+        if (sheet_at(place)->name == choice.sheet_name) return place;
     return 0;
 }
 

@@ -20,8 +20,8 @@ struct LabelChoice {
 /// The work on it. All must outlive the form.
 class LabelDesk {
 public:
-    /// `printers` are those installed; PDF files are added to them.
-    LabelDesk(LabelChoice& label_choice, std::string folder, std::vector<std::string> printers,
+    /// `installed` are the printers; PDF files are added to them.
+    LabelDesk(LabelChoice& label_choice, std::string folder, std::vector<std::string> installed,
               Prompts& asked);
 
     LabelChoice& choice;

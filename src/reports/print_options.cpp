@@ -8,9 +8,9 @@ namespace wortlex {
 namespace {
 
 struct SectionSwitch {
-    const char* key;
-    const char* label;
-    PrintSection section;
+    const char* key = nullptr;
+    const char* label = nullptr;
+    PrintSection section = {};
     bool is_on_form = false; ///< of a competition
     bool is_of_mash = false;
 };

@@ -83,7 +83,9 @@ ReportLines legend() {
     for (const auto& salt : salt_words) {
         std::string_view words = salt.legend;
         const auto name = padded(take_part(words), water_column), formula = padded(take_part(words), 8);
-        lines.rows.push_back({name + "|" + formula + "|" + std::string(words) + "\n", {}});
+        auto line = name;
+        line.append("|").append(formula).append("|").append(words).append("\n");
+        lines.rows.push_back({line, {}});
     }
     return lines;
 }
@@ -95,8 +97,9 @@ ReportLines quantities(const WaterAnalysis& analysis, float gallons, const std::
         std::string_view words = salt_words.at(i).quantity;
         const auto name = padded(take_part(words), 18);
         const float rate = analysis.rate(salt_effects.at(i).salt);
-        lines.rows.push_back({"%6.2f  |" + unit + name + "|" + std::string(words) + "\n",
-                              {salt_quantity(rate, gallons, analysis.unit)}});
+        std::string line = "%6.2f  |";
+        line.append(unit).append(name).append("|").append(words).append("\n");
+        lines.rows.push_back({line, {salt_quantity(rate, gallons, analysis.unit)}});
     }
     lines.rows.back().format += "\n";
     return lines;

@@ -71,15 +71,15 @@ void draw_water_flow(Surface& surface, const WaterPlan& plan, const Settings& se
     const int longest = surface.size().width - bars_at - figure_room;
     int top = first_row, before = 0;
     for (const auto& stage : stages) {
-        const int right = bars_at + length_of(stage.gallons, most, longest);
-        fill_from(surface, bars_at, right, top, water_blue);
-        fill_from(surface, right, before, top, lost_grey);
+        const int reach = bars_at + length_of(stage.gallons, most, longest);
+        fill_from(surface, bars_at, reach, top, water_blue);
+        fill_from(surface, reach, before, top, lost_grey);
         surface.set_text_colour(chart_black);
         set_chart_font(surface, bar_high, false, 400);
         surface.text({words_at, top}, stage.words);
-        const int figure_at = std::max(right, before) + figure_gap;
+        const int figure_at = std::max(reach, before) + figure_gap;
         surface.text({figure_at, top}, shown(stage.gallons) + ' ' + water_unit(plan.units, settings).usual);
-        before = right;
+        before = reach;
         std::string lost;
         for (const auto& [words, gallons] : stage.losses)
             lost += (lost.empty() ? "" : ", ") + shown(gallons) + ' ' + words;

@@ -48,7 +48,7 @@ struct WaterNeedsActions {
 
 /// After each edit the balance is worked out anew. Groups follow the water: sparge, mash, kettle, boil,
 /// fermenter; then the whole need, the drawing "flow", and the buttons.
-void water_needs_form(Form& form, WaterPlan plan, const Settings& settings, WaterNeedsActions actions);
+void water_needs_form(Form& form, const WaterPlan& plan, const Settings& settings, WaterNeedsActions actions);
 
 /// The body of the worksheet, below its headers.
 void print_water_needs(PageContext& page, const WaterNeeds& needs, const WaterBalance& balance, Units units,

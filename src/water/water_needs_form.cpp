@@ -15,7 +15,7 @@ constexpr int entry_width = 7; // digits
 // Makes the rows of one plan.
 class WaterNeedsRows {
 public:
-    WaterNeedsRows(WaterPlan plan, const Settings& settings) : plan_(plan), settings_(settings) {}
+    WaterNeedsRows(const WaterPlan& plan, const Settings& settings) : plan_(plan), settings_(settings) {}
 
     void fill(Form& form) const {
         sparge_rows(form.group("Sparge"));
@@ -212,7 +212,8 @@ void unit_choice(Rows& rows, Units& units, const Settings& settings) {
 
 } // namespace
 
-void water_needs_form(Form& form, WaterPlan plan, const Settings& settings, WaterNeedsActions actions) {
+void water_needs_form(Form& form, const WaterPlan& plan, const Settings& settings,
+                      WaterNeedsActions actions) {
     const WaterNeedsRows rows(plan, settings);
     rows.fill(form);
     auto& need = form.group();

@@ -78,7 +78,7 @@ public:
             return fixed(shown_value(figure, source_of(open)), figure.decimals);
         });
     }
-    void gravity(const std::string& key, const std::string& label, std::function<float()> sg) {
+    void gravity(const std::string& key, const std::string& label, const std::function<float()>& sg) {
         const auto& settings = open_.settings;
         text(key, label,
              [&settings, sg] { return fixed(trunc_to_precision(sg(), 5), sg_decimals(settings)); });

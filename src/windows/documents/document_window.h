@@ -71,7 +71,7 @@ private:
     /// The document may have been saved, and may have another file than before.
     void follow_save(const std::string& path_before);
     DocumentSaving saving();
-    void travel(Travel travel);
+    void travel(Travel travel) override;
     void show_name();
     void keep_or_tell();
 
