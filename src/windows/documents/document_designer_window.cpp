@@ -51,12 +51,11 @@ MashOwner owner_of(RecipeEditor& editor, LiveDocument& live) {
 
 } // namespace
 
-DocumentDesignerWindow::DocumentDesignerWindow(const WindowPorts& given, RecipeEditor& editor,
-                                               MashDesigner made, Backup backup, DocumentDesignerCalls calls,
-                                               QWidget* origin)
-    : DesignerWindow(given, info_of(editor.open), opener_of(editor.open), origin, std::move(made)),
-      editor_(editor), backup_(std::move(backup)), calls_(std::move(calls)),
-      steps_seen_(editor.history.taken()) {
+DocumentDesignerWindow::DocumentDesignerWindow(const WindowPorts& ports, RecipeEditor& editor,
+                                               MashDesigner designer, Backup backup,
+                                               DocumentDesignerCalls calls, QWidget* origin)
+    : DesignerWindow(ports, info_of(editor.open), opener_of(editor.open), origin, std::move(designer)),
+      editor_(editor), backup_(backup), calls_(std::move(calls)), steps_seen_(editor.history.taken()) {
     take_wort();
     begin([this](Form& form) { add_wort(form); }, [this] { revert(); });
     add_save_key(*this, [this] { calls_.save(); });
@@ -201,12 +200,11 @@ DocumentDesignerWindow* make_document_designer(const WindowPorts& ports, RecipeE
                                                DocumentDesignerCalls calls, QWidget* origin) {
     auto& live = ports.program.document;
     const auto& open = editor.open;
-    auto backup = backup_of(open, live);
+    const auto backup = backup_of(open, live);
     auto designer = document_designer(
         {.mash = open.document.mash, .dough_in_water = open.document.simple_mash.dough_in_water},
         live.water_to_grain, owner_of(editor, live), open.settings);
-    return new DocumentDesignerWindow(ports, editor, std::move(designer), std::move(backup), std::move(calls),
-                                      origin);
+    return new DocumentDesignerWindow(ports, editor, std::move(designer), backup, std::move(calls), origin);
 }
 
 } // namespace wortlex

@@ -14,8 +14,8 @@ namespace wortlex {
 struct RecipeSide {
     RecipeEditor& editor;
     WindowPorts ports;
-    Opener opener;
-    QWidget* owner;
+    Opener opener = Opener::main;
+    QWidget* owner = nullptr;
 };
 
 /// Style, malts, hops, the pre-boil calculator, the colour, and the pages of yeast and water, extras and

@@ -10,7 +10,7 @@ namespace wortlex {
 
 class RecipeWindow : public DocumentWindow {
 public:
-    RecipeWindow(const WindowPorts& ports, const WindowInfo& info, QWidget* origin);
+    RecipeWindow(const WindowPorts& given, const WindowInfo& info, QWidget* origin);
 
 protected:
     Opened open_live() override;

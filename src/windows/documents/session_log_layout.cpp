@@ -25,22 +25,27 @@ QLabel* words_of(const FormWidgets& widgets, const std::string& key) {
     return &words;
 }
 
+std::string cell_key(std::string_view column, std::string_view line) {
+    std::string key(column);
+    return key.append("_").append(line);
+}
+
 // A table of figures: `keys` name its lines, the columns what stands before them in the keys of the cells.
 template <class Columns, class Lines>
 QGridLayout* figure_table(const FormWidgets& widgets, const Columns& columns, const Lines& keys) {
     auto* const grid = new QGridLayout;
     int column = 1;
-    for (const std::string of : columns) {
-        auto* const head = words_of(widgets, of + "_head");
+    for (const auto& of : columns) {
+        auto* const head = words_of(widgets, cell_key(of, "head"));
         head->setAlignment(Qt::AlignCenter);
         grid->addWidget(head, 0, column++, Qt::AlignHCenter);
     }
-    for (const std::string key : keys) {
+    for (const auto& key : keys) {
         const int row = grid->rowCount();
-        grid->addWidget(words_of(widgets, key + "_word"), row, 0);
+        grid->addWidget(words_of(widgets, cell_key(key, "word")), row, 0);
         column = 1;
-        for (const std::string of : columns)
-            grid->addWidget(&widgets.field(of + "_" + key), row, column++, Qt::AlignHCenter);
+        for (const auto& of : columns)
+            grid->addWidget(&widgets.field(cell_key(of, key)), row, column++, Qt::AlignHCenter);
     }
     grid->setColumnStretch(0, 1);
     grid->setRowStretch(grid->rowCount(), 1);
@@ -114,9 +119,10 @@ void add_vessel_line(QGridLayout& grid, const FormWidgets& widgets, const std::s
     const int row = grid.rowCount();
     grid.addWidget(words_of(widgets, key + "_word"), row, 0);
     int column = 1;
-    for (const std::string vessel : bottling_columns) {
-        grid.addWidget(&widgets.field(vessel + "_" + key), row, column, 1, calculation.empty() ? 2 : 1);
-        if (!calculation.empty()) grid.addWidget(&widgets.field(vessel + "_" + calculation), row, column + 1);
+    for (const auto& vessel : bottling_columns) {
+        grid.addWidget(&widgets.field(cell_key(vessel, key)), row, column, 1, calculation.empty() ? 2 : 1);
+        if (!calculation.empty())
+            grid.addWidget(&widgets.field(cell_key(vessel, calculation)), row, column + 1);
         column += 2;
     }
 }

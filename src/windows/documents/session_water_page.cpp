@@ -32,7 +32,7 @@ public:
     void follow() { analysis_ = water_analysis_of(editor_.open); }
 
 private:
-    void restore_on_cancel(Form& form) {
+    void restore_on_cancel(Form& form) const {
         auto& session = *editor_.open.session;
         form.restore_on_cancel(session, &SessionDocument::salt_grams, &SessionDocument::salt_effects,
                                &SessionDocument::source_water, &SessionDocument::dilution_rate);

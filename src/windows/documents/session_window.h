@@ -12,7 +12,7 @@ namespace wortlex {
 
 class SessionWindow : public DocumentWindow {
 public:
-    SessionWindow(const WindowPorts& ports, const WindowInfo& info, QWidget* origin);
+    SessionWindow(const WindowPorts& given, const WindowInfo& info, QWidget* origin);
 
 protected:
     Opened open_live() override;

@@ -13,6 +13,8 @@
 #include <QShortcut>
 #include <QVBoxLayout>
 
+#include <utility>
+
 namespace wortlex {
 namespace {
 
@@ -22,9 +24,9 @@ std::string name_of(const ChartedMash& mash) {
 
 class MashChartWindow : public ToolWindow {
 public:
-    MashChartWindow(const WindowPorts& ports, const WindowInfo& info, const MashAsked& mash, QWidget* origin)
-        : ToolWindow(info, 0, Opener::main, origin, places(ports.program)), ports_(ports), mash_(mash),
-          form_(made_form()), widgets_(form_, places(ports.program), *this) {
+    MashChartWindow(const WindowPorts& ports, const WindowInfo& info, MashAsked mash, QWidget* origin)
+        : ToolWindow(info, 0, Opener::main, origin, places(ports.program)), ports_(ports),
+          mash_(std::move(mash)), form_(made_form()), widgets_(form_, places(ports.program), *this) {
         setParent(origin, Qt::Dialog); // stays above it, where desktops stack by kind too
         auto* const layout = new QVBoxLayout(this);
         layout->setSizeConstraint(QLayout::SetFixedSize); // the chart has one size
