@@ -15,7 +15,7 @@ constexpr int entry_width = 7; // digits
 // Makes the rows of one plan.
 class WaterNeedsRows {
 public:
-    WaterNeedsRows(const WaterPlan& plan, const Settings& settings) : plan_(plan), settings_(settings) {}
+    WaterNeedsRows(WaterPlan plan, const Settings& settings) : plan_(std::move(plan)), settings_(settings) {}
 
     void fill(Form& form) const {
         sparge_rows(form.group("Sparge"));
