@@ -9,7 +9,7 @@ set -eu
 cd "$(dirname "$0")"
 . tools/install.sh
 install_missing git g++ clang cmake ninja-build qt6-base-dev qt6-svg-dev libjpeg-dev libgtest-dev libgmock-dev locales clang-format \
-    clang-tidy
+    clang-tidy libbenchmark-dev libxcb1-dev
 
 if [ "${1:-}" = --quick ]; then
     cmake --preset quick > /dev/null

@@ -49,7 +49,7 @@ struct FullBrewery {
         std::filesystem::create_directories(folder);
         program.data_folder = folder;
         program.settings = settings_from(image);
-        new_session(program);
+        new_session(program, {5, 3, 2001});
         auto& recipe = program.document.recipe;
         recipe = sample_document(25, program.settings);
         Stocks stocks;

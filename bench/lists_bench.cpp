@@ -1,17 +1,17 @@
 // A hop list with as many entries as a database may have: its file, its sorts, its filters, and what a click
 // on a column's head takes until the list is painted anew.
+#include "base/number.h"
 #include "base/ports/quiet_prompts.h"
+#include "databases/catalogue.h"
 #include "databases/hops.h"
 #include "desktop/system_ports.h"
 #include "paint_watch.h"
 #include "windows/databases/list_window.h"
 
-#include <QApplication>
 #include <QHeaderView>
 #include <QMouseEvent>
 #include <QTreeView>
 
-#include <benchmark/benchmark.h>
 #include <filesystem>
 #include <random>
 
@@ -24,6 +24,7 @@ struct Desk {
     SystemSettings image = WriteDefaultSettings();
     Settings settings = settings_from(image);
     ToolPositions positions;
+    NoticeBoard notices;
     QuietPrompts prompts;
     FileDialogs files;
     Database<HopRecord> database;
@@ -33,7 +34,7 @@ struct Desk {
     Desk& operator=(const Desk&) = delete;
     ~Desk() { std::filesystem::remove_all(folder); }
 
-    ListPorts ports() { return {{positions, settings}, files, prompts}; }
+    ListPorts ports() { return {{positions, image, notices}, files, prompts}; }
     std::unique_ptr<RecordList<HopRecord>> list() {
         return hop_list({ListSide::maintenance, settings, folder}, database);
     }
@@ -43,7 +44,7 @@ struct Desk {
 HopRecord hop(int i) {
     constexpr std::array origins = {"United States", "United Kingdom", "Germany", "Czech Republic"};
     HopRecord record;
-    record.name.assign(formatted("%d. hop", i / 3));
+    record.name.assign(std::to_string(i / 3) + ". hop");
     record.origin.assign(origins.at(static_cast<std::size_t>(i) % origins.size()));
     record.alpha = narrow(2 + i % 160 / 10.0);
     record.usage = static_cast<HopUsage>(1 + i % 3);
@@ -111,14 +112,9 @@ void click_to_paint(benchmark::State& state, Desk& desk, int column) {
     list->open(desk.prompts);
     ListWindow window(*list, desk.ports(), Opener::main, nullptr, nullptr);
     window.show();
-    QApplication::processEvents();
     auto& view = *window.findChild<QTreeView*>(QStringLiteral("list"));
-    PaintWatch watch(*view.viewport());
-    for (auto _ : state) {
-        watch.start();
-        click(*view.header(), column);
-        watch.wait();
-    }
+    measure_painting(
+        state, {view.viewport()}, [] {}, [&] { click(*view.header(), column); });
     window.hide();
 }
 
@@ -142,12 +138,9 @@ void register_all(Desk& desk) {
 } // namespace wortlex
 
 int main(int count, char** arguments) {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    const QApplication application(count, arguments);
-    benchmark::Initialize(&count, arguments);
+    wortlex::Measurements measurements(count, arguments);
     wortlex::Desk desk;
     if (!wortlex::SaveHops(desk.folder, wortlex::shuffled())) return 1;
-    wortlex::register_all(desk);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
+    register_all(desk);
+    return measurements.run();
 }

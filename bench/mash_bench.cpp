@@ -2,6 +2,7 @@
 // alone, and as a picture.
 #include "desktop/form_widgets.h"
 #include "desktop/list_view.h"
+#include "desktop/painter_surface.h"
 #include "mash/mash_designer_form.h"
 #include "measured_brewery.h"
 #include "paint_watch.h"
@@ -9,10 +10,8 @@
 #include "windows/mash/mash_chart_window.h"
 
 #include <QAbstractSpinBox>
-#include <QKeyEvent>
+#include <QImage>
 #include <QVBoxLayout>
-
-#include <benchmark/benchmark.h>
 
 #include <filesystem>
 
@@ -61,23 +60,8 @@ void keystroke(benchmark::State& state) {
     OpenDesigner window(brewery);
     QApplication::processEvents();
     auto& field = *window.findChild<QAbstractSpinBox*>("rest_time");
-    PaintWatch list(*window.findChild<ListView*>()->viewport());
-    PaintWatch chart(*window.findChild<QWidget*>("chart"));
-    int digit = 4;
-    for (auto _ : state) {
-        state.PauseTiming();
-        field.selectAll();
-        QApplication::processEvents();
-        list.start();
-        chart.start();
-        digit = digit % 9 + 1;
-        const auto text = QString::number(digit);
-        state.ResumeTiming();
-        QKeyEvent press(QEvent::KeyPress, Qt::Key_0 + digit, Qt::NoModifier, text);
-        QApplication::sendEvent(&field, &press);
-        list.wait();
-        chart.wait();
-    }
+    measure_digits(state, field,
+                   {window.findChild<ListView*>()->viewport(), window.findChild<QWidget*>("chart")});
     window.hide();
 }
 
@@ -88,12 +72,16 @@ ChartDrawing full_chart(const MashDesign& design) {
     return mash_chart_drawing(charted(design.mash), options, {0x0000FF});
 }
 
+// As a window paints it.
 void draw_chart(benchmark::State& state) {
-    MeasuredBrewery brewery;
+    const MeasuredBrewery brewery;
     const auto design = long_mash(brewery.program.settings);
+    const auto size = full_chart(design).size;
+    QImage screen(size.width, size.height, QImage::Format_RGB32);
     for (auto _ : state) {
-        const auto chart = full_chart(design);
-        benchmark::DoNotOptimize(brewery.easel.drawn(chart.size, chart.draw));
+        QPainter painter(&screen);
+        PainterSurface surface(painter, size);
+        full_chart(design).draw(surface);
     }
 }
 
@@ -118,9 +106,6 @@ BENCHMARK(write_picture)->Name("JPEG of that chart")->Unit(benchmark::kMilliseco
 } // namespace wortlex
 
 int main(int count, char** arguments) {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    const QApplication application(count, arguments);
-    benchmark::Initialize(&count, arguments);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
+    wortlex::Measurements measurements(count, arguments);
+    return measurements.run();
 }

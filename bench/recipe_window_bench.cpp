@@ -8,10 +8,7 @@
 
 #include <QAbstractItemView>
 #include <QAbstractSpinBox>
-#include <QKeyEvent>
 #include <QLineEdit>
-
-#include <benchmark/benchmark.h>
 
 #include <algorithm>
 
@@ -34,13 +31,6 @@ struct Brewery : MeasuredBrewery {
     }
 };
 
-void press(QWidget& field, int key, const QString& text) {
-    for (const auto type : {QEvent::KeyPress, QEvent::KeyRelease}) {
-        QKeyEvent event(type, key, Qt::NoModifier, text);
-        QApplication::sendEvent(&field, &event);
-    }
-}
-
 // The brew day of that recipe, in another window.
 struct BrewDay : Brewery {
     BrewDay() {
@@ -60,23 +50,8 @@ std::unique_ptr<Window> made(Brewery& brewery) {
 
 // Every keystroke makes the batch another size, and with it everything on the screen.
 void type_sizes(benchmark::State& state, const QWidget& page, QWidget& last) {
-    QApplication::processEvents();
-    auto& field = *page.findChild<QAbstractSpinBox*>(QStringLiteral("batch_size"));
-    PaintWatch figures(last);
-    PaintWatch hops(*page.findChild<QAbstractItemView*>(QStringLiteral("hops"))->viewport());
-    int size = 4;
-    for (auto _ : state) {
-        state.PauseTiming();
-        field.selectAll();
-        QApplication::processEvents();
-        figures.start();
-        hops.start();
-        size = size % 5 + 4;
-        state.ResumeTiming();
-        press(field, Qt::Key_0 + size, QString::number(size));
-        figures.wait();
-        hops.wait();
-    }
+    measure_digits(state, *page.findChild<QAbstractSpinBox*>(QStringLiteral("batch_size")),
+                   {&last, page.findChild<QAbstractItemView*>(QStringLiteral("hops"))->viewport()}, 4, 8);
 }
 
 void keystroke(benchmark::State& state) {
@@ -118,7 +93,7 @@ void opening(benchmark::State& state, const char* figure) {
     }
 }
 
-void run() {
+void add_benchmarks() {
     const auto measured = [](const char* name, void (*function)(benchmark::State&)) {
         benchmark::RegisterBenchmark(name, function)->Unit(benchmark::kMillisecond);
     };
@@ -127,16 +102,13 @@ void run() {
     measured("keystroke on a session's ingredients to paint", session_keystroke);
     measured("open a session",
              [](benchmark::State& state) { opening<SessionWindow, BrewDay>(state, "actual_og"); });
-    benchmark::RunSpecifiedBenchmarks();
 }
 
 } // namespace
 } // namespace wortlex
 
 int main(int count, char** arguments) {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    const QApplication application(count, arguments);
-    benchmark::Initialize(&count, arguments);
-    wortlex::run();
-    return 0;
+    wortlex::Measurements measurements(count, arguments);
+    wortlex::add_benchmarks();
+    return measurements.run();
 }

@@ -2,13 +2,10 @@
 // print is recorded on paper of 300 dots an inch, with its texts measured as in the preview.
 #include "desktop/print_device.h"
 #include "documents/opening.h"
+#include "paint_watch.h"
 #include "reports/catalogue.h"
 #include "reports/report_writers.h"
 #include "sample_document.h"
-
-#include <QApplication>
-
-#include <benchmark/benchmark.h>
 
 namespace wortlex {
 namespace {
@@ -92,9 +89,6 @@ BENCHMARK(print)->EACH_SIZE;
 } // namespace wortlex
 
 int main(int count, char** arguments) {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    const QApplication application(count, arguments);
-    benchmark::Initialize(&count, arguments);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
+    wortlex::Measurements measurements(count, arguments);
+    return measurements.run();
 }

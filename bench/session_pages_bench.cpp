@@ -8,8 +8,6 @@
 
 #include <QLineEdit>
 
-#include <benchmark/benchmark.h>
-
 #include <memory>
 #include <vector>
 
@@ -53,23 +51,15 @@ void mash_to_paint(benchmark::State& state, BrewDay& day) {
     show(std::make_unique<SessionWindow>(ports, session_info, nullptr));
     page(fermentation_page(day.editor, ports));
     page(bottling_page(day.editor, ports));
-    page(session_notes_page(day.editor));
+    page(session_notes_page(day.editor, ports));
     // What has not changed is not painted anew; these two hang on the mash.
-    PaintWatch target(*page(efficiency_page(day.editor, ports)).findChild<QLineEdit*>("water_volume"));
-    PaintWatch water(*page(water_needed_page(day.editor, ports)).findChild<QLineEdit*>("mash_water"));
+    auto& target = *page(efficiency_page(day.editor, ports)).findChild<QLineEdit*>("water_volume");
+    auto& water = *page(water_needed_page(day.editor, ports)).findChild<QLineEdit*>("mash_water");
     auto mash = day.program.document.recipe.simple_mash;
-    for (auto _ : state) {
-        state.PauseTiming();
-        QApplication::processEvents();
-        target.start();
-        water.start();
-        mash.dough_in_water = mash.dough_in_water > 20 ? 12 : mash.dough_in_water + 1;
-        state.ResumeTiming();
-        set_simple_mash(day.editor, mash);
-        target.wait();
-        water.wait();
-        QApplication::processEvents();
-    }
+    measure_painting(
+        state, {&target, &water},
+        [&] { mash.dough_in_water = mash.dough_in_water > 20 ? 12 : mash.dough_in_water + 1; },
+        [&] { set_simple_mash(day.editor, mash); });
     for (const auto& window : windows) window->hide();
 }
 
@@ -77,13 +67,10 @@ void mash_to_paint(benchmark::State& state, BrewDay& day) {
 } // namespace wortlex
 
 int main(int count, char** arguments) {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    const QApplication application(count, arguments);
-    benchmark::Initialize(&count, arguments);
+    wortlex::Measurements measurements(count, arguments);
     wortlex::BrewDay day;
-    benchmark::RegisterBenchmark("change of the mash to all pages painted", [&](benchmark::State& state) {
-        wortlex::mash_to_paint(state, day);
+    benchmark::RegisterBenchmark("change of the mash to all pages painted", [&day](benchmark::State& state) {
+        mash_to_paint(state, day);
     })->Unit(benchmark::kMillisecond);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
+    return measurements.run();
 }

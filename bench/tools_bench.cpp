@@ -5,10 +5,8 @@
 #include "paint_watch.h"
 #include "windows/calculators/brewers_tools.h"
 
-#include <QKeyEvent>
+#include <QAbstractSpinBox>
 #include <QLineEdit>
-
-#include <benchmark/benchmark.h>
 
 namespace wortlex {
 namespace {
@@ -28,10 +26,11 @@ struct MeasuredTool {
     Make make;
     const char* field;
     const char* figure;
+    int first_digit = 4; ///< of the two typed
 };
 
 constexpr std::array tools = {
-    MeasuredTool{"hydrometer", make_hydrometer, "temperature_fahrenheit", "corrected_sg"},
+    MeasuredTool{"hydrometer", make_hydrometer, "temperature_fahrenheit", "corrected_sg", 7},
     MeasuredTool{"raw wort", make_raw_wort_gravity, "brix", "gravity_sg"},
     MeasuredTool{"fermentation", make_fermentation_gravity, "brix", "gravity_sg"},
     MeasuredTool{"refractometer alcohol", make_refractometer_alcohol, "brix", "by_volume"},
@@ -58,21 +57,18 @@ void keystroke(benchmark::State& state, Brewery& brewery, const MeasuredTool& to
     const auto window = made(brewery, tool);
     window->show();
     QApplication::processEvents();
-    auto& field = line_of(*window, tool.field);
-    PaintWatch figure(line_of(*window, tool.figure));
+    auto& field = *window->findChild<QAbstractSpinBox*>(QString::fromLatin1(tool.field));
     int digit = 4;
-    for (auto _ : state) {
-        state.PauseTiming();
-        field.setText(QStringLiteral("4"));
-        QApplication::processEvents();
-        figure.start();
-        digit = (digit + 1) % 10;
-        const auto text = QString::number(digit);
-        state.ResumeTiming();
-        QKeyEvent press(QEvent::KeyPress, Qt::Key_0 + digit, Qt::NoModifier, text);
-        QApplication::sendEvent(&field, &press);
-        figure.wait();
-    }
+    measure_painting(
+        state, {&line_of(*window, tool.figure)},
+        [&] {
+            field.selectAll();
+            press_digit(field, tool.first_digit);
+        },
+        [&] {
+            digit = (digit + 1) % 10;
+            press_digit(field, digit);
+        });
     window->close();
 }
 
@@ -94,7 +90,7 @@ void search(benchmark::State& state, Brewery& brewery, float (*find)(float, floa
     for (auto _ : state) benchmark::DoNotOptimize(find(5, 300, brewery.program.settings));
 }
 
-void run(Brewery& brewery) {
+void add_benchmarks(Brewery& brewery) {
     const auto measured = [](const std::string& name, auto function) {
         benchmark::RegisterBenchmark(name.c_str(), function)->Unit(benchmark::kMillisecond);
     };
@@ -108,17 +104,14 @@ void run(Brewery& brewery) {
         measured(std::string("open ") + tool.name,
                  [&](benchmark::State& state) { opening(state, brewery, tool); });
     }
-    benchmark::RunSpecifiedBenchmarks();
 }
 
 } // namespace
 } // namespace wortlex
 
 int main(int count, char** arguments) {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    const QApplication application(count, arguments);
-    benchmark::Initialize(&count, arguments);
+    wortlex::Measurements measurements(count, arguments);
     wortlex::Brewery brewery;
-    wortlex::run(brewery);
-    return 0;
+    add_benchmarks(brewery);
+    return measurements.run();
 }

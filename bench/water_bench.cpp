@@ -6,11 +6,8 @@
 #include "windows/water/water_calculator_window.h"
 
 #include <QAbstractSpinBox>
-#include <QKeyEvent>
 #include <QLineEdit>
 #include <QPushButton>
-
-#include <benchmark/benchmark.h>
 
 namespace wortlex {
 namespace {
@@ -29,23 +26,9 @@ void keystroke(benchmark::State& state) {
     window.findChild<QPushButton*>("show_graph")->click();
     QApplication::processEvents();
     auto& field = *window.findChild<QAbstractSpinBox*>("gypsum_rate");
-    PaintWatch grid(*window.findChild<QLineEdit*>("totals_sulfate"));
-    PaintWatch chart(*shown("WATERGRAPHDIALOG").findChild<QWidget*>("chart"));
-    int digit = 4;
-    for (auto _ : state) {
-        state.PauseTiming();
-        field.selectAll();
-        QApplication::processEvents();
-        grid.start();
-        chart.start();
-        digit = digit % 9 + 1;
-        const auto text = QString::number(digit);
-        state.ResumeTiming();
-        QKeyEvent press(QEvent::KeyPress, Qt::Key_0 + digit, Qt::NoModifier, text);
-        QApplication::sendEvent(&field, &press);
-        grid.wait();
-        chart.wait();
-    }
+    measure_digits(state, field,
+                   {window.findChild<QLineEdit*>("totals_sulfate"),
+                    shown("WATERGRAPHDIALOG").findChild<QWidget*>("chart")});
     window.close();
 }
 
@@ -63,9 +46,6 @@ BENCHMARK(suggest)->Name("suggest salts")->Unit(benchmark::kMillisecond);
 } // namespace wortlex
 
 int main(int count, char** arguments) {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    const QApplication application(count, arguments);
-    benchmark::Initialize(&count, arguments);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
+    wortlex::Measurements measurements(count, arguments);
+    return measurements.run();
 }
