@@ -4,6 +4,8 @@
 
 #include <QImage>
 
+#include <span>
+
 namespace wortlex {
 
 Pixels PictureEasel::drawn(Extent size, const std::function<void(Surface&)>& draw) {
@@ -14,12 +16,14 @@ Pixels PictureEasel::drawn(Extent size, const std::function<void(Surface&)>& dra
         PainterSurface surface(painter, size);
         draw(surface);
     }
-    image.convertTo(QImage::Format_RGB888);
     Pixels pixels{size.width, size.height, {}};
-    const auto row_bytes = static_cast<std::ptrdiff_t>(size.width) * 3; // the image's rows are longer
+    pixels.rgb.reserve(static_cast<std::size_t>(size.width) * static_cast<std::size_t>(size.height) * 3);
     for (int row = 0; row < size.height; ++row) {
-        const auto* const from = image.constScanLine(row);
-        pixels.rgb.insert(pixels.rgb.end(), from, from + row_bytes);
+        const std::span line(reinterpret_cast<const QRgb*>(image.constScanLine(row)),
+                             static_cast<std::size_t>(size.width));
+        for (const auto dot : line)
+            for (const int part : {qRed(dot), qGreen(dot), qBlue(dot)})
+                pixels.rgb.push_back(static_cast<std::uint8_t>(part));
     }
     return pixels;
 }

@@ -27,10 +27,22 @@ std::string plain_text(std::string_view text) {
 } // namespace
 
 std::string_view start_that_fits(std::string_view text, const LineRoom& room) {
+    const auto fits = [&](std::size_t count) {
+        return room.measure.text_extent(first_characters(text, count)).width <= room.dots;
+    };
+    // Most texts fit whole, and of a long paragraph no more is measured than about a line.
+    constexpr std::size_t about_a_line = 64;
     std::size_t fitting = 0, most = std::min(character_count(text), room.characters);
+    for (auto reach = std::min(about_a_line, most); fitting < reach; reach = std::min(2 * reach, most)) {
+        if (!fits(reach)) {
+            most = reach - 1;
+            break;
+        }
+        fitting = reach;
+    }
     while (fitting < most) {
         const auto middle = (fitting + most + 1) / 2;
-        if (room.measure.text_extent(first_characters(text, middle)).width <= room.dots) {
+        if (fits(middle)) {
             fitting = middle;
         } else {
             most = middle - 1;
