@@ -1,5 +1,7 @@
 #include "base/number.h"
 
+#include "base/text.h"
+
 #include <algorithm>
 #include <array>
 #include <charconv>
@@ -10,14 +12,6 @@ namespace {
 
 // Wide enough for the longest float in fixed form (39 digits) or double (309) with its decimals.
 using NumberText = std::array<char, 360>;
-
-constexpr std::string_view blanks = " \t\r\n";
-
-std::string_view without_blanks(std::string_view text) {
-    const auto first = text.find_first_not_of(blanks);
-    if (first == std::string_view::npos) return {};
-    return text.substr(first, text.find_last_not_of(blanks) - first + 1);
-}
 
 std::string print(double value, std::chars_format format, int precision) {
     NumberText text;
@@ -72,7 +66,7 @@ std::string fill(const Place& place, double value) {
 
 template <class Number>
 std::optional<Number> parse_all(std::string_view text) {
-    text = without_blanks(text);
+    text = trimmed(text);
     if (text.starts_with('+') && !text.starts_with("+-")) text.remove_prefix(1);
     Number number{};
     const auto end = std::from_chars(text.data(), text.data() + text.size(), number);
@@ -97,7 +91,7 @@ std::optional<double> parse_number(std::string_view text) {
 }
 
 double leading_number(std::string_view text) {
-    text.remove_prefix(std::min(text.find_first_not_of(blanks), text.size()));
+    text = trimmed(text);
     if (text.starts_with('+')) text.remove_prefix(1);
     double number = 0;
     const auto end = std::from_chars(text.data(), text.data() + text.size(), number);

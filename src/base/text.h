@@ -8,6 +8,14 @@
 
 namespace wortlex {
 
+/// Without the blanks and line ends around it.
+constexpr std::string_view trimmed(std::string_view text) {
+    constexpr std::string_view blanks = " \t\r\n";
+    const auto first = text.find_first_not_of(blanks);
+    if (first == std::string_view::npos) return {};
+    return text.substr(first, text.find_last_not_of(blanks) + 1 - first);
+}
+
 /// A Windows-1252 text in `N` bytes. It ends at the first NUL or, in a damaged file, with the array.
 /// What a file holds behind the NUL is kept, so that it is written back as it was.
 template <std::size_t N>

@@ -352,10 +352,11 @@ void FormWidgets::visit(ChoiceRow& row) {
 
 void FormWidgets::make_drop_down(ChoiceRow& row) {
     auto* const box = new QComboBox(&parent_);
-    for (const auto& word : row.words) box->addItem(string_of(word()));
     auto show = [&row, box] {
-        for (std::size_t i = 0; i < row.words.size(); ++i)
+        for (std::size_t i = 0; i < row.words.size(); ++i) {
+            if (box->count() == static_cast<int>(i)) box->addItem({});
             box->setItemText(static_cast<int>(i), string_of(row.words[i]()));
+        }
         const auto chosen = row.chosen();
         box->setCurrentIndex(chosen ? static_cast<int>(*chosen) : -1);
     };

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "base/ports/prompts.h"
+#include "base/text.h"
 #include "forms/form.h"
 #include "reports/label_printing.h"
 
@@ -17,7 +18,7 @@ struct LabelChoice {
     bool is_on_sheet() const { return sheet_name.has_value(); }
 };
 
-/// The work on it. All must outlive the form.
+/// The work on it; nothing is written before `save`. All must outlive the form.
 class LabelDesk {
 public:
     /// `installed` are the printers; PDF files are added to them.
@@ -29,21 +30,27 @@ public:
     LabelSettings settings;
     std::vector<std::string> printers; ///< the first one, without a name, stands for PDF files
     std::int32_t printer = 0;
+    Text<64> own_name; ///< by which the sheet is to be kept
 
-    std::vector<std::string> sheet_names() const;
-    /// 0: no sheet.
+    /// As they are offered. 0: no sheet.
+    std::vector<Live<std::string>> sheet_words() const;
     std::int32_t chosen() const;
     void choose(std::int32_t place);
-    PrintShift& shift() { return settings.shifts[printers.at(static_cast<std::size_t>(printer))]; }
 
-    /// Puts the sheet among the brewer's own, in the place of one of the same name.
-    void keep_sheet();
+    PrintShift shift() const;
+    void set_shift(const PrintShift& shift);
+
+    /// Puts the sheet among the brewer's own, who is asked before it takes the place of another; whether it
+    /// stands there.
+    bool keep_sheet();
     /// False, and told, where the labels would not lie on the paper.
     bool is_sound() const;
     void save();
 
 private:
     const LabelSheet* sheet_at(std::int32_t place) const;
+    std::string words_of(std::int32_t place) const;
+    bool may_keep(const LabelSheet& sheet) const;
 
     std::string data_folder_;
 };

@@ -1,13 +1,12 @@
 #include "reports/row_words.h"
 
 #include "base/number.h"
+#include "base/text.h"
 
 #include <algorithm>
 
 namespace wortlex {
 namespace {
-
-constexpr std::string_view white_space = " \t\n";
 
 // A pattern cut at its places.
 struct Piece {
@@ -66,12 +65,6 @@ private:
     const std::vector<ReportValue>& values_;
     std::size_t at_ = 0;
 };
-
-std::string_view trimmed(std::string_view text) {
-    const auto first = text.find_first_not_of(white_space);
-    if (first == std::string_view::npos) return {};
-    return text.substr(first, text.find_last_not_of(white_space) + 1 - first);
-}
 
 // Cuts a pattern behind its first cell.
 std::string_view take_cell(std::string_view& format) {

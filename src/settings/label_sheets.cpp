@@ -2,6 +2,7 @@
 
 #include "base/files.h"
 #include "base/number.h"
+#include "base/text.h"
 
 #include <algorithm>
 #include <array>
@@ -20,25 +21,23 @@ constexpr char field_end = '|';
 constexpr std::array lengths = {&LabelSheet::width, &LabelSheet::height,     &LabelSheet::left,
                                 &LabelSheet::top,   &LabelSheet::gap_across, &LabelSheet::gap_down};
 
-std::string trimmed(std::string_view text) {
-    const auto first = text.find_first_not_of(" \t\r");
-    if (first == std::string_view::npos) return {};
-    return std::string(text.substr(first, text.find_last_not_of(" \t\r") + 1 - first));
-}
-
-std::vector<std::string> fields_of(std::string_view line) {
-    std::vector<std::string> fields;
-    for (std::size_t end = 0; end != std::string_view::npos;) {
-        end = line.find(field_end);
-        fields.push_back(trimmed(line.substr(0, end)));
-        if (end != std::string_view::npos) line.remove_prefix(end + 1);
+// A name may hold the mark that parts fields, so they are taken from the end.
+std::vector<std::string> fields_of(std::string_view line, std::size_t count) {
+    std::vector<std::string> fields(count);
+    for (std::size_t i = count - 1; i > 0; --i) {
+        const auto mark = line.rfind(field_end);
+        if (mark == std::string_view::npos) return {};
+        fields[i] = trimmed(line.substr(mark + 1));
+        line = line.substr(0, mark);
     }
+    fields.front() = trimmed(line);
     return fields;
 }
 
-std::optional<LabelSheet> sheet_of(const std::vector<std::string>& fields) {
+std::optional<LabelSheet> sheet_of(std::string_view line) {
     constexpr std::size_t first_length = 4;
-    if (fields.size() != first_length + lengths.size()) return std::nullopt;
+    const auto fields = fields_of(line, first_length + lengths.size());
+    if (fields.empty() || fields.front().empty()) return std::nullopt;
     LabelSheet sheet{.name = fields[0], .paper = fields[1] == "Letter" ? PaperKind::letter : PaperKind::a4};
     sheet.columns = truncate(leading_number(fields[2]));
     sheet.rows = truncate(leading_number(fields[3]));
@@ -59,13 +58,18 @@ float shift_of(const std::string& field) {
     return std::clamp(narrow(leading_number(field)), -most_shift, most_shift);
 }
 
+bool is_new(const LabelSheet& sheet, const LabelSettings& settings) {
+    return find_sheet(sheet.name, common_label_sheets()) == nullptr &&
+           find_sheet(sheet.name, settings.own) == nullptr;
+}
+
 void take_line(LabelSettings& settings, std::string_view line) {
     if (line.starts_with(sheet_word)) {
-        if (auto sheet = sheet_of(fields_of(line.substr(sheet_word.size()))))
-            settings.own.push_back(*std::move(sheet));
+        auto sheet = sheet_of(line.substr(sheet_word.size()));
+        if (sheet && is_new(*sheet, settings)) settings.own.push_back(*std::move(sheet));
     } else if (line.starts_with(offset_word)) {
-        const auto fields = fields_of(line.substr(offset_word.size()));
-        if (fields.size() == 3) settings.shifts[fields[0]] = {shift_of(fields[1]), shift_of(fields[2])};
+        const auto fields = fields_of(line.substr(offset_word.size()), 3);
+        if (!fields.empty()) settings.shifts[fields[0]] = {shift_of(fields[1]), shift_of(fields[2])};
     }
 }
 
@@ -93,8 +97,14 @@ bool is_usable(const LabelSheet& sheet) {
         if (count < 1 || count > most || !(size >= smallest) || !(start >= 0) || !(gap >= 0)) return false;
         return start + narrow(count) * size + narrow(count - 1) * gap <= room + hair;
     };
-    return !sheet.name.empty() && fits(sheet.left, sheet.columns, sheet.width, sheet.gap_across, across) &&
+    return fits(sheet.left, sheet.columns, sheet.width, sheet.gap_across, across) &&
            fits(sheet.top, sheet.rows, sheet.height, sheet.gap_down, down);
+}
+
+const LabelSheet* find_sheet(std::string_view name, std::span<const LabelSheet> sheets) {
+    const auto found = std::find_if(sheets.begin(), sheets.end(),
+                                    [name](const LabelSheet& sheet) { return sheet.name == name; });
+    return found == sheets.end() ? nullptr : &*found;
 }
 
 LabelSettings LoadLabelSettings(const std::string& data_folder) {

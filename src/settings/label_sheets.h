@@ -48,7 +48,10 @@ struct LabelSettings {
     bool operator==(const LabelSettings&) const = default;
 };
 
-/// What a line does not tell as it should is passed over.
+/// Null where there is none of this name.
+const LabelSheet* find_sheet(std::string_view name, std::span<const LabelSheet> sheets);
+
+/// What a line does not tell as it should is passed over, and a sheet whose name there is already.
 LabelSettings LoadLabelSettings(const std::string& data_folder);
 bool SaveLabelSettings(const std::string& data_folder, const LabelSettings& settings);
 

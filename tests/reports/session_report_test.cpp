@@ -2,9 +2,6 @@
 
 #include "report_forms.h"
 #include "reports/file_names.h"
-#include "reports/label_printing.h"
-#include "support/recording_desk.h"
-#include "support/temporary_folder.h"
 
 #include <gmock/gmock.h>
 
@@ -99,65 +96,6 @@ TEST(FileNames, OfSessionsHoldTheDayThatThereWas) {
     std::string umlauts;
     for (int i = 0; i < 200; ++i) umlauts += "\u00E4";
     EXPECT_EQ(proposed_file(umlauts, "txt").size(), 254U) << "no half character";
-}
-
-TEST(LabelSheets, EachLabelLandsInItsPlace) {
-    // Ten dots a millimetre.
-    const Paper paper{
-        .sheet = {2100, 2970}, .area = {2100, 2970}, .dots_per_millimetre = 10, .is_exact = true};
-    const LabelSheet sheet{"two by two", PaperKind::a4, 2, 2, 90, 50, 10, 20, 5, 2};
-    const std::vector<ReportRow> label{{"Name: |%s\n", {"Ale"}}};
-    RecordingSurface measure;
-    const auto job = record_report({.document_name = "",
-                                    .run =
-                                        [&](PageContext& page) {
-                                            draw_label_sheets(label, {sheet, 3, 3}, page);
-                                        },
-                                    .sheet = PaperKind::a4},
-                                   paper, measure);
-    ASSERT_EQ(job->pages.size(), 2U);
-    EXPECT_THAT(texts_on(*job, 0), testing::ElementsAre("750 @130 Name: Ale", "750 @1080 Name: Ale"));
-    EXPECT_THAT(texts_on(*job, 1), testing::ElementsAre("230 @130 Name: Ale"));
-}
-
-TEST(LabelSheets, WhatDoesNotFitIsDrawnSmaller) {
-    const Paper paper{
-        .sheet = {2100, 2970}, .area = {2100, 2970}, .dots_per_millimetre = 10, .is_exact = true};
-    const auto& sheet = common_label_sheets().front();
-    struct Narrow : RecordingSurface {
-        mutable int height = 16;
-        void set_font(const Font& font) override { height = font.cell_height; }
-        Extent text_extent(std::string_view text) const override {
-            return {static_cast<int>(text.size()) * height / 2, height};
-        }
-    } measure;
-    const std::vector<ReportRow> label(40, {"%s\n", {std::string(100, 'w')}});
-    const auto job = record_report({.document_name = "",
-                                    .run =
-                                        [&](PageContext& page) {
-                                            draw_label_sheets(label, {sheet, 1, 1}, page);
-                                        },
-                                    .sheet = PaperKind::a4},
-                                   paper, measure);
-    const auto texts = texts_on(*job, 0);
-    EXPECT_LT(std::stoi(texts.back()), 131 + 677 - 30);
-    std::size_t letters = 0;
-    for (const auto& text : texts)
-        letters += static_cast<std::size_t>(std::count(text.begin(), text.end(), 'w'));
-    EXPECT_EQ(letters, 4000U) << "nothing is cut";
-}
-
-TEST(LabelSheets, TheirFileKeepsWhatIsSound) {
-    const TemporaryFolder folder;
-    LabelSettings kept{{common_label_sheets()[4]}, {{"Laser", {0.5F, -1.25F}}}};
-    kept.own.front().name = "Mine";
-    ASSERT_TRUE(SaveLabelSettings(folder.path(), kept));
-    EXPECT_EQ(LoadLabelSettings(folder.path()), kept);
-    std::ofstream(folder / "WlxLabels.txt") << "sheet: too wide | A4 | 3 | 1 | 99 | 10 | 0 | 0 | 0 | 0\n"
-                                               "sheet: short | A4 | 3\nsheet: odd | A4 | -1 | nan | x\n"
-                                               "offset: Far | 1e30 | -99\noffset: none\n";
-    EXPECT_EQ(LoadLabelSettings(folder.path()), (LabelSettings{{}, {{"Far", {20, -20}}}}));
-    for (const auto& sheet : common_label_sheets()) EXPECT_TRUE(is_usable(sheet)) << sheet.name;
 }
 
 } // namespace
