@@ -12,6 +12,7 @@ constexpr double padding = 3;                                   // millimetres
 constexpr double largest_letters = 3.9, smallest_letters = 0.8; // millimetres
 constexpr double smaller = 0.93;
 constexpr std::string_view label_face = "Arial";
+constexpr Pen hairline{.colour = 0, .width = 1};
 
 // From millimetres to dots.
 class Scale {
@@ -85,16 +86,37 @@ void line(Surface& surface, Point from, Point to) {
     surface.line_to(to);
 }
 
-// Ticks every millimetre, and a number every ten.
+void draw_outlines(Surface& surface, const Scale& scale, const LabelSheet& sheet) {
+    surface.set_pen(hairline);
+    surface.set_brush(std::nullopt);
+    for (std::int32_t place = 0; place < sheet.count(); ++place) {
+        const auto [x, y] = corner(sheet, place);
+        const auto from = scale.point(x, y), to = scale.point(x + sheet.width, y + sheet.height);
+        surface.rectangle({from.x, from.y, to.x, to.y});
+    }
+}
+
+void draw_number(Surface& surface, Point at, int number) {
+    const auto text = std::to_string(number);
+    const auto [width, height] = surface.text_extent(text);
+    surface.set_pen({.colour = 0, .width = 1, .style = PenStyle::none});
+    surface.set_brush(0xFFFFFF);
+    surface.rectangle({at.x, at.y, at.x + width, at.y + height});
+    surface.set_pen(hairline);
+    surface.text(at, text);
+}
+
+// Ticks every millimetre, and a number every ten, but not where the rulers would cross. What lies below a
+// number gives way to it.
 void draw_ruler(Surface& surface, const Scale& scale, bool is_across, int length) {
-    constexpr double edge = 10; // of the ruler from the paper's edge
-    for (int at = 0; at <= length; ++at) {
+    constexpr int edge = 10, corner_end = 20; // of the ruler from the paper's edge
+    constexpr int number_room = 5;
+    for (int at = 0; at <= length; at = at + 1 == edge ? corner_end : at + 1) {
         const double end = edge + (at % 10 == 0 ? 5 : at % 5 == 0 ? 3 : 1.5);
         line(surface, is_across ? scale.point(at, edge) : scale.point(edge, at),
              is_across ? scale.point(at, end) : scale.point(end, at));
-        if (at % 10 == 0 && at > 0)
-            surface.text(is_across ? scale.point(at + 0.5, end) : scale.point(end + 0.5, at),
-                         std::to_string(at));
+        if (at % 10 == 0 && at > 0 && at + number_room <= length)
+            draw_number(surface, is_across ? scale.point(at + 0.5, end) : scale.point(end + 0.5, at), at);
     }
 }
 
@@ -129,17 +151,11 @@ void draw_ruler_page(const LabelSheet& sheet, PageContext& page) {
     const Scale scale(page);
     auto& surface = page.WholePage();
     const bool is_letter = sheet.paper == PaperKind::letter;
-    surface.set_pen({.colour = 0, .width = 1});
-    surface.set_brush(std::nullopt);
     surface.set_font({.face = label_face, .cell_height = scale.dots(2.5)});
     surface.set_text_colour(0);
+    draw_outlines(surface, scale, sheet);
     draw_ruler(surface, scale, true, is_letter ? 215 : 210);
     draw_ruler(surface, scale, false, is_letter ? 279 : 297);
-    for (std::int32_t place = 0; place < sheet.count(); ++place) {
-        const auto [x, y] = corner(sheet, place);
-        const auto from = scale.point(x, y), to = scale.point(x + sheet.width, y + sheet.height);
-        surface.rectangle({from.x, from.y, to.x, to.y});
-    }
 }
 
 } // namespace wortlex

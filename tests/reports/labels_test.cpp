@@ -71,6 +71,15 @@ TEST(LabelSheets, TheirFileKeepsWhatIsSound) {
     for (const auto& sheet : common_label_sheets()) EXPECT_TRUE(is_usable(sheet)) << sheet.name;
 }
 
+TEST(LabelSheets, NumbersOfTheRulersLieOnThePaperAndApart) {
+    RecordingSurface measure;
+    const auto& sheet = common_label_sheets().front();
+    const auto job = on_sheets([&](PageContext& page) { draw_ruler_page(sheet, page); }, measure);
+    const auto texts = texts_on(*job, 0);
+    EXPECT_THAT(texts, testing::IsSupersetOf({"150 @2005 200", "200 @155 20", "2900 @155 290"}));
+    EXPECT_EQ(texts.size(), 19U + 28U) << "20 to 200, 20 to 290";
+}
+
 TEST(LabelSheets, OwnOnesAreKeptByTheirNamesAndWithOk) {
     const TemporaryFolder folder;
     ScriptedPrompts prompts;
