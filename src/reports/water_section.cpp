@@ -6,24 +6,15 @@
 namespace wortlex {
 namespace {
 
-struct IonWords {
-    std::string_view name;
-    std::string_view symbol;
-    float WaterRecord::*ppm;
-};
-
-constexpr std::array profile_ions = {IonWords{"Calcium", "(Ca):", &WaterRecord::calcium},
-                                     IonWords{"Magnesium", "(Mg):", &WaterRecord::magnesium},
-                                     IonWords{"Sodium", "(Na):", &WaterRecord::sodium},
-                                     IonWords{"Sulfate", "(SO4):", &WaterRecord::sulfate},
-                                     IonWords{"Chloride", "(Cl):", &WaterRecord::chloride},
-                                     IonWords{"biCarbonate", "(HCO3):", &WaterRecord::bicarbonate}};
+constexpr std::array ion_names = {"Calcium", "Magnesium", "Sodium", "Sulfate", "Chloride", "biCarbonate"};
+static_assert(ion_names.size() == ions.size());
 
 // A competition form has a blank before the bracket.
-std::string ion_label(const IonWords& ion, bool is_on_form) {
+ReportRow profile_row(std::size_t ion, const WaterRecord& water, bool is_on_form) {
     constexpr std::size_t column = 19;
-    return padded_label(std::string(ion.name).append(is_on_form ? " " : "").append(ion.symbol),
-                        column + (is_on_form ? 1 : 0));
+    const auto label =
+        std::string(ion_names.at(ion)) + (is_on_form ? " (" : "(") + ions.at(ion).symbol + "):";
+    return {padded_label(label, column + (is_on_form ? 1 : 0)) + "%7.1f ppm\n", {water.*ions.at(ion).ppm}};
 }
 
 } // namespace
@@ -34,8 +25,8 @@ ReportSection water_section(const ReportSource& source) {
     ReportLines lines{{120},
                       {{"Profile:           |%s\n", {line_text(water.name)}},
                        {"Profile known for: |%s\n\n", {line_text(water.known_for)}}}};
-    for (const auto& ion : profile_ions)
-        lines.rows.push_back({ion_label(ion, is_on_form) + "%7.1f ppm\n", {water.*ion.ppm}});
+    for (std::size_t ion = 0; ion < ions.size(); ++ion)
+        lines.rows.push_back(profile_row(ion, water, is_on_form));
     lines.rows.back().format += "\n";
     if (!is_on_form) lines.rows.push_back({"pH: |%0.2f\n\n\n", {water.ph}});
     auto section = section_of("Water Profile", std::move(lines));

@@ -1,7 +1,7 @@
 // What the tests of reports share: settings to read them under, and the comparison with what was read.
 #pragma once
 
-#include "settings/system_settings.h"
+#include "support/measured_in.h"
 
 #include <gtest/gtest.h>
 
@@ -13,8 +13,7 @@ namespace wortlex {
 inline SystemSettings metric_brewery() {
     auto image = WriteDefaultSettings();
     image.system_mode = SystemMode::pro_brewer;
-    image.volume_units = image.weight_units = image.hop_weight_units = Units::metric;
-    image.temperature_units = TemperatureUnits::celsius;
+    measure_in(image, Units::metric);
     image.color_units = ColorUnits::ebc_traditional;
     image.potential_display = PotentialDisplay::plato;
     image.plato_precision = 2;
