@@ -58,6 +58,8 @@ std::string fill(const Place& place, double value) {
     const bool zeros = place.zeros && is_number;
     auto text =
         place.kind == 'd' && is_number ? std::to_string(truncate(value)) : fixed(value, place.decimals);
+    if (is_number && text.starts_with('-') && text.find_first_of("123456789") == std::string::npos)
+        text.erase(0, 1); // a zero has no sign
     if (text.size() >= place.width) return text;
     const bool after_sign = zeros && text.starts_with('-');
     text.insert(after_sign ? 1 : 0, place.width - text.size(), zeros ? '0' : ' ');

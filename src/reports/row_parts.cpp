@@ -11,6 +11,7 @@
 #include "page/text_sink.h"
 
 #include <algorithm>
+#include <limits>
 
 namespace wortlex {
 namespace {
@@ -19,6 +20,12 @@ std::string blanks(int count) {
     std::string all;
     all.resize(static_cast<std::size_t>(std::max(count, 0)), ' ');
     return all;
+}
+
+// A gravity that no wort has may be too large to be cut off, and comes out negative.
+ReportValue gravity_value(float gravity, int digits) {
+    const float cut = trunc_to_precision(gravity, digits);
+    return cut < 0 ? std::numeric_limits<double>::quiet_NaN() : double{cut};
 }
 
 } // namespace
@@ -54,8 +61,8 @@ std::string figure_place(const Figure& figure, int width, const ReportSource& so
 
 ReportValue figure_value(const Figure& figure, const ReportSource& source) {
     const double value = shown_value(figure, source_of(source.open));
-    if (figure.unit == FigureUnit::sg) return trunc_to_precision(narrow(value), 5);
-    if (figure.unit == FigureUnit::plato) return trunc_to_precision(narrow(value), 3);
+    if (figure.unit == FigureUnit::sg) return gravity_value(narrow(value), 5);
+    if (figure.unit == FigureUnit::plato) return gravity_value(narrow(value), 3);
     return value;
 }
 
@@ -80,11 +87,15 @@ ReportRow style_row(const StyleRecord& style) {
     return {"%02d-%c  |%s, %s\n\n", {style.number, letter, name, category}};
 }
 
+std::vector<ReportValue> gravity_values(float sg) {
+    return {gravity_value(sg, 5), gravity_value(sg_to_plato(sg), 3)};
+}
+
 ReportRow gravity_line(const GravityWords& words, float sg, const Settings& settings) {
     std::string format(words.label);
     format.append(sg_pattern(words.width, settings)).append(words.gap);
     format.append(words.plato).append(plato_pattern(words.plato_width, settings)).append("\n");
-    return {format, {trunc_to_precision(sg, 5), trunc_to_precision(sg_to_plato(sg), 3)}};
+    return {format, gravity_values(sg)};
 }
 
 std::string date_words(const CalendarDate& date, const Settings& settings) {

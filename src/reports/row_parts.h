@@ -44,6 +44,8 @@ struct GravityWords {
     std::string_view plato = "Plato:           |";
     int plato_width = 6;
 };
+/// SG and Plato of a line, cut off; no number where no wort has such a gravity.
+std::vector<ReportValue> gravity_values(float sg);
 ReportRow gravity_line(const GravityWords& words, float sg, const Settings& settings);
 
 /// A date by the setting; one that no calendar has in its numbers.

@@ -2,7 +2,6 @@
 #include "documents/session_figures.h"
 #include "forms/numeric_fields.h"
 #include "measures/gravity.h"
-#include "measures/rounding.h"
 #include "measures/units.h"
 #include "reports/row_parts.h"
 #include "reports/sections.h"
@@ -66,7 +65,7 @@ void add_pre_boil(std::vector<ReportRow>& rows, std::string_view what, const Pre
     rows.push_back({padded_label(std::string(what) + " Gravity:", kettle_gravity_column) +
                         sg_column(6, 3, settings) + "|SG          |" + plato_pattern(6, settings) +
                         "    |Plato\n\n",
-                    {trunc_to_precision(sg, 5), trunc_to_precision(sg_to_plato(sg), 3)}});
+                    gravity_values(sg)});
 }
 
 void add_fermented(std::vector<ReportRow>& rows, const SessionDocument& session, const Settings& settings) {

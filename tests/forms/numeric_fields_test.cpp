@@ -105,7 +105,7 @@ TEST(Show, PrintsByThePatternOfTheField) {
     EXPECT_EQ(field.content, " -5");
     // clang-format off
     for (const auto& [pattern, value, text] : {std::tuple{"%7.3f", 1.5, "  1.500"}, {"%3d", 7.9, "  7"},
-         {"%02d", 5.0, "05"}, {"%06.1f", -2.25, "-002.2"}, {"%0.0f%%", 75.0, "75%"},
+         {"%02d", 5.0, "05"}, {"%06.1f", -2.25, "-002.2"}, {"%5.1f", -0.04, "  0.0"}, {"%0.0f%%", 75.0, "75%"},
          {"at %0.1f F", 68.0, "at 68.0 F"}, {"%6.1f", NAN, "    --"}, {"%03d", NAN, " --"},
          {"%0.2f", INFINITY, "--"}})
         // clang-format on
