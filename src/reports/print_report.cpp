@@ -81,10 +81,11 @@ std::vector<PageColumn> columns_of(const ReportTable& table) {
 void write(const ReportTable& table, int lines_below, PageContext& page) {
     const auto columns = columns_of(table);
     write_titles(table, page);
-    for (const auto& row : table.rows) {
-        page.KeepTogether(&row == &table.rows.back() ? 1 + lines_below : 1);
+    for (std::size_t i = 0; i < table.rows.size(); ++i) {
+        const auto left = static_cast<int>(table.rows.size() - i);
+        page.KeepTogether(left > 2 ? 1 : left + lines_below); // the last one does not stand alone
         if (page.y() == 0) write_titles(table, page);
-        page.TableLine(columns, print_cells(row));
+        page.TableLine(columns, print_cells(table.rows[i]));
     }
 }
 
@@ -100,13 +101,13 @@ bool ends_blank(const ReportSection& section) {
 
 // Keeps the whole of a short block, or the start of a long one, on one page with what stands above it.
 void keep_together(const ReportBlock& block, int lines_above, PageContext& page) {
-    constexpr int most = 12, title_and_row = 3;
+    constexpr int most = 12, titles_and_rows = 4;
     if (const auto* text = std::get_if<ReportText>(&block)) {
         if (!text->text().empty()) page.KeepParagraph(text->text());
         return;
     }
     const auto* lines = std::get_if<ReportLines>(&block);
-    int count = lines == nullptr ? title_and_row : 0;
+    int count = lines == nullptr ? titles_and_rows : 0;
     if (lines != nullptr) {
         for (const auto& row : lines->rows) count += lines_of(row);
     }

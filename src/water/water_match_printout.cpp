@@ -45,6 +45,7 @@ void print_waters(PageContext& page, const WaterAnalysis& analysis) {
 }
 
 void print_salts(PageContext& page, const WaterAnalysis& analysis) {
+    page.KeepTogether(3 + static_cast<int>(salt_words.size()));
     page.TabbedLine(salt_stops, "\tGrams");
     page.TabbedLine(salt_stops, "Additions\tPer Gal\tCa\tMg\tNa\tSO4\tCl\tCarb");
     const auto line = [&page](const char* head, double rate, const WaterRecord& added) {

@@ -155,7 +155,7 @@ void print_water_adjustment(PageContext& page, const WaterAnalysis& analysis, co
     const char* const unit = analysis.unit == SaltUnit::grams ? "\tGrams of " : "\tOunces of ";
     for (const auto& volume : volumes) {
         const bool is_mash = &volume == volumes.data();
-        if (!is_mash) page.NewLines(2);
+        if (!is_mash && !page.KeepTogether(5 + static_cast<int>(salt_effects.size()))) page.NewLines(2);
         page.Line(adjusted(volume.caption, analysis, volume, settings));
         page.NewLines(2);
         for (std::size_t i = 0; i < salt_effects.size(); ++i) {

@@ -225,6 +225,24 @@ TEST(Print, leaves_no_heading_alone_on_a_sheet) {
     }
 }
 
+TEST(Print, leaves_no_row_alone_on_a_sheet) {
+    for (int rows = 2; rows < 90; ++rows) {
+        DocumentReport report;
+        ReportTable table{{{"One\nTwo", 0, 0, 90}}, {}};
+        table.rows.assign(static_cast<std::size_t>(rows), {"row\n", {}});
+        report.sections = {section_of("Steps", std::move(table))};
+        RecordingSurface measure;
+        measure.character = {8, 10};
+        const auto job = record_report({"", 1, [&](PageContext& page) { write_print(report, page); }},
+                                       plain_paper(), measure);
+        const auto last = texts_on(*job, job->pages.size() - 1);
+        EXPECT_GE(
+            std::count_if(last.begin(), last.end(), [](const auto& text) { return text.ends_with("row"); }),
+            2)
+            << rows;
+    }
+}
+
 TEST(Notes, end_their_lines_alike_whatever_they_came_with) {
     EXPECT_EQ(ReportText("a\nb\rc\r\n\n\rd").text(), "a\r\nb\r\nc\r\n\r\n\r\nd");
 }
