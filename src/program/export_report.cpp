@@ -84,6 +84,20 @@ std::string file_stem(const Program& program) {
     return std::filesystem::path(program.document.file.path).stem().string();
 }
 
+std::string proposed_name(const Program& program, ReportOutput output) {
+    const auto title = line_text(program.document.recipe.title);
+    return program.document.kind == DocumentKind::session
+               ? session_file_name(title, program.document.session, output, program.settings)
+               : recipe_file_name(title, output);
+}
+
+// A report of a document that was saved goes by its file.
+std::string pages_name(const Program& program, ReportOutput output) {
+    const auto stem = file_stem(program);
+    if (output == ReportOutput::report && !stem.empty()) return stem;
+    return std::filesystem::path(proposed_file(proposed_name(program, output), "pdf")).stem().string();
+}
+
 PrintRequest label_sheets_of(const Exported& exported, const LabelRun& run, const LabelSettings& settings) {
     return {.document_name = "",
             .run = [label = label_rows(exported.source, exported.entry),
@@ -117,15 +131,8 @@ void print(const WindowPorts& ports, const Exported& exported) {
     auto request = pages_of(exported, program);
     request.document_name =
         title.empty() ? std::string(document_traits(program.document.kind).printed_name) : title;
-    request.file_name = file_stem(program);
+    request.file_name = pages_name(program, exported.output);
     ports.pages.show(request);
-}
-
-std::string proposed_name(const Program& program, ReportOutput output) {
-    const auto title = line_text(program.document.recipe.title);
-    return program.document.kind == DocumentKind::session
-               ? session_file_name(title, program.document.session, output, program.settings)
-               : recipe_file_name(title, output);
 }
 
 // Where a report goes, asked before anything is made; nothing if the user stops there.

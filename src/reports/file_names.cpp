@@ -48,7 +48,7 @@ std::string html_file_name(std::string name) {
 
 std::string proposed_file(std::string name, std::string_view extension) {
     constexpr std::size_t longest = 255; // bytes
-    name = first_bytes(tame_file_name(std::move(name), "/\\"), longest - extension.size() - 1);
+    name = first_bytes(tame_file_name(std::move(name), "/\\\""), longest - extension.size() - 1);
     return name.empty() ? name : name.append(".").append(extension);
 }
 

@@ -23,7 +23,8 @@ std::string session_file_name(std::string_view title, const SessionDocument& ses
 /// The same for a page of HTML: what an address had better not hold becomes "_".
 std::string html_file_name(std::string name);
 
-/// A name with its ending, that every file system takes: no folder in it, and no longer than it may be.
+/// A name with its ending, that every file system and its dialog take: no folder in it, no quotes, and no
+/// longer than it may be.
 std::string proposed_file(std::string name, std::string_view extension);
 
 } // namespace wortlex

@@ -219,7 +219,8 @@ struct Exports : Kitchen {
     std::vector<std::string> send(ReportForm form, std::deque<std::optional<std::string>> paths = {}) {
         set_report_form(program.recipe_print, form);
         ScriptedFiles files(std::move(paths));
-        export_document({program, prompts, files, pages, clipboard, easel, pictures}, {}, nullptr);
+        export_document({program, prompts, files, pages, clipboard, easel, pictures}, {},
+                        [](ReportOutput, ReportForm) { return true; });
         return files.offers;
     }
     static std::string content(const std::string& path) {
@@ -245,6 +246,12 @@ TEST(ExportReport, ReachesPaperFilesAndClipboard) {
     ASSERT_EQ(exports.pages.jobs.size(), 1U);
     EXPECT_EQ(exports.pages.scales, std::vector{exports.program.settings.printer_scale});
     EXPECT_EQ(exports.send(ReportForm::text_file, {std::nullopt}).size(), 1U) << "left: nothing is written";
+    exports.program.document.file.path = "a/Saved.rec";
+    exports.send(ReportForm::print);
+    exports.program.recipe_print[PrintSection::competition_form] = 1;
+    exports.send(ReportForm::print);
+    EXPECT_EQ(exports.pages.file_names,
+              (std::vector<std::string>{"What is it? 1_2", "Saved", "Comp_What is it? 1_2"}));
 }
 
 TEST(ExportReport, ThePictureOfTheMashStandsBesideItsPage) {

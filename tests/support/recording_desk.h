@@ -39,6 +39,7 @@ inline std::vector<std::string> texts_on(const PageJob& job, std::size_t page) {
 struct RecordingPageDesk : PageDesk {
     std::vector<PageJob> jobs;
     std::vector<float> scales;
+    std::vector<std::string> file_names; ///< proposed
     Extent character{8, 10};
 
     void show(const PrintRequest& request) override {
@@ -48,6 +49,7 @@ struct RecordingPageDesk : PageDesk {
         if (!job) throw std::logic_error("nothing can be printed on plain paper");
         jobs.push_back(std::move(*job));
         scales.push_back(request.printer_scale);
+        file_names.push_back(request.file_name);
     }
 };
 
