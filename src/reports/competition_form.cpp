@@ -97,7 +97,9 @@ DocumentReport competition_report(const ReportSource& source, const CompetitionE
     const auto entry_line = competition.empty() ? "" : competition + " - Entry Form";
     auto form_source = source;
     form_source.is_competition_form = true;
-    DocumentReport report{text_head(competition), std::string(form_title), entry_line,
+    const std::string title(form_title);
+    DocumentReport report{text_head(competition), competition.empty() ? title : entry_line,
+                          competition.empty() ? "" : title,
                           "A Wortlex Competition Form" + (beer.empty() ? "" : " - " + beer)};
     report.html_subtitle = entry_line;
     auto& sections = report.sections;
@@ -110,7 +112,7 @@ DocumentReport competition_report(const ReportSource& source, const CompetitionE
     std::move(shared.begin(), shared.end(), std::back_inserter(sections));
     if (!competition.empty())
         sections.push_back(
-            section_of("", ReportLines{{}, {{"A Wortlex Generated Competition Form.\n", {}}}}));
+            section_of("", ReportLines{{}, {{"\nA Wortlex Generated Competition Form.\n", {}}}}));
     return report;
 }
 

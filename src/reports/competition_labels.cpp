@@ -12,11 +12,16 @@ constexpr std::size_t cut_line = 73;
 constexpr int label_tab = 120;
 constexpr std::array html_widths = {100, 320};
 
+bool is_chosen(const StyleRecord& style) {
+    return style.number != 0 || !style.name.empty() || !style.category.empty();
+}
+
 // In print the label of a session's style has a blank before its tab.
 ReportRow guideline_row(const ReportSource& source) {
     const auto& style = source.open.document.style;
-    auto row = style_row(style);
     const std::string label = style.book == 0 ? "AHA Style:" : "BJCP Style:";
+    if (!is_chosen(style)) return {label + " |\n\n", {}};
+    auto row = style_row(style);
     const std::string number = style.letter == '\0' ? "%02d" : "%02d-%c";
     row.format = label + " |" + number + " %s, %s\n\n";
     row.print_format = label + (source.open.session == nullptr ? "|" : " |") + number + "  %s, %s";
@@ -58,10 +63,10 @@ std::vector<ReportRow> label_rows(const ReportSource& source, const CompetitionE
                                   bool keeps_empty) {
     const auto style = line_text(entry.texts.style), beer = line_text(source.open.document.title);
     std::vector<ReportRow> rows;
-    if (style.empty()) {
-        rows.push_back(guideline_row(source));
-    } else {
+    if (!style.empty()) {
         rows.push_back({"Competition Style: |%s\n\n", {style}});
+    } else if (keeps_empty || is_chosen(source.open.document.style)) {
+        rows.push_back(guideline_row(source));
     }
     if (keeps_empty || !beer.empty()) rows.push_back({"Recipe Name:  |%s\n\n", {beer}});
     rows.push_back({"Submitted By:\n\n", {}});

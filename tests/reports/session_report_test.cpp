@@ -2,6 +2,7 @@
 
 #include "report_forms.h"
 #include "reports/file_names.h"
+#include "support/recording_desk.h"
 
 #include <gmock/gmock.h>
 
@@ -75,6 +76,31 @@ TEST(Competition, LeavesOutWhatIsNotTold) {
     EXPECT_THAT(form, HasSubstr("Qts Water Per Lbs Grain: 1.26\n"));
     EXPECT_THAT(form, testing::AllOf(Not(HasSubstr("Bottling")), Not(HasSubstr("Generated"))));
     EXPECT_THAT(plain_lines(session.label_text()), Not(HasSubstr("AHA Style")));
+    session.texts.style.assign("");
+    session.document.style = {};
+    EXPECT_THAT(plain_lines(session.label_text()), HasSubstr("---\n\nRecipe Name:"));
+    EXPECT_THAT(plain_lines(session.form_text()), HasSubstr("AHA Style\n--------------\n00  , \n\n"));
+}
+
+TEST(Competition, APrintedFormBeginsAsItsText) {
+    ReportedSession session(WriteDefaultSettings());
+    const auto first_lines = [&] {
+        const auto opened = session.recalculated();
+        const auto report = competition_report(session.source(opened), session.entry(), session.wanted);
+        const auto lines = printed_lines({"", 1, [&](PageContext& page) { write_print(report, page); }});
+        return std::vector(lines.begin(), lines.begin() + 3);
+    };
+    EXPECT_THAT(first_lines(), testing::ElementsAre("Wortlex Competition Form Printout", HasSubstr("Page 1"),
+                                                    "Submitted By:"));
+    session.texts.name.assign("Spring Cup");
+    EXPECT_THAT(first_lines(), testing::ElementsAre("Spring Cup - Entry Form", HasSubstr("Page 1"),
+                                                    HasSubstr("Wortlex Competition Form Printout")));
+}
+
+TEST(SessionReport, AGravityThatNoWortHasHasNoPlato) {
+    ReportedSession session(WriteDefaultSettings());
+    session.session.actual_og = 100;
+    EXPECT_THAT(session.text(), HasSubstr("Actual OG:  100.000   Plato:               --\r\n"));
 }
 
 TEST(FileNames, OfSessionsHoldTheDayThatThereWas) {
@@ -92,7 +118,7 @@ TEST(FileNames, OfSessionsHoldTheDayThatThereWas) {
     EXPECT_EQ(name("Ale", ReportOutput::competition_labels), "CompL_Ale_05-Mar-2001");
     session.brew_month = 13;
     EXPECT_EQ(name("Ale", ReportOutput::report), "Ale");
-    EXPECT_EQ(proposed_file("a/b", "txt"), "a_b.txt");
+    EXPECT_EQ(proposed_file("a/\"b\"", "txt"), "a__b_.txt");
     std::string umlauts;
     for (int i = 0; i < 200; ++i) umlauts += "\u00E4";
     EXPECT_EQ(proposed_file(umlauts, "txt").size(), 254U) << "no half character";
