@@ -74,6 +74,8 @@ double PagedPrinter::scale() const {
 
 bool PagedPrinter::begin(std::string_view /*document_name*/) {
     if (!painter_.begin(&device_)) return false;
+    painter_.setPen(
+        Qt::NoPen); // of the pen that a painter begins with, the device of a PDF file does not know
     painter_.scale(scale(), scale());
     painter_.translate(shift_.across * paper_.dots_per_millimetre, shift_.down * paper_.dots_per_millimetre);
     return true;

@@ -92,7 +92,7 @@ void draw_outlines(Surface& surface, const Scale& scale, const LabelSheet& sheet
     for (std::int32_t place = 0; place < sheet.count(); ++place) {
         const auto [x, y] = corner(sheet, place);
         const auto from = scale.point(x, y), to = scale.point(x + sheet.width, y + sheet.height);
-        surface.rectangle({from.x, from.y, to.x, to.y});
+        surface.rectangle({from.x, from.y, to.x + 1, to.y + 1});
     }
 }
 
