@@ -83,7 +83,7 @@ void storage_rows(Rows& rows, HopRecord& hop) {
     rows.choice("storage",
                 {[&hop] { return static_cast<std::int32_t>(storage_class(hop)); },
                  [&hop](std::int32_t code) { choose_storage(hop, code); }},
-                {"&Good", "A&verage", "Poo&r"})
+                {"Goo&d", "A&verage", "Poo&r"})
         .codes({1, 2, 3})
         .label("Storage:");
     rows.number("storage_factor", hop.storage_factor)

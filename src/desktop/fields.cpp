@@ -53,6 +53,25 @@ private:
     QLabel& label_;
 };
 
+// A toolkit's button first moves for a while when its letter is pressed, and counts then.
+class PromptLetter : public QObject {
+public:
+    explicit PromptLetter(QAbstractButton& button) : QObject(&button), button_(button) {
+        button.installEventFilter(this);
+    }
+
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        const auto* const letter = dynamic_cast<QShortcutEvent*>(event);
+        if (letter == nullptr || letter->isAmbiguous()) return QObject::eventFilter(watched, event);
+        button_.setFocus(Qt::ShortcutFocusReason);
+        button_.click();
+        return true;
+    }
+
+private:
+    QAbstractButton& button_;
+};
+
 QSize few_lines(const QPlainTextEdit& page) {
     constexpr int lines = 3, digits = 26;
     const auto metrics = page.fontMetrics();
@@ -122,6 +141,10 @@ void ArrowField::wheelEvent(QWheelEvent* event) {
 
 void select_on_focus(QLineEdit& edit) {
     new FocusSelector(edit); // the field owns it
+}
+
+void choose_at_once(QAbstractButton& button) {
+    new PromptLetter(button); // the button owns it
 }
 
 void make_buddies(QLabel& label, QWidget& field) {

@@ -3,6 +3,7 @@
 
 #include "forms/numeric_fields.h"
 
+#include <QAbstractButton>
 #include <QAbstractSpinBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -64,6 +65,9 @@ protected:
 
 /// The text is selected whole as the field is entered, however it is entered.
 void select_on_focus(QLineEdit& edit);
+
+/// A choice by its letter counts before the next key does: Enter may close the dialog.
+void choose_at_once(QAbstractButton& button);
 
 /// The label's mnemonic leads to the field and selects its text, also where the field has the focus already.
 void make_buddies(QLabel& label, QWidget& field);

@@ -191,6 +191,19 @@ QLayout* lay_out(const Form& form, const FormWidgets& widgets, QDialogButtonBox*
     return columns;
 }
 
+QHBoxLayout* button_line(const FormWidgets& widgets, std::initializer_list<const char*> left,
+                         std::initializer_list<const char*> right) {
+    auto* const line = new QHBoxLayout;
+    const auto add = [&](std::initializer_list<const char*> keys) {
+        for (const auto* const key : keys)
+            if (widgets.form().has(key)) line->addWidget(&widgets.field(key));
+    };
+    add(left);
+    line->addStretch();
+    add(right);
+    return line;
+}
+
 void lay_out_beside_ok(const Form& form, const FormWidgets& widgets, QDialogButtonBox& beside_ok) {
     form.for_each([&](Row& row) {
         if (dynamic_cast<ButtonRow*>(&row) != nullptr && stands_beside_ok(row))

@@ -375,6 +375,7 @@ void FormWidgets::make_buttons(ChoiceRow& row) {
     for (std::size_t option = 0; option < row.words.size(); ++option) {
         auto* const button = new QRadioButton(frame);
         button->setObjectName(string_of(row.key + '_' + std::to_string(option)));
+        choose_at_once(*button);
         buttons->addButton(button, static_cast<int>(option));
         layout->addWidget(button);
     }
@@ -404,6 +405,7 @@ void FormWidgets::make_buttons(ChoiceRow& row) {
 
 void FormWidgets::visit(CheckRow& row) {
     auto* const box = new QCheckBox(&parent_);
+    choose_at_once(*box);
     keep(row, *box, [&row, box] {
         box->setText(string_of(row.label_text()));
         box->setChecked(row.checked.get());

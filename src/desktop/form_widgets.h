@@ -110,6 +110,10 @@ void add_field(QGridLayout& grid, const FormWidgets& widgets, std::string_view k
 /// join those of `beside_ok`, where there is one.
 QLayout* lay_out(const Form& form, const FormWidgets& widgets, QDialogButtonBox* beside_ok = nullptr);
 
+/// Buttons at both ends of a line; those that the form has not are left out.
+QHBoxLayout* button_line(const FormWidgets& widgets, std::initializer_list<const char*> left,
+                         std::initializer_list<const char*> right);
+
 /// These buttons alone, of a form that is laid out by hand.
 void lay_out_beside_ok(const Form& form, const FormWidgets& widgets, QDialogButtonBox& beside_ok);
 

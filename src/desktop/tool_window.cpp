@@ -1,11 +1,13 @@
 #include "desktop/tool_window.h"
 
+#include "desktop/captions.h"
 #include "desktop/qt_text.h"
 
 #include <QApplication>
 #include <QCloseEvent>
 #include <QDialog>
 #include <QFocusEvent>
+#include <QShortcut>
 
 #include <algorithm>
 #include <utility>
@@ -51,6 +53,19 @@ void ToolWindow::setVisible(bool visible) {
     if (!visible || focusWidget() == nullptr) return;
     QFocusEvent entered(QEvent::FocusIn, Qt::TabFocusReason); // as a dialog does: a field selects its text
     QApplication::sendEvent(focusWidget(), &entered);
+}
+
+void ToolWindow::close_by_escape() {
+    connect(new QShortcut(QKeySequence::Cancel, this), &QShortcut::activated, this, &QWidget::close);
+}
+
+QPushButton* ToolWindow::closing_ok(const QString& caption, const QString& meaning) {
+    auto* const ok = new QPushButton(caption, this);
+    ok->setObjectName(QStringLiteral("ok"));
+    set_tip(*ok, meaning);
+    add_key(*ok, QKeySequence::Cancel);
+    connect(ok, &QPushButton::clicked, this, &QWidget::close);
+    return ok;
 }
 
 void ToolWindow::closeEvent(QCloseEvent* event) {

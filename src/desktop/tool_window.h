@@ -3,7 +3,7 @@
 
 #include "desktop/placement.h"
 
-#include <QWidget>
+#include <QPushButton>
 
 #include <functional>
 
@@ -56,6 +56,10 @@ protected:
     /// Whether nothing stands against closing; asks the user where there is unsaved work.
     virtual bool may_close() { return true; }
     void closeEvent(QCloseEvent* event) override;
+
+    void close_by_escape();
+    /// An OK that closes, as Esc does.
+    QPushButton* closing_ok(const QString& caption, const QString& meaning = {});
 
 private:
     WindowPlace& place_;

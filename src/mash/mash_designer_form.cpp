@@ -37,8 +37,8 @@ void free_amounts(Rows& rows, MashDesigner& designer) {
         rows, "dough_in", designer, [&] { return quarts_to_shown(design.dough_in_water, settings); },
         [&](float shown) { design.dough_in_water = shown_to_quarts(shown, settings); })
         .label([&] {
-            if (!is_american(settings.volume_units)) return "Dou&gh In Mash Liters";
-            return is_pro(settings) ? "Dou&gh In Mash Gal" : "Dou&gh In Mash QTS";
+            if (!is_american(settings.volume_units)) return "Dough In Ma&sh Liters";
+            return is_pro(settings) ? "Dough In Ma&sh Gal" : "Dough In Ma&sh QTS";
         })
         .range(1.0F, most_amount)
         .step(0.5F)
@@ -62,7 +62,11 @@ void document_amounts(Rows& rows, MashDesigner& designer) {
         rows, "volume", designer,
         [&] { return to_shown_volume(narrow(design.dough_in_water / 4.0), settings); },
         [&](float shown) { set_dough_in(designer, narrow(from_shown_volume(shown, settings) * 4.0)); })
-        .label([side, &settings] { return mash_volume_label(side, settings); })
+        .label([side, &settings] {
+            std::string label = mash_volume_label(side, settings);
+            std::erase(label, '&'); // buttons have the letters here
+            return label;
+        })
         .range(0.0F, most_amount)
         .step(0.25F);
 }
@@ -153,10 +157,10 @@ void name_row(Rows& rows, MashDesigner& designer) {
 
 void button_rows(Rows& rows, const MashDesigner& designer, DesignerActions actions) {
     rows.button("load", "&Load", std::move(actions.load));
-    rows.button("save", "&Save", std::move(actions.save));
+    rows.button("save", "Sa&ve", std::move(actions.save));
     if (!designer.owner.is_free())
-        rows.button("revert", "Re&vert To Simple Schedule", std::move(actions.revert));
-    rows.button("graph", "Graph", std::move(actions.graph));
+        rows.button("revert", "Revert To &Simple Schedule", std::move(actions.revert));
+    rows.button("graph", "&Graph", std::move(actions.graph));
     rows.button("print", "Print", std::move(actions.print));
     rows.button("help", "Help", std::move(actions.help));
 }

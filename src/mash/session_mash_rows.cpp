@@ -38,7 +38,7 @@ IntegerRow& whole_degrees_row(Rows& rows, const std::string& key, std::int32_t& 
 }
 
 void heat_row(Rows& rows, SessionMash& session) {
-    rows.choice("heat_type", session.infusions.heat_type, {"&Direct", "In&fusion"}).named("Heat of the mash");
+    rows.choice("heat_type", session.infusions.heat_type, {"&Direct", "I&nfusion"}).named("Heat of the mash");
 }
 
 void add_infusion_captions(std::vector<Live<std::string>>& captions, const Settings& settings) {
@@ -81,24 +81,22 @@ void wort_rows(Rows& rows, SessionMash& session, std::function<void()> correct_g
         .range(3.0F, 10.0F)
         .step(0.05F)
         .format("%4.2f")
-        .outside(Outside::hold);
+        .outside(Outside::clamp);
     auto& runnings = session.runnings;
     auto& line = rows.grid("runnings", {"SG", "Plato"}).line("Runnings Stopped At:");
-    line.number("runnings_sg",
-                {[&runnings] { return runnings.sg; }, [&runnings](float sg) { runnings = of_sg(sg); }})
-        .range(1.0F, 2.0F)
-        .step(0.001F)
-        .format("%0.6f")
-        .outside(Outside::hold);
-    line.number("runnings_plato", {[&runnings] { return runnings.plato; },
-                                   [&runnings](float plato) { runnings = of_plato(plato); }})
-        .range(1.0F, 100.0F)
-        .step(0.1F)
-        .format("%0.6f")
-        .outside(Outside::hold);
+    const auto scale = [&](const char* key, float TwinGravity::*part,
+                           TwinGravity (*both)(float)) -> NumberRow& {
+        return line
+            .number(key, {[&runnings, part] { return runnings.*part; },
+                          [&runnings, both](float typed) { runnings = both(typed); }})
+            .format("%0.6f")
+            .outside(Outside::clamp);
+    };
+    scale("runnings_sg", &TwinGravity::sg, of_sg).range(1.0F, 2.0F).step(0.001F);
+    scale("runnings_plato", &TwinGravity::plato, of_plato).range(1.0F, 100.0F).step(0.1F);
     rows.button("correct_gravity", "H&ydro Calc", std::move(correct_gravity))
         .hint("Corrects a hydrometer reading for its temperature");
-    rows.button("measure_runnings", "R&efractometer", std::move(measure_runnings))
+    rows.button("measure_runnings", "Re&fractometer", std::move(measure_runnings))
         .hint("Takes the gravity from a refractometer");
 }
 

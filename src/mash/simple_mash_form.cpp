@@ -93,7 +93,7 @@ void rest_rows(Rows& rows, SimpleMashWork& work, const Settings& settings, MashS
     auto& infusions = work.session.infusions;
     if (is_session)
         rests.add("dough_in", "D&ough In", mash.dough_in)
-            .button("calculate_strike", "Calc Dough I&n Temperature", std::move(calculate_strike));
+            .button("calculate_strike", "Calc Dough In T&emperature", std::move(calculate_strike));
     rests.add_of_multi_step("acid", "&Acid Rest", mash.acid);
     infused(rests.add_of_multi_step("protein", "&Protein Rest", mash.protein), "protein",
             InfusedRest::protein, infusions.protein);

@@ -7,7 +7,6 @@
 #include <QCloseEvent>
 #include <QDialogButtonBox>
 #include <QPushButton>
-#include <QShortcut>
 #include <QVBoxLayout>
 
 namespace wortlex {
@@ -57,7 +56,7 @@ CalculatorWindow::CalculatorWindow(const WindowPorts& ports, const WindowInfo& i
     finish_tables(form_, widgets_);
     add_buttons(buttons);
     if (auto* const first = widgets_.first_field()) first->setFocus();
-    connect(new QShortcut(QKeySequence::Cancel, this), &QShortcut::activated, this, &QWidget::close);
+    close_by_escape();
 }
 
 void CalculatorWindow::add_buttons(Buttons buttons) {

@@ -1,7 +1,6 @@
 #include "windows/calculators/color_swatch_window.h"
 
 #include <QGridLayout>
-#include <QShortcut>
 
 namespace wortlex {
 namespace {
@@ -25,7 +24,7 @@ ColorSwatchWindow::ColorSwatchWindow(Program& program, Opener opener, QWidget* o
     lay_out_rows();
     set_swatch(swatch_, srm_);
     widgets_.refresh();
-    connect(new QShortcut(QKeySequence::Cancel, this), &QShortcut::activated, this, &QWidget::close);
+    close_by_escape();
 }
 
 void ColorSwatchWindow::follow(Change change) {

@@ -7,7 +7,6 @@
 
 #include <QDialogButtonBox>
 #include <QGridLayout>
-#include <QShortcut>
 
 namespace wortlex {
 namespace {
@@ -41,7 +40,7 @@ DateCalculatorWindow::DateCalculatorWindow(const WindowPorts& ports, const Windo
     connect(buttons, &QDialogButtonBox::accepted, this, &QWidget::close);
     result->addWidget(buttons);
     grid->addLayout(result, 2, 0, 1, 2);
-    connect(new QShortcut(QKeySequence::Cancel, this), &QShortcut::activated, this, &QWidget::close);
+    close_by_escape();
     start_->setFocus();
     widgets_.refresh();
 }

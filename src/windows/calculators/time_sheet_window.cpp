@@ -6,7 +6,6 @@
 #include "program/program.h"
 
 #include <QLineEdit>
-#include <QShortcut>
 #include <QVBoxLayout>
 
 namespace wortlex {
@@ -23,7 +22,7 @@ TimeSheetWindow::TimeSheetWindow(const WindowPorts& ports, const WindowInfo& inf
       form_(made_form()), widgets_(form_, places(ports.program), *this) {
     lay_out_rows();
     press_by_key(widgets_.field("lines"), QKeySequence::Delete, widgets_.field("erase"));
-    connect(new QShortcut(QKeySequence::Cancel, this), &QShortcut::activated, this, &QWidget::close);
+    close_by_escape();
     connect(&ticks_, &QTimer::timeout, this, [this] {
         if (!sheet_.is_running()) return;
         sheet_.tick();

@@ -66,6 +66,15 @@ DocumentDesignerWindow::DocumentDesignerWindow(const WindowPorts& ports, RecipeE
     connect(cancel, &QPushButton::clicked, this, &QWidget::close);
 }
 
+QPushButton* DocumentDesignerWindow::end_button(const char* name, const QString& caption,
+                                                const QString& meaning) {
+    auto* const button = new QPushButton(caption, this);
+    button->setObjectName(QLatin1String(name));
+    set_tip(*button, meaning);
+    buttons().addWidget(button);
+    return button;
+}
+
 void DocumentDesignerWindow::add_wort(Form& form) {
     auto* const session = editor_.open.session;
     if (session == nullptr) return;

@@ -38,6 +38,7 @@ protected:
     QWidget* added_part() override;
 
 private:
+    QPushButton* end_button(const char* name, const QString& caption, const QString& meaning);
     void add_wort(Form& form);
     void take_wort();
     void follow_document();

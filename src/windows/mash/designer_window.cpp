@@ -1,6 +1,5 @@
 #include "windows/mash/designer_window.h"
 
-#include "desktop/captions.h"
 #include "desktop/form_dialog.h"
 #include "desktop/list_keys.h"
 #include "desktop/qt_text.h"
@@ -13,7 +12,6 @@
 #include <QFocusEvent>
 #include <QGroupBox>
 #include <QKeyEvent>
-#include <QShortcut>
 
 #include <utility>
 
@@ -42,11 +40,11 @@ void DesignerWindow::begin(const std::function<void(Form& form)>& add, std::func
     auto& steps = widgets_->field("steps");
     press_by_key(steps, Qt::Key_Insert, widgets_->field("new_step"));
     press_by_key(steps, QKeySequence::Delete, widgets_->field("delete_step"));
-    press_in_window(QKeySequence::Open, "load");
-    press_in_window(QKeySequence::Print, "print");
+    press_in_window(*this, QKeySequence::Open, widgets_->field("load"));
+    press_in_window(*this, QKeySequence::Print, widgets_->field("print"));
     add_undo_keys(
         *this, [this] { travel(Travel::undo); }, [this] { travel(Travel::redo); });
-    connect(new QShortcut(QKeySequence::Cancel, this), &QShortcut::activated, this, &QWidget::close);
+    close_by_escape();
     new WindowUndo(*this);
     (form_.row("delete_step").is_enabled() ? steps : widgets_->field("new_step")).setFocus();
 }
@@ -99,9 +97,10 @@ void DesignerWindow::lay_out_rows() {
     auto* const work = new QVBoxLayout;
     work->addLayout(upper, 1);
     work->addWidget(box_around(mash_part(), tr("Mash")));
+    buttons_ = button_line(*widgets_, {"load", "save", "revert"}, {"graph", "print", "help"});
     auto* const layout = new QVBoxLayout(this);
     layout->addWidget(new Scrolled(work, this), 1);
-    layout->addLayout(button_part());
+    layout->addLayout(buttons_);
 }
 
 QLayout* DesignerWindow::list_part() {
@@ -153,29 +152,6 @@ QLayout* DesignerWindow::mash_part() {
     if (form_.has("units_note")) grid->addWidget(&widgets_->field("units_note"), last + 1, 0, 1, 6);
     grid->setColumnStretch(5, 1);
     return grid;
-}
-
-QLayout* DesignerWindow::button_part() {
-    buttons_ = new QHBoxLayout;
-    for (const auto* const key : {"load", "save"}) buttons_->addWidget(&widgets_->field(key));
-    if (form_.has("revert")) buttons_->addWidget(&widgets_->field("revert"));
-    buttons_->addStretch();
-    for (const auto* const key : {"graph", "print", "help"}) buttons_->addWidget(&widgets_->field(key));
-    return buttons_;
-}
-
-QPushButton* DesignerWindow::end_button(const char* name, const QString& caption, const QString& meaning) {
-    auto* const button = new QPushButton(caption, this);
-    button->setObjectName(QLatin1String(name));
-    set_tip(*button, meaning);
-    buttons_->addWidget(button);
-    return button;
-}
-
-void DesignerWindow::press_in_window(QKeySequence::StandardKey key, std::string_view button) {
-    auto* const pressed = qobject_cast<QPushButton*>(&widgets_->field(button));
-    add_key(*pressed, key);
-    connect(new QShortcut(key, this), &QShortcut::activated, pressed, &QPushButton::click);
 }
 
 bool DesignerWindow::can_travel(Travel travel) const {

@@ -37,9 +37,6 @@ protected:
     FormWidgets& widgets() { return *widgets_; }
     Form& form() { return form_; }
     QHBoxLayout& buttons() { return *buttons_; }
-    /// A button at the end of the window's.
-    QPushButton* end_button(const char* name, const QString& caption, const QString& meaning);
-    void press_in_window(QKeySequence::StandardKey key, std::string_view button);
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
@@ -50,7 +47,6 @@ private:
     QLayout* list_part();
     QLayout* step_part();
     QLayout* mash_part();
-    QLayout* button_part();
 
     WindowPorts ports_;
     MashDesigner designer_;

@@ -10,7 +10,6 @@
 
 #include <QDialogButtonBox>
 #include <QGridLayout>
-#include <QShortcut>
 #include <QVBoxLayout>
 
 #include <utility>
@@ -37,7 +36,7 @@ public:
         layout->addLayout(options_part());
         layout->addWidget(buttons);
         connect(buttons, &QDialogButtonBox::accepted, this, &QWidget::close);
-        connect(new QShortcut(QKeySequence::Cancel, this), &QShortcut::activated, this, &QWidget::close);
+        close_by_escape();
         widgets_.field("minute_grid").setFocus();
     }
 

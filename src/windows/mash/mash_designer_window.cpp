@@ -1,6 +1,6 @@
 #include "windows/mash/mash_designer_window.h"
 
-#include "desktop/captions.h"
+#include "desktop/list_keys.h"
 #include "mash/mash_designer_printout.h"
 #include "program/program.h"
 
@@ -12,10 +12,8 @@ MashDesignerWindow::MashDesignerWindow(const WindowPorts& ports, const WindowInf
         board.tell(Change::mash);
     };
     begin(nullptr, nullptr);
-    press_in_window(QKeySequence::Save, "save");
-    auto* const ok = end_button("ok", tr("&OK"), tr("Closes the designer, after asking for unsaved changes"));
-    add_key(*ok, QKeySequence::Cancel);
-    connect(ok, &QPushButton::clicked, this, &QWidget::close);
+    press_in_window(*this, QKeySequence::Save, widgets().field("save"));
+    buttons().addWidget(closing_ok(tr("&OK"), tr("Closes the designer, after asking for unsaved changes")));
 }
 
 void MashDesignerWindow::follow(Change change) {

@@ -6,7 +6,6 @@
 
 #include <QGridLayout>
 #include <QPushButton>
-#include <QShortcut>
 
 namespace wortlex {
 namespace {
@@ -32,7 +31,7 @@ StrikeCalculatorWindow::StrikeCalculatorWindow(const WindowPorts& ports, const W
     : ToolWindow(info, 0, Opener::main, origin, places(ports.program)), form_(made_form(ports)),
       widgets_(form_, places(ports.program), *this) {
     lay_out_rows();
-    connect(new QShortcut(QKeySequence::Cancel, this), &QShortcut::activated, this, &QWidget::close);
+    close_by_escape();
     widgets_.field("pounds").setFocus();
 }
 
@@ -59,14 +58,8 @@ void StrikeCalculatorWindow::lay_out_rows() {
         ++line;
     }
     grid->setColumnStretch(4, 1);
-    auto* const buttons = new QHBoxLayout;
-    for (const auto* const key : {"print", "help"}) buttons->addWidget(&widgets_.field(key));
-    buttons->addStretch();
-    auto* const ok = new QPushButton(tr("OK"), this);
-    ok->setObjectName(QStringLiteral("ok"));
-    add_key(*ok, QKeySequence::Cancel);
-    connect(ok, &QPushButton::clicked, this, &QWidget::close);
-    buttons->addWidget(ok);
+    auto* const buttons = button_line(widgets_, {"print", "help"}, {});
+    buttons->addWidget(closing_ok(tr("OK")));
     layout->addStretch();
     layout->addLayout(buttons);
 }

@@ -1,7 +1,7 @@
 #include "windows/water/water_calculator_window.h"
 
-#include "desktop/captions.h"
 #include "desktop/form_dialog.h"
+#include "desktop/list_keys.h"
 #include "desktop/scrolled.h"
 #include "program/program.h"
 #include "water/salt_suggestion.h"
@@ -12,18 +12,9 @@
 
 #include <QGridLayout>
 #include <QGroupBox>
-#include <QPushButton>
-#include <QShortcut>
 
 namespace wortlex {
 namespace {
-
-// In the whole window, besides the button's mnemonic.
-void press_in_window(QWidget& window, QKeySequence::StandardKey key, QWidget& button) {
-    auto* const pressed = qobject_cast<QPushButton*>(&button);
-    add_key(*pressed, key);
-    QObject::connect(new QShortcut(key, &window), &QShortcut::activated, pressed, &QPushButton::click);
-}
 
 // What speaks against a water stands behind its name.
 QLayout* water_part(const FormWidgets& widgets) {
@@ -79,7 +70,7 @@ WaterCalculatorWindow::WaterCalculatorWindow(const WindowPorts& ports, const Win
       calculator_({ports.program.folders, ports.files, ports.prompts}), form_(made_form()),
       widgets_(form_, places(ports.program), *this) {
     lay_out_rows();
-    connect(new QShortcut(QKeySequence::Cancel, this), &QShortcut::activated, this, &QWidget::close);
+    close_by_escape();
     press_in_window(*this, QKeySequence::Open, widgets_.field("load"));
     press_in_window(*this, QKeySequence::Save, widgets_.field("save"));
     press_in_window(*this, QKeySequence::Print, widgets_.field("print"));
@@ -115,20 +106,9 @@ void WaterCalculatorWindow::lay_out_rows() {
     work->addStretch();
     auto* const layout = new QVBoxLayout(this);
     layout->addWidget(new Scrolled(work, this), 1);
-    layout->addLayout(file_part());
-}
-
-QLayout* WaterCalculatorWindow::file_part() {
-    auto* const line = new QHBoxLayout;
-    for (const auto* const key : {"load", "save", "reset"}) line->addWidget(&widgets_.field(key));
-    line->addStretch();
-    for (const auto* const key : {"print", "help"}) line->addWidget(&widgets_.field(key));
-    auto* const ok = new QPushButton(tr("OK"), this);
-    ok->setObjectName(QStringLiteral("ok"));
-    add_key(*ok, QKeySequence::Cancel);
-    connect(ok, &QPushButton::clicked, this, &QWidget::close);
-    line->addWidget(ok);
-    return line;
+    auto* const buttons = button_line(widgets_, {"load", "save", "reset"}, {"print", "help"});
+    buttons->addWidget(closing_ok(tr("OK")));
+    layout->addLayout(buttons);
 }
 
 void WaterCalculatorWindow::show_totals() {

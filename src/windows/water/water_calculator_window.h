@@ -20,7 +20,6 @@ protected:
 private:
     Form made_form();
     void lay_out_rows();
-    QLayout* file_part();
     void show_totals();
     void show_chart();
 

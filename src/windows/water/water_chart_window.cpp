@@ -7,7 +7,6 @@
 
 #include <QDialogButtonBox>
 #include <QPushButton>
-#include <QShortcut>
 #include <QVBoxLayout>
 
 namespace wortlex {
@@ -28,7 +27,7 @@ WaterChartWindow::WaterChartWindow(const WindowPorts& ports, const WaterAnalysis
     layout->addWidget(buttons);
     set_tips(*buttons, false);
     connect(buttons, &QDialogButtonBox::accepted, this, &QWidget::close);
-    connect(new QShortcut(QKeySequence::Cancel, this), &QShortcut::activated, this, &QWidget::close);
+    close_by_escape();
     buttons->button(QDialogButtonBox::Ok)->setFocus();
 }
 

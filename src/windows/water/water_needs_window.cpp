@@ -1,6 +1,5 @@
 #include "windows/water/water_needs_window.h"
 
-#include "desktop/captions.h"
 #include "desktop/qt_text.h"
 #include "desktop/scrolled.h"
 #include "program/program.h"
@@ -8,7 +7,6 @@
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QPushButton>
-#include <QShortcut>
 
 namespace wortlex {
 namespace {
@@ -85,7 +83,7 @@ WaterNeedsWindow::WaterNeedsWindow(const WindowPorts& ports, const WindowInfo& i
     : ToolWindow(info, 0, Opener::main, origin, places(ports.program)), ports_(ports), form_(made_form()),
       widgets_(form_, places(ports.program), *this) {
     lay_out_rows();
-    connect(new QShortcut(QKeySequence::Cancel, this), &QShortcut::activated, this, &QWidget::close);
+    close_by_escape();
     widgets_.field("sparge").setFocus();
 }
 
@@ -109,14 +107,8 @@ Form WaterNeedsWindow::made_form() {
 void WaterNeedsWindow::lay_out_rows() {
     auto* const layout = new QVBoxLayout(this);
     layout->addWidget(new Scrolled(arrange_water_needs(widgets_), this), 1);
-    auto* const buttons = new QHBoxLayout;
-    for (const auto* const key : {"save_default", "print", "help"}) buttons->addWidget(&widgets_.field(key));
-    buttons->addStretch();
-    auto* const ok = new QPushButton(tr("OK"), this);
-    ok->setObjectName(QStringLiteral("ok"));
-    add_key(*ok, QKeySequence::Cancel);
-    connect(ok, &QPushButton::clicked, this, &QWidget::close);
-    buttons->addWidget(ok);
+    auto* const buttons = button_line(widgets_, {"save_default", "print", "help"}, {});
+    buttons->addWidget(closing_ok(tr("OK")));
     layout->addLayout(buttons);
 }
 

@@ -39,21 +39,6 @@ void type_in(const QWidget& window, const char* key, const char* text) {
     type_over(*line_of(*window.findChild<QWidget*>(QString::fromLatin1(key))), text);
 }
 
-// The letters after & in all labels and buttons that are to be had, in order.
-QString mnemonics_of(const QWidget& window) {
-    QString letters;
-    const auto add = [&letters](const QString& text) {
-        const auto sign = text.indexOf(QLatin1Char('&'));
-        if (sign >= 0) letters += text.at(sign + 1).toLower();
-    };
-    for (const auto* const label : window.findChildren<QLabel*>())
-        if (label->isVisible()) add(label->text());
-    for (const auto* const button : window.findChildren<QAbstractButton*>())
-        if (button->isVisible()) add(button->text());
-    std::sort(letters.begin(), letters.end());
-    return letters;
-}
-
 TEST(BrewersTools, EveryToolOpensOnceAndIsToBeHadFromTheKeyboard) {
     ToolBench bench;
     for (const int command : {command::alcohol, command::boil_off, command::carbonation, command::dilution,
@@ -62,9 +47,6 @@ TEST(BrewersTools, EveryToolOpensOnceAndIsToBeHadFromTheKeyboard) {
                               command::residual_extract, command::date_calculator, command::time_line}) {
         const auto window = bench.open(command);
         ASSERT_TRUE(window);
-        const auto letters = mnemonics_of(*window);
-        for (qsizetype i = 1; i < letters.size(); ++i)
-            EXPECT_NE(letters[i - 1], letters[i]) << window->windowTitle().toStdString();
         for (const auto* const line : window->findChildren<QLineEdit*>()) {
             const bool is_the_toolkits = window->findChild<QCalendarWidget*>() != nullptr;
             const auto names = line->accessibleName() + line->parentWidget()->accessibleName();

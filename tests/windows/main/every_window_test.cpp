@@ -11,6 +11,8 @@
 #include <QComboBox>
 #include <QDialogButtonBox>
 #include <QHeaderView>
+#include <QLabel>
+#include <QMenuBar>
 #include <QPlainTextEdit>
 #include <QPointer>
 #include <QPushButton>
@@ -57,14 +59,34 @@ bool is_control(const QWidget& widget) {
            dynamic_cast<const Canvas*>(&widget) != nullptr;
 }
 
-// What somebody meets who reads a window by ear, and what the pointer tells about its buttons.
+bool is_seen_in(const QWidget& widget, const QWidget& window) {
+    return widget.window() == &window && widget.isVisibleTo(&window);
+}
+
+// Alt and a letter, of all menus, labels and buttons.
+QStringList mnemonics_of(const QWidget& window) {
+    QStringList keys;
+    for (const auto* const bar : window.findChildren<QMenuBar*>())
+        for (const auto* const menu : bar->actions()) keys << QKeySequence::mnemonic(menu->text()).toString();
+    for (const auto* const label : window.findChildren<QLabel*>())
+        if (label->buddy() != nullptr && is_seen_in(*label, window))
+            keys << QKeySequence::mnemonic(label->text()).toString();
+    for (const auto* const button : window.findChildren<QAbstractButton*>())
+        if (is_seen_in(*button, window)) keys << button->shortcut().toString();
+    keys.removeAll(QString());
+    return keys;
+}
+
+// What somebody meets who reads a window by ear, what the pointer tells about its buttons, and that a key
+// means one thing.
 void read(QWidget& window) {
+    for (const auto keys = mnemonics_of(window); const auto& key : keys)
+        EXPECT_EQ(keys.count(key), 1) << window.objectName().toStdString() << ": " << key.toStdString();
     constexpr int narrow_screen = 1024;
     EXPECT_LE(window.minimumSizeHint().width(), narrow_screen) << window.objectName().toStdString();
     std::map<QString, QString> names;
     for (auto* const widget : window.findChildren<QWidget*>()) {
-        if (widget->window() != &window || !widget->isVisibleTo(&window)) continue;
-        if (!is_control(*widget) || is_part_of_another(*widget)) continue;
+        if (!is_seen_in(*widget, window) || !is_control(*widget) || is_part_of_another(*widget)) continue;
         const auto where = (window.objectName() + ": " + widget->objectName()).toStdString();
         const auto name = name_of(*widget);
         EXPECT_FALSE(name.isEmpty()) << where << " has no name";
