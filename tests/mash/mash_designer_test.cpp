@@ -1,13 +1,15 @@
 #include "mash/mash_designer_form.h"
+#include "mash/mash_designer_printout.h"
 #include "mash/schedule_storing.h"
 #include "support/form_user.h"
+#include "support/recording_desk.h"
 #include "support/scripted_files.h"
 #include "support/scripted_prompts.h"
 #include "support/temporary_folder.h"
 
 #include "base/number.h"
 
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 #include <filesystem>
 
@@ -26,6 +28,7 @@ Settings mash_kitchen(Units units = Units::american,
     settings.thick_ratio = 0.65F;
     settings.medium_ratio = 1;
     settings.thin_ratio = 1.5F;
+    settings.printer_scale = 1;
     return settings;
 }
 
@@ -237,6 +240,48 @@ TEST(MashDesigner, UndoesWholeEditsAndRedoesThem) {
     undo(brewer.designer);
     EXPECT_EQ(brewer.count(), 0U);
     EXPECT_FALSE(undo(brewer.designer));
+}
+
+TEST(MashDesigner, PrintsInTheUnitsOfItsWindow) {
+    const auto printed = [](const MashDesigner& designer) {
+        return printed_lines(mash_designer_printout(designer), {4, 10});
+    };
+    auto settings = mash_kitchen();
+    Designing brewer(settings);
+    brewer.type("mash_name", "Bock");
+    brewer.type("ratio", "1.75");
+    brewer.add("Dough In", StepHeat::infuse, {{"start_temp", "144"}, {"stop_temp", "143"}});
+    brewer.add("Malt", StepHeat::decoction, {{"start_temp", "160"}, {"step_time", "20"}});
+    brewer.press("thick");
+    brewer.add("Hold", StepHeat::direct);
+    EXPECT_THAT(printed(brewer.designer),
+                testing::IsSupersetOf(
+                    {"Wortlex Detailed Mash Schedule", "Mash Name:\tBock", "Total Grain Lbs:\t10.00",
+                     "Total Water Qts:\t17.50\t- Before Additional Infusions", "Grain Temp:\t70.00 F",
+                     "Tun Thermal Mass:\t 0.00", "\tStep\tRest\tStart\tStop\tHeat\tInfuse\tInfuse\tInfuse",
+                     "Step Name\tTime\tTime\tTemp\tTemp\tType\tTemp\tAmount\tRatio\t",
+                     "Dough In\t5\t30\t144\t143\tInfuse\t152\t17.50\t1.75",
+                     "Malt\t20\t30\t160\t160\tDecoc\t212\t5.51\t0.65 (Decoc Thickness)",
+                     "Hold\t5\t30\t160\t160\tDirect\t---\t-----\t----",
+                     "Total Water Qts:\t 17.50\t- After Additional Infusions",
+                     "Total Mash Volume Gal:\t  5.18\t- After Additional Infusions",
+                     "All Step/Rest temperatures are in degrees Fahrenheit",
+                     "All Infusion amounts are in Quarts.", "All Infusion ratios are Quarts/Lbs."}))
+        << "17 x 40.469 / (69 x 1.8088) quarts";
+    brewer.choose("volume_units", 1);
+    brewer.choose("temperature_units", 1);
+    EXPECT_THAT(printed(brewer.designer),
+                testing::IsSupersetOf(
+                    {"Total Grain kg:\t4.54", "Total Water L:\t16.56\t- Before Additional Infusions",
+                     "Grain Temp:\t21.00 C", "Malt\t20\t30\t71\t71\tDecoc\t100\t5.22\t1.36 (Decoc Thickness)",
+                     "Total Mash Volume L:\t 19.59\t- After Additional Infusions",
+                     "All Step/Rest temperatures are in degrees Celsius",
+                     "All Infusion amounts are in Liters.", "All Infusion ratios are in Liters/Kilograms."}));
+    settings.system_mode = SystemMode::pro_brewer;
+    EXPECT_THAT(printed(free_designer(settings)),
+                testing::IsSupersetOf({"Total Water Gal:\t300.00\t- Before Additional Infusions",
+                                       "Total Mash Volume bbl:\t 12.77\t- After Additional Infusions",
+                                       "All Infusion amounts are in Gallons."}));
 }
 
 struct Shelf {

@@ -54,8 +54,9 @@ struct RecordingPageDesk : PageDesk {
 };
 
 /// The lines of the first page, without their places.
-inline std::vector<std::string> printed_lines(const PrintRequest& request) {
+inline std::vector<std::string> printed_lines(const PrintRequest& request, Extent character = {8, 10}) {
     RecordingPageDesk desk;
+    desk.character = character;
     desk.show(request);
     std::vector<std::string> lines;
     for (const auto& text : texts_on(desk.jobs.front(), 0)) lines.push_back(text.substr(text.find(' ') + 1));

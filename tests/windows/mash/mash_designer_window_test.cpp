@@ -22,6 +22,7 @@ Window* open_window() {
 struct TypedStep {
     const char* name;
     std::vector<const char*> figures;
+    const char* thickness = nullptr; ///< the button of a decoction
 };
 
 void add_step(const TypedStep& step) {
@@ -30,10 +31,11 @@ void add_step(const TypedStep& step) {
     QTimer user;
     QObject::connect(&user, &QTimer::timeout, window, [&] {
         auto* const dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-        if (dialog == nullptr) return;
+        if (dialog == nullptr || !dialog->isActiveWindow()) return;
         user.stop();
         auto* const name = dialog->findChild<QLineEdit*>("name");
         type_over(*name, step.name);
+        if (step.thickness != nullptr) QTest::keyClick(name, Qt::Key_E, Qt::AltModifier);
         is_named = true;
         QTest::keyClick(name, Qt::Key_Return);
     });
@@ -50,31 +52,74 @@ void add_step(const TypedStep& step) {
         Kitchen::type(figure);
         Kitchen::press(Qt::Key_Tab);
     }
+    if (step.thickness == nullptr) return;
+    Kitchen::tab_to(step.thickness);
+    Kitchen::press(Qt::Key_Space);
 }
 
-TEST(MashDesignerWindow, DesignsAndKeepsAScheduleByKeyboardAlone) {
+struct Published {
+    const char *name, *grain, *ratio;
+    std::vector<TypedStep> steps;
+    std::int32_t strike;
+    std::vector<float> quarts;
+    const char* gallons;
+};
+
+TEST(MashDesignerWindow, TakesPublishedSchedulesByKeyboardAlone) {
+    // 40, 60 and 70 degrees Celsius by water of 210 F, with a quart a pound: (140 - 104) x (1.6 + 8) / 70
+    // quarts, then (158 - 140) x (1.6 + 12.937) / 52; the strike is 0.2 x (104 - 70) + 104.
+    const Published step_infusion{"40-60-70",
+                                  "8",
+                                  "1",
+                                  {{"Acid Rest", {"104", "104", "5", "20"}},
+                                   {"Beta Rest", {"140", "140", "10", "40", "210"}},
+                                   {"Alpha Rest", {"158", "158", "10", "40", "210"}}},
+                                  110,
+                                  {8, 4.93714F, 5.03209F},
+                                  "5.13"};
+    // A double decoction. A quart of thick mash holds 1 / 0.965 pounds of grain and 0.65 quarts of water for
+    // each: over 68 degrees it gives 68 x (0.4 + 0.65 x 2.07) / 0.965, and 16 x (10 x 0.4 + 4.375 x 8.3357)
+    // are needed. A thin one gives 52 x (0.4 + 1.5 x 2.07) / 1.815, for 9 degrees.
+    const Published double_decoction{"Hochkurz",
+                                     "10",
+                                     "1.75",
+                                     {{"Maltose Rest", {"144", "144", "5", "35"}},
+                                      {"Dextrins", {"160", "160", "20", "30", "212"}, "thick"},
+                                      {"Mash Out", {"169", "169", "15", "10", "212"}, "thin"}},
+                                     152,
+                                     {17.5F, 5.26426F, 3.62699F},
+                                     "5.18"};
     Kitchen kitchen;
     kitchen.program.settings.grain_temperature = 70;
-    kitchen.main->commands().start(command::mash_designer);
-    auto* const window = open_window<MashDesignerWindow>();
-    ASSERT_NE(window, nullptr);
-    Kitchen::activate(window);
-    add_step({"Dough In", {"122", "122", "5", "20"}});
-    add_step({"Saccharification", {"152", "152", "5", "60", "212"}});
-    Kitchen::tab_to("mash_name");
-    Kitchen::type("Step");
-    const auto path = kitchen.folder / "Step.msh";
-    kitchen.files.add(path);
-    kitchen.prompts.expect("yes/no/cancel", unsaved_schedule, Answer::yes, Icon::question);
-    Kitchen::press(Qt::Key_Escape);
-    EXPECT_EQ(open_window<MashDesignerWindow>(), nullptr);
-    MashDesign saved;
-    ASSERT_EQ(LoadMashSchedule(path, saved, kitchen.program.settings), ScheduleLoad::loaded);
-    ASSERT_EQ(saved.mash.step_count, 2);
-    EXPECT_EQ(saved.mash.steps[0].start_temperature, 122);
-    EXPECT_EQ(saved.mash.steps[0].rest_minutes, 20);
-    EXPECT_EQ(saved.mash.steps[1].stop_temperature, 152);
-    EXPECT_NEAR(saved.mash.steps[1].amount, 6, 0.01) << "(152 - 122) x (2 + 10) / (212 - 152) quarts";
+    for (const auto& published : {step_infusion, double_decoction}) {
+        kitchen.main->commands().start(command::mash_designer);
+        auto* const window = open_window<MashDesignerWindow>();
+        ASSERT_NE(window, nullptr);
+        Kitchen::activate(window);
+        for (const auto& [key, text] : {std::pair("grain", published.grain),
+                                        std::pair("ratio", published.ratio),
+                                        std::pair("mash_name", published.name)}) {
+            Kitchen::tab_to(key);
+            Kitchen::type(text);
+        }
+        for (const auto& step : published.steps) add_step(step);
+        EXPECT_EQ(text_of(*window, "total_volume"), published.gallons);
+        const auto path = kitchen.folder / published.name + ".msh";
+        kitchen.files.add(path);
+        kitchen.prompts.expect("yes/no/cancel", unsaved_schedule, Answer::yes, Icon::question);
+        Kitchen::press(Qt::Key_Escape);
+        EXPECT_EQ(open_window<MashDesignerWindow>(), nullptr);
+        MashDesign saved;
+        ASSERT_EQ(LoadMashSchedule(path, saved, kitchen.program.settings), ScheduleLoad::loaded);
+        const auto steps = saved.mash.used_steps();
+        ASSERT_EQ(steps.size(), published.quarts.size());
+        EXPECT_EQ(steps[0].infuse_temperature, published.strike);
+        for (std::size_t i = 0; i < steps.size(); ++i)
+            EXPECT_NEAR(steps[i].amount, published.quarts[i], 1e-4) << steps[i].name.view();
+        EXPECT_EQ(
+            std::pair(steps[1].step_minutes, steps[2].rest_minutes),
+            std::pair(std::atoi(published.steps[1].figures[2]), std::atoi(published.steps[2].figures[3])));
+    }
 }
 
 // A recipe of ten pounds, or a session of it, whose simple schedule has been left for the complex one.
