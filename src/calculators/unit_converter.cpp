@@ -1,8 +1,8 @@
 #include "calculators/unit_converter.h"
 
 #include "calculators/tool_page.h"
+#include "measures/rounding.h"
 
-#include <cmath>
 #include <utility>
 
 namespace wortlex {
@@ -55,12 +55,12 @@ std::string labelled(const std::string& key, std::string_view name) {
     return label;
 }
 
-NumberRow& as_nudged(NumberRow& row, const Range& range) {
+NumberRow& as_cut(NumberRow& row, const Range& range) {
     return row.range(range.low, range.high)
         .step(1.0F)
         .format("%4.2f")
         .width(9)
-        .shown_as(nudged, [](float shown) { return shown; });
+        .shown_as(two_decimals, [](float shown) { return shown; });
 }
 
 template <std::size_t N>
@@ -68,7 +68,7 @@ void unit_amount_rows(Rows& rows, const std::string& prefix, UnitFamily family,
                       std::array<float, N>& values) {
     for (std::size_t i = 0; i < N; ++i) {
         const auto key = key_of(prefix, family[i].name);
-        as_nudged(rows.number(key, followed(family, values, i)), any_amount)
+        as_cut(rows.number(key, followed(family, values, i)), any_amount)
             .label(labelled(key, family[i].name));
     }
 }
@@ -77,7 +77,7 @@ void unit_temperature_rows(Rows& rows, std::array<float, 5>& values) {
     const auto family = temperature_units();
     for (std::size_t i = 0; i < values.size(); ++i) {
         const auto key = key_of("", family[i].name);
-        as_nudged(rows.signed_number(key, followed(family, values, i)), degree_ranges.at(i))
+        as_cut(rows.signed_number(key, followed(family, values, i)), degree_ranges.at(i))
             .label(labelled(key, family[i].name));
     }
 }
@@ -104,27 +104,29 @@ void unit_pressure_rows(Rows& rows, std::array<float, 2>& values) {
     }
 }
 
-std::string figure(std::string_view name, float value) {
-    return std::string(name) + formatted("\t%0.2f", nudged(value));
+// Some units are called otherwise on the page.
+std::string page_name(std::string_view name) {
+    if (name == "Quarts") return "Quart";
+    return std::string(name == "Celsius" ? "Celcius" : name);
+}
+
+std::string figure(UnitFamily family, std::span<const float> values, std::size_t unit) {
+    return page_name(family[unit].name) + formatted("\t%0.2f", two_decimals(values[unit]));
 }
 
 // The three tables beside each other; the last is the shortest.
 void add_amounts(PageLines& lines, const UnitConverter& converter) {
-    static constexpr std::array us_names = {"Ounces",  "Cups",       "Pints", "Quart",     "Gallons",
-                                            "Barrels", "Milliliter", "Liter", "Hectoliter"};
-    for (std::size_t i = 0; i < us_names.size(); ++i) {
-        lines.push_back(figure(us_names.at(i), converter.us_fluid.at(i)) + "\t" +
-                        figure(imperial_fluid_units()[i].name, converter.imperial_fluid.at(i)));
-        if (i < converter.weight.size())
-            lines.back() += "\t" + figure(weight_units()[i].name, converter.weight.at(i));
+    for (std::size_t i = 0; i < converter.us_fluid.size(); ++i) {
+        lines.push_back(figure(us_fluid_units(), converter.us_fluid, i) + "\t" +
+                        figure(imperial_fluid_units(), converter.imperial_fluid, i));
+        if (i < converter.weight.size()) lines.back() += "\t" + figure(weight_units(), converter.weight, i);
     }
 }
 
 void add_degrees(PageLines& lines, const UnitConverter& converter) {
-    static constexpr std::array names = {"Fahrenheit", "Celcius", "Kelvin", "Reaumur", "Rankine"};
     lines.insert(lines.end(), {"", "Temperature"});
-    for (std::size_t i = 0; i < names.size(); ++i)
-        lines.push_back(figure(names.at(i), converter.temperature.at(i)));
+    for (std::size_t i = 0; i < converter.temperature.size(); ++i)
+        lines.push_back(figure(temperature_units(), converter.temperature, i));
 }
 
 } // namespace
@@ -138,11 +140,6 @@ void UnitConverter::reset() {
     follow_unit(gravity_units(), gravity, 0);
     pressure[0] = 1;
     follow_unit(pressure_units(), pressure, 0);
-}
-
-// Beyond what the program's own rounding can hold, since a hundred thousand barrels are many ounces.
-float nudged(float value) {
-    return narrow(std::trunc((value + (value >= 1 ? 0.0019 : 0.0009)) * 100) / 100);
 }
 
 void unit_converter_form(Form& form, UnitConverter& converter, const Settings& settings,

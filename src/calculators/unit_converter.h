@@ -20,9 +20,6 @@ struct UnitConverter {
     std::array<float, 2> pressure{};
 };
 
-/// A figure as the converter shows it: cut off to two decimals after a nudge.
-float nudged(float value);
-
 /// Edits `converter`, which must outlive the form.
 void unit_converter_form(Form& form, UnitConverter& converter, const Settings& settings,
                          ToolActions actions = {});

@@ -25,9 +25,9 @@ inline double trunc_5(float x) {
     return std::isfinite(x) ? truncate((x + 0.000009) * 100000) / 100000.0 : double{x};
 }
 
-/// `x` cut to two decimals; the nudge is larger from 1.0 on.
+/// `x` cut to two decimals, however large; the nudge is larger from 1.0 on. No number stays none.
 inline float two_decimals(float x) {
-    return narrow(truncate((x + (x >= 1.0F ? 0.0019 : 0.0009)) * 100) / 100.0);
+    return narrow(std::trunc((x + (x >= 1.0F ? 0.0019 : 0.0009)) * 100) / 100.0);
 }
 
 /// The multiple of `step` that is nearest to `x`: what is proposed to a user is a round figure.
