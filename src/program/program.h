@@ -24,16 +24,6 @@
 
 namespace wortlex {
 
-/// What the calculators start from; larger for a brewery than for a kitchen.
-struct CalculatorDefaults {
-    float carbonation_gallons = 0;
-    float mash_grain = 0;   ///< pounds
-    float mash_gallons = 0; ///< of the mash tools, as the others
-    float dough_in_quarts = 0;
-
-    bool operator==(const CalculatorDefaults&) const = default;
-};
-
 /// What the pick lists of documents showed last.
 struct PickChoices {
     ListChoice styles, malts, hops, yeasts, waters, extras;
@@ -57,7 +47,6 @@ struct Program {
 
     Database<WaterRecord> water_database; ///< the one that stays in memory
     ColorTable color_table;
-    CalculatorDefaults calculator_defaults;
     HopMemory hop_memory;
     CalculatorStates calculators;
     MashChartChoice mash_charts;

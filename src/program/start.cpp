@@ -6,6 +6,8 @@
 namespace wortlex {
 namespace {
 
+constexpr float brewery_beer = 527; // gallons that the carbonation calculator begins with there
+
 // Before the settings: where files are, how HTML pages look, what calculators begin with, and where windows
 // were.
 void read_places(Program& program, const std::string& data_folder) {
@@ -48,16 +50,10 @@ bool start(Program& program, const std::string& data_folder, Prompts& prompts) {
     read_print_options(program);
     program.art_scheme = program.system.settings.art_scheme;
     LoadWater(data_folder, program.water_database, prompts);
-    program.calculator_defaults = calculator_defaults(program.settings.system_mode);
-    program.calculators.carbonation.beer = of_gallons(program.calculator_defaults.carbonation_gallons);
+    if (is_pro(program.settings)) program.calculators.carbonation.beer = of_gallons(brewery_beer);
     read_color_table(program, prompts);
     program.recent_documents = LoadRecent(data_folder);
     return true;
-}
-
-CalculatorDefaults calculator_defaults(SystemMode mode) {
-    if (mode == SystemMode::pro_brewer) return {527.0F, 1200.0F, 300.0F, 1200.0F};
-    return {5.0F, 10.0F, 2.5F, 10.0F};
 }
 
 } // namespace wortlex

@@ -9,6 +9,4 @@ namespace wortlex {
 /// and answers false: the program then ends. Anything else that is missing has a stand-in.
 bool start(Program& program, const std::string& data_folder, Prompts& prompts);
 
-CalculatorDefaults calculator_defaults(SystemMode mode);
-
 } // namespace wortlex

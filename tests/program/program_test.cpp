@@ -104,8 +104,7 @@ TEST(Start, ReadsWhatIsThereAndGoesOnWithoutAllButTheSettings) {
     EXPECT_TRUE(start(program, folder.path(), prompts));
     EXPECT_EQ(folder_path(program.folders, FolderKind::sessions), folder / "Sessions/");
     EXPECT_TRUE(program.main_position.window.bottom == 6 && program.recipe_print.scale == 0.75F);
-    EXPECT_EQ(program.calculator_defaults, (CalculatorDefaults{527, 1200, 300, 1200}));
-    EXPECT_EQ(calculator_defaults(SystemMode::home_brewer), (CalculatorDefaults{5, 10, 2.5, 10}));
+    EXPECT_EQ(program.calculators.carbonation.beer.gallons, 527) << "a brewery's";
     std::filesystem::resize_file(folder / "WlxMSys.DAT", 1579);
     prompts.expect_tell("Bad Or Missing System File!", Icon::error);
     EXPECT_FALSE(start(program, folder.path(), prompts)) << "and nothing more is told";
