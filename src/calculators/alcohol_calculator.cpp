@@ -10,8 +10,8 @@ namespace {
 
 void gravity_line(TwinLines& lines, const char* key, const char* label, TwinGravity& gravity) {
     const auto rows = lines.gravity(key, label, gravity);
-    rows.sg.range(1.0F, 2.0F).outside(Outside::hold);
-    rows.plato.range(1.0F, 130.0F).outside(Outside::hold);
+    rows.sg.range(1.0F, 2.0F).outside(Outside::clamp);
+    rows.plato.range(1.0F, 130.0F).outside(Outside::clamp);
 }
 
 std::string gravity_text(const char* label, const TwinGravity& gravity, const Settings& settings) {

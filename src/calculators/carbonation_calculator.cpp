@@ -84,7 +84,7 @@ void carbonation_level_row(Rows& rows, CarbonationCalculator& calculator) {
         .unit("Volumes CO2")
         .range(0.0F, 10.0F)
         .step(0.1F)
-        .outside(Outside::hold);
+        .outside(Outside::clamp);
 }
 
 void carbonation_form(Form& form, CarbonationCalculator& calculator, const Settings& settings,

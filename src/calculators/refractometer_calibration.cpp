@@ -58,7 +58,7 @@ void calibration_row(Rows& rows, const CalibrationField& field, Settings& settin
         .range(field.range.low, field.range.high)
         .step(field.step)
         .format(field.look)
-        .outside(Outside::hold)
+        .outside(Outside::clamp)
         .changed([tell, change = field.change] { tell(change); });
 }
 

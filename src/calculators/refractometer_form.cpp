@@ -99,8 +99,8 @@ void known_gravity_rows(Form& form, RefractometerTool& tool, const Settings& set
     const bool is_original = tool.kind == RefractometerKind::fermentation;
     TwinLines lines(form.group(is_original ? "Original Gravity" : "Hydrometer Reading"), "known", settings);
     const auto rows = lines.gravity("known", is_original ? "&OG" : "&SG", tool.gravity);
-    rows.sg.range(1.0F, 2.0F).step(0.005F).outside(Outside::hold);
-    rows.plato.range(0.0F, 200.0F).step(0.05F).outside(Outside::hold);
+    rows.sg.range(1.0F, 2.0F).step(0.005F).outside(Outside::clamp);
+    rows.plato.range(0.0F, 200.0F).step(0.05F).outside(Outside::clamp);
 }
 
 void refractometer_results(Form& form, const RefractometerTool& tool, const Settings& settings) {

@@ -77,8 +77,8 @@ TwinLines::Gravity TwinLines::gravity(const std::string& key, const std::string&
 void TwinLines::correctable_gravity(const std::string& key, const std::string& label, TwinGravity& pair,
                                     const CorrectGravity& correct) {
     const auto rows = gravity(key, label, pair);
-    rows.sg.range(1.0F, 5.0F).outside(Outside::hold);
-    rows.plato.range(0.0F, 200.0F).outside(Outside::hold);
+    rows.sg.range(1.0F, 5.0F).outside(Outside::clamp);
+    rows.plato.range(0.0F, 200.0F).outside(Outside::clamp);
     std::function<void()> press;
     if (correct)
         press = [correct, &pair, changed = changed_] {
@@ -121,7 +121,7 @@ void TwinLines::degrees(const std::string& key, const std::string& label, TwinDe
 }
 
 IntegerRow& TwinLines::integer(const std::string& key, const std::string& label, std::int32_t& value) {
-    return table_.line(label).integer(key, value).step(1).outside(Outside::hold).changed(changed_);
+    return table_.line(label).integer(key, value).step(1).outside(Outside::clamp).changed(changed_);
 }
 
 void TwinLines::shown(const std::string& label, const Figure& only) {

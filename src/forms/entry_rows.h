@@ -55,7 +55,6 @@ public:
 enum class Outside {
     ignore, ///< the value stays, and the text too
     clamp,  ///< the value is brought into range at once, the text when the field is left
-    hold = clamp,
     rewrite ///< both at once
 };
 

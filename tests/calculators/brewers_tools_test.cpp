@@ -36,14 +36,6 @@ struct OpenedTool : FormUser {
         : settings(tool_settings(mode)), tool(std::move(begins)) {}
 };
 
-std::vector<std::string> printed(const PrintRequest& request) {
-    RecordingPageDesk desk;
-    desk.show(request);
-    auto lines = texts_on(desk.jobs.front(), 0);
-    for (auto& line : lines) line.erase(0, line.find(' ') + 1);
-    return lines;
-}
-
 TEST(HydrometerTool, CorrectsWhatWasReadInWarmWort) {
     OpenedTool<HydrometerTool> user;
     open_hydrometer(user.tool, user.settings);
@@ -53,7 +45,7 @@ TEST(HydrometerTool, CorrectsWhatWasReadInWarmWort) {
     EXPECT_EQ(user.shown_all({"temperature_celsius", "corrected_sg", "corrected_plato"}), "37.78|1.056|13.8");
     user.type("current_plato", "5");
     EXPECT_EQ(user.shown_all({"current_sg", "corrected_sg"}), "1.020|1.026");
-    EXPECT_THAT(printed(hydrometer_printout(user.tool, user.settings)),
+    EXPECT_THAT(printed_lines(hydrometer_printout(user.tool, user.settings)),
                 testing::Contains("Current Temperature:\t100.00 F\t37.78 C"));
     const auto twin = hydrometer_for(1.04F, user.settings);
     EXPECT_EQ(corrected_reading(twin).sg, 1.04F) << "at the calibration temperature";
@@ -129,8 +121,8 @@ TEST(RefractometerTool, AlcoholFromReadingAndHydrometer) {
     user.type("zeiss", "15");
     EXPECT_EQ(user.shown_all({"by_weight", "by_volume", "original_plato", "adf"}), "0.00|0.00|0.000|0.00");
     EXPECT_NE(user.shown("residual_plato"), "0.000");
-    const auto lines = printed(refractometer_printout(user.tool, RefractometerUse::alcohol,
-                                                      PrintedSession{"Porter", "03-05-2001"}, user.settings));
+    const auto lines = printed_lines(refractometer_printout(
+        user.tool, RefractometerUse::alcohol, PrintedSession{"Porter", "03-05-2001"}, user.settings));
     EXPECT_THAT(lines, testing::IsSupersetOf({"From A Wortlex Brewing Session:", "Porter",
                                               "Reading\t\tNet Units", "15.00\tZeiss\t0.50\tZeiss",
                                               "Calculated Residual Extract", "1.01200\tSG\t3.068\tPlato"}));
@@ -158,7 +150,7 @@ TEST(AlcoholCalculator, FollowsBothScales) {
     EXPECT_EQ(user.tool.og.plato, 130) << "held within its range";
     user.type("og_sg", "1.01");
     EXPECT_EQ(user.shown_all({"og_plato", "by_weight", "adf"}), " 2.6|0.00|0.00");
-    EXPECT_THAT(printed(alcohol_printout(user.tool, user.settings)),
+    EXPECT_THAT(printed_lines(alcohol_printout(user.tool, user.settings)),
                 testing::IsSupersetOf({"Measured OG:\t   1.010\tPlato: 2.6", "% ADF:\t    0.00"}));
 }
 
@@ -176,7 +168,7 @@ TEST(DilutionCalculator, ThinsAndBlends) {
     EXPECT_EQ(user.shown_all({"gravity_sg", "gravity_plato"}), "1.060|14.7");
     user.press("gravity_hydrometer");
     EXPECT_EQ(user.shown("gravity_sg"), "1.060") << "left without a correction";
-    EXPECT_THAT(printed(dilution_printout(user.tool, user.settings)),
+    EXPECT_THAT(printed_lines(dilution_printout(user.tool, user.settings)),
                 testing::Contains("Wort Volume Before Dilution (BBL):\t2.00\tHectoliters:\t2.35"));
     for (const auto* const key : {"wort_gallons", "water_gallons", "first_gallons", "second_gallons"})
         user.type(key, "0");
@@ -258,7 +250,7 @@ TEST(CarbonationCalculator, PrimesWithSugarOrMaltExtract) {
     user.type("beer_litres", "38");
     user.type("fermentation_celsius", "-5");
     EXPECT_EQ(user.shown_all({"beer_gallons", "fermentation_fahrenheit"}), "10.04|23.00");
-    EXPECT_THAT(printed(carbonation_printout(user.tool, user.settings)),
+    EXPECT_THAT(printed_lines(carbonation_printout(user.tool, user.settings)),
                 testing::IsSupersetOf({"Amount of Beer:\t10.04 Gallons\t38.00 Liters", "DME Scalar:\t2.00"}));
     user.type("beer_gallons", "0");
     EXPECT_EQ(user.shown("grams"), "0.00");
@@ -277,7 +269,7 @@ TEST(UnitConverter, TheTypedFieldKeepsItsTextAndTheOthersAreNudged) {
     EXPECT_EQ(user.shown_all({"celsius", "kelvin", "reaumur", "rankine"}), "100.00|373.15|80.00|671.67");
     user.type("celsius", "-40");
     EXPECT_EQ(user.shown_all({"fahrenheit", "plato", "kpa"}), "-39.99| 0.0|6.89") << "nudged towards zero";
-    const auto lines = printed(unit_converter_printout(user.tool, user.settings));
+    const auto lines = printed_lines(unit_converter_printout(user.tool, user.settings));
     EXPECT_THAT(lines,
                 testing::IsSupersetOf({"Celcius\t-39.99", "PSI\t1.000\tkPa\t6.89", "SG\t1.000\tPlato\t0.0"}));
     user.press("reset");

@@ -135,7 +135,7 @@ TEST(NumberRow, TellsItsRangeInTheUnitShown) {
               "0 to 105");
     EXPECT_TRUE(dynamic_cast<EntryRow&>(form.row("degrees")).is_outside("106")) << "though held at once";
     const Settings settings;
-    auto& sg = form.rows().sg("sg", sum, settings).range(1, 2).outside(Outside::hold);
+    auto& sg = form.rows().sg("sg", sum, settings).range(1, 2).outside(Outside::clamp);
     PlainField field;
     type(form, "sg", field, "99999");
     EXPECT_EQ(sum, 2) << "also beyond what can be truncated";

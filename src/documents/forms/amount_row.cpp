@@ -15,7 +15,7 @@ NumberRow& amount_row(Rows& rows, std::string key, float& stored, const WeightUn
         .range(0.0F, unit.highest)
         .step(unit.step)
         .format(unit.format)
-        .outside(Outside::hold);
+        .outside(Outside::clamp);
 }
 
 } // namespace wortlex

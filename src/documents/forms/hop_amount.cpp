@@ -159,7 +159,7 @@ void hop_amount_form(Form& form, HopUse& line, const OpenDocument& open, Prompts
         .label("&Alpha Acid%")
         .range(0.0F, 100.0F)
         .step(0.1F)
-        .outside(Outside::hold);
+        .outside(Outside::clamp);
     time_row(rows, line, open.document);
     form_row(rows, line);
     bitterness_rows(form.group("Bitterness"), line, settings);

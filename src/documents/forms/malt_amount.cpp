@@ -42,7 +42,7 @@ void line_rows(Rows& rows, MaltUse& line, const Settings& settings) {
                   [&settings](float shown) { return from_shown_colour(shown, settings); })
         .range(0.0F, 2500.0F)
         .step(1.0F)
-        .outside(Outside::hold);
+        .outside(Outside::clamp);
 }
 
 // How potentials are entered here. Percent yield is shown as SG, for the yields have fields of their own.
@@ -103,7 +103,7 @@ private:
         return rows.number(key, value)
             .range(range.low, range.high)
             .step(0.25F)
-            .outside(Outside::hold)
+            .outside(Outside::clamp)
             .enabled(enabled)
             .when_disabled(not_applicable);
     }
@@ -119,7 +119,7 @@ private:
                       [display](float shown) { return potential_from_shown_plain(shown, display); })
             .range(0.0F, look.highest)
             .step(look.step)
-            .outside(Outside::hold)
+            .outside(Outside::clamp)
             .enabled(entries_.potential)
             .when_disabled(not_applicable);
     }

@@ -2,6 +2,7 @@
 
 #include "base/number.h"
 #include "measures/units.h"
+#include "program/settings_forms/settings_rows.h"
 
 namespace wortlex {
 namespace {
@@ -53,12 +54,7 @@ void sample_rows(Rows& rows, const SystemSettings& image, const ColorTable& tabl
 
 // Whole numbers that may be negative.
 NumberRow& adjustment_row(Rows& rows, const char* key, const char* label, Binding<float> value) {
-    return rows.signed_number(key, std::move(value))
-        .label(label)
-        .range(-100, 100)
-        .step(1.0F)
-        .format("%0.0f")
-        .outside(Outside::hold);
+    return held_within(rows.signed_number(key, std::move(value)), {-100, 100, 1, "%0.0f"}).label(label);
 }
 
 void calibration_rows(Rows& rows, SystemSettings& image) {
@@ -85,7 +81,7 @@ void global_alpha_rows(Rows& rows, SystemSettings& image) {
         .label("Global &Alpha:")
         .range(1, 255)
         .step(1)
-        .outside(Outside::hold)
+        .outside(Outside::clamp)
         .enabled(is_global);
     rows.note("alpha_range", "( Range is 1 to 255 )").enabled(is_global);
 }

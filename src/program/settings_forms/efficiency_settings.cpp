@@ -68,7 +68,7 @@ void sucrose_rows(Rows& rows, SystemSettings& image) {
         .range(1.0F, 50.0F)
         .step(0.1F)
         .format("%0.4f")
-        .outside(Outside::hold)
+        .outside(Outside::clamp)
         .enabled(by_points)
         .when_disabled(" ");
     rows.note("sucrose_meaning", sucrose_meaning).enabled(by_points);

@@ -1,6 +1,7 @@
 #include "program/settings_forms/gauge_settings.h"
 
 #include "measures/units.h"
+#include "program/settings_forms/settings_rows.h"
 
 namespace wortlex {
 namespace {
@@ -11,19 +12,10 @@ constexpr std::string_view really_reset = "Really reset the settings to the defa
 // One temperature in two fields, each in its own unit.
 void temperature_rows(Rows& rows, SystemSettings& image) {
     rows.note("calibration_note", "Hydrometer Calibration Temperature:");
-    rows.number("fahrenheit", image.hydrometer_calibration)
-        .label("&F")
-        .range(32, 212)
-        .step(1.0F)
-        .format("%6.2f")
-        .outside(Outside::hold);
-    rows.number("celsius", image.hydrometer_calibration)
+    held_within(rows.number("fahrenheit", image.hydrometer_calibration), {32, 212, 1, "%6.2f"}).label("&F");
+    held_within(rows.number("celsius", image.hydrometer_calibration), {0, 100, 1, "%6.2f"})
         .label("&C")
-        .shown_as(celsius_from_fahrenheit, fahrenheit_from_celsius)
-        .range(0, 100)
-        .step(1.0F)
-        .format("%6.2f")
-        .outside(Outside::hold);
+        .shown_as(celsius_from_fahrenheit, fahrenheit_from_celsius);
 }
 
 struct WaterField {
@@ -42,12 +34,9 @@ constexpr std::array water_fields = {
 
 void water_rows(Rows& rows, SystemSettings& image) {
     for (const auto& field : water_fields)
-        rows.signed_number(field.key, image.*field.value)
-            .label(field.label)
-            .range(-field.most, field.most)
-            .step(field.step)
-            .format(field.format)
-            .outside(Outside::hold);
+        held_within(rows.signed_number(field.key, image.*field.value),
+                    {-field.most, field.most, field.step, field.format})
+            .label(field.label);
 }
 
 } // namespace
@@ -64,13 +53,9 @@ void reset_gauges(SystemSettings& image, Prompts& prompts) {
 
 void gauge_settings_form(Form& form, SystemSettings& image, Prompts& prompts, std::function<void()> help) {
     temperature_rows(form.group("Hydrometer"), image);
-    form.group("Refractometers")
-        .number("brix_correction", image.brix_correction)
-        .label("Bri&x Correction Factor")
-        .range(1, 2)
-        .step(0.005F)
-        .format("%0.3f")
-        .outside(Outside::hold);
+    held_within(form.group("Refractometers").number("brix_correction", image.brix_correction),
+                {1, 2, 0.005F, "%0.3f"})
+        .label("Bri&x Correction Factor");
     water_rows(form.group("Water Calibration"), image);
     auto& buttons = form.group();
     buttons.button("reset", "&Reset To Wortlex Defaults", [&] { reset_gauges(image, prompts); });

@@ -22,7 +22,7 @@ void utilization_rows(Rows& rows, SystemSettings& image) {
         .label("&Kettle Size Hop Utilization Scale Factor:")
         .range(0.5F, 100.0F)
         .step(0.25F)
-        .outside(Outside::hold);
+        .outside(Outside::clamp);
     rows.note("kettle_note", [&image] {
         return has_metric_volumes(image) ? "(Under 75 Liters Use 1.0)" : "(Under 20 Gallons Use 1.0)";
     });
@@ -72,7 +72,7 @@ void tinseth_form(Form& form, SystemSettings& image) {
         .label("&Concentration Factor ( > = 1.0)")
         .range(1.0F, 2.0F)
         .step(0.05F)
-        .outside(Outside::hold);
+        .outside(Outside::clamp);
     form.restore_on_cancel(image);
 }
 

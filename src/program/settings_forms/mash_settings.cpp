@@ -45,7 +45,7 @@ NumberRow& scaled_row(Rows& rows, const char* key, float& value, double factor, 
     return rows.number(key, value)
         .shown_as([scale](float stored) { return narrow(stored * scale()); },
                   [scale](float shown) { return narrow(shown / scale()); })
-        .outside(Outside::hold);
+        .outside(Outside::clamp);
 }
 
 NumberRow& ratio_row(Rows& rows, const char* key, float& ratio, const SystemSettings& image) {
@@ -79,18 +79,10 @@ void mash_water_rows(Rows& rows, SystemSettings& image) {
 }
 
 void heat_rows(Rows& rows, SystemSettings& image, Ratios& ratios) {
-    rows.number("tun_thermal_mass", image.tun_thermal_mass)
-        .label("Mash Tun Thermal &Mass:")
-        .range(0.0F, 10.0F)
-        .step(0.025F)
-        .format("%0.3f")
-        .outside(Outside::hold);
-    rows.number("heat_capacity", ratios.heat_capacity)
-        .label("Malt &Heat Capacity:")
-        .range(0.1F, 1.0F)
-        .step(0.005F)
-        .format("%6.3f")
-        .outside(Outside::hold);
+    held_within(rows.number("tun_thermal_mass", image.tun_thermal_mass), {0, 10, 0.025F, "%0.3f"})
+        .label("Mash Tun Thermal &Mass:");
+    held_within(rows.number("heat_capacity", ratios.heat_capacity), {0.1F, 1, 0.005F, "%6.3f"})
+        .label("Malt &Heat Capacity:");
     degrees_row(rows, "grain_temperature", image.grain_temperature, image).label("Default &Grain Temp:");
 }
 

@@ -58,7 +58,7 @@ NumberRow& size_row(Rows& rows, const char* key, float& gallons, float& twin, co
             [&image](float shown) { return from_shown_volume(shown, image.volume_units, image.system_mode); })
         .range(0.0F, most)
         .step(1.0F)
-        .outside(Outside::hold)
+        .outside(Outside::clamp)
         .unit([&image] { return volume_unit(image).full; });
 }
 
@@ -69,7 +69,7 @@ void equalise_sizes(SystemSettings& image) {
 }
 
 NumberRow& increment_row(Rows& rows, const char* key, float& increment) {
-    return rows.number(key, increment).range(0.05F, most).step(0.05F).outside(Outside::hold);
+    return rows.number(key, increment).range(0.05F, most).step(0.05F).outside(Outside::clamp);
 }
 
 void size_rows(Rows& rows, SystemSettings& image) {

@@ -44,12 +44,12 @@ void printer_settings_form(Form& form, SystemSettings& image, const PrinterSetti
         .label("&JPG Image Quality:")
         .range(20, 100)
         .step(1)
-        .outside(Outside::hold);
+        .outside(Outside::clamp);
     other.number("dme_scalar", image.dme_scalar)
         .label("DME &Scalar:")
         .range(0.25F, 4)
         .step(0.05F)
-        .outside(Outside::hold);
+        .outside(Outside::clamp);
     form.group().button("help", "&Help", buttons.help);
     form.restore_on_cancel(image);
 }

@@ -6,23 +6,22 @@
 
 namespace wortlex {
 
+NumberRow& held_within(NumberRow& row, const HeldWithin& limits) {
+    return row.range(limits.low, limits.high).step(limits.step).format(limits.format).outside(Outside::clamp);
+}
+
 IntegerRow& percent_row(Rows& rows, std::string key, float& fraction, std::int32_t low, std::int32_t high) {
     return rows
         .integer(std::move(key), {[&fraction] { return whole_percent(fraction); },
                                   [&fraction](std::int32_t percent) { fraction = narrow(percent / 100.0); }})
         .range(low, high)
         .step(1)
-        .outside(Outside::hold)
+        .outside(Outside::clamp)
         .unit("%");
 }
 
 NumberRow& change_row(Rows& rows, std::string key, std::int32_t& percent) {
-    return rows.signed_number(std::move(key), percent)
-        .range(-100.0F, 100.0F)
-        .step(5.0F)
-        .format("%0.0f")
-        .outside(Outside::hold)
-        .unit("%");
+    return held_within(rows.signed_number(std::move(key), percent), {-100, 100, 5, "%0.0f"}).unit("%");
 }
 
 NumberRow& degrees_row(Rows& rows, std::string key, float& fahrenheit, const SystemSettings& image) {
@@ -34,7 +33,7 @@ NumberRow& degrees_row(Rows& rows, std::string key, float& fahrenheit, const Sys
                [celsius] { return celsius() ? 100.0F : 212.0F; })
         .step(1.0F)
         .format("%6.2f")
-        .outside(Outside::hold)
+        .outside(Outside::clamp)
         .unit([celsius] { return words_of(celsius() ? Unit::celsius : Unit::fahrenheit).usual; });
 }
 

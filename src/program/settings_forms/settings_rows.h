@@ -5,6 +5,13 @@
 
 namespace wortlex {
 
+/// What a number is held within at once, and how it looks.
+struct HeldWithin {
+    float low, high, step;
+    const char* format;
+};
+NumberRow& held_within(NumberRow& row, const HeldWithin& limits);
+
 /// A fraction, edited in whole percents. The range is in percent.
 IntegerRow& percent_row(Rows& rows, std::string key, float& fraction, std::int32_t low, std::int32_t high);
 
