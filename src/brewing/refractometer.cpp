@@ -36,12 +36,16 @@ float reading_after(float brix, int steps) {
     return brix;
 }
 
-// Whether nothing between two readings close to each other comes near the goal: extracts rise with the
-// reading or, where a formula begins to hold, jump once. The margin is far more than they rise in a stretch.
+// Whether nothing between two readings comes near the goal: extracts rise with the reading, or fall with it,
+// all the way. The margin is far more than what a float errs by.
 bool lie_on_one_side(float first_plato, float last_plato, float goal) {
-    constexpr float margin = 1;
+    constexpr float margin = 0.05F;
     return std::max(first_plato, last_plato) < goal - margin ||
            std::min(first_plato, last_plato) > goal + margin;
+}
+
+bool lie_still(float first_plato, float last_plato) {
+    return first_plato == last_plato || (std::isnan(first_plato) && std::isnan(last_plato));
 }
 
 // Steps up from water to where `plato_at` a Brix reading lies closest to `goal`. Most of the way is far from
@@ -50,21 +54,25 @@ template <class PlatoAt>
 float fitting_reading(float goal, const Settings& settings, PlatoAt plato_at) {
     constexpr int stretches = 1000, stretch_steps = 100;
     constexpr double tolerance = 0.005;
+    if (!std::isfinite(goal)) return reading_where_none_fits;
     float brix = settings.water_brix;
     std::optional<float> last_difference;
     for (int stretch = 0; stretch < stretches; ++stretch) {
         const float end = reading_after(brix, stretch_steps);
-        if (lie_on_one_side(plato_at(brix), plato_at(end), goal)) {
+        const float first = plato_at(brix), last = plato_at(end);
+        if (lie_on_one_side(first, last, goal)) {
             brix = end;
             continue;
         }
-        for (int count = 0; count < stretch_steps; ++count, brix = next_reading(brix)) {
+        const int steps = lie_still(first, last) ? 1 : stretch_steps;
+        for (int count = 0; count < steps; ++count, brix = next_reading(brix)) {
             const float difference = narrow(std::abs(double{plato_at(brix)} - goal));
             if (!(difference <= tolerance)) continue;
             // Past the best fit: the step before it was the one.
             if (last_difference && difference > *last_difference) return narrow(brix - reading_step);
             last_difference = difference;
         }
+        brix = end;
     }
     return reading_where_none_fits;
 }
