@@ -183,6 +183,17 @@ std::optional<std::size_t> best_row(const IngredientList& list, const FindQuery&
     return best;
 }
 
+std::vector<std::size_t> best_rows(const IngredientList& list, const FindQuery& query, std::size_t most) {
+    std::vector<std::pair<int, std::size_t>> found;
+    for (std::size_t row = 0; row < list.shown_count(); ++row)
+        if (const int here = match(list, row, query); here > 0) found.emplace_back(-here, row);
+    std::sort(found.begin(), found.end());
+    std::vector<std::size_t> rows;
+    for (const auto& [worse, row] : found)
+        if (rows.size() < most) rows.push_back(row);
+    return rows;
+}
+
 std::optional<std::size_t> next_row(const IngredientList& list, const FindQuery& query, std::size_t from,
                                     bool backwards) {
     const auto count = list.shown_count();

@@ -34,6 +34,8 @@ int match(const IngredientList& list, std::size_t row, const FindQuery& query);
 std::size_t count_found(const IngredientList& list, const FindQuery& query);
 /// The first of the rows that match best.
 std::optional<std::size_t> best_row(const IngredientList& list, const FindQuery& query);
+/// The rows that match, the best of them first, and of equals in the order of the list; so many at the most.
+std::vector<std::size_t> best_rows(const IngredientList& list, const FindQuery& query, std::size_t most);
 /// The next found row behind `from` or before it, around the end.
 std::optional<std::size_t> next_row(const IngredientList& list, const FindQuery& query, std::size_t from,
                                     bool backwards);

@@ -435,6 +435,9 @@ void FormWidgets::visit(ListRow& row) {
     auto* const list = new ListView(row, &parent_);
     list->selected = [this, &row](std::int32_t index) { form_.select(row, index); };
     list->acted = [this] { refresh(); };
+    list->changed = [this](const std::function<void()>& change) {
+        if (edit(change)) refresh();
+    };
     keep(row, *list, [list] { list->refresh(); });
 }
 

@@ -1,11 +1,13 @@
 #include "desktop/list_view.h"
 
+#include "desktop/cell_editor.h"
 #include "desktop/colours.h"
 #include "desktop/qt_text.h"
 #include "forms/glossary.h"
 
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QMouseEvent>
 #include <QPainter>
 #include <QPointer>
 #include <QProxyStyle>
@@ -61,8 +63,8 @@ QVariant ListModel::font(std::size_t row) const {
     return bold;
 }
 
-const QWidget& ListModel::view() const {
-    return *dynamic_cast<const QWidget*>(QObject::parent());
+const ListView& ListModel::view() const {
+    return *dynamic_cast<const ListView*>(QObject::parent());
 }
 
 QVariant ListModel::data(const QModelIndex& index, int role) const {
@@ -79,8 +81,23 @@ QVariant ListModel::headerData(int section, Qt::Orientation orientation, int rol
     if (orientation != Qt::Horizontal) return {};
     if (role == Qt::TextAlignmentRole) return alignment(section);
     const auto caption = row_.columns[static_cast<std::size_t>(section)].caption();
-    if (role == Qt::ToolTipRole) return string_of(meaning_of(caption));
+    if (role == Qt::ToolTipRole) {
+        const auto& hint = row_.columns[static_cast<std::size_t>(section)].hint;
+        return hint.empty() ? string_of(meaning_of(caption)) : string_of(hint);
+    }
     return role == Qt::DisplayRole ? QString::fromStdString(caption) : QVariant();
+}
+
+Qt::ItemFlags ListModel::flags(const QModelIndex& index) const {
+    const auto usual = QAbstractTableModel::flags(index);
+    return view().is_typed_into(index) ? usual | Qt::ItemIsEditable : usual;
+}
+
+bool ListModel::setData(const QModelIndex& index, const QVariant& text, int role) {
+    if (role != Qt::EditRole || !view().is_typed_into(index) || !view().changed) return false;
+    const auto row = static_cast<std::size_t>(index.row()), column = static_cast<std::size_t>(index.column());
+    view().changed([&] { row_.typing.take(row, column, text.toString().toStdString()); });
+    return true;
 }
 
 void ListModel::reload() {
@@ -113,7 +130,11 @@ ListView::ListView(const ListRow& row, QWidget* parent)
     connect(header(), &QHeaderView::sectionClicked, this, [this](int column) {
         if (row_.click_header) act([this, column] { row_.click_header(static_cast<std::size_t>(column)); });
     });
-    connect(this, &QTreeView::doubleClicked, this, [this] { act(row_.activate); });
+    connect(this, &QTreeView::doubleClicked, this, [this](const QModelIndex& index) {
+        if (!is_typed_into(index)) act(row_.activate);
+    });
+    setItemDelegate(row.typing.columns.empty() ? itemDelegate() : new CellEditor(row, this));
+    setEditTriggers(row.typing.columns.empty() ? NoEditTriggers : DoubleClicked);
     header()->setSortIndicatorShown(static_cast<bool>(row.sort_mark));
     size_columns();
 }
@@ -123,11 +144,93 @@ void ListView::keyboardSearch(const QString& text) {
 }
 
 void ListView::keyPressEvent(QKeyEvent* event) {
+    if (state() == EditingState) return QTreeView::keyPressEvent(event); // what the cell's field left over
+    if (take_cell_key(*event)) return;
     const bool is_enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     if (is_enter && row_.activate && currentIndex().isValid())
         act(row_.activate);
     else
         QTreeView::keyPressEvent(event);
+}
+
+bool ListView::is_typed_into(const QModelIndex& index) const {
+    const auto& columns = row_.typing.columns;
+    return std::find(columns.begin(), columns.end(), static_cast<std::size_t>(index.column())) !=
+           columns.end();
+}
+
+QModelIndex ListView::cell_to_type() const {
+    const auto& columns = row_.typing.columns;
+    if (columns.empty() || !currentIndex().isValid()) return {};
+    return currentIndex().siblingAtColumn(static_cast<int>(columns[cell_]));
+}
+
+// Digits and F2 open the framed cell, Left and Right choose it.
+bool ListView::take_cell_key(QKeyEvent& event) {
+    const auto cell = cell_to_type();
+    if (!cell.isValid()) return false;
+    const auto text = event.text();
+    const bool is_number = !text.isEmpty() && (text.front().isDigit() || text.front() == QLatin1Char('.') ||
+                                               text.front() == QLatin1Char(','));
+    switch (event.key()) {
+    case Qt::Key_Left:
+    case Qt::Key_Right:
+        go_to_cell(event.key() == Qt::Key_Left ? -1 : 1);
+        return true;
+    case Qt::Key_F2:
+        edit(cell);
+        return true;
+    default:
+        if (!is_number || (event.modifiers() & (Qt::ControlModifier | Qt::AltModifier)) != 0) return false;
+        setEditTriggers(DoubleClicked | AnyKeyPressed);
+        edit(cell, AnyKeyPressed, &event); // which hands the digit on
+        setEditTriggers(DoubleClicked);
+        return true;
+    }
+}
+
+// From left to right, as they are shown.
+void ListView::go_to_cell(int steps) {
+    auto columns = row_.typing.columns;
+    const auto now = columns[cell_];
+    std::sort(columns.begin(), columns.end());
+    const auto place = std::find(columns.begin(), columns.end(), now) - columns.begin();
+    const auto last = static_cast<std::ptrdiff_t>(columns.size()) - 1;
+    const auto wanted = columns[static_cast<std::size_t>(std::clamp<std::ptrdiff_t>(place + steps, 0, last))];
+    const auto& all = row_.typing.columns;
+    cell_ = static_cast<std::size_t>(std::find(all.begin(), all.end(), wanted) - all.begin());
+    viewport()->update();
+}
+
+void ListView::type_into_next_cell() {
+    const auto before = cell_;
+    go_to_cell(1);
+    if (cell_ != before) edit(cell_to_type());
+}
+
+void ListView::closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) {
+    QTreeView::closeEditor(editor, QAbstractItemDelegate::NoHint);
+    if (hint == QAbstractItemDelegate::SubmitModelCache && indexBelow(currentIndex()).isValid())
+        setCurrentIndex(indexBelow(currentIndex()));
+    if (hint == QAbstractItemDelegate::EditNextItem) type_into_next_cell();
+}
+
+void ListView::mousePressEvent(QMouseEvent* event) {
+    const auto met = indexAt(event->pos());
+    if (is_typed_into(met)) {
+        const auto& columns = row_.typing.columns;
+        const auto column = static_cast<std::size_t>(met.column());
+        cell_ = static_cast<std::size_t>(std::find(columns.begin(), columns.end(), column) - columns.begin());
+    }
+    QTreeView::mousePressEvent(event);
+}
+
+void ListView::frame_cell() {
+    const auto cell = cell_to_type();
+    if (!hasFocus() || !cell.isValid()) return;
+    QPainter painter(viewport());
+    painter.setPen(palette().color(QPalette::HighlightedText));
+    painter.drawRect(visualRect(cell).adjusted(1, 1, -2, -2));
 }
 
 // The list ends with a whole row: what of the next one there is room for stays blank.
@@ -140,6 +243,7 @@ void ListView::drawRow(QPainter* painter, const QStyleOptionViewItem& option,
 // An empty list tells how it is filled.
 void ListView::paintEvent(QPaintEvent* event) {
     QTreeView::paintEvent(event);
+    frame_cell();
     const auto words = model_->rowCount() == 0 ? string_of(row_.empty_words()) : QString();
     if (words.isEmpty()) return;
     QPainter painter(viewport());

@@ -8,6 +8,8 @@
 
 namespace wortlex {
 
+class ListView;
+
 class ListModel : public QAbstractTableModel {
 public:
     ListModel(const ListRow& row, QObject* parent) : QAbstractTableModel(parent), row_(row) {}
@@ -15,6 +17,9 @@ public:
     int columnCount(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role) const override;
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+    Qt::ItemFlags flags(const QModelIndex& index) const override;
+    /// A text typed into a cell.
+    bool setData(const QModelIndex& index, const QVariant& text, int role) override;
     /// Everything may have changed.
     void reload();
 
@@ -22,14 +27,15 @@ private:
     QVariant alignment(int column) const;
     QVariant ground(std::size_t row) const;
     QVariant font(std::size_t row) const;
-    const QWidget& view() const;
+    const ListView& view() const;
 
     const ListRow& row_;
     std::size_t shown_count_ = 0; ///< that the view has been told of
 };
 
 /// Selects whole rows, one at a time. A double click or Enter acts on one, never a single click, by which
-/// some desktops activate.
+/// some desktops activate. Where cells can be typed into, a frame shows the one that a digit or F2 opens;
+/// Enter goes on to the next row, Tab to the next cell, and a double click opens the cell that it meets.
 class ListView : public QTreeView {
 public:
     ListView(const ListRow& row, QWidget* parent);
@@ -41,16 +47,27 @@ public:
     /// Text typed into the list; without it typing finds by the first column.
     std::function<void(const QString& text)> typed;
     std::function<void()> acted; ///< after a click on a head or a double click on a row
+    std::function<void(const std::function<void()>& change)> changed; ///< carries out what was typed
 
 protected:
     void keyboardSearch(const QString& text) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
+    void closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) override;
     void drawRow(QPainter* painter, const QStyleOptionViewItem& option,
                  const QModelIndex& index) const override;
 
 private:
+    friend class ListModel;
+
     void act(const std::function<void()>& action);
+    QModelIndex cell_to_type() const;
+    bool is_typed_into(const QModelIndex& index) const;
+    bool take_cell_key(QKeyEvent& event);
+    void go_to_cell(int steps);
+    void type_into_next_cell();
+    void frame_cell();
     void show_sort_mark();
     void size_columns();
     void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
@@ -59,6 +76,7 @@ private:
     ListModel* model_;
     QStringList captions_; ///< that the columns were sized for
     bool is_refreshing_ = false;
+    std::size_t cell_ = 0; ///< of the columns that are typed into
 };
 
 } // namespace wortlex

@@ -101,12 +101,22 @@ struct ListColumn {
     bool is_number = false;
     int width = 8; ///< to aim at, in digits
     bool stretches = false;
+    std::string hint = ""; ///< a tooltip; empty: as the glossary explains the caption
 };
 
 /// What a list is sorted by.
 struct SortMark {
     std::size_t column = 0;
     bool is_descending = false;
+};
+
+/// Cells of a list that are typed into where they stand. Texts are UTF-8.
+struct CellTyping {
+    std::vector<std::size_t> columns; ///< the first is the one to begin with; none: nothing is typed
+    std::function<std::string(std::size_t row, std::size_t column)> text; ///< to begin with
+    /// Why a text cannot be taken, in words; empty: it can.
+    std::function<std::string(std::size_t row, std::size_t column, const std::string& text)> fault;
+    std::function<void(std::size_t row, std::size_t column, const std::string& text)> take;
 };
 
 /// A list with real columns. Cells are UTF-8.
@@ -148,6 +158,11 @@ public:
         return *this;
     }
 
+    ListRow& cells_typed(CellTyping cells) {
+        typing = std::move(cells);
+        return *this;
+    }
+
     std::vector<ListColumn> columns;
     std::function<std::size_t()> count;
     std::function<std::string(std::size_t row, std::size_t column)> cell;
@@ -158,6 +173,7 @@ public:
     std::function<bool(std::size_t row)> is_head;
     Live<std::string> empty_words = "";
     std::function<void()> activate; ///< double click or Enter on a row
+    CellTyping typing;
 };
 
 class ButtonRow : public RowOptions<ButtonRow, Row> {

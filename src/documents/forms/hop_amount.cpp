@@ -13,7 +13,7 @@ namespace wortlex {
 namespace {
 
 constexpr double ounces_per_pound = 16;
-constexpr float most_small = 160000, most_large = 100000; // ounces or grams, pounds or kilograms
+constexpr float most_large = 100000; // pounds or kilograms
 constexpr std::int16_t dry_hop = -5;
 constexpr std::int64_t arrows_beyond_boil = 5; // minutes
 
@@ -28,7 +28,7 @@ void amount_rows(Rows& rows, HopUse& line, const Settings& settings) {
     amount_row(rows, "amount", line.amount,
                {.label = american ? "&Oz:" : "&g:",
                 .per_stored = small_per_ounce,
-                .highest = most_small,
+                .highest = most_hop_weight,
                 .step = narrow(settings.hop_increment * small_per_ounce)});
     amount_row(rows, "large_amount", line.amount,
                {.label = american ? "&Lbs:" : "&kg:",
@@ -63,7 +63,7 @@ void time_row(Rows& rows, HopUse& line, const BrewDocument& document) {
             "boil_time", [&line, &document] { return boil_time_text(line.boil_time, document.boil_minutes); },
             take)
         .label("&Boil Time:")
-        .hint("Minutes, or D for dry, F for first wort, M for mash")
+        .hint("Minutes before the end of the boil, or D for dry, F for first wort, M for mash")
         .arrows([&line, &document](Spin direction) {
             return turn_boil_time(line, direction, document.boil_minutes);
         });

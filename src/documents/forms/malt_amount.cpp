@@ -10,7 +10,6 @@ namespace wortlex {
 namespace {
 
 constexpr std::string_view not_applicable = "N/A";
-constexpr float most_weight = 100000;
 
 bool is_syrup_or_sugar(const MaltRecord& malt) {
     return malt.malt_type == MaltType::extract || malt.malt_type == MaltType::sugar;
@@ -29,12 +28,12 @@ void line_rows(Rows& rows, MaltUse& line, const Settings& settings) {
     amount_row(rows, "amount", line.amount,
                {.label = american ? "&Lbs:" : "&kg:",
                 .per_stored = american ? 1.0 : grams_per_pound / 1000,
-                .highest = most_weight,
+                .highest = most_malt_weight,
                 .step = grain_to_shown(settings.grain_increment, settings)});
     amount_row(rows, "small_amount", line.amount,
                {.label = american ? "&Oz:" : "&g:",
                 .per_stored = small_per_pound,
-                .highest = most_weight,
+                .highest = most_malt_weight,
                 .step = 1.0F});
     rows.number("colour", line.record.colour)
         .label(colour_label(settings))

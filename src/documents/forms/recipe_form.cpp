@@ -2,6 +2,7 @@
 
 #include "base/windows1252.h"
 #include "documents/figure_catalogue.h"
+#include "documents/forms/cell_typing.h"
 #include "documents/forms/style_band.h"
 #include "documents/forms/style_rows.h"
 #include "documents/recipe_gravity.h"
@@ -202,7 +203,10 @@ void malt_list(Rows& rows, const RecipeSubject& subject) {
               .width = 10},
              {.caption = [&] { return malt_colour_head(settings); }, .is_number = true},
              {.caption = [&] { return std::string(grain_unit(settings).dotted); }, .is_number = true},
-             {.caption = "%", .is_number = true, .width = 6}},
+             {.caption = "%",
+              .is_number = true,
+              .width = 6,
+              .hint = "Share of the weight of all malts; one that is typed leaves that weight as it is"}},
             [&] { return editor.open.document.malts.size(); },
             [&](std::size_t row, std::size_t column) {
                 return malt_cell(editor.open, editor.view, row, column);
@@ -211,6 +215,8 @@ void malt_list(Rows& rows, const RecipeSubject& subject) {
         .when_empty("Insert adds a malt")
         .selection(editor.view.selected_malt)
         .header_clicked([&editor](std::size_t column) { sort_malts(editor, column); })
+        .cells_typed(malt_cells(editor))
+        .hint("A number or F2 changes the framed cell, Enter opens the line")
         .activated(subject.actions.edit_malt);
 }
 
@@ -257,7 +263,10 @@ void hop_list(Rows& rows, const RecipeSubject& subject) {
              {.caption = "Alpha", .is_number = true},
              {.caption = [&] { return hop_bitterness_head(editor.view, settings); }, .is_number = true},
              {.caption = [&] { return std::string(hop_list_word(settings)); }, .is_number = true},
-             {.caption = "Boil", .is_number = true, .width = 6}},
+             {.caption = "Boil",
+              .is_number = true,
+              .width = 6,
+              .hint = "Minutes before the end of the boil; FW is first wort, MH the mash"}},
             [&] { return editor.open.document.hops.size(); },
             [&](std::size_t row, std::size_t column) {
                 return hop_cell(editor.open, editor.view, row, column);
@@ -266,6 +275,8 @@ void hop_list(Rows& rows, const RecipeSubject& subject) {
         .when_empty("Insert adds a hop")
         .selection(editor.view.selected_hop)
         .header_clicked([&editor](std::size_t column) { sort_hops(editor, column); })
+        .cells_typed(hop_cells(editor))
+        .hint("A number or F2 changes the framed cell, Enter opens the line")
         .activated(subject.actions.edit_hop);
 }
 

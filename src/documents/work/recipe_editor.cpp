@@ -187,6 +187,10 @@ void set_style(RecipeEditor& editor, const StyleRecord& style) {
     });
 }
 
+void choose_yeast(RecipeEditor& editor, const YeastRecord& yeast) {
+    edit(editor, "Yeast", [&] { editor.open.document.yeast.record = yeast; });
+}
+
 void set_simple_mash(RecipeEditor& editor, const SimpleMash& mash) {
     edit(editor, "Mash Schedule", [&] {
         editor.open.document.simple_mash = mash;

@@ -66,6 +66,8 @@ void lock_efficiency(RecipeEditor& editor, bool locked);
 
 /// Takes a style as picked, its book with it, and aims at the middle of its bitterness.
 void set_style(RecipeEditor& editor, const StyleRecord& style);
+/// As a step of its own.
+void choose_yeast(RecipeEditor& editor, const YeastRecord& yeast);
 void set_simple_mash(RecipeEditor& editor, const SimpleMash& mash);
 /// Puts the schedule of that kind in force; each keeps its own data.
 void set_schedule_kind(RecipeEditor& editor, ScheduleKind kind);

@@ -3,6 +3,7 @@
 #include "documents/recipe_gravity.h"
 
 #include <algorithm>
+#include <numeric>
 
 namespace wortlex {
 namespace {
@@ -75,6 +76,13 @@ void add_malt(RecipeEditor& editor, const MaltRecord& malt) {
     });
 }
 
+void append_malt(RecipeEditor& editor, const MaltUse& line) {
+    change_malts(editor, "New Malt", [&] {
+        editor.view.selected_malt = -1;
+        insert(editor.open.document.malts, line, editor.view.selected_malt);
+    });
+}
+
 void delete_malt(RecipeEditor& editor) {
     const auto line = selected_malt(editor);
     if (!line) return;
@@ -82,12 +90,23 @@ void delete_malt(RecipeEditor& editor) {
                  [&] { erase(editor.open.document.malts, *line, editor.view.selected_malt); });
 }
 
-void replace_malt(RecipeEditor& editor, const MaltUse& changed) {
-    const auto line = selected_malt(editor);
-    if (!line) return;
+void replace_malt(RecipeEditor& editor, std::size_t line, const MaltUse& changed) {
     change_malts(editor, "Malt", [&] {
-        editor.open.document.malts[*line] = changed;
-        editor.open.document.malts[*line].points = 0;
+        editor.open.document.malts[line] = changed;
+        editor.open.document.malts[line].points = 0;
+    });
+}
+
+void set_malt_share(RecipeEditor& editor, std::size_t line, float percent) {
+    auto& malts = editor.open.document.malts;
+    const double total = std::accumulate(malts.begin(), malts.end(), 0.0,
+                                         [](double sum, const MaltUse& malt) { return sum + malt.amount; });
+    const double others = total - malts[line].amount;
+    if (!(others > 0)) return;
+    const double share = total * percent / 100;
+    change_malts(editor, "Malt Share", [&] {
+        for (auto& malt : malts) malt.amount = narrow(malt.amount * (total - share) / others);
+        malts[line].amount = narrow(share);
     });
 }
 
@@ -112,6 +131,14 @@ void add_hop(RecipeEditor& editor, const HopRecord& hop) {
     });
 }
 
+void append_hop(RecipeEditor& editor, const HopUse& line) {
+    edit(editor, "New Hop", [&] {
+        editor.view.selected_hop = -1;
+        insert(editor.open.document.hops, line, editor.view.selected_hop);
+        hop_added(editor.open, *selected_hop(editor));
+    });
+}
+
 void delete_hop(RecipeEditor& editor) {
     const auto line = selected_hop(editor);
     if (!line) return;
@@ -121,10 +148,8 @@ void delete_hop(RecipeEditor& editor) {
     });
 }
 
-void replace_hop(RecipeEditor& editor, const HopUse& changed) {
-    const auto line = selected_hop(editor);
-    if (!line) return;
-    edit(editor, "Hop", [&] { change_hop(editor.open, *line, [&](HopUse& hop) { hop = changed; }); });
+void replace_hop(RecipeEditor& editor, std::size_t line, const HopUse& changed) {
+    edit(editor, "Hop", [&] { change_hop(editor.open, line, [&](HopUse& hop) { hop = changed; }); });
 }
 
 void step_hop(RecipeEditor& editor, Step step) {

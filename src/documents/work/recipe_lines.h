@@ -17,15 +17,23 @@ void add_malt(RecipeEditor& editor, const MaltRecord& malt);
 void add_hop(RecipeEditor& editor, const HopRecord& hop);
 void add_extra(RecipeEditor& editor, const ExtraRecord& extra);
 
+/// A line with its amounts, as one step; it stands last and is selected.
+void append_malt(RecipeEditor& editor, const MaltUse& line);
+void append_hop(RecipeEditor& editor, const HopUse& line);
+
 /// The selection goes up by one, not above the first line.
 void delete_malt(RecipeEditor& editor);
 void delete_hop(RecipeEditor& editor);
 void delete_extra(RecipeEditor& editor);
 
-/// A line as its dialog left it.
-void replace_malt(RecipeEditor& editor, const MaltUse& changed);
-void replace_hop(RecipeEditor& editor, const HopUse& changed);
+/// A line as its dialog left it, or as typing into one of its cells makes it.
+void replace_malt(RecipeEditor& editor, std::size_t line, const MaltUse& changed);
+void replace_hop(RecipeEditor& editor, std::size_t line, const HopUse& changed);
 void replace_extra(RecipeEditor& editor, const ExtraUse& changed);
+
+/// A malt is to have so many percent of the grain, more than 0 and less than 100. All of it weighs as much as
+/// before: the other malts share the rest as they did. Nothing happens where they weigh nothing.
+void set_malt_share(RecipeEditor& editor, std::size_t line, float percent);
 
 /// More or less by the increment of the settings, for an extra by 0.05. A weight never comes down to nothing:
 /// less is taken only from more than the increment.

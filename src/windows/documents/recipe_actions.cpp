@@ -16,7 +16,7 @@ void add_malt_actions(RecipeActions& actions, const RecipeSide& side) {
         if (!line) return;
         const auto& malt = side.editor.open.document.malts[*line];
         if (const auto changed = edit_malt_line(side.ports, malt, side.opener, side.owner))
-            replace_malt(side.editor, *changed);
+            replace_malt(side.editor, *line, *changed);
     };
     actions.malt_contribution = [side] {
         if (const auto line = selected_malt(side.editor))
@@ -40,7 +40,7 @@ std::function<void()> change_by(HopDialog dialog, const RecipeSide& side) {
         const auto line = selected_hop(side.editor);
         if (!line) return;
         const auto& hop = side.editor.open.document.hops[*line];
-        if (const auto changed = dialog(side, hop)) replace_hop(side.editor, *changed);
+        if (const auto changed = dialog(side, hop)) replace_hop(side.editor, *line, *changed);
     };
 }
 
