@@ -27,6 +27,7 @@ namespace wortlex {
 /// What the pick lists of documents showed last.
 struct PickChoices {
     ListChoice styles, malts, hops, yeasts, waters, extras;
+    bool stays_open = false; ///< for more than one malt, hop or extra
 };
 
 struct Program {

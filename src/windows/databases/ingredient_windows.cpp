@@ -1,5 +1,6 @@
 #include "windows/databases/ingredient_windows.h"
 
+#include "base/ports/quiet_prompts.h"
 #include "databases/extras.h"
 #include "databases/hops.h"
 #include "databases/malts.h"
@@ -44,18 +45,23 @@ void keep(ListMaker<Record> make, const WindowPorts& ports, QWidget* owner) {
 }
 
 // Runs a pick list from the choice of the last pick. A pick keeps the new choice, leaving the list the old
-// one. `picked` is told the window, and answers whether it is done.
+// one. `picked` is told the window, and answers whether it is done, which it is not while it stays open.
 void run_pick(IngredientList& list, ListChoice& choice, const std::function<bool(QWidget*)>& picked,
-              const WindowPorts& ports, Opener opener, QWidget* owner) {
+              const WindowPorts& ports, Opener opener, QWidget* owner, bool* stays_open = nullptr) {
     list.filter = static_cast<std::int32_t>(choice.filter);
     list.only_in_stock = choice.only_in_stock;
     open(list, ports);
     ListWindow* shown = nullptr;
-    ListWindow window(
-        list, list_ports(ports), opener, [&] { return picked(shown); }, owner);
+    bool is_picked = false;
+    const auto note = [&] {
+        const bool is_done = picked(shown);
+        is_picked = is_picked || is_done;
+        return is_done;
+    };
+    ListWindow window(list, list_ports(ports), opener, note, owner, stays_open);
     shown = &window;
-    if (window.exec() == QDialog::Accepted)
-        choice = {static_cast<std::size_t>(list.filter), list.only_in_stock};
+    window.exec();
+    if (is_picked) choice = {static_cast<std::size_t>(list.filter), list.only_in_stock};
 }
 
 template <class Record>
@@ -75,6 +81,34 @@ std::optional<Record> pick(ListMaker<Record> make, ListChoice& choice, const Win
                            Opener opener, QWidget* owner) {
     Database<Record> database; // a pick never sees unsaved edits
     return pick(*make(source(ListSide::pick, ports), database), choice, ports, opener, owner);
+}
+
+// A list with the database that it stands on.
+template <class Record>
+struct OwnList {
+    Database<Record> database;
+    std::unique_ptr<RecordList<Record>> list;
+};
+
+template <class Record>
+std::shared_ptr<RecordList<Record>> read_all(ListMaker<Record> make, const WindowPorts& ports) {
+    const auto own = std::make_shared<OwnList<Record>>();
+    own->list = make(source(ListSide::pick, ports), own->database);
+    QuietPrompts nobody;
+    own->list->open(nobody);
+    return {own, own->list.get()};
+}
+
+template <class Record>
+void pick_some(ListMaker<Record> make, ListChoice& choice, const UsePicked<Record>& use,
+               const WindowPorts& ports, Opener opener, QWidget* owner) {
+    Database<Record> database;
+    const auto list = make(source(ListSide::pick, ports), database);
+    const auto hand_on = [&](QWidget*) {
+        use(*list->selected_record());
+        return true;
+    };
+    run_pick(*list, choice, hand_on, ports, opener, owner, &ports.program.picks.stays_open);
 }
 
 template <class MakeForm>
@@ -129,12 +163,12 @@ std::optional<StyleRecord> pick_style(const WindowPorts& ports, Opener opener, Q
     return style;
 }
 
-std::optional<MaltRecord> pick_malt(const WindowPorts& ports, Opener opener, QWidget* owner) {
-    return pick(malt_list, ports.program.picks.malts, ports, opener, owner);
+void pick_malts(const UsePicked<MaltRecord>& use, const WindowPorts& ports, Opener opener, QWidget* owner) {
+    pick_some(malt_list, ports.program.picks.malts, use, ports, opener, owner);
 }
 
-std::optional<HopRecord> pick_hop(const WindowPorts& ports, Opener opener, QWidget* owner) {
-    return pick(hop_list, ports.program.picks.hops, ports, opener, owner);
+void pick_hops(const UsePicked<HopRecord>& use, const WindowPorts& ports, Opener opener, QWidget* owner) {
+    pick_some(hop_list, ports.program.picks.hops, use, ports, opener, owner);
 }
 
 std::optional<YeastRecord> pick_yeast(const WindowPorts& ports, Opener opener, QWidget* owner) {
@@ -145,8 +179,20 @@ std::optional<WaterRecord> pick_water(const WindowPorts& ports, Opener opener, Q
     return pick<WaterRecord>(water_list, ports.program.picks.waters, ports, opener, owner);
 }
 
-std::optional<ExtraRecord> pick_extra(const WindowPorts& ports, Opener opener, QWidget* owner) {
-    return pick(extra_list, ports.program.picks.extras, ports, opener, owner);
+void pick_extras(const UsePicked<ExtraRecord>& use, const WindowPorts& ports, Opener opener, QWidget* owner) {
+    pick_some(extra_list, ports.program.picks.extras, use, ports, opener, owner);
+}
+
+std::shared_ptr<RecordList<MaltRecord>> all_malts(const WindowPorts& ports) {
+    return read_all(malt_list, ports);
+}
+
+std::shared_ptr<RecordList<HopRecord>> all_hops(const WindowPorts& ports) {
+    return read_all(hop_list, ports);
+}
+
+std::shared_ptr<RecordList<YeastRecord>> all_yeasts(const WindowPorts& ports) {
+    return read_all(yeast_list, ports);
 }
 
 void pick_hops_for(const std::function<void(QWidget*, const HopRecord&)>& use, const WindowPorts& ports,

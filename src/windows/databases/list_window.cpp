@@ -19,8 +19,9 @@
 namespace wortlex {
 
 ListWindow::ListWindow(IngredientList& list, const ListPorts& ports, Opener opener,
-                       std::function<bool()> picked, QWidget* owner)
+                       std::function<bool()> picked, QWidget* owner, bool* stays_open)
     : QDialog(owner), list_(list), ports_(ports), opener_(opener), picked_(std::move(picked)),
+      stays_open_(stays_open),
       place_(dress_window(*this, window_info(list.dialog_template()), 0, opener, owner, ports.places)) {
     setWindowModality(Qt::WindowModal);
     setSizeGripEnabled(true);
@@ -50,7 +51,7 @@ void ListWindow::fill_form() {
     rows.note("found", [this] { return found_text(); });
     list_row(rows);
     if (picked_)
-        rows.button("pick", "&Pick", [this] { pick(); });
+        pick_rows(rows);
     else
         edit_buttons(rows);
     print_button(rows);
@@ -101,10 +102,20 @@ void ListWindow::list_row(Rows& rows) {
         .activated([this] { act(); });
 }
 
+void ListWindow::pick_rows(Rows& rows) {
+    if (stays_open_ != nullptr)
+        rows.check("stays_open", *stays_open_)
+            .label("Stay &Open")
+            .hint("Picks one after the other; Shift and Enter does so once");
+    rows.button("pick", "&Pick", [this] { pick_and_close(); });
+}
+
 std::string ListWindow::found_text() const {
-    if (query_.empty()) return {};
+    const auto added = added_ == 0 ? "" : std::to_string(added_) + " added";
+    if (query_.empty()) return added;
     const auto count = count_found(list_, query_);
-    return count == 0 ? "Nothing found" : std::to_string(count) + " found";
+    return (count == 0 ? "Nothing found" : std::to_string(count) + " found") +
+           (added.empty() ? "" : ", " + added);
 }
 
 std::string ListWindow::empty_text() const {
@@ -218,6 +229,7 @@ void ListWindow::lay_out_rows() {
     choices->addWidget(&widgets_->field("filter"));
     choices->addStretch();
     choices->addWidget(&widgets_->field("in_stock"));
+    if (stays_open_ != nullptr) choices->addWidget(&widgets_->field("stays_open"));
     layout->addLayout(choices);
     auto* const finding = new QHBoxLayout;
     finding->addWidget(&find_line_);
@@ -253,6 +265,9 @@ void ListWindow::add_keys() {
     };
     tell(picked_ ? "pick" : "edit", Qt::Key_Return);
     tell(picked_ ? "cancel" : "ok", Qt::Key_Escape);
+    if (stays_open_ != nullptr)
+        for (const int enter : {Qt::Key_Return, Qt::Key_Enter})
+            on(QKeySequence(Qt::SHIFT | static_cast<Qt::Key>(enter)), [this] { pick_and_stay(); });
     if (picked_) return;
     tell("new", Qt::Key_Insert);
     tell("delete", QKeySequence::Delete);
@@ -279,11 +294,23 @@ void ListWindow::run(std::unique_ptr<EntryForm> entry) {
 }
 
 void ListWindow::act() {
-    picked_ ? pick() : run(list_.edit_entry(ports_.prompts));
+    picked_ ? pick_and_close() : run(list_.edit_entry(ports_.prompts));
 }
 
-void ListWindow::pick() {
-    if (list_.selected >= 0 && list_.shown_count() > 0 && picked_()) leave(QDialog::Accepted);
+bool ListWindow::pick() {
+    return list_.selected >= 0 && list_.shown_count() > 0 && picked_();
+}
+
+void ListWindow::pick_and_close() {
+    if (stays_open_ != nullptr && *stays_open_) return pick_and_stay();
+    if (pick()) leave(QDialog::Accepted);
+}
+
+// The next name can be typed at once.
+void ListWindow::pick_and_stay() {
+    if (pick()) ++added_;
+    find_line_.selectAll();
+    widgets_->refresh();
 }
 
 void ListWindow::leave(int result) {

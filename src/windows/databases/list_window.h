@@ -23,8 +23,10 @@ class ListWindow : public QDialog {
 public:
     /// On an opened list, which knows whether it can be printed. `picked` is what Pick does with the selected
     /// entry, and answers whether the window is done; without it the window is one that keeps the database.
+    /// With `stays_open` more than one can be picked: by Shift and Enter, or as long as it is set, which the
+    /// user does in the window.
     ListWindow(IngredientList& list, const ListPorts& ports, Opener opener, std::function<bool()> picked,
-               QWidget* owner);
+               QWidget* owner, bool* stays_open = nullptr);
 
     /// Hidden before its form goes, which the list still reads.
     ~ListWindow() override { hide(); }
@@ -44,6 +46,7 @@ private:
     void fill_form();
     void choice_rows(Rows& rows);
     void list_row(Rows& rows);
+    void pick_rows(Rows& rows);
     void edit_buttons(Rows& rows);
     void print_button(Rows& rows);
     void make_find_line();
@@ -59,7 +62,10 @@ private:
     void change(const std::function<void()>& action);
     void run(std::unique_ptr<EntryForm> entry);
     void act();
-    void pick();
+    /// Whether an entry was picked and the window is done.
+    bool pick();
+    void pick_and_close();
+    void pick_and_stay();
     void leave(int result);
     bool can_import(const QMimeData& dragged) const;
 
@@ -67,6 +73,8 @@ private:
     ListPorts ports_;
     Opener opener_;
     std::function<bool()> picked_;
+    bool* stays_open_;      ///< null: one entry is picked
+    std::size_t added_ = 0; ///< picked while it stayed open
     Form form_;
     FindQuery query_;
     QLineEdit find_line_{this};

@@ -9,7 +9,8 @@ namespace {
 
 void add_malt_actions(RecipeActions& actions, const RecipeSide& side) {
     actions.new_malt = [side] {
-        if (const auto malt = pick_malt(side.ports, side.opener, side.owner)) add_malt(side.editor, *malt);
+        pick_malts([&side](const MaltRecord& malt) { add_malt(side.editor, malt); }, side.ports, side.opener,
+                   side.owner);
     };
     actions.edit_malt = [side] {
         const auto line = selected_malt(side.editor);
@@ -53,7 +54,8 @@ RecipeActions line_actions(const RecipeSide& side) {
     actions.pre_boil = [side] { show_pre_boil(side.ports, side.editor.open, side.owner); };
     add_malt_actions(actions, side);
     actions.new_hop = [side] {
-        if (const auto hop = pick_hop(side.ports, side.opener, side.owner)) add_hop(side.editor, *hop);
+        pick_hops([&side](const HopRecord& hop) { add_hop(side.editor, hop); }, side.ports, side.opener,
+                  side.owner);
     };
     actions.edit_hop = change_by(edit_hop, side);
     actions.lose_alpha = change_by(lose_alpha, side);
@@ -76,8 +78,8 @@ YeastWaterActions yeast_water_actions(const RecipeSide& side) {
 ExtrasActions extras_actions(const RecipeSide& side) {
     ExtrasActions actions;
     actions.new_extra = [side] {
-        if (const auto extra = pick_extra(side.ports, side.opener, side.owner))
-            add_extra(side.editor, *extra);
+        pick_extras([&side](const ExtraRecord& extra) { add_extra(side.editor, extra); }, side.ports,
+                    side.opener, side.owner);
     };
     actions.edit_extra = [side] {
         const auto line = selected_extra(side.editor);

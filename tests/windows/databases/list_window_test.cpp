@@ -38,19 +38,19 @@ struct ListDesk {
     std::unique_ptr<RecordList<HopRecord>> hops =
         hop_list({ListSide::maintenance, settings, folder.path()}, database);
     std::unique_ptr<ListWindow> window;
-    explicit ListDesk(const std::function<bool()>& picked = nullptr) {
+    explicit ListDesk(const std::function<bool()>& picked = nullptr, bool* stays_open = nullptr) {
         settings.save_window_positions = 1;
         database.count = 3;
         database.slots = {hop("Saaz", 3), hop("Fuggle", 5, HopForm::plug), hop("Galena", 13)};
         database.slots.resize(database_slots);
         EXPECT_TRUE(SaveHops(folder.path(), database));
-        show(picked);
+        show(picked, stays_open);
     }
     ~ListDesk() { window->hide(); }
-    void show(const std::function<bool()>& picked = nullptr) {
+    void show(const std::function<bool()>& picked = nullptr, bool* stays_open = nullptr) {
         hops->open(prompts);
         const ListPorts ports{{positions, settings, notices}, files, prompts};
-        window = std::make_unique<ListWindow>(*hops, ports, Opener::main, picked, nullptr);
+        window = std::make_unique<ListWindow>(*hops, ports, Opener::main, picked, nullptr, stays_open);
         window->show();
         EXPECT_TRUE(QTest::qWaitForWindowActive(window.get()));
     }
@@ -163,6 +163,22 @@ TEST(ListWindow, PicksByDoubleClickAndEnter) {
         by_mouse ? desk.double_click(2) : QTest::keyClick(&desk.list(), Qt::Key_Return);
         EXPECT_EQ(std::pair(desk.window->result(), desk.hops->selected), std::pair(1, by_mouse ? 2 : 0));
     }
+}
+
+TEST(ListWindow, StaysOpenForMoreThanOne) {
+    bool stays_open = false;
+    int picked = 0;
+    ListDesk desk([&picked] { return ++picked > 0; }, &stays_open);
+    QTest::keyClick(&desk.list(), Qt::Key_Return, Qt::ShiftModifier);
+    EXPECT_TRUE(desk.window->isVisible());
+    desk.click("stays_open");
+    QTest::keyClick(&desk.list(), Qt::Key_Return);
+    EXPECT_TRUE(desk.window->isVisible());
+    EXPECT_EQ(desk.window->findChild<QLabel*>("found")->text(), "2 added");
+    desk.click("stays_open");
+    QTest::keyClick(&desk.list(), Qt::Key_Return);
+    EXPECT_FALSE(desk.window->isVisible());
+    EXPECT_EQ(picked, 3);
 }
 
 TEST(ListWindow, EscAsksAboutChangesAndOnlyOkRemembersThePlace) {
