@@ -62,6 +62,16 @@ void keystroke(benchmark::State& state) {
     window->hide();
 }
 
+// The first cell tells the gravity, which every size changes.
+void strip_keystroke(benchmark::State& state) {
+    Brewery brewery;
+    const auto window = made<RecipeWindow>(brewery);
+    window->show();
+    const auto* const strip = window->findChild<QWidget*>(QStringLiteral("result_strip"));
+    type_sizes(state, *window, *strip->findChild<QWidget*>());
+    window->hide();
+}
+
 // Until the window behind the page shows the gravity too.
 void session_keystroke(benchmark::State& state) {
     BrewDay brewery;
@@ -98,6 +108,7 @@ void add_benchmarks() {
         benchmark::RegisterBenchmark(name, function)->Unit(benchmark::kMillisecond);
     };
     measured("keystroke to paint", keystroke);
+    measured("keystroke to the strip painted", strip_keystroke);
     measured("open the window", [](benchmark::State& state) { opening<RecipeWindow, Brewery>(state, "sg"); });
     measured("keystroke on a session's ingredients to paint", session_keystroke);
     measured("open a session",

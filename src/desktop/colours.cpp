@@ -45,6 +45,14 @@ void apply_colours(QWidget& field, ColorArea area, const SystemSettings& setting
     field.setPalette(palette);
 }
 
+bool is_dark(const QPalette& palette) {
+    return palette.color(QPalette::Window).lightness() < 128;
+}
+
+QColor warning_colour(const QPalette& palette) {
+    return is_dark(palette) ? QColor(0xFF, 0x9E, 0x80) : QColor(0xB0, 0x00, 0x20);
+}
+
 QColor toned_ground(const QPalette& palette, int percent) {
     const auto base = palette.color(QPalette::Active, QPalette::Base);
     const auto text = palette.color(QPalette::Active, QPalette::Text);

@@ -1,5 +1,7 @@
 #include "desktop/range_hint.h"
 
+#include "desktop/colours.h"
+
 #include <QAccessible>
 #include <QEvent>
 #include <QLabel>
@@ -12,12 +14,6 @@ namespace wortlex {
 namespace {
 
 constexpr int thickness = 2;
-
-// Readable on the ground that the desktop gives its windows.
-QColor warning_colour(const QPalette& palette) {
-    const bool is_dark = palette.color(QPalette::Window).lightness() < 128;
-    return is_dark ? QColor(0xFF, 0x9E, 0x80) : QColor(0xB0, 0x00, 0x20);
-}
 
 } // namespace
 

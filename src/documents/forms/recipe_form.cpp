@@ -3,8 +3,8 @@
 #include "base/windows1252.h"
 #include "documents/figure_catalogue.h"
 #include "documents/forms/cell_typing.h"
-#include "documents/forms/style_band.h"
 #include "documents/forms/style_rows.h"
+#include "documents/forms/summary_rows.h"
 #include "documents/recipe_gravity.h"
 #include "measures/units.h"
 
@@ -23,46 +23,6 @@ Get shown_of(const Figure& figure, const OpenDocument& open) {
 
 std::string pattern_of(const Figure& figure) {
     return "%0." + std::to_string(figure.decimals) + "f";
-}
-
-// A band beside the limits: where the recipe stands between them.
-void band(Rows& rows, std::string key, const std::string& what, const std::function<StyleBand()>& figure,
-          const BrewDocument& document) {
-    rows.canvas(std::move(key), Extent{90, 9},
-                [figure, &document](Surface& surface) {
-                    draw_style_band(surface, has_style(document) ? figure() : StyleBand{});
-                })
-        .named(what + " in the style's range")
-        .hint([what, figure, &document]() -> std::string {
-            if (!has_style(document)) return "";
-            const auto now = figure();
-            if (now.value < now.low) return what + " is below the style's range";
-            return what + (now.value > now.high ? " is above the style's range" : " is in the style's range");
-        });
-}
-
-void band_rows(Rows& rows, const OpenDocument& open) {
-    const auto& document = open.document;
-    const auto& style = document.style;
-    const auto& figures = open.figures;
-    band(
-        rows, "sg_band", "Gravity",
-        [&] {
-            return StyleBand{style.min_og, style.max_og, hop_gravity(document)};
-        },
-        document);
-    band(
-        rows, "ibu_band", "Bitterness",
-        [&] {
-            return StyleBand{style.min_ibu, style.max_ibu, document.total_ibu};
-        },
-        document);
-    band(
-        rows, "colour_band", "Color",
-        [&] {
-            return StyleBand{style.min_colour, style.max_colour, figures.colour.srm};
-        },
-        document);
 }
 
 bool is_extract(const BrewDocument& document) {
@@ -326,16 +286,20 @@ void hop_rows(Rows& rows, const RecipeSubject& subject) {
 void page_rows(Rows& rows, const RecipeSubject& subject) {
     const auto& document = subject.editor.open.document;
     const auto& actions = subject.actions;
-    rows.button("yeast_and_water", "Yeast &And Water", actions.yeast_and_water);
-    rows.button("extras_and_notes", "Extras && &Notes", actions.extras_and_notes);
+    rows.button("yeast_and_water", "Yeast &And Water", actions.yeast_and_water)
+        .hint("Opens their page: one is picked there, and all is told of both");
+    rows.button("extras_and_notes", "Extras && &Notes", actions.extras_and_notes)
+        .hint("Opens the page of spices, finings, fruit, notes and awards");
+    summary_rows(rows, document);
     if (kind_of(subject.editor.open) == DocumentKind::session) {
         rows.button("save_as", "Sa&ve As", actions.save_as)
             .hint("Writes the recipe into a file of its own; the session stays as it is");
     } else {
         rows.button("mash_schedule", "&Mash Schedule", actions.mash_schedule)
             .enabled([&document] { return has_mashable_grain(document); })
+            .hint("Opens the schedule of the mash: its water, rests and temperatures")
             .disabled_because("There is no grain to mash.");
-        rows.button("save", "&Save", actions.save);
+        rows.button("save", "&Save", actions.save).hint("Writes the recipe into its file");
     }
     rows.button("print", "&Print", actions.print);
     rows.button("help", "Help", actions.help);
@@ -348,9 +312,9 @@ void recipe_form(Form& form, const RecipeSubject& subject) {
     name_rows(recipe, subject.editor);
     size_rows(recipe, subject);
     auto& style = form.group("Style Guidelines");
-    style.button("pick_style", "Pick St&yle", subject.actions.pick_style);
+    style.button("pick_style", "Pick St&yle", subject.actions.pick_style)
+        .hint("Takes a style with its ranges of gravity, bitterness and color");
     style_rows(style, subject.editor.open);
-    band_rows(style, subject.editor.open);
     figure_rows(form.group("Predicted"), subject);
     malt_rows(form.group("Malts"), subject);
     hop_rows(form.group("Hops"), subject);

@@ -81,6 +81,7 @@ void DocumentWindow::add_menu(std::function<void()> print_it) {
 
 void DocumentWindow::add_edit_menu(QMenuBar& bar) {
     auto* const menu = bar.addMenu(tr("E&dit"));
+    menu->setObjectName(QStringLiteral("edit_menu"));
     menu->setToolTipsVisible(true);
     undo_ = menu->addAction(tr("&Undo"), this, [this] { travel(Travel::undo); });
     undo_->setObjectName(QStringLiteral("undo"));

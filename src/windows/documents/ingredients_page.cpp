@@ -31,7 +31,7 @@ IngredientsPage::IngredientsPage(RecipeEditor& editor, const WindowPorts& ports,
     : ToolWindow(window_info("BATCHRECIPEDIALOG"), 0, Opener::session, origin, places(ports.program)),
       editor_(editor), ports_(ports), pages_(pages),
       before_(begun(editor)), subject_{editor, ports.program.color_table, actions(save)},
-      panel_(subject_, places(ports.program), this) {
+      panel_(subject_, ports, this) {
     auto* const layout = new QVBoxLayout(this);
     layout->addWidget(new Scrolled(panel_, this), 1);
     layout->addLayout(page_part());
@@ -50,8 +50,6 @@ RecipeActions IngredientsPage::actions(const std::function<void()>& save) {
 QLayout* IngredientsPage::page_part() {
     auto* const line = new QHBoxLayout;
     const auto& widgets = panel_.widgets();
-    for (const auto* const key : {"yeast_and_water", "extras_and_notes"})
-        line->addWidget(&widgets.field(key));
     line->addStretch();
     for (const auto* const key : {"save_as", "print", "help"}) line->addWidget(&widgets.field(key));
     auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);

@@ -15,11 +15,12 @@ namespace wortlex {
 
 RecipeWindow::RecipeWindow(const WindowPorts& given, const WindowInfo& info, QWidget* origin)
     : DocumentWindow(given, info, origin), subject_{editor(), program().color_table, actions()},
-      panel_(subject_, places(program()), this) {
+      panel_(subject_, given, this) {
     auto* const layout = new QVBoxLayout(this);
     layout->addWidget(new Scrolled(panel_, this), 1);
     layout->addLayout(page_part());
     begin([this] { print(); });
+    panel_.add_line_actions(*findChild<QMenu*>(QStringLiteral("edit_menu")));
 }
 
 RecipeActions RecipeWindow::actions() {
@@ -34,8 +35,7 @@ RecipeActions RecipeWindow::actions() {
 QLayout* RecipeWindow::page_part() {
     auto* const line = new QHBoxLayout;
     const auto& widgets = panel_.widgets();
-    for (const auto* const key : {"yeast_and_water", "extras_and_notes", "mash_schedule"})
-        line->addWidget(&widgets.field(key));
+    line->addWidget(&widgets.field("mash_schedule"));
     line->addStretch();
     for (const auto* const key : {"save", "print", "help"}) line->addWidget(&widgets.field(key));
     line->addWidget(ok_button("Closes the recipe, after asking for unsaved changes"));

@@ -1,7 +1,6 @@
 #include "documents/brewing.h"
 #include "documents/forms/page_forms.h"
 #include "documents/forms/recipe_form.h"
-#include "documents/forms/style_band.h"
 #include "documents/recipe_gravity.h"
 #include "documents/snapshot.h"
 #include "support/field.h"
@@ -321,15 +320,6 @@ TEST(RecipeEditor, AStyleBringsItsBitterness) {
     set_style(work.editor, style);
     EXPECT_EQ(work.document.target_ibu, 32) << "32.5, cut";
     EXPECT_EQ(work.editor.history.to_undo(), "Style");
-}
-
-TEST(StyleBand, PutsTheRangeInTheMiddle) {
-    EXPECT_EQ(place_on_band({30, 50, 40}), 0.5);
-    EXPECT_EQ(place_on_band({30, 50, 30}), 0.25);
-    EXPECT_EQ(place_on_band({30, 50, 90}), 1.0) << "at the end, not beyond";
-    EXPECT_EQ(place_on_band({0, 0, 5}), std::nullopt);
-    EXPECT_TRUE(is_in_style({30, 50, 50}));
-    EXPECT_FALSE(is_in_style({30, 50, 50.1F}));
 }
 
 } // namespace

@@ -60,6 +60,50 @@ TEST(RecipeWindow, AWholeRecipeByKeyboard) {
     std::filesystem::remove(path);
 }
 
+TEST(RecipeWindow, IsWrittenInItsListsWithoutADialog) {
+    Kitchen kitchen;
+    kitchen.begin();
+    const auto& recipe = kitchen.program.document.recipe;
+    kitchen.press(Qt::Key_1, Qt::ControlModifier);
+    kitchen.type("9 lb pale");
+    kitchen.press(Qt::Key_Return);
+    ASSERT_EQ(recipe.malts.size(), 1U);
+    EXPECT_EQ(recipe.malts[0].amount, 9);
+    kitchen.type("2 lb rye");
+    kitchen.press(Qt::Key_Return);
+    EXPECT_EQ(text_in(*kitchen.recipe, "malt_entry"), "2 lb rye") << "nothing is lost where nothing is found";
+    EXPECT_EQ(kitchen.recipe->findChild<QWidget*>("range_hint")->accessibleName(), "Nothing found");
+    kitchen.press(Qt::Key_2, Qt::ControlModifier);
+    kitchen.type("2 oz casc 15");
+    kitchen.press(Qt::Key_Return);
+    ASSERT_EQ(recipe.hops.size(), 1U);
+    EXPECT_EQ(recipe.hops[0].boil_time, 15);
+    kitchen.press(Qt::Key_3, Qt::ControlModifier);
+    kitchen.type("house");
+    kitchen.press(Qt::Key_Return);
+    EXPECT_EQ(text_in(*kitchen.recipe, "yeast_line"), "House Yeast");
+
+    kitchen.press(Qt::Key_1, Qt::AltModifier);
+    kitchen.type("1"); // opens the cell
+    kitchen.type("0 stone");
+    kitchen.press(Qt::Key_Return);
+    EXPECT_EQ(recipe.malts[0].amount, 9) << "what is not understood stays in its field";
+    for (int i = 0; i < 5; ++i) kitchen.press(Qt::Key_Backspace);
+    kitchen.type("lb");
+    kitchen.press(Qt::Key_Return);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return recipe.malts[0].amount == 10; }));
+    kitchen.press(Qt::Key_F2);
+    kitchen.type("7");
+    kitchen.press(Qt::Key_Escape);
+    EXPECT_EQ(recipe.malts[0].amount, 10);
+    kitchen.press(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(recipe.malts[0].amount, 9) << "one step";
+    kitchen.prompts.expect("yes/no/cancel",
+                           "The current recipe has been modified!\nDo you want to save the changes?",
+                           Answer::no, Icon::question);
+    EXPECT_TRUE(kitchen.recipe->close());
+}
+
 TEST(RecipeWindow, UndoIsTheRecipesInEveryField) {
     Kitchen kitchen;
     kitchen.begin();

@@ -1,0 +1,105 @@
+#include "windows/documents/entry_line.h"
+
+#include "desktop/fields.h"
+#include "desktop/qt_text.h"
+
+#include <QAbstractItemView>
+#include <QKeyEvent>
+
+#include <utility>
+
+namespace wortlex {
+namespace {
+
+constexpr std::size_t most_proposals = 10;
+
+QString proposal_text(const IngredientList& list, std::size_t row, const std::vector<std::size_t>& columns) {
+    QStringList parts;
+    for (const auto column : columns) parts << string_of(list.cell(row, column)).trimmed();
+    parts.removeAll(QString());
+    return parts.join(QStringLiteral(", "));
+}
+
+} // namespace
+
+EntryLine::EntryLine(EntryLineUse use, const WindowPorts& ports, QWidget* parent)
+    : QLineEdit(parent), use_(std::move(use)), other_names_(LoadOtherNames(ports.program.data_folder)) {
+    setObjectName(string_of(use_.key));
+    setAccessibleName(string_of(use_.name));
+    setPlaceholderText(string_of(use_.placeholder));
+    setToolTip(string_of(use_.hint));
+    setAccessibleDescription(string_of(use_.hint));
+    select_on_focus(*this);
+    completer_.setModel(&proposals_);
+    completer_.setCompletionMode(QCompleter::UnfilteredPopupCompletion);
+    completer_.setMaxVisibleItems(static_cast<int>(most_proposals));
+    completer_.setWidget(this);
+    completer_.popup()->setAccessibleName(QStringLiteral("Proposals"));
+    connect(&completer_, qOverload<const QModelIndex&>(&QCompleter::activated), this,
+            [this](const QModelIndex& chosen) { take(static_cast<std::size_t>(chosen.row())); });
+    connect(this, &QLineEdit::textEdited, this, [this] { propose(); });
+    listening_ = ports.program.notices.listen([this](Change change) {
+        if (change != Change::databases && change != Change::settings) return;
+        list_.reset();
+        found_.clear();
+    });
+}
+
+IngredientList& EntryLine::list() {
+    if (list_ == nullptr) list_ = use_.read();
+    return *list_;
+}
+
+// The best is chosen from the first: Enter takes it.
+void EntryLine::propose() {
+    const auto query = make_query(use_.name_in(text().toStdString()), other_names_);
+    found_ = best_rows(list(), query, most_proposals);
+    QStringList texts;
+    for (const auto row : found_) texts << proposal_text(list(), row, use_.columns);
+    proposals_.setStringList(texts);
+    tell(query.empty() || !found_.empty() ? QString() : QStringLiteral("Nothing found"));
+    if (found_.empty()) return completer_.popup()->hide();
+    completer_.complete();
+    completer_.popup()->setCurrentIndex(completer_.completionModel()->index(0, 0));
+}
+
+void EntryLine::take_chosen() {
+    const auto* const popup = completer_.popup();
+    const auto chosen = popup->isVisible() ? popup->currentIndex() : QModelIndex();
+    take(chosen.isValid() ? static_cast<std::size_t>(chosen.row()) : 0);
+}
+
+void EntryLine::take(std::size_t proposal) {
+    completer_.popup()->hide();
+    if (text().trimmed().isEmpty()) return;
+    if (proposal >= found_.size()) return tell(QStringLiteral("Nothing found"));
+    auto& from = list();
+    from.selected = static_cast<std::int32_t>(found_[proposal]);
+    const auto fault = use_.add(text().toStdString(), from);
+    if (!fault.empty()) return tell(string_of(fault));
+    clear();
+    found_.clear();
+    tell({});
+}
+
+void EntryLine::tell(const QString& fault) {
+    if (fault.isEmpty()) {
+        if (!hint_.isNull()) hint_->hide();
+        return;
+    }
+    if (hint_.isNull()) hint_ = new RangeHint(window());
+    hint_->tell(*this, fault);
+}
+
+// Esc first closes the proposals, which is theirs to do, then clears the line.
+void EntryLine::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) return take_chosen();
+    if (event->key() == Qt::Key_Escape && !text().isEmpty()) {
+        clear();
+        found_.clear();
+        return tell({});
+    }
+    QLineEdit::keyPressEvent(event);
+}
+
+} // namespace wortlex

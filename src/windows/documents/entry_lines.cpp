@@ -1,0 +1,81 @@
+#include "windows/documents/entry_lines.h"
+
+#include "documents/forms/line_entry.h"
+#include "documents/work/recipe_lines.h"
+#include "windows/databases/ingredient_windows.h"
+
+namespace wortlex {
+namespace {
+
+template <class Record>
+std::optional<Record> selected_in(const IngredientList& list) {
+    return dynamic_cast<const RecordList<Record>&>(list).selected_record();
+}
+
+std::string weight_example(bool american, const char* in_pounds, const char* in_grams) {
+    return american ? in_pounds : in_grams;
+}
+
+} // namespace
+
+EntryLineUse malt_entry(RecipeEditor& editor, const WindowPorts& ports) {
+    const auto& settings = ports.program.settings;
+    return {.key = "malt_entry",
+            .name = "Add a malt by its name",
+            .placeholder = weight_example(is_american(settings.weight_units), "9 lb 2-row", "4 kg 2-row"),
+            .hint = "Weight and name of a malt; Enter adds it",
+            .read = [ports] { return all_malts(ports); },
+            .columns = {0, 1},
+            .name_in = [](const std::string& text) { return read_malt_line(text).name; },
+            .add =
+                [&editor](const std::string& text, const IngredientList& list) {
+                    const auto written = read_malt_line(text);
+                    const auto malt = selected_in<MaltRecord>(list);
+                    if (malt && written.fault.empty())
+                        append_malt(editor, malt_line(*malt, written, editor.open.settings));
+                    return written.fault;
+                }};
+}
+
+EntryLineUse hop_entry(RecipeEditor& editor, const WindowPorts& ports) {
+    const auto& settings = ports.program.settings;
+    const auto read = [&editor](const std::string& text) {
+        return read_hop_line(text, editor.open.document.boil_minutes);
+    };
+    return {
+        .key = "hop_entry",
+        .name = "Add a hop by its name",
+        .placeholder =
+            weight_example(is_american(settings.hop_weight_units), "1 oz cascade 60", "28 g cascade 60"),
+        .hint =
+            "Weight and name of a hop, minutes before the end of the boil or dry, fwh or mh; Enter adds it",
+        .read = [ports] { return all_hops(ports); },
+        .columns = {0, 1, 5, 2},
+        .name_in = [read](const std::string& text) { return read(text).name; },
+        .add =
+            [&editor, read](const std::string& text, const IngredientList& list) {
+                const auto written = read(text);
+                const auto& open = editor.open;
+                const auto hop = selected_in<HopRecord>(list);
+                if (hop && written.fault.empty())
+                    append_hop(editor, hop_line(*hop, written, open.document, open.settings));
+                return written.fault;
+            }};
+}
+
+EntryLineUse yeast_entry(RecipeEditor& editor, const WindowPorts& ports) {
+    return {.key = "yeast_entry",
+            .name = "Choose the yeast by its name",
+            .placeholder = "us-05",
+            .hint = "Name, number or lab of a yeast; Enter takes it",
+            .read = [ports] { return all_yeasts(ports); },
+            .columns = {0, 1, 2},
+            .name_in = [](const std::string& text) { return text; },
+            .add =
+                [&editor](const std::string& /*text*/, const IngredientList& list) {
+                    if (const auto yeast = selected_in<YeastRecord>(list)) choose_yeast(editor, *yeast);
+                    return std::string();
+                }};
+}
+
+} // namespace wortlex
