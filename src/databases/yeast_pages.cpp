@@ -5,19 +5,6 @@
 namespace wortlex {
 namespace {
 
-std::string_view flocculation_word(Flocculation flocculation) {
-    switch (flocculation) {
-    case Flocculation::high:
-        return "High";
-    case Flocculation::medium:
-        return "Medium";
-    case Flocculation::low:
-        return "Low";
-    default:
-        return "";
-    }
-}
-
 EntryLines yeast_entry(const YeastRecord& yeast) {
     EntryLines entry;
     entry.text("Lab", yeast.lab);

@@ -120,6 +120,19 @@ std::string_view medium_word(YeastMedium medium) {
     }
 }
 
+std::string_view flocculation_word(Flocculation flocculation) {
+    switch (flocculation) {
+    case Flocculation::high:
+        return "High";
+    case Flocculation::medium:
+        return "Medium";
+    case Flocculation::low:
+        return "Low";
+    default:
+        return "";
+    }
+}
+
 void yeast_entry_form(Form& form, YeastRecord& yeast) {
     auto& texts = form.group("Yeast");
     texts.text("lab", yeast.lab).label("La&b").limit(13).width(30);

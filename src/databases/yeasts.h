@@ -13,5 +13,6 @@ void yeast_entry_form(Form& form, YeastRecord& yeast);
 /// As lists show them and sort by them.
 std::string_view kind_word(YeastKind kind);
 std::string_view medium_word(YeastMedium medium);
+std::string_view flocculation_word(Flocculation flocculation);
 
 } // namespace wortlex

@@ -10,18 +10,6 @@
 namespace wortlex {
 namespace {
 
-std::string flocculation_word(const YeastRecord& yeast) {
-    switch (yeast.flocculation) {
-    case Flocculation::high:
-        return "High";
-    case Flocculation::medium:
-        return "Medium";
-    case Flocculation::low:
-        return "Low";
-    }
-    return "";
-}
-
 // What the document says of a yeast, blank as long as there is none.
 ShownRow& yeast_row(Rows& rows, std::string key, const YeastRecord& yeast,
                     std::function<std::string(const YeastRecord&)> text) {
@@ -51,7 +39,8 @@ void yeast_rows(Rows& rows, const YeastRecord& yeast) {
                [](const auto& y) { return std::string(kind_word(y.yeast_kind)); });
     yeast_text(rows, "yeast_medium", "Medium", yeast,
                [](const auto& y) { return std::string(medium_word(y.yeast_medium)); });
-    yeast_text(rows, "flocculation", "Flocculation", yeast, flocculation_word);
+    yeast_text(rows, "flocculation", "Flocculation", yeast,
+               [](const auto& y) { return std::string(flocculation_word(y.flocculation)); });
     auto& attenuation = rows.grid("attenuation", {"Low", "High"}).line("Apparent Attenuation:");
     yeast_figure(attenuation, "low_attenuation", yeast,
                  [](const auto& y) { return formatted("%d", y.low_attenuation); });
