@@ -100,4 +100,15 @@ FermentationFigures update_attenuation(const SessionDocument& session, const Set
     return figures;
 }
 
+const FermentationFigures& KnownFermentation::of(const SessionDocument& session, const Settings& settings) {
+    const auto& tail = session.tail;
+    const Basis now{session.actual_og, session.actual_fg, tail.fg_by_refractometer, tail.alcohol_reading,
+                    settings.water_brix};
+    if (basis_ != now) {
+        basis_ = now;
+        figures_ = update_attenuation(session, settings);
+    }
+    return figures_;
+}
+
 } // namespace wortlex

@@ -3,6 +3,8 @@
 
 #include "documents/document_recalculation.h"
 
+#include <optional>
+
 namespace wortlex {
 
 /// Points are at batch size.
@@ -55,5 +57,26 @@ struct FermentationFigures {
 
 /// By hydrometer or, where the session says so, by refractometer.
 FermentationFigures update_attenuation(const SessionDocument& session, const Settings& settings);
+
+/// The same for windows, which show each of the figures in a field of its own: worked out anew only when
+/// something that they hang on has changed, as the search for a refractometer's reading takes its time.
+class KnownFermentation {
+public:
+    const FermentationFigures& of(const SessionDocument& session, const Settings& settings);
+
+private:
+    struct Basis {
+        float og = 0;
+        float fg = 0;
+        std::uint8_t by_refractometer = 0;
+        AlcoholReading reading;
+        float water_brix = 0; ///< where the search starts, and zero of the instrument
+
+        bool operator==(const Basis&) const = default;
+    };
+
+    std::optional<Basis> basis_;
+    FermentationFigures figures_;
+};
 
 } // namespace wortlex

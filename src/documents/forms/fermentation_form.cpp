@@ -116,11 +116,16 @@ void gravity_rows(Rows& rows, RecipeEditor& editor, const FermentationActions& a
         .hint("The reading from which alcohol and attenuation follow \"By Refract\"");
 }
 
-void result_rows(Rows& rows, const OpenDocument& open) {
+void result_rows(Rows& rows, RecipeEditor& editor) {
     auto& grid = rows.grid("results", {});
-    const auto figure = [&open](Rows& line, const char* key, float FermentationFigures::*part) -> ShownRow& {
+    const auto figure = [&editor](Rows& line, const char* key,
+                                  float FermentationFigures::*part) -> ShownRow& {
         return line.shown_number(
-            key, [&open, part] { return update_attenuation(*open.session, open.settings).*part; }, "%0.2f");
+            key,
+            [&editor, part] {
+                return editor.fermentation.of(*editor.open.session, editor.open.settings).*part;
+            },
+            "%0.2f");
     };
     auto& alcohol = grid.line("% Alcohol by Weight");
     figure(alcohol, "alcohol_by_weight", &FermentationFigures::alcohol_by_weight);
@@ -137,7 +142,7 @@ void result_rows(Rows& rows, const OpenDocument& open) {
 
 void fermentation_form(Form& form, RecipeEditor& editor, const FermentationActions& actions) {
     auto& session = *editor.open.session;
-    result_rows(form.group("Results"), editor.open);
+    result_rows(form.group("Results"), editor);
     gravity_rows(form.group("Gravity"), editor, actions);
     yeast_rows(form.group("Yeast"), editor.open.document.yeast.record);
     form.next_column();

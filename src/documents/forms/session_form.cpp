@@ -130,7 +130,8 @@ std::string efficiency_text(const OpenDocument& open) {
     return fixed(recorded_efficiency(document, *open.session, open.settings).efficiency * 100.0, 0);
 }
 
-void measured_rows(Rows& rows, const OpenDocument& open) {
+void measured_rows(Rows& rows, RecipeEditor& editor) {
+    const auto& open = editor.open;
     BrewFigures measured(rows, open);
     const auto& session = *open.session;
     measured.gravity("actual_og", "Actual OG", [&session] { return session.actual_og; });
@@ -138,8 +139,9 @@ void measured_rows(Rows& rows, const OpenDocument& open) {
     measured.text("actual_efficiency", "% - Actual Mash System Efficiency",
                   [&open] { return efficiency_text(open); });
     const auto fermented = [&](const char* key, const char* label, float FermentationFigures::*figure) {
-        measured.number(key, label, 2,
-                        [&open, figure] { return update_attenuation(*open.session, open.settings).*figure; });
+        measured.number(key, label, 2, [&editor, figure] {
+            return editor.fermentation.of(*editor.open.session, editor.open.settings).*figure;
+        });
     };
     fermented("alcohol_by_weight", "% Alcohol by Weight", &FermentationFigures::alcohol_by_weight);
     fermented("alcohol_by_volume", "% Alcohol by Volume", &FermentationFigures::alcohol_by_volume);
@@ -155,7 +157,7 @@ void session_form(Form& form, const SessionSubject& subject) {
     recipe_rows(form.group("Recipe"), subject);
     style_rows(form.group("Style Guidelines"), open);
     aim_rows(form.group("The Recipe Aims At"), subject);
-    measured_rows(form.group("Measured"), open);
+    measured_rows(form.group("Measured"), subject.editor);
     session_page_rows(form.group("Pages"), subject);
     session_end_rows(form.group(), subject);
     form.on_leave([&editor = subject.editor] { end_edit(editor); });

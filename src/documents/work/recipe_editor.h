@@ -2,6 +2,7 @@
 #pragma once
 
 #include "base/ports/notice_board.h"
+#include "documents/session_figures.h"
 #include "documents/work/document_history.h"
 #include "documents/work/recipe_view.h"
 
@@ -27,6 +28,7 @@ struct RecipeEditor {
     DocumentHistory history;
     std::optional<AmountsAtStart> at_start = std::nullopt; ///< of the edit under way
     NoticeBoard* notices = nullptr;                        ///< where each change is told, also one taken back
+    KnownFermentation fermentation = {};                   ///< of a session, for all its windows
 };
 
 /// Starts to work on the document as it is: nothing to undo, nothing under way.
