@@ -44,12 +44,12 @@ void fill_from(Surface& surface, int left, int right, int top, std::uint32_t col
 
 } // namespace
 
-std::vector<WaterStage> water_flow(const WaterNeeds& needs, const WaterBalance& balance) {
+std::vector<WaterStage> water_flow(const WaterNeeds& needs, const WaterBalance& balance, bool has_mash) {
+    const auto lautered = without_nothing({{"in the sparge deadspace", needs.sparge_deadspace},
+                                           {"in the grain", needs.grain_absorption},
+                                           {"between lauter tun and kettle", needs.lauter_loss}});
     return {{"You Will Need", balance.needed, {}},
-            {"Into Kettle", balance.into_kettle,
-             without_nothing({{"in the sparge deadspace", needs.sparge_deadspace},
-                              {"in the grain", needs.grain_absorption},
-                              {"between lauter tun and kettle", needs.lauter_loss}})},
+            {"Into Kettle", balance.into_kettle, has_mash ? lautered : std::vector<WaterLoss>()},
             {"After Boil", balance.after_boil,
              without_nothing({{"evaporated", less(balance.into_kettle, balance.after_boil)}})},
             {"To Chillers", balance.to_chillers,
@@ -65,7 +65,7 @@ void draw_water_flow(Surface& surface, const WaterPlan& plan, const Settings& se
     const auto shown = [&](float gallons) {
         return formatted("%0.2f", to_shown_volume(gallons, plan.units, settings.system_mode));
     };
-    const auto stages = water_flow(plan.needs, plan.balance);
+    const auto stages = water_flow(plan.needs, plan.balance, has_mash(plan));
     const double most = most_of(stages);
     clear(surface, surface.size(), chart_white);
     const int longest = surface.size().width - bars_at - figure_room;

@@ -17,8 +17,8 @@ struct WaterStage {
     std::vector<WaterLoss> losses; ///< before it; none but what is above 0
 };
 
-/// From what is needed to what reaches the fermenter.
-std::vector<WaterStage> water_flow(const WaterNeeds& needs, const WaterBalance& balance);
+/// From what is needed to what reaches the fermenter. Without a mash nothing is lost before the kettle.
+std::vector<WaterStage> water_flow(const WaterNeeds& needs, const WaterBalance& balance, bool has_mash);
 
 inline constexpr Extent water_flow_size{600, 196};
 

@@ -48,9 +48,10 @@ TEST(WaterNeeds, FollowTheWaterFromSpargeToFermenter) {
     EXPECT_EQ(needs.shown("ratio"), "  1.20");
     needs.type("sparge", "5000.5");
     EXPECT_EQ(needs.shown("needed"), "  8.00") << "out of range";
-    const auto flow = water_flow(needs.tool.needs, needs.tool.balance);
+    const auto flow = water_flow(needs.tool.needs, needs.tool.balance, true);
     ASSERT_EQ(flow.size(), 5U);
     EXPECT_EQ(flow[1].losses.size(), 3U);
+    EXPECT_TRUE(water_flow(needs.tool.needs, needs.tool.balance, false)[1].losses.empty()) << "of an extract";
     EXPECT_TRUE(flow[3].losses.empty()) << "nothing is left behind";
     EXPECT_FLOAT_EQ(flow[2].losses.at(0).gallons, 0.525F);
     needs.type_all({{"evaporation_rate", "150"}, {"other", "1"}});

@@ -22,6 +22,7 @@ struct SessionActions {
 struct SessionSubject {
     RecipeEditor& editor; ///< of a session
     const ColorTable& colours;
+    const WaterNeeds& usual_water; ///< what a new session starts from
     SessionActions actions = {};
 };
 

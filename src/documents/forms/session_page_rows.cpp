@@ -25,14 +25,15 @@ using WhyNot = std::function<std::string(const BrewDocument&)>;
 
 class PageRows {
 public:
-    PageRows(Rows& rows, const OpenDocument& open) : rows_(rows), open_(open) {}
+    PageRows(Rows& rows, const SessionSubject& subject)
+        : rows_(rows), open_(subject.editor.open), usual_water_(subject.usual_water) {}
 
     /// A button of a page, whose mark stands before it. `why_not` tells what else than a missing recipe keeps
     /// it closed.
     void add(const std::string& key, const std::string& caption, const std::function<void()>& action,
              SessionPage page, const std::string& what, const WhyNot& why_not = nullptr) {
-        const auto is_full = [&open = open_, page] {
-            return has_picked_recipe(open) && is_filled(page, open.document, *open.session);
+        const auto is_full = [&open = open_, &usual = usual_water_, page] {
+            return has_picked_recipe(open) && is_filled(page, open.document, *open.session, usual);
         };
         rows_
             .canvas(key + page_mark, Extent{18, 18},
@@ -57,6 +58,7 @@ public:
 private:
     Rows& rows_;
     const OpenDocument& open_;
+    const WaterNeeds& usual_water_;
 };
 
 std::string no_mash(const BrewDocument& document) {
@@ -76,7 +78,7 @@ void session_page_rows(Rows& rows, const SessionSubject& subject) {
     const auto booked = [&open](const BrewDocument&) {
         return std::string(open.session->inventory_finalized != 0 ? "The stock is booked already." : "");
     };
-    PageRows pages(rows, open);
+    PageRows pages(rows, subject);
     pages.add("ingredients", "Edit In&gredients", actions.ingredients, ingredients, "Ingredients");
     pages.add("mash", "&Mash Schedule", actions.mash, mash, "Mash schedule", no_mash);
     pages.add("water_needed", "&Water Needed", actions.water_needed, water_needed, "Water needed");
@@ -90,7 +92,7 @@ void session_page_rows(Rows& rows, const SessionSubject& subject) {
 }
 
 void session_end_rows(Rows& rows, const SessionSubject& subject) {
-    PageRows pages(rows, subject.editor.open);
+    PageRows pages(rows, subject);
     pages.button("save", "&Save", subject.actions.save, "");
     pages.button("print", "&Print", subject.actions.print, "");
     rows.button("help", "Help", subject.actions.help);

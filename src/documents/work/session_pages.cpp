@@ -1,6 +1,9 @@
 #include "documents/work/session_pages.h"
 
+#include "documents/document_recalculation.h"
+
 #include <algorithm>
+#include <array>
 
 namespace wortlex {
 namespace {
@@ -17,16 +20,27 @@ bool has_salts(const SessionDocument& session) {
            std::any_of(grams.begin(), grams.end(), [](float salt) { return salt != 0; });
 }
 
-// A load puts batch size and actual gravity where nothing was recorded.
+// What the brewer enters of it; the rest follows from the mash and the boil.
+auto entries_of(const WaterNeeds& needs) {
+    return std::array{needs.sparge,      needs.sparge_deadspace, needs.top_up,
+                      needs.lauter_loss, needs.evaporation_rate, needs.kettle_deadspace,
+                      needs.hopback,     needs.chiller,          needs.other};
+}
+
+bool has_water(const WaterNeeds& needs, const WaterNeeds& usual) {
+    return (needs.sparge != 0 || needs.top_up != 0) && entries_of(needs) != entries_of(usual);
+}
+
+// A load puts batch size and actual gravity where nothing was recorded. Without a measure the latter is what
+// the recipe aims at, and the efficiency that is shown tells of no brew day.
 bool has_recording(const BrewDocument& document, const SessionDocument& session) {
     const auto& tail = session.tail;
     return tail.recorded_volume != 0 &&
-           (tail.recorded_volume != document.batch_size || tail.recorded_og != session.actual_og);
+           (tail.recorded_volume != document.batch_size || tail.recorded_og != hop_gravity(document));
 }
 
-bool has_fermented(const BrewDocument& document, const SessionDocument& session) {
-    const auto fresh = new_session(document);
-    return session.fermentation != fresh.fermentation || session.actual_fg != fresh.actual_fg;
+bool has_fermented(const SessionDocument& session) {
+    return session.fermentation != FermentationLog{} || session.actual_fg != fg_not_measured;
 }
 
 bool is_bottled(const BottlingLog& log) {
@@ -40,20 +54,21 @@ bool has_notes(const SessionNotes& notes) {
 
 } // namespace
 
-bool is_filled(SessionPage page, const BrewDocument& document, const SessionDocument& session) {
+bool is_filled(SessionPage page, const BrewDocument& document, const SessionDocument& session,
+               const WaterNeeds& usual) {
     switch (page) {
     case SessionPage::ingredients:
         return !document.malts.empty() || !document.hops.empty();
     case SessionPage::mash:
         return has_schedule(document);
     case SessionPage::water_needed:
-        return session.water_needs.sparge != 0 || session.water_needs.top_up != 0;
+        return has_water(session.water_needs, usual);
     case SessionPage::water_profile:
         return has_salts(session);
     case SessionPage::efficiency:
         return has_recording(document, session);
     case SessionPage::fermentation:
-        return has_fermented(document, session);
+        return has_fermented(session);
     case SessionPage::bottling:
         return is_bottled(session.bottling);
     case SessionPage::notes:

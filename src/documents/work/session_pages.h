@@ -17,7 +17,8 @@ enum class SessionPage {
     inventory
 };
 
-/// Whether more stands on the page than in a new session.
-bool is_filled(SessionPage page, const BrewDocument& document, const SessionDocument& session);
+/// Whether more stands on the page than in a new session, whose water is as `usual`.
+bool is_filled(SessionPage page, const BrewDocument& document, const SessionDocument& session,
+               const WaterNeeds& usual);
 
 } // namespace wortlex

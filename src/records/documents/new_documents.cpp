@@ -42,7 +42,6 @@ BrewDocument new_session_recipe(const Settings& settings) {
 
 SessionDocument new_session(const BrewDocument& document) {
     SessionDocument session;
-    session.fermentation.primary_temperature = 68;
     auto& bottling = session.bottling;
     bottling.co2_volumes = 2.3F;
     bottling.ferment_temperature = 68;

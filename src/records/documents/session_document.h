@@ -38,7 +38,7 @@ struct FermentationLog {
     std::uint8_t secondary_open = 0;
     std::int32_t primary_days = 0;
     std::int32_t secondary_days = 0;
-    std::int32_t primary_temperature = 0; ///< degrees F
+    std::int32_t primary_temperature = 68; ///< degrees F
     std::int32_t secondary_temperature = 0;
     DegreeBox primary_temperature_unit{};
     DegreeBox secondary_temperature_unit{};
@@ -110,6 +110,9 @@ struct SessionTail {
     bool operator==(const SessionTail&) const = default;
 };
 
+/// The final gravity (SG) of a session in which none was measured yet.
+inline constexpr float fg_not_measured = 1.012F;
+
 struct SessionDocument {
     FermentationLog fermentation;
     Text<255> head_brewer;
@@ -118,7 +121,7 @@ struct SessionDocument {
     std::int16_t brew_month = 0; ///< 1 to 12
     std::int16_t brew_year = 0;
     float actual_og = 1.01F; ///< gravities are SG
-    float actual_fg = 1.012F;
+    float actual_fg = fg_not_measured;
     float runnings_sg = 1.01F;
     BottlingLog bottling;
     SessionNotes session_notes;

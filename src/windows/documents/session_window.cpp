@@ -21,7 +21,8 @@
 namespace wortlex {
 
 SessionWindow::SessionWindow(const WindowPorts& given, const WindowInfo& info, QWidget* origin)
-    : DocumentWindow(given, info, origin), subject_{editor(), program().color_table, actions()},
+    : DocumentWindow(given, info, origin), subject_{editor(), program().color_table, program().water_usage,
+                                                    actions()},
       panel_(subject_, places(program()), this) {
     auto* const layout = new QVBoxLayout(this);
     layout->addWidget(new Scrolled(panel_, this), 1);

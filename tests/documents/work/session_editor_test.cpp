@@ -1,6 +1,8 @@
 #include "documents/brewing.h"
 #include "documents/opening.h"
 #include "documents/work/session_editor.h"
+#include "documents/work/session_pages.h"
+#include "records/documents/document_files.h"
 
 #include <gtest/gtest.h>
 
@@ -101,6 +103,23 @@ TEST(SessionEditor, CancelOfTheIngredientsPutsBackWhatWasThere) {
     EXPECT_EQ(desk.session.head_brewer.view(), "Ada");
     undo(desk.editor);
     EXPECT_EQ(desk.document.batch_size, 10) << "who cancels by mistake loses nothing";
+}
+
+TEST(SessionEditor, OnlyWhatTheBrewerEnteredFillsAPage) {
+    BrewersDesk desk;
+    const WaterNeeds usual{.sparge = 4, .evaporation_rate = 10};
+    desk.session.water_needs = usual;
+    pick_recipe(desk.editor, BrewersDesk::recipe());
+    const auto filled = [&](SessionPage page) { return is_filled(page, desk.document, desk.session, usual); };
+    EXPECT_FALSE(filled(SessionPage::fermentation) || filled(SessionPage::water_needed));
+    desk.session.water_needs.hopback = 1;
+    EXPECT_TRUE(filled(SessionPage::water_needed));
+    repair_recording(desk.session, desk.document);
+    EXPECT_FALSE(filled(SessionPage::efficiency)) << "all as the recipe aims at";
+    desk.session.tail = {}; // cut off
+    desk.session.actual_og = 1.06F;
+    repair_recording(desk.session, desk.document);
+    EXPECT_TRUE(filled(SessionPage::efficiency)) << "a measured gravity tells an efficiency";
 }
 
 } // namespace
