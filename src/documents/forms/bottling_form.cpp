@@ -181,6 +181,10 @@ void Columns::add(const BottlingActions& actions) {
                    {[&used = log_.used.at(column)] { return used != 0; },
                     [&used = log_.used.at(column)](bool on) { used = on ? 1 : 0; }})
             .label(words_.at(column));
+    rows_
+        .note("choose_vessels",
+              "Tick what the beer is filled into. What belongs to it is then asked for below.")
+        .visible([&used = log_.used] { return used == std::array<std::uint8_t, 3>{}; });
     line(
         "amount", [&settings] { return std::string(volume_unit(settings).full); }, With::any,
         [&](const std::string& key, std::size_t column) -> auto& {

@@ -142,6 +142,7 @@ QWidget* vessel_part(const FormWidgets& widgets) {
         fit_window_to(widgets.field(vessel), *box);
         column += 2;
     }
+    grid->addWidget(&widgets.field("choose_vessels"), 1, 1, 1, column);
     for (const auto* const key : {"amount", "method", "medium"}) add_vessel_line(*grid, widgets, key);
     add_vessel_line(*grid, widgets, "priming", "natural_calc");
     add_vessel_line(*grid, widgets, "liquid");
