@@ -4,7 +4,7 @@ namespace wortlex {
 namespace {
 
 // Properties of the button.
-constexpr auto extra_key = "key";
+constexpr auto extra_keys = "keys";
 constexpr auto own_meaning = "meaning";
 constexpr auto own_reason = "reason";
 
@@ -24,7 +24,8 @@ QString spoken(QString caption) {
 void set_tip(QPushButton& button, const QString& meaning, const QString& reason) {
     button.setProperty(own_meaning, meaning);
     button.setProperty(own_reason, reason);
-    QStringList keys = {words_of(button.shortcut()), button.property(extra_key).toString()};
+    auto keys = button.property(extra_keys).toStringList();
+    keys.prepend(words_of(button.shortcut()));
     keys.removeAll(QString());
     const auto words = meaning.isEmpty() ? spoken(button.text()) : meaning;
     auto tip = keys.isEmpty() ? words : QStringLiteral("%1 (%2)").arg(words, keys.join(QLatin1String(", ")));
@@ -33,7 +34,7 @@ void set_tip(QPushButton& button, const QString& meaning, const QString& reason)
 }
 
 void add_key(QPushButton& button, const QKeySequence& key) {
-    button.setProperty(extra_key, words_of(key));
+    button.setProperty(extra_keys, button.property(extra_keys).toStringList() << words_of(key));
     set_tip(button, button.property(own_meaning).toString(), button.property(own_reason).toString());
 }
 

@@ -59,8 +59,9 @@ DocumentDesignerWindow::DocumentDesignerWindow(const WindowPorts& ports, RecipeE
     take_wort();
     begin([this](Form& form) { add_wort(form); }, [this] { revert(); });
     add_save_key(*this, [this] { calls_.save(); });
-    connect(end_button("ok", tr("&OK"), tr("Keeps the schedule")), &QPushButton::clicked, this,
-            [this] { accept(); });
+    auto* const ok = end_button("ok", tr("&OK"), tr("Keeps the schedule"));
+    add_ok_keys(*this, *ok);
+    connect(ok, &QPushButton::clicked, this, [this] { accept(); });
     auto* const cancel = end_button("cancel", tr("Cancel"), tr("Puts back the schedule as it was"));
     add_key(*cancel, QKeySequence::Cancel);
     connect(cancel, &QPushButton::clicked, this, &QWidget::close);

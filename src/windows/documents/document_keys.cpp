@@ -1,10 +1,27 @@
 #include "windows/documents/document_keys.h"
 
+#include "desktop/captions.h"
 #include "desktop/undo_keys.h"
 
+#include <QLabel>
 #include <QShortcut>
 
+#include <algorithm>
+
 namespace wortlex {
+namespace {
+
+// Pictures have their letter without showing it.
+bool is_taken(const QKeySequence& letter, const QWidget& page, const QPushButton& ok) {
+    const auto buttons = page.findChildren<QAbstractButton*>();
+    const auto labels = page.findChildren<QLabel*>();
+    return std::any_of(buttons.begin(), buttons.end(),
+                       [&](const auto* button) { return button != &ok && button->shortcut() == letter; }) ||
+           std::any_of(labels.begin(), labels.end(),
+                       [&](const auto* label) { return QKeySequence::mnemonic(label->text()) == letter; });
+}
+
+} // namespace
 
 void add_document_keys(QWidget& window, RecipeEditor& editor, const std::function<void()>& save) {
     add_save_key(window, save);
@@ -15,6 +32,17 @@ void add_document_keys(QWidget& window, RecipeEditor& editor, const std::functio
 void add_save_key(QWidget& window, const std::function<void()>& save) {
     for (const auto& sequence : QKeySequence::keyBindings(QKeySequence::Save))
         QObject::connect(new QShortcut(sequence, &window), &QShortcut::activated, &window, save);
+}
+
+void add_ok_keys(QWidget& page, QPushButton& ok) {
+    for (const auto* const caption : {"&OK", "O&K", "OK"}) {
+        ok.setText(QString::fromLatin1(caption));
+        if (!is_taken(ok.shortcut(), page, ok)) break;
+    }
+    add_key(ok, Qt::CTRL | Qt::Key_Enter);
+    for (const auto key : {Qt::Key_Return, Qt::Key_Enter})
+        QObject::connect(new QShortcut(Qt::CTRL | key, &page), &QShortcut::activated, &ok,
+                         &QPushButton::click);
 }
 
 } // namespace wortlex

@@ -3,7 +3,7 @@
 
 #include "documents/work/recipe_editor.h"
 
-#include <QWidget>
+#include <QPushButton>
 
 #include <functional>
 
@@ -14,5 +14,8 @@ void add_document_keys(QWidget& window, RecipeEditor& editor, const std::functio
 
 /// Saves by the platform's key.
 void add_save_key(QWidget& window, const std::function<void()>& save);
+
+/// The OK of a page that stays open: a letter that is free on it, and Ctrl+Enter, which ends long texts too.
+void add_ok_keys(QWidget& page, QPushButton& ok);
 
 } // namespace wortlex

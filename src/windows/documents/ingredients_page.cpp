@@ -57,6 +57,7 @@ QLayout* IngredientsPage::page_part() {
         qobject_cast<QPushButton*>(button)->setAutoDefault(false);
     buttons->button(QDialogButtonBox::Ok)->setDefault(false);
     set_tips(*buttons, false);
+    add_ok_keys(*this, *buttons->button(QDialogButtonBox::Ok));
     connect(buttons, &QDialogButtonBox::accepted, this, &IngredientsPage::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QWidget::close);
     line->addWidget(buttons);

@@ -3,6 +3,7 @@
 #include "desktop/captions.h"
 #include "desktop/list_view.h"
 #include "program/program.h"
+#include "windows/documents/document_keys.h"
 
 #include <QDialogButtonBox>
 #include <QScreen>
@@ -26,6 +27,7 @@ InventoryWindow::InventoryWindow(const WindowPorts& ports, QWidget* origin)
     layout->addWidget(&widgets_.field("summary"));
     layout->addWidget(&list, 1);
     layout->addWidget(buttons);
+    add_ok_keys(*this, *buttons->button(QDialogButtonBox::Ok));
     connect(buttons, &QDialogButtonBox::accepted, this, &QWidget::close);
     for (const auto& keys : {QKeySequence(QKeySequence::Cancel), QKeySequence(Qt::Key_Return)})
         connect(new QShortcut(keys, this), &QShortcut::activated, this, &QWidget::close);

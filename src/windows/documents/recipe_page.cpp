@@ -3,23 +3,16 @@
 #include "desktop/captions.h"
 #include "desktop/list_keys.h"
 #include "desktop/scrolled.h"
+#include "windows/documents/document_keys.h"
 
-#include <QAbstractSpinBox>
 #include <QDialogButtonBox>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QKeyEvent>
-#include <QLineEdit>
 #include <QPushButton>
 
 namespace wortlex {
 namespace {
-
-bool is_typed_in(const QWidget* field) {
-    const auto* const line = qobject_cast<const QLineEdit*>(field);
-    return (line != nullptr && !line->isReadOnly()) ||
-           qobject_cast<const QAbstractSpinBox*>(field) != nullptr;
-}
 
 QLayout* extras_head(const FormWidgets& widgets) {
     auto* const grid = new QGridLayout;
@@ -99,13 +92,14 @@ void RecipePage::lay_out_rows() {
     if (use_.arrange) lay_out_beside_ok(form_, widgets_, *buttons);
     auto* const bottom = new QHBoxLayout;
     bottom->addStretch();
-    buttons->button(QDialogButtonBox::Ok)->setDefault(false); // Enter is for the fields
-    buttons->button(QDialogButtonBox::Ok)->setAutoDefault(false);
     bottom->addWidget(buttons);
     layout->addLayout(bottom);
     set_tips(*buttons, true);
+    auto* const ok = buttons->button(QDialogButtonBox::Ok);
+    add_ok_keys(*this, *ok);
+    ok->setDefault(true);
     auto* const first = widgets_.first_field();
-    (first != nullptr ? first : buttons->button(QDialogButtonBox::Ok))->setFocus();
+    (first != nullptr ? first : ok)->setFocus();
     connect(buttons, &QDialogButtonBox::accepted, this, [this] { accept(); });
     connect(buttons, &QDialogButtonBox::rejected, this, &QWidget::close);
 }
@@ -145,10 +139,11 @@ void RecipePage::keyPressEvent(QKeyEvent* event) {
     }
 }
 
-// A button that has the focus is pressed, a field keeps Enter to itself.
+// A button that has the focus is pressed. What was typed is taken over already, so elsewhere it is OK, as in
+// a dialog; a text of several lines keeps Enter to itself.
 void RecipePage::press_enter() {
     if (auto* const button = qobject_cast<QPushButton*>(focusWidget())) return button->click();
-    if (!is_typed_in(focusWidget())) accept();
+    accept();
 }
 
 QLayout* arrange_extras(const FormWidgets& widgets) {

@@ -2,6 +2,7 @@
 
 #include "desktop/captions.h"
 #include "desktop/scrolled.h"
+#include "windows/documents/document_keys.h"
 
 #include <QDialogButtonBox>
 #include <QShortcut>
@@ -37,6 +38,7 @@ SimpleMashWindow::SimpleMashWindow(const SimpleMashWork& work, const Settings& s
     set_tips(*buttons, true);
     layout->addWidget(new Scrolled(lay_out(form_, widgets_, buttons), this), 1);
     layout->addWidget(buttons);
+    add_ok_keys(*this, *buttons->button(QDialogButtonBox::Ok));
     connect(buttons, &QDialogButtonBox::accepted, this, &SimpleMashWindow::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QWidget::close);
     connect(new QShortcut(QKeySequence::Cancel, this), &QShortcut::activated, this, &QWidget::close);
