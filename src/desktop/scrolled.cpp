@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QEvent>
 #include <QLayout>
+#include <QStyle>
 
 namespace wortlex {
 namespace {
@@ -31,7 +32,10 @@ Scrolled::Scrolled(QWidget& part, QWidget* parent) : QScrollArea(parent) {
 
 QSize Scrolled::minimumSizeHint() const {
     constexpr QSize rest_of_window(40, 150); // title bar, menu, buttons
-    return widget()->minimumSizeHint().boundedTo(screen()->availableSize() - rest_of_window);
+    const auto room = screen()->availableSize() - rest_of_window;
+    auto whole = widget()->minimumSizeHint();
+    if (whole.height() > room.height()) whole += QSize(style()->pixelMetric(QStyle::PM_ScrollBarExtent), 0);
+    return whole.boundedTo(room);
 }
 
 bool Scrolled::hasHeightForWidth() const {

@@ -1,8 +1,13 @@
 #include "windows/documents/session_panel.h"
 
 #include "desktop/qt_text.h"
+#include "desktop/scrolled.h"
+#include "documents/forms/session_page_rows.h"
 
 #include <QGridLayout>
+#include <QScreen>
+
+#include <algorithm>
 
 namespace wortlex {
 namespace {
@@ -32,9 +37,21 @@ SessionPanel::SessionPanel(const SessionSubject& subject, const Places& places, 
     left->addWidget(style_part());
     left->addLayout(figure_part());
     left->addStretch();
-    sides->addLayout(left, 1);
-    sides->addWidget(page_part());
-    widgets_.field("pick_recipe").setFocus();
+    auto* const right = new QVBoxLayout;
+    right->addWidget(page_part());
+    auto* const pages = new Scrolled(right, this);
+    sides->addWidget(beside(*pages, left), 1);
+    sides->addWidget(pages);
+    widgets_.field(has_picked_recipe(subject.editor.open) ? "ingredients" : "pick_recipe").setFocus();
+}
+
+// On a small screen the way to the pages stays in sight, and the rest is scrolled.
+QWidget* SessionPanel::beside(const QWidget& pages, QLayout* part) {
+    constexpr int edges = 32; // of the window, and between the two
+    auto* const scrolled = new Scrolled(part, this);
+    const int room = screen()->availableSize().width() - pages.minimumSizeHint().width() - edges;
+    scrolled->setMinimumWidth(std::min(scrolled->minimumSizeHint().width(), room));
+    return scrolled;
 }
 
 QGroupBox* SessionPanel::box(const char* key) {

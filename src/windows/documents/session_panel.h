@@ -16,6 +16,8 @@ public:
     const FormWidgets& widgets() const { return widgets_; }
 
 private:
+    /// The part with scroll bars, as wide as there is room for it beside the pages.
+    QWidget* beside(const QWidget& pages, QLayout* part);
     /// A frame with the heading of the form's group.
     QGroupBox* box(const char* key);
     QWidget* day_part();

@@ -1,7 +1,6 @@
 #include "windows/documents/session_window.h"
 
 #include "brewing/calendar.h"
-#include "desktop/scrolled.h"
 #include "desktop/system_ports.h"
 #include "documents/method_check.h"
 #include "documents/opening.h"
@@ -25,7 +24,7 @@ SessionWindow::SessionWindow(const WindowPorts& given, const WindowInfo& info, Q
                                                     actions()},
       panel_(subject_, places(program()), this) {
     auto* const layout = new QVBoxLayout(this);
-    layout->addWidget(new Scrolled(panel_, this), 1);
+    layout->addWidget(&panel_, 1);
     layout->addLayout(bottom_part());
     begin([this] { print(); });
 }
