@@ -46,9 +46,14 @@ private:
     QSvgRenderer renderer_;
 };
 
+// An icon that is set, even to none anew, lays out its whole window.
+void show_no_picture(QPushButton& button) {
+    if (!button.icon().isNull()) button.setIcon({});
+}
+
 // Beside the words, as high as they are.
 void show_instrument(QPushButton& button, std::string_view instrument, const SystemSettings& settings) {
-    if (settings.use_tool_bitmaps == 0) return button.setIcon({});
+    if (settings.use_tool_bitmaps == 0) return show_no_picture(button);
     if (!button.icon().isNull()) return;
     const auto source = source_of(instrument);
     const QSizeF drawn = QSvgRenderer(source).defaultSize();
@@ -71,7 +76,7 @@ void show_caption(QPushButton& button, std::string_view key, const QString& capt
     }
     const bool is_picture = settings.hide_print_help_bitmaps == 0 && has_picture(key);
     if (!is_picture) {
-        button.setIcon({});
+        show_no_picture(button);
         button.setText(caption); // brings its mnemonic
         return;
     }
@@ -79,7 +84,8 @@ void show_caption(QPushButton& button, std::string_view key, const QString& capt
     const int side = button.fontMetrics().height();
     button.setIconSize({side, side});
     button.setText({});
-    button.setShortcut(QKeySequence::mnemonic(caption));
+    const auto letter = QKeySequence::mnemonic(caption);
+    if (button.shortcut() != letter) button.setShortcut(letter);
 }
 
 } // namespace wortlex
