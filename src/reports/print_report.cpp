@@ -2,11 +2,13 @@
 #include "reports/row_words.h"
 
 #include <algorithm>
+#include <numeric>
 
 namespace wortlex {
 namespace {
 
 constexpr int lines_with_body = 12; // below a heading, before a new page is begun for it
+constexpr int most_together = 12;   // lines, on one page
 constexpr int colour_box = 250;     // behind the figure that it belongs to
 
 // At the top of a page no line is left blank, and at its end none goes over to the next one.
@@ -18,6 +20,11 @@ void leave_blank(PageContext& page, int lines) {
 int lines_of(const ReportRow& row) {
     const auto blank = blank_lines(row.format);
     return blank.before + 1 + blank.behind;
+}
+
+int total_lines(std::span<const ReportRow> rows) {
+    const auto add = [](int lines, const ReportRow& row) { return lines + lines_of(row); };
+    return std::accumulate(rows.begin(), rows.end(), 0, add);
 }
 
 // What is too long goes on in lines below, in the column of the last cell.
@@ -35,15 +42,37 @@ void write_line(PageContext& page, std::span<const int> tabs, const ReportRow& r
     }
 }
 
-void write(const ReportLines& lines, int lines_below, PageContext& page) {
-    for (const auto& row : lines.rows) {
+bool announces_more(const ReportRow& row) {
+    return row.values.empty() && row.format.ends_with(":\n\n");
+}
+
+// As far as the next blank line, but not between a sentence and what it announces.
+std::span<const ReportRow> first_paragraph(std::span<const ReportRow> rows) {
+    std::size_t count = 1;
+    while (count < rows.size() &&
+           (blank_lines(rows[count - 1].format).behind == 0 || announces_more(rows[count - 1])))
+        ++count;
+    return rows.first(count);
+}
+
+void write_paragraph(std::span<const ReportRow> rows, std::span<const int> tabs, int lines_below,
+                     PageContext& page) {
+    page.KeepTogether(std::min(total_lines(rows), most_together) + lines_below);
+    for (const auto& row : rows) {
         const auto blank = blank_lines(row.format);
-        if (lines_below > 0 && &row == &lines.rows.back()) page.KeepTogether(lines_of(row) + lines_below);
         leave_blank(page, blank.before);
         if (blank.before == static_cast<int>(row.format.size())) continue;
         if (row.colour) page.ColourBox(colour_box, *row.colour);
-        write_line(page, lines.tabs, row);
+        write_line(page, tabs, row);
         leave_blank(page, blank.behind);
+    }
+}
+
+void write(const ReportLines& lines, int lines_below, PageContext& page) {
+    for (std::span<const ReportRow> left = lines.rows; !left.empty();) {
+        const auto paragraph = first_paragraph(left);
+        left = left.subspan(paragraph.size());
+        write_paragraph(paragraph, lines.tabs, left.empty() ? lines_below : 0, page);
     }
 }
 
@@ -99,19 +128,16 @@ bool ends_blank(const ReportSection& section) {
     return lines != nullptr && !lines->rows.empty() && blank_lines(lines->rows.back().format).behind > 0;
 }
 
-// Keeps the whole of a short block, or the start of a long one, on one page with what stands above it.
-void keep_together(const ReportBlock& block, int lines_above, PageContext& page) {
-    constexpr int most = 12, titles_and_rows = 4;
+// Keeps the whole of a short block, or the start of a long one, on one page with the lines around it.
+void keep_together(const ReportBlock& block, int lines_around, PageContext& page) {
+    constexpr int titles_and_rows = 4;
     if (const auto* text = std::get_if<ReportText>(&block)) {
         if (!text->text().empty()) page.KeepParagraph(text->text());
         return;
     }
     const auto* lines = std::get_if<ReportLines>(&block);
-    int count = lines == nullptr ? titles_and_rows : 0;
-    if (lines != nullptr) {
-        for (const auto& row : lines->rows) count += lines_of(row);
-    }
-    page.KeepTogether(std::min(count, most) + lines_above);
+    const int count = lines == nullptr ? titles_and_rows : total_lines(lines->rows);
+    page.KeepTogether(std::min(count, most_together) + lines_around);
 }
 
 void write_heading(const std::string& heading, PageContext& page) {
@@ -140,7 +166,8 @@ void write(const ReportSection& section, int lines_below, PageContext& page) {
         section.print_body(page);
         return leave_blank(page, 1);
     }
-    if (!section.blocks.empty()) keep_together(section.blocks.front(), heading.empty() ? 0 : 2, page);
+    const int lines_around = (heading.empty() ? 0 : 2) + (section.blocks.size() == 1 ? lines_below : 0);
+    if (!section.blocks.empty()) keep_together(section.blocks.front(), lines_around, page);
     write_heading(heading, page);
     for (const auto& block : section.blocks) {
         if (&block != &section.blocks.front()) keep_together(block, 0, page);

@@ -225,21 +225,26 @@ TEST(Print, leaves_no_heading_alone_on_a_sheet) {
     }
 }
 
-TEST(Print, leaves_no_row_alone_on_a_sheet) {
+TEST(Print, parts_no_paragraph_and_leaves_no_row_of_a_list_alone) {
     for (int rows = 2; rows < 90; ++rows) {
         DocumentReport report;
-        ReportTable table{{{"One\nTwo", 0, 0, 90}}, {}};
-        table.rows.assign(static_cast<std::size_t>(rows), {"row\n", {}});
-        report.sections = {section_of("Steps", std::move(table))};
+        ReportTable list{{{"One\nTwo", 0, 0, 90}}, {}};
+        list.rows.assign(static_cast<std::size_t>(rows), {"row\n", {}});
+        const ReportLines paragraph{{}, {{"What follows:\n\n", {}}, {"line\n", {}}, {"line\n\n", {}}}};
+        report.sections = {section_of("Steps", std::move(list), paragraph)};
         RecordingSurface measure;
         measure.character = {8, 10};
         const auto job = record_report({"", 1, [&](PageContext& page) { write_print(report, page); }},
                                        plain_paper(), measure);
-        const auto last = texts_on(*job, job->pages.size() - 1);
-        EXPECT_GE(
-            std::count_if(last.begin(), last.end(), [](const auto& text) { return text.ends_with("row"); }),
-            2)
-            << rows;
+        for (std::size_t page = 0; page < job->pages.size(); ++page) {
+            const auto texts = texts_on(*job, page);
+            const auto count = [&](const char* word) {
+                return std::count_if(texts.begin(), texts.end(),
+                                     [word](const auto& text) { return text.ends_with(word); });
+            };
+            EXPECT_NE(count("row"), 1) << rows;
+            EXPECT_EQ(count("line"), 2 * count("What follows:")) << rows;
+        }
     }
 }
 
