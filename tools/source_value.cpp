@@ -29,12 +29,6 @@ std::string folded(std::string_view text) {
     return folded;
 }
 
-std::string_view trimmed(std::string_view text) {
-    const auto first = text.find_first_not_of(" \t");
-    if (first == std::string_view::npos) return {};
-    return text.substr(first, text.find_last_not_of(" \t") - first + 1);
-}
-
 std::vector<std::string> read_lines(const std::string& path) {
     const auto file = read_file(path);
     if (!file) throw SourceFault(path + ": cannot be read");

@@ -29,9 +29,6 @@ struct Place {
 /// With the letters A to Z in lower case.
 std::string folded(std::string_view text);
 
-/// Without blanks and tabs at both ends.
-std::string_view trimmed(std::string_view text);
-
 /// The lines of a text file, without their ends.
 std::vector<std::string> read_lines(const std::string& path);
 
