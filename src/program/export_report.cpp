@@ -93,7 +93,7 @@ std::string proposed_name(const Program& program, ReportOutput output) {
 
 // A report of a document that was saved goes by its file.
 std::string pages_name(const Program& program, ReportOutput output) {
-    const auto stem = file_stem(program);
+    auto stem = file_stem(program);
     if (output == ReportOutput::report && !stem.empty()) return stem;
     return std::filesystem::path(proposed_file(proposed_name(program, output), "pdf")).stem().string();
 }
