@@ -102,8 +102,9 @@ void water_rows(Rows& rows, const WaterAnalysis& analysis) {
             .figure()
             .width(ion_width + 4)
             .named(std::string("Still To Add ") + ion.symbol)
-            .hint("The difference less the totals: met within 5 ppm, or a tenth of the target");
+            .hint("The difference less the totals");
     }
+    rows.note("met_note", "met: within 5 ppm, or a tenth of the target");
 }
 
 void salt_rows(Rows& rows, WaterAnalysis& analysis) {

@@ -135,9 +135,8 @@ WaterChart water_chart(const WaterAnalysis& analysis) {
     return chart;
 }
 
-ChartDrawing water_chart_drawing(const WaterAnalysis& analysis) {
-    return {water_chart_size,
-            [&analysis](Surface& surface) { draw_chart(surface, analysis, water_chart_size); }};
+ChartDrawing water_chart_drawing(const WaterAnalysis& analysis, Extent size) {
+    return {size, [&analysis, size](Surface& surface) { draw_chart(surface, analysis, size); }};
 }
 
 void print_water_chart(PageContext& page, const WaterAnalysis& analysis, ChartForm form, float scale) {

@@ -41,8 +41,10 @@ WaterChart water_chart(const WaterAnalysis& analysis);
 inline constexpr Extent water_chart_window{500, 360};
 inline constexpr Extent water_chart_size{water_chart_window.width, water_chart_window.height - 30};
 
-/// On white, as it stands when it is called; `analysis` must outlive the drawing.
-ChartDrawing water_chart_drawing(const WaterAnalysis& analysis);
+/// On white, as it stands when it is called; `analysis` must outlive the drawing. Its window has a margin
+/// below the legend, which a picture ends with.
+ChartDrawing water_chart_drawing(const WaterAnalysis& analysis, Extent size = water_chart_size);
+inline constexpr Extent water_chart_shown{water_chart_size.width, water_chart_size.height + 8};
 
 /// The chart with the additions below it. `scale` is that of the printer settings or of a report.
 void print_water_chart(PageContext& page, const WaterAnalysis& analysis, ChartForm form, float scale);

@@ -33,14 +33,14 @@ WaterChartWindow::WaterChartWindow(const WindowPorts& ports, const WaterAnalysis
 
 Form WaterChartWindow::made_form() {
     Form form;
-    const auto chart = water_chart_drawing(analysis_);
-    form.rows().canvas("chart", chart.size, chart.draw).named("Chart of the ions of three waters");
+    const auto shown = water_chart_drawing(analysis_, water_chart_shown);
+    form.rows().canvas("chart", shown.size, shown.draw).named("Chart of the ions of three waters");
     form.rows().button("print", "&Print", [this] {
         ports_.pages.show(water_chart_printout(analysis_, ports_.program.settings.printer_scale));
     });
-    form.rows().button("jpg", "&JPG", [this, chart] {
-        choose_and_save_chart(chart, utf8_from_windows1252(analysis_.target.name.view()),
-                              picture_desk(ports_));
+    form.rows().button("jpg", "&JPG", [this] {
+        choose_and_save_chart(water_chart_drawing(analysis_),
+                              utf8_from_windows1252(analysis_.target.name.view()), picture_desk(ports_));
     });
     return form;
 }

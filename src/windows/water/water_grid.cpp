@@ -25,6 +25,8 @@ public:
         add_rule();
         add_line("totals", "Totals", Weight::bold);
         add_line("remaining", "Still to add");
+        grid_->addWidget(&widgets_.field("met_note"), line_, first_ion_column, 1,
+                         all_columns - first_ion_column);
         return grid_;
     }
 
