@@ -176,7 +176,7 @@ void malt_list(Rows& rows, const RecipeSubject& subject) {
         .selection(editor.view.selected_malt)
         .header_clicked([&editor](std::size_t column) { sort_malts(editor, column); })
         .cells_typed(malt_cells(editor))
-        .hint("A number or F2 changes the framed cell, Enter opens the line")
+        .hint("A number or F2 changes the framed cell, Enter opens the line (Alt+1)")
         .activated(subject.actions.edit_malt);
 }
 
@@ -236,7 +236,7 @@ void hop_list(Rows& rows, const RecipeSubject& subject) {
         .selection(editor.view.selected_hop)
         .header_clicked([&editor](std::size_t column) { sort_hops(editor, column); })
         .cells_typed(hop_cells(editor))
-        .hint("A number or F2 changes the framed cell, Enter opens the line")
+        .hint("A number or F2 changes the framed cell, Enter opens the line (Alt+2)")
         .activated(subject.actions.edit_hop);
 }
 

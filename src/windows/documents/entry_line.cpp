@@ -50,14 +50,21 @@ IngredientList& EntryLine::list() {
     return *list_;
 }
 
-// The best is chosen from the first: Enter takes it.
 void EntryLine::propose() {
-    const auto query = make_query(use_.name_in(text().toStdString()), other_names_);
-    found_ = best_rows(list(), query, most_proposals);
+    written_ = use_.understand(text().toStdString());
+    const auto query = make_query(written_.name, other_names_);
+    found_ = written_.fault.empty() ? best_rows(list(), query, most_proposals) : std::vector<std::size_t>();
+    show_proposals();
+    tell(!written_.fault.empty()            ? string_of(written_.fault)
+         : query.empty() || !found_.empty() ? QString()
+                                            : QStringLiteral("Nothing found"));
+}
+
+// The best is chosen from the first: Enter takes it.
+void EntryLine::show_proposals() {
     QStringList texts;
     for (const auto row : found_) texts << proposal_text(list(), row, use_.columns);
     proposals_.setStringList(texts);
-    tell(query.empty() || !found_.empty() ? QString() : QStringLiteral("Nothing found"));
     if (found_.empty()) return completer_.popup()->hide();
     completer_.complete();
     completer_.popup()->setCurrentIndex(completer_.completionModel()->index(0, 0));
@@ -66,17 +73,23 @@ void EntryLine::propose() {
 void EntryLine::take_chosen() {
     const auto* const popup = completer_.popup();
     const auto chosen = popup->isVisible() ? popup->currentIndex() : QModelIndex();
-    take(chosen.isValid() ? static_cast<std::size_t>(chosen.row()) : 0);
+    if (!text().trimmed().isEmpty()) take(chosen.isValid() ? static_cast<std::size_t>(chosen.row()) : 0);
 }
 
 void EntryLine::take(std::size_t proposal) {
+    if (found_.empty()) propose(); // the database may have changed since
     completer_.popup()->hide();
-    if (text().trimmed().isEmpty()) return;
-    if (proposal >= found_.size()) return tell(QStringLiteral("Nothing found"));
+    if (proposal >= found_.size()) {
+        if (written_.fault.empty() && written_.name.empty()) tell(QStringLiteral("Its name is missing"));
+        return;
+    }
     auto& from = list();
     from.selected = static_cast<std::int32_t>(found_[proposal]);
-    const auto fault = use_.add(text().toStdString(), from);
-    if (!fault.empty()) return tell(string_of(fault));
+    use_.add(written_, from);
+    forget();
+}
+
+void EntryLine::forget() {
     clear();
     found_.clear();
     tell({});
@@ -94,11 +107,7 @@ void EntryLine::tell(const QString& fault) {
 // Esc first closes the proposals, which is theirs to do, then clears the line.
 void EntryLine::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) return take_chosen();
-    if (event->key() == Qt::Key_Escape && !text().isEmpty()) {
-        clear();
-        found_.clear();
-        return tell({});
-    }
+    if (event->key() == Qt::Key_Escape && !text().isEmpty()) return forget();
     QLineEdit::keyPressEvent(event);
 }
 

@@ -4,6 +4,7 @@
 #include "databases/find.h"
 #include "databases/ingredient_list.h"
 #include "desktop/range_hint.h"
+#include "documents/forms/line_entry.h"
 #include "program/program.h"
 #include "program/window_ports.h"
 
@@ -17,15 +18,13 @@ namespace wortlex {
 /// What an entry line adds, and from where.
 struct EntryLineUse {
     std::string key;
-    std::string name;                                            ///< to assistive tools
-    std::string placeholder;                                     ///< shows how it is written
-    std::string hint;                                            ///< a tooltip
-    std::function<std::shared_ptr<IngredientList>()> read;       ///< the database
-    std::vector<std::size_t> columns;                            ///< of a proposal
-    std::function<std::string(const std::string& text)> name_in; ///< what is to be looked for
-    /// Adds the selected entry of the list; answers in words what cannot be understood, and adds nothing
-    /// then.
-    std::function<std::string(const std::string& text, const IngredientList& list)> add;
+    std::string name;                                      ///< to assistive tools
+    std::string placeholder;                               ///< shows how it is written
+    std::string hint;                                      ///< a tooltip
+    std::function<std::shared_ptr<IngredientList>()> read; ///< the database
+    std::vector<std::size_t> columns;                      ///< of a proposal
+    std::function<WrittenLine(const std::string& text)> understand;
+    std::function<void(const WrittenLine& written, const IngredientList& list)> add; ///< the selected entry
 };
 
 /// Enter adds what is found best, or the proposal that was chosen.
@@ -39,14 +38,17 @@ protected:
 private:
     IngredientList& list();
     void propose();
+    void show_proposals();
     void take_chosen();
     void take(std::size_t proposal);
+    void forget();
     void tell(const QString& fault);
 
     EntryLineUse use_;
     OtherNames other_names_;
     std::shared_ptr<IngredientList> list_; ///< null: to be read when it is next needed
-    std::vector<std::size_t> found_;       ///< the rows of the proposals
+    WrittenLine written_;
+    std::vector<std::size_t> found_; ///< the rows of the proposals
     QStringListModel proposals_;
     QCompleter completer_;
     QPointer<RangeHint> hint_;

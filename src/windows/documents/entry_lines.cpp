@@ -23,58 +23,53 @@ EntryLineUse malt_entry(RecipeEditor& editor, const WindowPorts& ports) {
     return {.key = "malt_entry",
             .name = "Add a malt by its name",
             .placeholder = weight_example(is_american(settings.weight_units), "9 lb 2-row", "4 kg 2-row"),
-            .hint = "Weight and name of a malt; Enter adds it",
+            .hint = "Weight and name of a malt; Enter adds it (Ctrl+1)",
             .read = [ports] { return all_malts(ports); },
             .columns = {0, 1},
-            .name_in = [](const std::string& text) { return read_malt_line(text).name; },
+            .understand = [](const std::string& text) { return read_malt_line(text); },
             .add =
-                [&editor](const std::string& text, const IngredientList& list) {
-                    const auto written = read_malt_line(text);
-                    const auto malt = selected_in<MaltRecord>(list);
-                    if (malt && written.fault.empty())
+                [&editor](const WrittenLine& written, const IngredientList& list) {
+                    if (const auto malt = selected_in<MaltRecord>(list))
                         append_malt(editor, malt_line(*malt, written, editor.open.settings));
-                    return written.fault;
                 }};
 }
 
 EntryLineUse hop_entry(RecipeEditor& editor, const WindowPorts& ports) {
     const auto& settings = ports.program.settings;
-    const auto read = [&editor](const std::string& text) {
-        return read_hop_line(text, editor.open.document.boil_minutes);
-    };
-    return {
-        .key = "hop_entry",
-        .name = "Add a hop by its name",
-        .placeholder =
-            weight_example(is_american(settings.hop_weight_units), "1 oz cascade 60", "28 g cascade 60"),
-        .hint =
-            "Weight and name of a hop, minutes before the end of the boil or dry, fwh or mh; Enter adds it",
-        .read = [ports] { return all_hops(ports); },
-        .columns = {0, 1, 5, 2},
-        .name_in = [read](const std::string& text) { return read(text).name; },
-        .add =
-            [&editor, read](const std::string& text, const IngredientList& list) {
-                const auto written = read(text);
-                const auto& open = editor.open;
-                const auto hop = selected_in<HopRecord>(list);
-                if (hop && written.fault.empty())
-                    append_hop(editor, hop_line(*hop, written, open.document, open.settings));
-                return written.fault;
-            }};
+    const auto& open = editor.open;
+    return {.key = "hop_entry",
+            .name = "Add a hop by its name",
+            .placeholder =
+                weight_example(is_american(settings.hop_weight_units), "1 oz cascade 60", "28 g cascade 60"),
+            .hint = "Weight and name of a hop, minutes before the end of the boil or dry, fwh or mh; Enter "
+                    "adds it (Ctrl+2)",
+            .read = [ports] { return all_hops(ports); },
+            .columns = {0, 1, 5, 2},
+            .understand =
+                [&open](const std::string& text) { return read_hop_line(text, open.document.boil_minutes); },
+            .add =
+                [&editor, &open](const WrittenLine& written, const IngredientList& list) {
+                    if (const auto hop = selected_in<HopRecord>(list))
+                        append_hop(editor, hop_line(*hop, written, open.document, open.settings));
+                }};
 }
 
 EntryLineUse yeast_entry(RecipeEditor& editor, const WindowPorts& ports) {
     return {.key = "yeast_entry",
             .name = "Choose the yeast by its name",
             .placeholder = "us-05",
-            .hint = "Name, number or lab of a yeast; Enter takes it",
+            .hint = "Name, number or lab of a yeast; Enter takes it (Ctrl+3)",
             .read = [ports] { return all_yeasts(ports); },
             .columns = {0, 1, 2},
-            .name_in = [](const std::string& text) { return text; },
+            .understand =
+                [](const std::string& text) {
+                    WrittenLine written;
+                    written.name = text;
+                    return written;
+                },
             .add =
-                [&editor](const std::string& /*text*/, const IngredientList& list) {
+                [&editor](const WrittenLine& /*written*/, const IngredientList& list) {
                     if (const auto yeast = selected_in<YeastRecord>(list)) choose_yeast(editor, *yeast);
-                    return std::string();
                 }};
 }
 

@@ -97,19 +97,19 @@ void RecipePanel::follow_focus() {
 // The keys are those of the lists, which the menu only tells.
 void RecipePanel::add_line_actions(QMenu& menu) {
     struct LineAction {
-        const char* word;
+        const char* words;
         QKeySequence key;
         const char* of_malts; ///< the button; null for none
         const char* of_hops;
     };
     const std::initializer_list<LineAction> actions = {
-        {"&New", Qt::Key_Insert, "malt_new", "hop_new"},
-        {"&Edit", Qt::Key_Return, "malt_edit", "hop_edit"},
-        {"&Delete", QKeySequence::Delete, "malt_del", "hop_del"},
-        {"&More", Qt::Key_Plus, "malt_more", "hop_more"},
-        {"&Less", Qt::Key_Minus, "malt_less", "hop_less"},
-        {"L&onger", longer_key, nullptr, "boil_more"},
-        {"&Shorter", shorter_key, nullptr, "boil_less"}};
+        {"&New %1", Qt::Key_Insert, "malt_new", "hop_new"},
+        {"&Edit %1", Qt::Key_Return, "malt_edit", "hop_edit"},
+        {"&Delete %1", QKeySequence::Delete, "malt_del", "hop_del"},
+        {"&More of the %1", Qt::Key_Plus, "malt_more", "hop_more"},
+        {"&Less of the %1", Qt::Key_Minus, "malt_less", "hop_less"},
+        {"Boil L&onger", longer_key, nullptr, "boil_more"},
+        {"Boil &Shorter", shorter_key, nullptr, "boil_less"}};
     menu.addSeparator();
     for (const auto& each : actions) {
         auto* const action = menu.addAction(QString());
@@ -119,10 +119,10 @@ void RecipePanel::add_line_actions(QMenu& menu) {
         };
         connect(action, &QAction::triggered, &alive_, [button] { button()->click(); });
         const auto show = [this, action, button, each] {
-            action->setText(QStringLiteral("%1 %2\t%3")
-                                .arg(QString::fromLatin1(each.word),
-                                     hops_in_use_ ? QStringLiteral("Hop") : QStringLiteral("Malt"),
-                                     each.key.toString(QKeySequence::NativeText)));
+            const auto words =
+                QString::fromLatin1(each.words)
+                    .replace(QLatin1String("%1"), QLatin1String(hops_in_use_ ? "Hop" : "Malt"));
+            action->setText(words + QLatin1Char('\t') + each.key.toString(QKeySequence::NativeText));
             const auto* const pressed = button();
             action->setEnabled(pressed != nullptr && pressed->isEnabled());
             action->setToolTip(pressed == nullptr ? QString() : pressed->toolTip());
@@ -187,6 +187,7 @@ QLayout* RecipePanel::list_part(const ListPart& part) {
     auto* const line = new QHBoxLayout;
     auto* const left = new QVBoxLayout;
     auto& list = widgets_.field(part.list);
+    list.setMinimumHeight(fontMetrics().height() * 7);
     left->addWidget(&list, 1);
     auto* const below = new QHBoxLayout;
     below->addWidget(part.entry, 1);
