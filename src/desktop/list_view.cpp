@@ -82,7 +82,7 @@ QVariant ListModel::headerData(int section, Qt::Orientation orientation, int rol
     if (role == Qt::TextAlignmentRole) return alignment(section);
     const auto caption = row_.columns[static_cast<std::size_t>(section)].caption();
     if (role == Qt::ToolTipRole) {
-        const auto& hint = row_.columns[static_cast<std::size_t>(section)].hint;
+        const auto hint = row_.columns[static_cast<std::size_t>(section)].hint();
         return hint.empty() ? string_of(meaning_of(caption)) : string_of(hint);
     }
     return role == Qt::DisplayRole ? QString::fromStdString(caption) : QVariant();

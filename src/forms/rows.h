@@ -101,7 +101,7 @@ struct ListColumn {
     bool is_number = false;
     int width = 8; ///< to aim at, in digits
     bool stretches = false;
-    std::string hint = ""; ///< a tooltip; empty: as the glossary explains the caption
+    Live<std::string> hint = ""; ///< a tooltip; empty: as the glossary explains the caption
 };
 
 /// What a list is sorted by.
