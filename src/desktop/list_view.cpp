@@ -165,13 +165,21 @@ QModelIndex ListView::cell_to_type() const {
     return currentIndex().siblingAtColumn(static_cast<int>(columns[cell_]));
 }
 
+// A digit does, and what the cell would take as it is: a D of a dry hop. Other letters find.
+bool ListView::begins_typing(const QKeyEvent& event, const QModelIndex& cell) const {
+    const auto text = event.text();
+    if (text.isEmpty() || (event.modifiers() & (Qt::ControlModifier | Qt::AltModifier)) != 0) return false;
+    if (text.front().isDigit() || QStringLiteral(".,").contains(text.front())) return true;
+    return text.front().isLetter() && row_.typing
+                                          .fault(static_cast<std::size_t>(cell.row()),
+                                                 static_cast<std::size_t>(cell.column()), text.toStdString())
+                                          .empty();
+}
+
 // Digits and F2 open the framed cell, Left and Right choose it.
 bool ListView::take_cell_key(QKeyEvent& event) {
     const auto cell = cell_to_type();
     if (!cell.isValid()) return false;
-    const auto text = event.text();
-    const bool is_number = !text.isEmpty() && (text.front().isDigit() || text.front() == QLatin1Char('.') ||
-                                               text.front() == QLatin1Char(','));
     switch (event.key()) {
     case Qt::Key_Left:
     case Qt::Key_Right:
@@ -181,7 +189,7 @@ bool ListView::take_cell_key(QKeyEvent& event) {
         edit(cell);
         return true;
     default:
-        if (!is_number || (event.modifiers() & (Qt::ControlModifier | Qt::AltModifier)) != 0) return false;
+        if (!begins_typing(event, cell)) return false;
         setEditTriggers(DoubleClicked | AnyKeyPressed);
         edit(cell, AnyKeyPressed, &event); // which hands the digit on
         setEditTriggers(DoubleClicked);

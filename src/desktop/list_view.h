@@ -64,6 +64,7 @@ private:
     void act(const std::function<void()>& action);
     QModelIndex cell_to_type() const;
     bool is_typed_into(const QModelIndex& index) const;
+    bool begins_typing(const QKeyEvent& event, const QModelIndex& cell) const;
     bool take_cell_key(QKeyEvent& event);
     void go_to_cell(int steps);
     void type_into_next_cell();

@@ -26,7 +26,7 @@ EntryLine::EntryLine(EntryLineUse use, const WindowPorts& ports, QWidget* parent
     : QLineEdit(parent), use_(std::move(use)), other_names_(LoadOtherNames(ports.program.data_folder)) {
     setObjectName(string_of(use_.key));
     setAccessibleName(string_of(use_.name));
-    setPlaceholderText(string_of(use_.placeholder));
+    setPlaceholderText(string_of(use_.placeholder()));
     setToolTip(string_of(use_.hint));
     setAccessibleDescription(string_of(use_.hint));
     select_on_focus(*this);
@@ -42,6 +42,7 @@ EntryLine::EntryLine(EntryLineUse use, const WindowPorts& ports, QWidget* parent
         if (change != Change::databases && change != Change::settings) return;
         list_.reset();
         found_.clear();
+        setPlaceholderText(string_of(use_.placeholder()));
     });
 }
 

@@ -5,6 +5,7 @@
 #include "databases/ingredient_list.h"
 #include "desktop/range_hint.h"
 #include "documents/forms/line_entry.h"
+#include "forms/binding.h"
 #include "program/program.h"
 #include "program/window_ports.h"
 
@@ -19,7 +20,7 @@ namespace wortlex {
 struct EntryLineUse {
     std::string key;
     std::string name;                                      ///< to assistive tools
-    std::string placeholder;                               ///< shows how it is written
+    Live<std::string> placeholder;                         ///< shows how it is written
     std::string hint;                                      ///< a tooltip
     std::function<std::shared_ptr<IngredientList>()> read; ///< the database
     std::vector<std::size_t> columns;                      ///< of a proposal

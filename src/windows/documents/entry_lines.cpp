@@ -12,8 +12,9 @@ std::optional<Record> selected_in(const IngredientList& list) {
     return dynamic_cast<const RecordList<Record>&>(list).selected_record();
 }
 
-std::string weight_example(bool american, const char* in_pounds, const char* in_grams) {
-    return american ? in_pounds : in_grams;
+// Follows the unit of the list.
+Live<std::string> example(const Units& units, const char* american, const char* metric) {
+    return [&units, american, metric] { return std::string(is_american(units) ? american : metric); };
 }
 
 } // namespace
@@ -22,7 +23,7 @@ EntryLineUse malt_entry(RecipeEditor& editor, const WindowPorts& ports) {
     const auto& settings = ports.program.settings;
     return {.key = "malt_entry",
             .name = "Add a malt by its name",
-            .placeholder = weight_example(is_american(settings.weight_units), "9 lb 2-row", "4 kg 2-row"),
+            .placeholder = example(settings.weight_units, "9 lb 2-row", "4 kg 2-row"),
             .hint = "Weight and name of a malt; Enter adds it (Ctrl+1)",
             .read = [ports] { return all_malts(ports); },
             .columns = {0, 1},
@@ -39,8 +40,7 @@ EntryLineUse hop_entry(RecipeEditor& editor, const WindowPorts& ports) {
     const auto& open = editor.open;
     return {.key = "hop_entry",
             .name = "Add a hop by its name",
-            .placeholder =
-                weight_example(is_american(settings.hop_weight_units), "1 oz cascade 60", "28 g cascade 60"),
+            .placeholder = example(settings.hop_weight_units, "1 oz cascade 60", "28 g cascade 60"),
             .hint = "Weight and name of a hop, minutes before the end of the boil or dry, fwh or mh; Enter "
                     "adds it (Ctrl+2)",
             .read = [ports] { return all_hops(ports); },
