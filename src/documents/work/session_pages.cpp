@@ -9,6 +9,7 @@ namespace wortlex {
 namespace {
 
 bool has_schedule(const BrewDocument& document) {
+    if (document.recipe_kind == RecipeKind::extract) return false;
     const auto& mash = document.simple_mash;
     return has_complex_schedule(document) ? !document.mash.used_steps().empty()
                                           : mash.saccharification.is_present() || mash.dough_in_water != 0;
@@ -35,7 +36,7 @@ bool has_water(const WaterNeeds& needs, const WaterNeeds& usual) {
 // the recipe aims at, and the efficiency that is shown tells of no brew day.
 bool has_recording(const BrewDocument& document, const SessionDocument& session) {
     const auto& tail = session.tail;
-    return tail.recorded_volume != 0 &&
+    return document.recipe_kind != RecipeKind::extract && tail.recorded_volume != 0 &&
            (tail.recorded_volume != document.batch_size || tail.recorded_og != hop_gravity(document));
 }
 

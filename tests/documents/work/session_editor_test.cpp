@@ -120,6 +120,9 @@ TEST(SessionEditor, OnlyWhatTheBrewerEnteredFillsAPage) {
     desk.session.actual_og = 1.06F;
     repair_recording(desk.session, desk.document);
     EXPECT_TRUE(filled(SessionPage::efficiency)) << "a measured gravity tells an efficiency";
+    EXPECT_TRUE(filled(SessionPage::mash));
+    set_kind(desk.editor, RecipeKind::extract);
+    EXPECT_FALSE(filled(SessionPage::efficiency) || filled(SessionPage::mash)) << "they have no meaning";
 }
 
 } // namespace
