@@ -2,6 +2,7 @@
 #include "reports/row_parts.h"
 #include "reports/sections.h"
 
+#include <algorithm>
 #include <array>
 
 namespace wortlex {
@@ -76,6 +77,11 @@ void add_vessels(std::vector<ReportRow>& rows, const BottlingLog& log, std::size
 }
 
 } // namespace
+
+bool has_filled_vessels(const SessionDocument& session) {
+    const auto& used = session.bottling.used;
+    return std::any_of(used.begin(), used.end(), [](std::uint8_t flag) { return flag != 0; });
+}
 
 ReportSection bottling_section(const ReportSource& source) {
     const auto& settings = source.open.settings;

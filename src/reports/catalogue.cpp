@@ -5,8 +5,6 @@
 #include "reports/row_parts.h"
 #include "reports/sections.h"
 
-#include <algorithm>
-
 namespace wortlex {
 namespace {
 
@@ -57,14 +55,16 @@ bool has_mash(const ReportSource& source) {
 }
 
 bool has_vessels(const ReportSource& source) {
-    const auto& used = source.open.session->bottling.used;
-    return !source.is_competition_form ||
-           std::any_of(used.begin(), used.end(), [](std::uint8_t flag) { return flag != 0; });
+    return !source.is_competition_form || has_filled_vessels(*source.open.session);
+}
+
+bool has_own_water(const ReportSource& source) {
+    return has_water_chart(*source.open.session);
 }
 
 template <SessionNote Note>
 bool has_note(const ReportSource& source) {
-    return has_session_note(source, Note);
+    return has_session_note(*source.open.session, Note);
 }
 
 template <SessionNote Note>
@@ -93,7 +93,7 @@ constexpr std::array catalogue = {
     Entry{nullptr, PrintSection::mash_graph, false, false, has_mash_chart, mash_chart_section},
     Entry{water_match_section, PrintSection::water_analysis, true},
     Entry{water_adjustment_section, PrintSection::water_analysis, true},
-    Entry{nullptr, PrintSection::water_graph, true, false, has_water_chart, water_chart_section},
+    Entry{nullptr, PrintSection::water_graph, true, false, has_own_water, water_chart_section},
     Entry{water_needed_section, PrintSection::water_needed, true},
     Entry{efficiency_section, PrintSection::efficiency, true},
     Entry{fermentation_section, PrintSection::fermentation, true, true},

@@ -52,8 +52,8 @@ ReportSection mash_chart_section(const ReportSource& source, const PrintSelectio
          }});
 }
 
-bool has_water_chart(const ReportSource& source) {
-    return source.open.session != nullptr && source.open.session->source_water.name.view().size() > 1;
+bool has_water_chart(const SessionDocument& session) {
+    return session.source_water.name.view().size() > 1;
 }
 
 ReportSection water_chart_section(const ReportSource& source, const PrintSelection& wanted) {

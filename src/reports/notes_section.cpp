@@ -1,6 +1,7 @@
 #include "base/windows1252.h"
 #include "reports/sections.h"
 
+#include <algorithm>
 #include <array>
 
 namespace wortlex {
@@ -41,8 +42,15 @@ ReportSection awards_section(const ReportSource& source) {
     return recipe_text_section("Awards", source.open.document.awards.view(), source);
 }
 
-bool has_session_note(const ReportSource& source, SessionNote note) {
-    return !source.open.session->session_notes.at(static_cast<std::size_t>(note)).view().empty();
+bool has_session_note(const SessionDocument& session, SessionNote note) {
+    return !session.session_notes.at(static_cast<std::size_t>(note)).empty();
+}
+
+bool has_session_notes(const SessionDocument& session) {
+    using enum SessionNote;
+    constexpr std::array notes = {mash, fermentation, tasting, problems};
+    return std::any_of(notes.begin(), notes.end(),
+                       [&](SessionNote note) { return has_session_note(session, note); });
 }
 
 ReportSection session_note_section(const ReportSource& source, SessionNote note) {

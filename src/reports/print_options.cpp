@@ -1,26 +1,35 @@
 #include "reports/print_options.h"
 
+#include "documents/recipe_gravity.h"
 #include "forms/print_scale.h"
+#include "reports/sections.h"
 
 #include <span>
 
 namespace wortlex {
 namespace {
 
+constexpr const char* no_mash = "There is no grain to mash";
+
 struct SectionSwitch {
     const char* key = nullptr;
     const char* label = nullptr;
     PrintSection section = {};
-    bool is_on_form = false; ///< of a competition
-    bool is_of_mash = false;
+    bool is_on_form = false;                ///< of a competition
+    bool PrintedDocument::*needs = nullptr; ///< without which it holds nothing
+    const char* lack = "";                  ///< says so
+    bool stands_in_reports = false;         ///< even so, for a part of it is always told
 };
+
+constexpr SectionSwitch mash_switch{"mash", "&Mash Schedule",           PrintSection::mash_schedule,
+                                    true,   &PrintedDocument::has_mash, no_mash};
 
 constexpr std::array recipe_switches = {
     SectionSwitch{"style", "&Style Guidelines", PrintSection::recipe_style_guidelines},
     SectionSwitch{"pre_boil", "Pre-&Boil Specifics", PrintSection::pre_boil},
     SectionSwitch{"formulas", "&Formula Specifics", PrintSection::formula_specifics},
     SectionSwitch{"water", "&Water Profile", PrintSection::water_profile, true},
-    SectionSwitch{"mash", "&Mash Schedule", PrintSection::mash_schedule, true, true},
+    mash_switch,
     SectionSwitch{"notes", "&Notes && Awards", PrintSection::notes_and_awards}};
 
 constexpr std::array session_recipe_switches = {
@@ -31,37 +40,40 @@ constexpr std::array session_recipe_switches = {
     SectionSwitch{"notes", "&Notes && Awards", PrintSection::notes_and_awards}};
 
 constexpr std::array session_switches = {
-    SectionSwitch{"mash", "&Mash Schedule", PrintSection::mash_schedule, true, true},
+    mash_switch,
     SectionSwitch{"water_analysis", "Water Profile Anal&ysis", PrintSection::water_analysis},
     SectionSwitch{"water_needed", "Water Nee&ded", PrintSection::water_needed},
     SectionSwitch{"efficiency", "&Efficiency Specifics", PrintSection::efficiency},
     SectionSwitch{"fermentation", "Fe&rmentation Specifics", PrintSection::fermentation, true},
-    SectionSwitch{"bottling", "Bottling/&Kegging Specifics", PrintSection::bottling, true},
+    SectionSwitch{"bottling", "Bottling/&Kegging Specifics", PrintSection::bottling, true,
+                  &PrintedDocument::has_vessels, "No vessel is told to be filled", true},
     SectionSwitch{"inventory", "In&ventory Analysis", PrintSection::inventory},
-    SectionSwitch{"session_notes", "Sessi&on Notes", PrintSection::session_notes}};
+    SectionSwitch{"session_notes", "Sessi&on Notes", PrintSection::session_notes, false,
+                  &PrintedDocument::has_notes, "The session has no notes"}};
 
-const char* why_disabled(const SectionSwitch& section, const PrintSelection& selection) {
-    if (report_output(selection) == ReportOutput::competition_labels)
-        return "Labels hold nothing but the style, the name and the brewer";
-    const bool is_form = report_output(selection) == ReportOutput::competition_form;
-    return is_form && !section.is_on_form ? "A competition form does not hold it"
-                                          : "There is no grain to mash";
-}
-
-bool can_be_chosen(const SectionSwitch& section, const PrintSelection& selection,
-                   const PrintedDocument& document) {
-    if (section.is_of_mash && !document.has_mash) return false;
+// Empty for one that can be chosen.
+std::string why_disabled(const SectionSwitch& section, const PrintSelection& selection,
+                         const PrintedDocument& document) {
     const auto output = report_output(selection);
-    return output == ReportOutput::report || (output == ReportOutput::competition_form && section.is_on_form);
+    if (output == ReportOutput::competition_labels)
+        return "Labels hold nothing but the style, the name and the brewer";
+    const bool is_form = output == ReportOutput::competition_form;
+    if (is_form && !section.is_on_form) return "A competition form does not hold it";
+    const bool is_missed = section.needs != nullptr && (is_form || !section.stands_in_reports);
+    return is_missed && !(document.*section.needs) ? section.lack : "";
 }
 
 void section_rows(Rows& rows, std::span<const SectionSwitch> switches, PrintSelection& selection,
                   const PrintedDocument& document) {
-    for (const auto& section : switches)
+    for (const auto& section : switches) {
+        const auto why = [&section, &selection, document] {
+            return why_disabled(section, selection, document);
+        };
         rows.check(section.key, selection[section.section])
             .label(section.label)
-            .enabled([&section, &selection, document] { return can_be_chosen(section, selection, document); })
-            .disabled_because([&section, &selection] { return why_disabled(section, selection); });
+            .enabled([why] { return why().empty(); })
+            .disabled_because(why);
+    }
 }
 
 bool can_hold_charts(const PrintSelection& selection) {
@@ -75,38 +87,38 @@ bool wants_mash_chart(PrintSelection selection, const PrintedDocument& document)
 }
 
 bool wants_water_chart(PrintSelection selection, const PrintedDocument& document) {
-    return document.kind == DocumentKind::session && selection[PrintSection::water_graph] != 0;
+    return document.kind == DocumentKind::session && document.has_own_water &&
+           selection[PrintSection::water_graph] != 0;
 }
 
-const char* why_no_chart(const PrintSelection& selection, const PrintedDocument& document) {
-    if (!can_hold_charts(selection)) return "Only a printed report and a page of HTML have charts";
-    return document.has_mash ? "It belongs to the mash graph" : "There is no grain to mash";
+std::string lack_of_mash(const PrintSelection&, const PrintedDocument& document) {
+    return document.has_mash ? "" : no_mash;
 }
 
-void graph_row(Rows& rows, const char* key, const char* label, std::uint8_t& flag,
-               const PrintSelection& selection, const PrintedDocument& document,
-               bool (*is_of)(PrintSelection, const PrintedDocument&)) {
-    rows.check(key, flag)
-        .label(label)
-        .enabled([&selection, document, is_of] {
-            return can_hold_charts(selection) && is_of(selection, document);
-        })
-        .disabled_because([&selection, document] { return why_no_chart(selection, document); });
+std::string lack_of_mash_chart(const PrintSelection& selection, const PrintedDocument& document) {
+    if (!document.has_mash) return no_mash;
+    return wants_mash_chart(selection, document) ? "" : "It belongs to the mash graph";
+}
+
+std::string lack_of_water(const PrintSelection&, const PrintedDocument& document) {
+    return document.has_own_water ? "" : "Your water has no name yet";
 }
 
 void graph_rows(Rows& rows, PrintSelection& selection, const PrintedDocument& document) {
-    const auto row = [&](const char* key, const char* label, std::uint8_t& flag, auto is_of) {
-        graph_row(rows, key, label, flag, selection, document, is_of);
+    const auto row = [&](const char* key, const char* label, std::uint8_t& flag, auto lack) {
+        const auto why = [&selection, document, lack]() -> std::string {
+            if (!can_hold_charts(selection)) return "Only a printed report and a page of HTML have charts";
+            return lack(selection, document);
+        };
+        rows.check(key, flag).label(label).enabled([why] { return why().empty(); }).disabled_because(why);
     };
-    row("mash_graph", "Mash &Graph", selection[PrintSection::mash_graph],
-        [](PrintSelection, const PrintedDocument& of) { return of.has_mash; });
-    row("fine_lines", "Fine Temp Lines", selection[PrintOption::fine_temperature_lines], wants_mash_chart);
-    row("solid_fill", "Solid Fill", selection[PrintOption::solid_fill], wants_mash_chart);
-    row("decoction_spikes", "Decoction Spikes", selection[PrintOption::decoction_spikes], wants_mash_chart);
-    row("infusion_spikes", "Infusion Spikes", selection[PrintOption::infusion_spikes], wants_mash_chart);
+    row("mash_graph", "Mash &Graph", selection[PrintSection::mash_graph], lack_of_mash);
+    row("fine_lines", "Fine Temp Lines", selection[PrintOption::fine_temperature_lines], lack_of_mash_chart);
+    row("solid_fill", "Solid Fill", selection[PrintOption::solid_fill], lack_of_mash_chart);
+    row("decoction_spikes", "Decoction Spikes", selection[PrintOption::decoction_spikes], lack_of_mash_chart);
+    row("infusion_spikes", "Infusion Spikes", selection[PrintOption::infusion_spikes], lack_of_mash_chart);
     if (document.kind == DocumentKind::session)
-        row("water_graph", "Water Profile Graph", selection[PrintSection::water_graph],
-            [](PrintSelection, const PrintedDocument&) { return true; });
+        row("water_graph", "Water Profile Graph", selection[PrintSection::water_graph], lack_of_water);
 }
 
 // The one takes the other out.
@@ -158,6 +170,15 @@ void text_groups(Form& form, PrintSelection& selection, const PrintedDocument& d
 }
 
 } // namespace
+
+PrintedDocument printed_document(DocumentKind kind, const BrewDocument& document,
+                                 const SessionDocument& session) {
+    return {.kind = kind,
+            .has_mash = has_mashable_grain(document),
+            .has_own_water = has_water_chart(session),
+            .has_notes = has_session_notes(session),
+            .has_vessels = has_filled_vessels(session)};
+}
 
 ReportForm report_form(const PrintSelection& selection) {
     auto read = selection;

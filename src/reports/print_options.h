@@ -2,6 +2,7 @@
 #pragma once
 
 #include "forms/form.h"
+#include "records/documents/session_document.h"
 #include "reports/file_names.h"
 #include "settings/system_files.h"
 
@@ -23,8 +24,13 @@ struct PrintOptionsActions {
 /// Of which document the options are, and what it has.
 struct PrintedDocument {
     DocumentKind kind = DocumentKind::recipe;
-    bool has_mash = true; ///< grain to mash, without which there is no schedule
+    bool has_mash = true;      ///< grain to mash, without which there is no schedule
+    bool has_own_water = true; ///< with a name, without which it has no graph; of a session, as what follows
+    bool has_notes = true;
+    bool has_vessels = true; ///< that were filled
 };
+PrintedDocument printed_document(DocumentKind kind, const BrewDocument& document,
+                                 const SessionDocument& session);
 
 /// The options of a report, on `selection`, which must outlive the form. What the chosen output does not hold
 /// cannot be chosen.

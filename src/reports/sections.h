@@ -29,17 +29,19 @@ ReportSection mash_chart_section(const ReportSource& source, const PrintSelectio
 /// Of a session only, as those that follow.
 ReportSection water_match_section(const ReportSource& source);
 ReportSection water_adjustment_section(const ReportSource& source);
-bool has_water_chart(const ReportSource& source);
+bool has_water_chart(const SessionDocument& session);
 ReportSection water_chart_section(const ReportSource& source, const PrintSelection& wanted);
 ReportSection water_needed_section(const ReportSource& source);
 ReportSection efficiency_section(const ReportSource& source);
 ReportSection fermentation_section(const ReportSource& source);
+bool has_filled_vessels(const SessionDocument& session);
 ReportSection bottling_section(const ReportSource& source);
 ReportSection inventory_section(const ReportSource& source);
 
 /// In the order of the record.
 enum class SessionNote : std::uint8_t { mash, fermentation, tasting, problems };
-bool has_session_note(const ReportSource& source, SessionNote note);
+bool has_session_note(const SessionDocument& session, SessionNote note);
+bool has_session_notes(const SessionDocument& session);
 ReportSection session_note_section(const ReportSource& source, SessionNote note);
 
 } // namespace wortlex

@@ -49,7 +49,8 @@ ReportSection under(const char* heading, ReportSection section) {
 void add_notes(std::vector<ReportSection>& sections, const ReportSource& source) {
     for (const auto note :
          {SessionNote::mash, SessionNote::fermentation, SessionNote::tasting, SessionNote::problems})
-        if (has_session_note(source, note)) sections.push_back(session_note_section(source, note));
+        if (has_session_note(*source.open.session, note))
+            sections.push_back(session_note_section(source, note));
 }
 
 void add_page(std::vector<ReportSection>& sections, SessionPrint print, const ReportSource& source) {

@@ -299,6 +299,31 @@ TEST(PrintOptions, ChartsAreForPaperAndPagesWithAMash) {
     EXPECT_EQ(enabled(), "");
 }
 
+TEST(PrintOptions, OfferNothingThatTheSessionLacks) {
+    PrintSelection selection;
+    selection.sections.fill(0);
+    SessionDocument session;
+    const auto disabled = [&] {
+        Form form;
+        print_options_form(form, selection, printed_document(DocumentKind::session, {}, session), {});
+        std::string keys;
+        for (const auto* const key : {"mash", "bottling", "session_notes", "water_graph"})
+            if (!form.row(key).is_enabled())
+                keys += std::string(key) + ": " + form.row(key).reason_text() + "\n";
+        return keys;
+    };
+    EXPECT_EQ(disabled(), "mash: There is no grain to mash\nsession_notes: The session has no notes\n"
+                          "water_graph: Your water has no name yet\n");
+    session.session_notes[4].assign("of a page that is not there");
+    session.source_water.name.assign("Well");
+    selection[PrintSection::competition_form] = 1;
+    EXPECT_THAT(disabled(), testing::HasSubstr("bottling: No vessel is told to be filled\n"));
+    session.session_notes[3].assign("Stuck");
+    session.bottling.used[1] = 1;
+    selection[PrintSection::competition_form] = 0;
+    EXPECT_EQ(disabled(), "mash: There is no grain to mash\n");
+}
+
 TEST(PrintOptions, KeepTheOutputInItsFlags) {
     PrintSelection selection;
     for (const auto form :

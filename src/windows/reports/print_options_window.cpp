@@ -1,7 +1,6 @@
 #include "windows/reports/print_options_window.h"
 
 #include "desktop/form_dialog.h"
-#include "documents/recipe_gravity.h"
 #include "program/export_report.h"
 #include "reports/competition_dialog.h"
 #include "reports/print_options.h"
@@ -19,7 +18,7 @@ bool choose_print_options(const WindowPorts& ports, DocumentKind kind, QWidget* 
     auto selection = kept;
     Form form;
     print_options_form(
-        form, selection, {kind, has_mashable_grain(program.document.recipe)},
+        form, selection, printed_document(kind, program.document.recipe, program.document.session),
         {.html_themes =
              [&] { edit_html_theme(program, ports.files, ports.prompts, QApplication::activeModalWidget()); },
          .save_as_default = [&] { save_as_default(kind, selection, program.data_folder, ports.prompts); },
