@@ -105,7 +105,7 @@ void ListWindow::list_row(Rows& rows) {
 void ListWindow::pick_rows(Rows& rows) {
     if (stays_open_ != nullptr)
         rows.check("stays_open", *stays_open_)
-            .label("Stay &Open")
+            .label("Sta&y Open")
             .hint("Picks one after the other; Shift and Enter does so once");
     rows.button("pick", "&Pick", [this] { pick_and_close(); });
 }
