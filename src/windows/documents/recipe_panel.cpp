@@ -83,7 +83,7 @@ void RecipePanel::add_focus_keys() {
                                      std::pair(Qt::CTRL | Qt::Key_2, static_cast<QWidget*>(&hop_entry_)),
                                      std::pair(Qt::CTRL | Qt::Key_3, static_cast<QWidget*>(&yeast_entry_))}) {
         connect(new QShortcut(key, this), &QShortcut::activated, field,
-                [field] { field->setFocus(Qt::ShortcutFocusReason); });
+                [to = field] { to->setFocus(Qt::ShortcutFocusReason); });
     }
 }
 
