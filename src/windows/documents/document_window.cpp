@@ -155,15 +155,21 @@ void DocumentWindow::travel(Travel travel) {
     travel == Travel::undo ? undo(editor_) : redo(editor_);
 }
 
-void DocumentWindow::put_in_force(ScheduleKind kind) {
+void DocumentWindow::revert_to(ScheduleKind kind) {
     set_schedule_kind(editor_, kind);
     document_.water_to_grain = 0;
+    show_mash();
 }
 
-void DocumentWindow::show_designer(const std::function<void()>& revert) {
+void DocumentWindow::show_mash() {
+    chosen_schedule(document_.recipe) == ScheduleKind::simple ? show_simple_mash() : show_designer();
+}
+
+void DocumentWindow::show_designer() {
     const auto is_session = document_.kind == DocumentKind::session;
     pages_.show(is_session ? "BATCHSTEPMASHDETAIL" : "RECIPESTEPMASHDETAIL", [&] {
-        const DocumentDesignerCalls calls{[this] { save_document(SaveAs::no); }, revert};
+        const DocumentDesignerCalls calls{[this] { save_document(SaveAs::no); },
+                                          [this] { revert_to(ScheduleKind::simple); }};
         return make_document_designer(ports_, editor_, calls, this);
     });
 }

@@ -43,10 +43,11 @@ protected:
     void follow(Change change) override;
 
     void save_document(SaveAs save_as);
-    /// The mash goes by that schedule from now on; the water tells its ratio anew.
-    void put_in_force(ScheduleKind kind);
-    /// The designer of the complex schedule; `revert` puts the simple one in force and shows it.
-    void show_designer(const std::function<void()>& revert);
+    /// The schedule that is in force.
+    void show_mash();
+    virtual void show_simple_mash() = 0;
+    /// The mash goes by that schedule from now on, which is shown; the water tells its ratio anew.
+    void revert_to(ScheduleKind kind);
     /// Saves in a way of its own, which answers whether the document is saved now.
     void save_by(const std::function<bool(DocumentSaving&)>& way);
     QAction* action(int command) const;
@@ -72,6 +73,7 @@ private:
     void follow_save(const std::string& path_before);
     DocumentSaving saving();
     void travel(Travel travel) override;
+    void show_designer();
     void show_name();
     void keep_or_tell();
 

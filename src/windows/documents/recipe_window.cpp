@@ -57,16 +57,6 @@ void RecipeWindow::print() {
     print_or_export(ports(), editor().view, this);
 }
 
-void RecipeWindow::show_mash() {
-    if (chosen_schedule(document().recipe) == ScheduleKind::simple) return show_simple_mash();
-    show_designer([this] { revert_to(ScheduleKind::simple); });
-}
-
-void RecipeWindow::revert_to(ScheduleKind kind) {
-    put_in_force(kind);
-    show_mash();
-}
-
 void RecipeWindow::show_simple_mash() {
     pages().show("MASHENTRYDIALOG", [this]() -> ToolWindow* {
         auto& live = document();

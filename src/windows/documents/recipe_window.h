@@ -15,14 +15,12 @@ public:
 protected:
     Opened open_live() override;
     void make_new() override { new_recipe(program()); }
+    void show_simple_mash() override;
 
 private:
     RecipeActions actions();
     QLayout* page_part();
     void print();
-    void show_mash();
-    void show_simple_mash();
-    void revert_to(ScheduleKind kind);
 
     RecipeSubject subject_;
     RecipePanel panel_;

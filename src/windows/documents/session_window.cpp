@@ -119,16 +119,6 @@ void SessionWindow::show_ingredients() {
     });
 }
 
-void SessionWindow::show_mash() {
-    if (chosen_schedule(document().recipe) == ScheduleKind::simple) return show_simple_mash();
-    show_designer([this] { revert_to(ScheduleKind::simple); });
-}
-
-void SessionWindow::revert_to(ScheduleKind kind) {
-    put_in_force(kind);
-    show_mash();
-}
-
 void SessionWindow::show_simple_mash() {
     pages().show("MASHENTRYDIALOG1", [this] {
         const SessionMashLinks links{

@@ -17,6 +17,7 @@ public:
 protected:
     Opened open_live() override;
     void make_new() override;
+    void show_simple_mash() override;
     /// Whether its stock is booked.
     QString state_words() const override;
     void follow(Change change) override;
@@ -29,9 +30,6 @@ private:
     void pick_date();
     void pick_recipe();
     void show_ingredients();
-    void show_mash();
-    void show_simple_mash();
-    void revert_to(ScheduleKind kind);
     void print();
 
     SessionSubject subject_;
