@@ -24,10 +24,19 @@ Scrolled::Scrolled(QWidget& part, QWidget* parent) : QScrollArea(parent) {
     setFocusPolicy(Qt::NoFocus);
     setWidgetResizable(true);
     setWidget(&part);
-    connect(qApp, &QApplication::focusChanged, this, [this](const QWidget*, QWidget* now) {
-        if (now != nullptr && widget() != nullptr && widget()->isAncestorOf(now))
-            ensureWidgetVisible(now, 0, now->height());
-    });
+    connect(qApp, &QApplication::focusChanged, this,
+            [this](const QWidget*, QWidget* now) { keep_in_sight(now); });
+}
+
+void Scrolled::keep_in_sight(QWidget* focus) {
+    if (focus != nullptr && widget() != nullptr && widget()->isAncestorOf(focus))
+        ensureWidgetVisible(focus, 0, focus->height());
+}
+
+// A window begins with a field before it has its size and its scroll bars.
+void Scrolled::resizeEvent(QResizeEvent* event) {
+    QScrollArea::resizeEvent(event);
+    keep_in_sight(window()->focusWidget());
 }
 
 QSize Scrolled::minimumSizeHint() const {

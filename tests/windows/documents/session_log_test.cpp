@@ -160,6 +160,10 @@ TEST(SessionLog, TheBottlingDateFollowsTheFermentation) {
         dialog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok)->click();
     });
     EXPECT_EQ(text_of(*page, "bottling_date"), "02-04-2001") << "ten days after 25 January";
+    type_into(*page, "co2_volumes", "2.5");
+    QTest::keyClick(line_of(*page->findChild<QWidget*>("co2_volumes")), Qt::Key_Return);
+    EXPECT_FALSE(page->isVisible()) << "Enter is OK";
+    EXPECT_EQ(b.session.bottling.co2_volumes, 2.5F);
 }
 
 TEST(SessionWater, FollowsTheSessionAndIsPutBackByCancel) {
