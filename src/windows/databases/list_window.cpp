@@ -111,7 +111,7 @@ void ListWindow::pick_rows(Rows& rows) {
 }
 
 std::string ListWindow::found_text() const {
-    const auto added = added_ == 0 ? "" : std::to_string(added_) + " added";
+    auto added = added_ == 0 ? "" : std::to_string(added_) + " added";
     if (query_.empty()) return added;
     const auto count = count_found(list_, query_);
     return (count == 0 ? "Nothing found" : std::to_string(count) + " found") +
