@@ -2,6 +2,7 @@
 
 #include "desktop/cell_editor.h"
 #include "desktop/colours.h"
+#include "desktop/glass.h"
 #include "desktop/qt_text.h"
 #include "forms/glossary.h"
 
@@ -63,6 +64,16 @@ QVariant ListModel::font(std::size_t row) const {
     return bold;
 }
 
+QVariant ListModel::ink(std::size_t row) const {
+    if (!row_.is_dimmed || !row_.is_dimmed(row)) return {};
+    return view().palette().color(QPalette::Disabled, QPalette::Text);
+}
+
+QVariant ListModel::glass(const QModelIndex& index) const {
+    if (!row_.glass || index.column() != 0) return {};
+    return glass_picture(row_.glass(static_cast<std::size_t>(index.row())), view());
+}
+
 const ListView& ListModel::view() const {
     return *dynamic_cast<const ListView*>(QObject::parent());
 }
@@ -73,6 +84,8 @@ QVariant ListModel::data(const QModelIndex& index, int role) const {
     if (row >= row_.count()) return {};
     if (role == Qt::BackgroundRole) return ground(row);
     if (role == Qt::FontRole) return font(row);
+    if (role == Qt::ForegroundRole) return ink(row);
+    if (role == Qt::DecorationRole) return glass(index);
     if (role != Qt::DisplayRole) return {};
     return QString::fromStdString(row_.cell(row, static_cast<std::size_t>(index.column())));
 }

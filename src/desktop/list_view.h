@@ -27,6 +27,8 @@ private:
     QVariant alignment(int column) const;
     QVariant ground(std::size_t row) const;
     QVariant font(std::size_t row) const;
+    QVariant ink(std::size_t row) const;
+    QVariant glass(const QModelIndex& index) const;
     const ListView& view() const;
 
     const ListRow& row_;

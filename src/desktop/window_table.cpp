@@ -41,6 +41,7 @@ constexpr std::array windows = {
     WindowInfo{"HOPSHORTEDITDIALOG1", {"Hop Amounts"}, from_documents(78, 79), 0},
     WindowInfo{"EXTRASHORTEDITDIALOG", {"Extra Ingredient Edit"}, from_documents(80, 81), 0},
     WindowInfo{"GRAINLISTDETAIL", {"Individual Malt Gravity/Color Contribution"}, no_places, 0},
+    WindowInfo{"RECIPESHELFDIALOG", {"Open Recipe"}, {102, 102, no_place}, 0},
     WindowInfo{"PREBOILDIALOG", {"Pre-Boil Calculator"}, from_documents(82, no_place), 0},
     WindowInfo{"BATCHPREBOILDIALOG", {"Pre-Boil Calculator"}, from_documents(no_place, 83), 0},
     WindowInfo{"BATCHEFFDIALOG", {"Efficiency Calculator"}, from_documents(no_place, 27), 0},

@@ -8,7 +8,7 @@
 
 namespace wortlex {
 
-void recalculate_opened(const OpenDocument& open) {
+void recalculate_beer(const OpenDocument& open) {
     auto& document = open.document;
     if (open.settings.wort_equals_batch != 0 && open.session == nullptr)
         document.wort_size = document.batch_size;
@@ -16,7 +16,12 @@ void recalculate_opened(const OpenDocument& open) {
     total_grain_update(document, open.figures);
     document.og_points = compute_og(document, open.figures, open.settings);
     hops_update(document, open.figures, open.settings);
-    colour_and_mash(open);
+    colour_update(document, open.figures, open.settings);
+}
+
+void recalculate_opened(const OpenDocument& open) {
+    recalculate_beer(open);
+    mash_refresh(open);
 }
 
 bool shows_potentials(const Settings& settings) {

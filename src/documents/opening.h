@@ -6,9 +6,11 @@
 
 namespace wortlex {
 
-/// Works a loaded document out anew: gravity, bitterness, colour, mash and, in a session, water. Under "wort
-/// size equals batch size" a recipe's wort size follows first. Without malts gravity and boil gravity are
-/// those of water.
+/// Works the beer of a loaded document out anew: gravity, bitterness, colour. Under "wort size equals batch
+/// size" a recipe's wort size follows first. Without malts gravity and boil gravity are those of water.
+void recalculate_beer(const OpenDocument& open);
+
+/// The same and its mash and, in a session, its water.
 void recalculate_opened(const OpenDocument& open);
 
 /// Whether the malt list shows potentials at first.

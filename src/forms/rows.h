@@ -148,6 +148,16 @@ public:
         is_head = std::move(test);
         return *this;
     }
+    /// Rows that cannot be used, in grey.
+    ListRow& dimmed(std::function<bool(std::size_t row)> test) {
+        is_dimmed = std::move(test);
+        return *this;
+    }
+    /// A glass of beer before the row, of that colour, 0x00BBGGRR; without one an empty glass.
+    ListRow& with_glass(std::function<std::optional<std::uint32_t>(std::size_t row)> colour) {
+        glass = std::move(colour);
+        return *this;
+    }
     /// What stands in its place while it is empty.
     ListRow& when_empty(const Live<std::string>& words) {
         empty_words = words;
@@ -171,6 +181,8 @@ public:
     std::function<SortMark()> sort_mark;
     std::function<bool(std::size_t row)> is_marked;
     std::function<bool(std::size_t row)> is_head;
+    std::function<bool(std::size_t row)> is_dimmed;
+    std::function<std::optional<std::uint32_t>(std::size_t row)> glass;
     Live<std::string> empty_words = "";
     std::function<void()> activate; ///< double click or Enter on a row
     CellTyping typing;

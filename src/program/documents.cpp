@@ -31,14 +31,6 @@ void tell_fault(LoadResult result, const std::string& path, Prompts& prompts) {
     prompts.tell({.text = text, .icon = is_sound(result) ? Icon::warning : Icon::error});
 }
 
-std::optional<std::string> choose_file(Program& program, DocumentKind kind, Files& files) {
-    const auto& chosen = document_traits(kind);
-    auto path = files.choose_to_open(
-        {chosen.filter, folder_path(program.folders, chosen.folder), {}, chosen.extension});
-    if (path) follow_user(program.folders, chosen.folder, *path);
-    return path;
-}
-
 } // namespace
 
 int open_command(DocumentKind kind) {
@@ -80,13 +72,21 @@ bool open_document(Program& program, const std::string& path, DocumentKind kind,
     return true;
 }
 
+std::optional<std::string> choose_document_file(Program& program, DocumentKind kind, Files& files) {
+    const auto& chosen = document_traits(kind);
+    auto path = files.choose_to_open(
+        {chosen.filter, folder_path(program.folders, chosen.folder), {}, chosen.extension});
+    if (path) follow_user(program.folders, chosen.folder, *path);
+    return path;
+}
+
 bool choose_and_open(Program& program, DocumentKind kind, Files& files, Prompts& prompts) {
-    const auto path = choose_file(program, kind, files);
+    const auto path = choose_document_file(program, kind, files);
     return path && open_document(program, *path, kind, prompts);
 }
 
 std::optional<BrewDocument> choose_recipe_for_session(Program& program, Files& files, Prompts& prompts) {
-    const auto path = choose_file(program, DocumentKind::recipe, files);
+    const auto path = choose_document_file(program, DocumentKind::recipe, files);
     if (!path) return std::nullopt;
     auto recipe = new_document(program.settings, ScheduleKind::simple);
     const auto result = load_recipe(*path, recipe, program.settings);

@@ -33,7 +33,10 @@ LoadResult load_document(Program& program, const std::string& path, DocumentKind
 /// live document, however incomplete.
 bool open_document(Program& program, const std::string& path, DocumentKind kind, Prompts& prompts);
 
-/// The same for a file that the user chooses in the folder of its kind; false if he leaves the dialog.
+/// A file that the user chooses in the dialog of files, from the folder of its kind; nothing if he leaves it.
+std::optional<std::string> choose_document_file(Program& program, DocumentKind kind, Files& files);
+
+/// The same as `open_document` for a file so chosen; false if he leaves the dialog.
 bool choose_and_open(Program& program, DocumentKind kind, Files& files, Prompts& prompts);
 
 /// A recipe that the user chooses for a session; told what is wrong with its file. Nothing if he leaves the

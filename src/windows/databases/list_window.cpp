@@ -1,6 +1,7 @@
 #include "windows/databases/list_window.h"
 
 #include "desktop/captions.h"
+#include "desktop/dragged_file.h"
 #include "desktop/form_dialog.h"
 #include "desktop/list_view.h"
 #include "desktop/qt_text.h"
@@ -319,11 +320,10 @@ void ListWindow::leave(int result) {
 }
 
 bool ListWindow::can_import(const QMimeData& dragged) const {
-    const auto urls = dragged.urls();
-    return urls.size() == 1 && urls.front().isLocalFile() &&
-           QFileInfo(urls.front().path())
-                   .suffix()
-                   .compare(string_of(list_.import_extension()), Qt::CaseInsensitive) == 0;
+    const auto path = dragged_file(dragged);
+    return path && QFileInfo(QFile::decodeName(QByteArray::fromStdString(*path)))
+                           .suffix()
+                           .compare(string_of(list_.import_extension()), Qt::CaseInsensitive) == 0;
 }
 
 void ListWindow::dragEnterEvent(QDragEnterEvent* event) {
@@ -333,7 +333,7 @@ void ListWindow::dragEnterEvent(QDragEnterEvent* event) {
 void ListWindow::dropEvent(QDropEvent* event) {
     if (!can_import(*event->mimeData())) return;
     event->acceptProposedAction();
-    const auto path = QFile::encodeName(event->mimeData()->urls().front().toLocalFile()).toStdString();
+    const auto path = *dragged_file(*event->mimeData());
     // Questions wait until the drag is over: until then the other program hangs on our answer.
     QMetaObject::invokeMethod(
         this, [this, path] { change([&] { list_.import_file(path, ports_.prompts); }); },

@@ -9,6 +9,7 @@
 #include "program/documents.h"
 #include "program/recovery.h"
 #include "windows/documents/document_designer_window.h"
+#include "windows/shelf/shelf_window.h"
 
 #include <QBoxLayout>
 #include <QFileInfo>
@@ -142,7 +143,10 @@ void DocumentWindow::start_new() {
 
 void DocumentWindow::open_another() {
     if (!may_leave_document()) return;
-    if (!choose_and_open(program(), document_.kind, ports_.files, ports_.prompts)) return;
+    const auto path = document_.kind == DocumentKind::recipe
+                          ? choose_recipe(ports_, Opener::recipe, this)
+                          : choose_document_file(program(), document_.kind, ports_.files);
+    if (!path || !open_document(program(), *path, document_.kind, ports_.prompts)) return;
     pages_.dismiss();
     reopen();
     keep_or_tell();

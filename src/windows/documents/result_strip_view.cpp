@@ -1,12 +1,12 @@
 #include "windows/documents/result_strip_view.h"
 
 #include "desktop/colours.h"
+#include "desktop/glass.h"
 #include "desktop/qt_text.h"
 #include "forms/glossary.h"
 
 #include <QHBoxLayout>
 #include <QPainter>
-#include <QPainterPath>
 
 #include <optional>
 
@@ -15,25 +15,6 @@ namespace {
 
 QColor range_colour(const QPalette& palette) {
     return is_dark(palette) ? QColor(70, 132, 74) : QColor(140, 200, 140);
-}
-
-// A pint glass: wider at its brim, the beer below a head.
-void draw_glass(QPainter& painter, const QRectF& box, const std::optional<QColor>& beer) {
-    const qreal slope = box.width() / 7, head = box.height() / 6;
-    const auto at = [&](qreal y) { return slope * (y - box.top()) / box.height(); };
-    const auto part = [&](qreal top, qreal bottom) {
-        QPainterPath path(QPointF(box.left() + at(top), top));
-        path.lineTo(box.right() - at(top), top);
-        path.lineTo(box.right() - at(bottom), bottom);
-        path.lineTo(box.left() + at(bottom), bottom);
-        path.closeSubpath();
-        return path;
-    };
-    if (beer) {
-        painter.fillPath(part(box.top() + 1, box.top() + head), QColor(250, 244, 228));
-        painter.fillPath(part(box.top() + head, box.bottom()), *beer);
-    }
-    painter.strokePath(part(box.top(), box.bottom()), QPen(QColor(128, 128, 128), 1.2));
 }
 
 } // namespace

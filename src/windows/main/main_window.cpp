@@ -52,7 +52,7 @@ void MainWindow::carry_out_commands() {
 void MainWindow::start(const Tool& tool) {
     if (tool.run != nullptr) return tool.run(ports_, this);
     if (activate_if_open(program_.tools, tool.command)) return;
-    if (tool.prepare == nullptr || tool.prepare(ports_)) show_window(tool);
+    if (tool.prepare == nullptr || tool.prepare(ports_, this)) show_window(tool);
 }
 
 void MainWindow::add_menu() {

@@ -16,6 +16,7 @@
 #include "windows/main/settings_windows.h"
 #include "windows/mash/mash_designer_window.h"
 #include "windows/mash/strike_calculator_window.h"
+#include "windows/shelf/shelf_window.h"
 #include "windows/water/water_calculator_window.h"
 #include "windows/water/water_needs_window.h"
 
@@ -30,14 +31,14 @@ ToolWindow* made(const WindowPorts& ports, const WindowInfo& info, QWidget* orig
     return new Window(ports, info, origin);
 }
 
-bool begin_recipe(const WindowPorts& ports) {
+bool begin_recipe(const WindowPorts& ports, QWidget*) {
     if (want_document(ports.program.tools, DocumentKind::recipe, ports.prompts) != Wanted::go_on)
         return false;
     new_recipe(ports.program);
     return true;
 }
 
-bool begin_session(const WindowPorts& ports) {
+bool begin_session(const WindowPorts& ports, QWidget*) {
     if (want_document(ports.program.tools, DocumentKind::session, ports.prompts) != Wanted::go_on)
         return false;
     const SystemClock clock;
@@ -45,10 +46,19 @@ bool begin_session(const WindowPorts& ports) {
     return true;
 }
 
-template <DocumentKind kind>
-bool choose_document(const WindowPorts& ports) {
-    return want_document(ports.program.tools, kind, ports.prompts) == Wanted::go_on &&
-           choose_and_open(ports.program, kind, ports.files, ports.prompts);
+// While the shelf stands open a second start may open a document.
+bool choose_from_shelf(const WindowPorts& ports, QWidget* main) {
+    const auto may_open = [&ports] {
+        return want_document(ports.program.tools, DocumentKind::recipe, ports.prompts) == Wanted::go_on;
+    };
+    if (!may_open()) return false;
+    const auto path = choose_recipe(ports, Opener::main, main);
+    return path && may_open() && open_document(ports.program, *path, DocumentKind::recipe, ports.prompts);
+}
+
+bool choose_session(const WindowPorts& ports, QWidget*) {
+    return want_document(ports.program.tools, DocumentKind::session, ports.prompts) == Wanted::go_on &&
+           choose_and_open(ports.program, DocumentKind::session, ports.files, ports.prompts);
 }
 
 void degrade_hops(const WindowPorts& ports, QWidget* main) {
@@ -98,7 +108,7 @@ constexpr std::array all_tools = {
          .menus = {{{Menu::open, "&Recipe"}}},
          .button = {"rb02", {186, 76}, "Open Recipe", "Open Recipe"},
          .key = QKeySequence::Open,
-         .window = recipe_window, .make = made<RecipeWindow>, .prepare = choose_document<DocumentKind::recipe>},
+         .window = recipe_window, .make = made<RecipeWindow>, .prepare = choose_from_shelf},
     Tool{.command = command::new_session,
          .menus = {{{Menu::create, "&Brewing Session"}}},
          .button = {"rb03", {386, 76}, "New Session", "New Brewing Session"},
@@ -106,8 +116,7 @@ constexpr std::array all_tools = {
     Tool{.command = command::open_session,
          .menus = {{{Menu::open, "&Brewing Session"}}},
          .button = {"rb04", {486, 76}, "Open Session", "Open Brewing Session"},
-         .window = session_window, .make = made<SessionWindow>,
-         .prepare = choose_document<DocumentKind::session>},
+         .window = session_window, .make = made<SessionWindow>, .prepare = choose_session},
     Tool{.command = command::open_recent, .menus = {{{Menu::file, "Open &Recent"}}}},
     Tool{.command = command::exit,
          .menus = {{{Menu::file, "E&xit"}}},

@@ -46,7 +46,7 @@ struct Tool {
     WindowInfo window = {};
     ToolWindow* (*make)(const WindowPorts& ports, const WindowInfo& info, QWidget* origin) = nullptr;
     /// Comes before the window; false if there is none to be opened.
-    bool (*prepare)(const WindowPorts& ports) = nullptr;
+    bool (*prepare)(const WindowPorts& ports, QWidget* main) = nullptr;
 };
 
 /// In the order of their menus.
