@@ -5,42 +5,36 @@
 #include "desktop/qt_text.h"
 #include "program/exit.h"
 #include "program/recovery.h"
+#include "windows/main/dropped_documents.h"
 #include "windows/main/main_menu.h"
 #include "windows/main/open_window.h"
 
 #include <QApplication>
 #include <QCloseEvent>
-#include <QDragEnterEvent>
 #include <QFile>
-#include <QMimeData>
 
 namespace wortlex {
-namespace {
-
-// The one document among what is dragged, or nothing.
-std::optional<std::string> dragged_document(const QMimeData& dragged) {
-    if (dragged.urls().size() != 1 || !dragged.urls().front().isLocalFile()) return std::nullopt;
-    auto path = QFile::encodeName(dragged.urls().front().toLocalFile()).toStdString();
-    return document_kind(path) ? std::optional(std::move(path)) : std::nullopt;
-}
-
-} // namespace
 
 MainWindow::MainWindow(const WindowPorts& ports)
     : ports_(ports), program_(ports.program), prompts_(ports.prompts),
       board_(new PictureBoard(program_.data_folder, art_scheme(program_.art_scheme), main_screen_buttons(),
-                              commands_, prompts_, this)) {
+                              commands_, prompts_, this)),
+      strip_(new RecentStrip(program_,
+                             {.open = [this](const std::string& path) { open_file(path); },
+                              .new_recipe = [this] { commands_.start(command::new_recipe); }},
+                             board_)) {
     ports_.commands = &commands_;
     const auto& info = window_info("GENERIC");
     setObjectName(string_of(info.template_name));
     setWindowTitle(string_of(info.captions[0]));
     setWindowFlag(Qt::MSWindowsFixedSizeDialogHint); // no sizing border
-    setAcceptDrops(true);
     setCentralWidget(board_);
+    new DroppedDocuments([this](const std::string& path) { open_file(path); }, this);
     carry_out_commands();
     add_menu();
     board_->show_commands();
     put();
+    strip_later();
 }
 
 void MainWindow::carry_out_commands() {
@@ -117,6 +111,12 @@ void MainWindow::take_over(const std::string& path) {
     if (!path.empty()) open_file(path);
 }
 
+// Its files are read once the window stands.
+void MainWindow::strip_later() {
+    QMetaObject::invokeMethod(
+        strip_, [this] { strip_->refresh(); }, Qt::QueuedConnection);
+}
+
 void MainWindow::show_document(DocumentKind kind) {
     show_window(tool_of(open_command(kind)));
 }
@@ -128,6 +128,7 @@ void MainWindow::show_window(const Tool& tool) {
     window.closed = [this, handle, &tool] { closed(program_.tools, tool.command); };
     window.show();
     window.tell_once_shown();
+    strip_later();
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {
@@ -140,18 +141,10 @@ void MainWindow::closeEvent(QCloseEvent* event) {
     QMetaObject::invokeMethod(qApp, &QCoreApplication::quit, Qt::QueuedConnection);
 }
 
-void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
-    const auto path = dragged_document(*event->mimeData());
-    if (path && commands_.is_built(open_command(*document_kind(*path)))) event->acceptProposedAction();
-}
-
-void MainWindow::dropEvent(QDropEvent* event) {
-    const auto path = dragged_document(*event->mimeData());
-    if (!path) return;
-    event->acceptProposedAction();
-    // Questions wait until the drag is over: until then the other program hangs on our answer.
-    QMetaObject::invokeMethod(
-        this, [this, path] { open_file(*path); }, Qt::QueuedConnection);
+// What was opened, saved, or deleted behind the window meanwhile.
+bool MainWindow::event(QEvent* event) {
+    if (event->type() == QEvent::WindowActivate) strip_later();
+    return QMainWindow::event(event);
 }
 
 } // namespace wortlex

@@ -4,6 +4,7 @@
 #include "program/program.h"
 #include "program/window_ports.h"
 #include "windows/main/picture_board.h"
+#include "windows/main/recent_strip.h"
 #include "windows/main/tools.h"
 
 #include <QMainWindow>
@@ -25,8 +26,7 @@ public:
 
 protected:
     void closeEvent(QCloseEvent* event) override;
-    void dragEnterEvent(QDragEnterEvent* event) override;
-    void dropEvent(QDropEvent* event) override;
+    bool event(QEvent* event) override;
 
 private:
     void carry_out_commands();
@@ -38,6 +38,7 @@ private:
     void start(const Tool& tool);
     /// Shows the tool's new window and keeps the books of it until it closes.
     void show_window(const Tool& tool);
+    void strip_later();
     /// On a document that has been opened.
     void show_document(DocumentKind kind);
 
@@ -46,6 +47,7 @@ private:
     Prompts& prompts_;
     CommandTable commands_;
     PictureBoard* board_;
+    RecentStrip* strip_;
 };
 
 } // namespace wortlex

@@ -8,11 +8,13 @@
 #include "support/temporary_folder.h"
 #include "windows/documents/recipe_window.h"
 #include "windows/main/main_window.h"
+#include "windows/shelf/shelf_window.h"
 
 #include <QApplication>
-#include <QImage>
+#include <QLabel>
 #include <QMenuBar>
 #include <QPushButton>
+#include <QTimer>
 #include <QTreeView>
 
 #include <filesystem>
@@ -67,7 +69,7 @@ TEST(MainWindow, OpensARecipeOnceAndShowsItsFigures) {
     EXPECT_FALSE(activate_if_open(brewery.program.tools, command::open_recipe));
 }
 
-TEST(MainWindow, OpensADroppedRecipe) {
+TEST(MainWindow, OpensARecipeDroppedOnAnyWindow) {
     Brewery brewery;
     const auto path = brewery.save_sample("Porter");
     save_atomically(brewery.folder / "notes.txt", Bytes(10));
@@ -79,6 +81,87 @@ TEST(MainWindow, OpensADroppedRecipe) {
     auto* const recipe = open_recipe_window();
     ASSERT_NE(recipe, nullptr);
     EXPECT_EQ(text_in(*recipe, "title"), "Porter");
+    EXPECT_TRUE(drop_file(*recipe->findChild<QLineEdit*>("title"), brewery.save_sample("Stout")));
+    EXPECT_EQ(text_in(*open_recipe_window(), "title"), "Stout") << "a field takes no path for a text";
+    QDialog question(&window);
+    question.setModal(true);
+    question.show();
+    EXPECT_FALSE(drop_file(window, path)) << "a dialog waits";
+    question.hide();
+    EXPECT_TRUE(window.close());
+}
+
+// Acts in the shelf once it is read, for as long as it stands open.
+void in_shelf(const std::function<void(ShelfWindow&)>& act) {
+    auto* const wait = new QTimer(qApp);
+    QObject::connect(wait, &QTimer::timeout, wait, [wait, act] {
+        auto* const shelf = dynamic_cast<ShelfWindow*>(QApplication::activeModalWidget());
+        if (shelf == nullptr || shelf->findChild<QLabel*>("found")->text().contains("reading")) return;
+        wait->deleteLater();
+        wait->stop();
+        act(*shelf);
+    });
+    wait->start(1);
+}
+
+TEST(MainWindow, OpensFromTheShelfByKeysAndFromAnywhereByBrowsing) {
+    Brewery brewery;
+    set_folder(brewery.program.folders, FolderKind::recipes, brewery.folder.path());
+    for (const auto* name : {"Brown Porter", "Mild", "Robust Porter"}) brewery.save_sample(name);
+    save_atomically(brewery.folder / "Broken.rec", Bytes(300, std::byte{0xFF}));
+    MainWindow window(brewery.ports());
+    window.show();
+    in_shelf([](ShelfWindow& shelf) {
+        auto* const find = shelf.findChild<QLineEdit*>("find");
+        EXPECT_EQ(shelf.findChild<QLabel*>("found")->text(), "4 recipes");
+        QTest::keyClicks(find, "broken");
+        QTest::keyClick(find, Qt::Key_Return);
+        EXPECT_TRUE(shelf.isVisible()) << "a damaged recipe stays where it is";
+        QTest::keyClick(find, Qt::Key_Escape);
+        QTest::keyClicks(find, "porter og>1.05");
+        QTest::keyClick(find, Qt::Key_Down);
+        QTest::keyClick(find, Qt::Key_Return);
+    });
+    window.commands().start(command::open_recipe);
+    ASSERT_NE(open_recipe_window(), nullptr);
+    EXPECT_EQ(text_in(*open_recipe_window(), "title"), "Robust Porter");
+    brewery.files.add(std::nullopt);
+    brewery.files.add(brewery.folder / "Mild.rec");
+    in_shelf([](ShelfWindow& shelf) {
+        auto* const browse = shelf.findChild<QPushButton*>("browse");
+        browse->click();
+        EXPECT_TRUE(shelf.isVisible()) << "who leaves the dialog of files is back on the shelf";
+        browse->click();
+    });
+    open_recipe_window()->findChild<QAction*>(QString::number(command::open_recipe))->trigger();
+    EXPECT_EQ(text_in(*open_recipe_window(), "title"), "Mild");
+    EXPECT_TRUE(window.close());
+}
+
+TEST(MainWindow, OffersRecentRecipesByKeyOrWelcomesANewBrewer) {
+    Brewery brewery;
+    auto& recent = brewery.program.recent_documents;
+    MainWindow window(brewery.ports());
+    const auto offered = [&](const char* name) {
+        QApplication::processEvents();
+        QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        return window.findChild<QAbstractButton*>(QString::fromLatin1(name));
+    };
+    window.show();
+    ASSERT_NE(offered("recent_1"), nullptr);
+    EXPECT_EQ(offered("recent_1")->text(), "A new recipe") << "there is no sample here";
+    offered("recent_1")->click();
+    ASSERT_NE(open_recipe_window(), nullptr);
+    EXPECT_TRUE(open_recipe_window()->close());
+    recent = {brewery.save_sample("Mild"), brewery.folder / "gone.rec", brewery.folder / "day.brw"};
+    QEvent activated(QEvent::WindowActivate);
+    QApplication::sendEvent(&window, &activated);
+    ASSERT_NE(offered("recent_2"), nullptr);
+    EXPECT_FALSE(offered("recent_2")->isEnabled());
+    EXPECT_EQ(offered("recent_3"), nullptr) << "a session is no recipe";
+    EXPECT_EQ(offered("recent_1")->shortcut(), QKeySequence(Qt::ALT | Qt::Key_1));
+    QTest::keyClick(offered("recent_1"), Qt::Key_Return);
+    EXPECT_EQ(text_in(*open_recipe_window(), "title"), "Mild");
     EXPECT_TRUE(window.close());
 }
 
