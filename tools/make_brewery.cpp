@@ -6,7 +6,7 @@
 #include "records/documents/document_files.h"
 #include "records/water/water_needs.h"
 #include "sample_sources.h"
-#include "settings/screen_colours.h"
+#include "settings/new_brewery.h"
 
 #include <algorithm>
 #include <cstdio>
@@ -46,7 +46,10 @@ void make_file(const std::string& folder, std::string_view name, Save save) {
 }
 
 void make_system_files(const std::string& folder, const SystemSettings& settings) {
-    make_file(folder, "WlxMSys.DAT", [&] { return SaveSettingsFile(folder + "WlxMSys.DAT", settings); });
+    make_file(folder, "WlxMSys.DAT", [&] {
+        return SaveSettingsFile(folder + "WlxMSys.DAT", settings) &&
+               save_atomically(folder + std::string(new_brewery_file), {});
+    });
     // Not "loaded": the settings have been dealt with, this writes the competition data alone.
     make_file(folder, "WlxCSys.DAT", [&] { return SaveSystemFiles(folder, {settings, {}, false}); });
     make_file(folder, "WATER_USAGE.DAT", [&] {
@@ -91,8 +94,7 @@ void make_sample(const std::string& folder, const Sample& sample) {
 
 // All sources are read before the first file is written: a mistake in one makes nothing.
 void make_brewery(const std::string& data, const std::string& target) {
-    auto image = WriteDefaultSettings();
-    set_colours(image, colours_of(ColourPreset::desktop));
+    const auto image = new_brewery_settings();
     const auto databases = read_databases(data + "databases/");
     auto repaired = image;
     const auto samples = read_samples(data + "samples/", databases, settings_from(repaired));

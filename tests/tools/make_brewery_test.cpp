@@ -1,6 +1,7 @@
 #include "base/ports/quiet_prompts.h"
 #include "brewing/beer_colour.h"
 #include "companion/evaluation.h"
+#include "settings/new_brewery.h"
 #include "settings/screen_colours.h"
 #include "support/process.h"
 
@@ -78,13 +79,14 @@ TEST(MakeBrewery, entries_are_the_rows_of_the_tables) {
     }
 }
 
-// With the settings that the brewery has: the built-in ones in the colors of the desktop.
+// With the settings that the brewery has: the built-in ones but for colors and efficiency.
 Program load_sample(const std::string& file) {
     Program program;
     QuietPrompts prompts;
     EXPECT_TRUE(start_core(program, made_brewery(), prompts));
     auto expected = WriteDefaultSettings();
     set_colours(expected, colours_of(ColourPreset::desktop));
+    expected.efficiency = 0.72F;
     EXPECT_EQ(LoadSystemFiles(made_brewery()).settings, expected);
     EXPECT_EQ(program.water_usage.evaporation_rate, 10);
     EXPECT_EQ(load_document(program, made_brewery() + file, *document_kind(file)), LoadResult::loaded);
@@ -118,6 +120,26 @@ TEST(MakeBrewery, documents_hold_what_their_sources_say) {
     const auto session = load_sample("Sessions/Front Porch Pale Ale, Second Brewing.brw").document.session;
     EXPECT_EQ(std::tuple(session.brew_day, session.brew_month, session.brew_year), std::tuple(20, 4, 2024));
     EXPECT_THAT(std::string(session.session_notes[2].view()), testing::HasSubstr("dry finish.\r\nClear"));
+}
+
+TEST(MakeBrewery, first_start_takes_the_units_of_the_country_once) {
+    const TemporaryFolder folder;
+    const auto start_in = [&](bool is_metric) {
+        take_units_of_country(folder / "brewery/", is_metric);
+        const auto settings = LoadSystemFiles(folder / "brewery/").settings;
+        return std::tuple(settings.volume_units, settings.temperature_units, settings.efficiency);
+    };
+    const auto american = std::tuple(Units::american, TemperatureUnits::fahrenheit, 0.72F);
+    run("/", {"cp", "-r", made_brewery(), folder / "brewery"});
+    EXPECT_EQ(start_in(true), std::tuple(Units::metric, TemperatureUnits::celsius, 0.72F));
+    SaveSettingsFile(folder / "brewery/WlxMSys.DAT", new_brewery_settings());
+    EXPECT_EQ(start_in(true), american) << "as the brewer chose later";
+    std::filesystem::copy(made_brewery() + std::string(new_brewery_file), folder / "brewery/");
+    auto own = new_brewery_settings();
+    own.efficiency = 0.8F;
+    SaveSettingsFile(folder / "brewery/WlxMSys.DAT", own);
+    EXPECT_EQ(start_in(true), std::tuple(Units::american, TemperatureUnits::fahrenheit, 0.8F))
+        << "settings that he brought along";
 }
 
 TEST(MakeBrewery, a_second_run_only_brings_back_what_is_missing) {

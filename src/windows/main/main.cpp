@@ -8,10 +8,12 @@
 #include "desktop/system_ports.h"
 #include "jpeg/jpeg_pictures.h"
 #include "program/start.h"
+#include "settings/new_brewery.h"
 #include "windows/main/main_window.h"
 
 #include <QApplication>
 #include <QIcon>
+#include <QLocale>
 #include <QTimer>
 
 #include <filesystem>
@@ -48,6 +50,7 @@ int run(int count, char** arguments) {
                 {.text = "Wortlex is already open in this brewery folder.", .icon = Icon::information});
         return 0;
     }
+    take_units_of_country(folder, QLocale::system().measurementSystem() == QLocale::MetricSystem);
     Program program;
     if (!start(program, folder, prompts)) return 0;
     FileDialogs files;
