@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
 # Prints how fast the program is: its start beside that of an empty window, one recalculation, a load and a save, a hop
-# list of 999 entries, a session's inventory, the recipe window and its report, the brewer's tools, the water
-# calculator, a mash schedule and its chart, wortlex-report over 10,000 recipes, each from 25 to 400 lines of malts and
-# hops, and how long everything takes to build anew.
+# list of 999 entries, a session's inventory, the recipe window and its report, the shelf of 10,000 recipes, the
+# brewer's tools, the water calculator, a mash schedule and its chart, wortlex-report over 10,000 recipes, each from 25
+# to 400 lines of malts and hops, and how long everything takes to build anew.
 set -eu
 cd "$(dirname "$0")"
 . tools/install.sh
@@ -18,6 +18,7 @@ build/bench/bench/inventory_bench
 build/bench/bench/recipe_window_bench
 build/bench/bench/session_pages_bench
 build/bench/bench/reports_bench
+build/bench/bench/shelf_bench
 build/bench/bench/tools_bench
 build/bench/bench/water_bench
 build/bench/bench/mash_bench
