@@ -25,22 +25,31 @@ void draw_glass(QPainter& painter, const QRectF& box, const std::optional<QColor
     painter.strokePath(part(box.top(), box.bottom()), QPen(QColor(128, 128, 128), 1.2));
 }
 
-QPixmap glass_picture(std::optional<std::uint32_t> beer, const QWidget& widget) {
+QSize glass_size(const QWidget& widget) {
+    const int tall = widget.fontMetrics().height();
+    return {tall * 5 / 7, tall};
+}
+
+QIcon glass_icon(std::optional<std::uint32_t> beer, const QWidget& widget) {
     const auto scale = widget.devicePixelRatioF();
-    const int tall = widget.fontMetrics().height(), wide = tall * 5 / 7;
-    const auto key = QStringLiteral("glass %1 %2 %3").arg(beer ? qint64{*beer} : -1).arg(tall).arg(scale);
+    const auto size = glass_size(widget);
+    const auto key =
+        QStringLiteral("glass %1 %2 %3").arg(beer ? qint64{*beer} : -1).arg(size.height()).arg(scale);
     QPixmap picture;
-    if (QPixmapCache::find(key, &picture)) return picture;
-    picture = QPixmap(QSize(wide, tall) * scale);
-    picture.setDevicePixelRatio(scale);
-    picture.fill(Qt::transparent);
-    QPainter painter(&picture);
-    painter.setRenderHint(QPainter::Antialiasing);
-    draw_glass(painter, QRectF(1, 1, wide - 2, tall - 2),
-               beer ? std::optional(colour_of(*beer)) : std::nullopt);
-    painter.end();
-    QPixmapCache::insert(key, picture);
-    return picture;
+    if (!QPixmapCache::find(key, &picture)) {
+        picture = QPixmap(size * scale);
+        picture.setDevicePixelRatio(scale);
+        picture.fill(Qt::transparent);
+        QPainter painter(&picture);
+        painter.setRenderHint(QPainter::Antialiasing);
+        draw_glass(painter, QRectF(QPointF(0, 0), size).adjusted(1, 1, -1, -1),
+                   beer ? std::optional(colour_of(*beer)) : std::nullopt);
+        painter.end();
+        QPixmapCache::insert(key, picture);
+    }
+    QIcon icon(picture);
+    icon.addPixmap(picture, QIcon::Selected); // else it would take on the ground of the selection
+    return icon;
 }
 
 } // namespace wortlex

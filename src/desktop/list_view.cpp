@@ -71,7 +71,7 @@ QVariant ListModel::ink(std::size_t row) const {
 
 QVariant ListModel::glass(const QModelIndex& index) const {
     if (!row_.glass || index.column() != 0) return {};
-    return glass_picture(row_.glass(static_cast<std::size_t>(index.row())), view());
+    return glass_icon(row_.glass(static_cast<std::size_t>(index.row())), view());
 }
 
 const ListView& ListModel::view() const {
@@ -133,6 +133,7 @@ ListView::ListView(const ListRow& row, QWidget* parent)
     setModel(model_);
     setRootIsDecorated(false);
     setUniformRowHeights(true);
+    if (row.glass) setIconSize(glass_size(*this));
     setAlternatingRowColors(true);
     setAllColumnsShowFocus(true);
     setTabKeyNavigation(false);

@@ -29,10 +29,7 @@ std::weak_ordering compared(const ShelfEntry& left, const ShelfEntry& right, std
     if (column == name_column) return left.name_words <=> right.name_words;
     if (column == style_column) return left.style_words <=> right.style_words;
     if (column == date_column) return left.modified <=> right.modified;
-    const double a = left.figure(figure_in(column)), b = right.figure(figure_in(column));
-    return a < b   ? std::weak_ordering::less
-           : b < a ? std::weak_ordering::greater
-                   : std::weak_ordering::equivalent;
+    return std::weak_order(left.figure(figure_in(column)), right.figure(figure_in(column)));
 }
 
 // On the brewer's calendar.

@@ -12,10 +12,13 @@
 #include "measures/units.h"
 
 #include <chrono>
+#include <cmath>
 #include <filesystem>
 
 namespace wortlex {
 namespace {
+
+constexpr double no_figure = std::numeric_limits<double>::quiet_NaN(); // of a batch of nothing
 
 std::string joined_words(std::string_view utf8) {
     std::string joined;
@@ -49,7 +52,7 @@ void take_figures(ShelfEntry& entry, const BrewDocument& recipe, const RecipeFig
                   const Settings& settings) {
     const auto shown = [&](ShelfFigure figure, double value) {
         entry.figures.at(static_cast<std::size_t>(figure)) =
-            leading_number(fixed(value, decimals_of(figure, settings)));
+            std::isfinite(value) ? leading_number(fixed(value, decimals_of(figure, settings))) : no_figure;
     };
     shown(ShelfFigure::og, trunc_to_precision(hop_gravity(recipe), 5));
     shown(ShelfFigure::ibu, recipe.total_ibu);

@@ -31,20 +31,26 @@ void draw_over_picture(QPainter& painter, const QRect& place, const QString& tex
 /// A line that opens something: its number, a glass and a name.
 class StripLink : public QAbstractButton {
 public:
-    StripLink(std::size_t number, const OfferedRecipe& recipe, QWidget* strip)
-        : QAbstractButton(strip), number_(QString::number(number)), recipe_(recipe) {
-        const QKeySequence key(Qt::ALT | (Qt::Key_0 + static_cast<int>(number)));
-        setText(string_of(recipe.name));
+    StripLink(int number, QWidget* strip) : QAbstractButton(strip), number_(QString::number(number)) {
         setObjectName(QStringLiteral("recent_") + number_);
-        setAccessibleName(QStringLiteral("Open ") + text());
-        setToolTip(string_of(recipe.about) + QStringLiteral(" (") + key.toString(QKeySequence::NativeText) +
-                   QLatin1Char(')'));
-        setEnabled(recipe.can_be_opened);
-        setShortcut(key);
+        setShortcut(QKeySequence(QStringLiteral("Alt+") + number_));
         setFocusPolicy(Qt::TabFocus);
         setCursor(Qt::PointingHandCursor);
         setAttribute(Qt::WA_Hover);
+        hide();
     }
+
+    void lead_to(const OfferedRecipe& recipe) {
+        recipe_ = recipe;
+        setAccessibleName(recipe.path.empty() ? QStringLiteral("Begin a new recipe")
+                                              : QStringLiteral("Open ") + string_of(recipe.name));
+        setToolTip(string_of(recipe.about) +
+                   QStringLiteral(" (%1)").arg(shortcut().toString(QKeySequence::NativeText)));
+        setEnabled(recipe.can_be_opened);
+        show();
+        update();
+    }
+    const std::string& path() const { return recipe_.path; }
 
 protected:
     void keyPressEvent(QKeyEvent* event) override {
@@ -68,8 +74,9 @@ protected:
         const auto name = rect().adjusted(glass_left + glass_width + 6, 0, -3, 0);
         small.setUnderline(isEnabled() && (underMouse() || hasFocus()));
         painter.setFont(small);
-        draw_over_picture(painter, name,
-                          painter.fontMetrics().elidedText(text(), Qt::ElideRight, name.width()));
+        draw_over_picture(
+            painter, name,
+            painter.fontMetrics().elidedText(string_of(recipe_.name), Qt::ElideRight, name.width()));
         if (!hasFocus()) return;
         painter.setPen(QPen(Qt::white, 1, Qt::DotLine));
         painter.drawRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5));
@@ -84,40 +91,31 @@ RecentStrip::RecentStrip(const Program& program, Calls calls, QWidget* board)
     : QWidget(board), program_(program), calls_(std::move(calls)) {
     setObjectName(QStringLiteral("recent"));
     setGeometry(strip_place);
-}
-
-StripLink& RecentStrip::add_link(std::size_t place, const OfferedRecipe& recipe) {
-    auto* const link = new StripLink(place + 1, recipe, this);
-    links_.push_back(link);
-    const auto row = static_cast<int>(place / 2), column = static_cast<int>(place % 2);
-    link->setGeometry(column * link_width, heading_height + row * link_height, link_width, link_height);
-    link->show();
-    return *link;
+    for (int place = 0; place < static_cast<int>(links_.size()); ++place) {
+        auto* const link = links_.at(static_cast<std::size_t>(place)) = new StripLink(place + 1, this);
+        link->setGeometry(place % 2 * link_width, heading_height + place / 2 * link_height, link_width,
+                          link_height);
+        connect(link, &QAbstractButton::clicked, this, [this, link] { open(std::string(link->path())); });
+    }
 }
 
 void RecentStrip::refresh() {
-    for (auto* const link : std::exchange(links_, {})) link->deleteLater();
-    const auto recipes = recent_recipes(program_);
-    recipes.empty() ? welcome() : show_recent(recipes);
+    auto recipes = recent_recipes(program_);
+    heading_ = QStringLiteral("Recent recipes");
+    if (recipes.empty()) recipes = welcome();
+    for (std::size_t i = 0; i < links_.size(); ++i)
+        i < recipes.size() ? links_.at(i)->lead_to(recipes[i]) : links_.at(i)->hide();
     update();
 }
 
-void RecentStrip::show_recent(const std::vector<OfferedRecipe>& recipes) {
-    heading_ = QStringLiteral("Recent recipes");
-    for (std::size_t i = 0; i < recipes.size(); ++i)
-        connect(&add_link(i, recipes[i]), &QAbstractButton::clicked, this,
-                [this, path = recipes[i].path] { calls_.open(path); });
-}
-
-void RecentStrip::welcome() {
-    const auto sample = sample_recipe(program_);
-    heading_ = sample ? QStringLiteral("Welcome! Look at a sample recipe, or begin one of your own:")
-                      : QStringLiteral("Welcome! Begin with a recipe of your own:");
-    if (sample)
-        connect(&add_link(0, *sample), &QAbstractButton::clicked, this,
-                [this, path = sample->path] { calls_.open(path); });
-    const OfferedRecipe own{{}, "A new recipe", "An empty recipe to fill in", true, {}};
-    connect(&add_link(links_.size(), own), &QAbstractButton::clicked, this, calls_.new_recipe);
+std::vector<OfferedRecipe> RecentStrip::welcome() {
+    std::vector<OfferedRecipe> recipes;
+    if (auto sample = sample_recipe(program_)) recipes.push_back(*std::move(sample));
+    heading_ = recipes.empty()
+                   ? QStringLiteral("Welcome! Begin with a recipe of your own:")
+                   : QStringLiteral("Welcome! Look at a sample recipe, or begin one of your own:");
+    recipes.push_back({{}, "A new recipe", "An empty recipe to fill in", true, {}});
+    return recipes;
 }
 
 void RecentStrip::paintEvent(QPaintEvent*) {

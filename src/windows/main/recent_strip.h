@@ -6,6 +6,7 @@
 
 #include <QWidget>
 
+#include <array>
 #include <functional>
 
 namespace wortlex {
@@ -27,15 +28,14 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    void show_recent(const std::vector<OfferedRecipe>& recipes);
-    void welcome();
-    /// By Alt and its number; the places count line by line.
-    StripLink& add_link(std::size_t place, const OfferedRecipe& recipe);
+    /// A sample, if there is one, and the way to a new recipe, which has no path.
+    std::vector<OfferedRecipe> welcome();
+    void open(const std::string& path) { path.empty() ? calls_.new_recipe() : calls_.open(path); }
 
     const Program& program_;
     Calls calls_;
     QString heading_;
-    std::vector<StripLink*> links_;
+    std::array<StripLink*, most_offered> links_{}; ///< those in use are shown
 };
 
 } // namespace wortlex

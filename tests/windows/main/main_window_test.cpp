@@ -144,21 +144,18 @@ TEST(MainWindow, OffersRecentRecipesByKeyOrWelcomesANewBrewer) {
     MainWindow window(brewery.ports());
     const auto offered = [&](const char* name) {
         QApplication::processEvents();
-        QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         return window.findChild<QAbstractButton*>(QString::fromLatin1(name));
     };
     window.show();
-    ASSERT_NE(offered("recent_1"), nullptr);
-    EXPECT_EQ(offered("recent_1")->text(), "A new recipe") << "there is no sample here";
+    EXPECT_EQ(offered("recent_1")->accessibleName(), "Begin a new recipe") << "there is no sample here";
     offered("recent_1")->click();
     ASSERT_NE(open_recipe_window(), nullptr);
     EXPECT_TRUE(open_recipe_window()->close());
     recent = {brewery.save_sample("Mild"), brewery.folder / "gone.rec", brewery.folder / "day.brw"};
     QEvent activated(QEvent::WindowActivate);
     QApplication::sendEvent(&window, &activated);
-    ASSERT_NE(offered("recent_2"), nullptr);
-    EXPECT_FALSE(offered("recent_2")->isEnabled());
-    EXPECT_EQ(offered("recent_3"), nullptr) << "a session is no recipe";
+    EXPECT_TRUE(offered("recent_2")->isVisible() && !offered("recent_2")->isEnabled());
+    EXPECT_FALSE(offered("recent_3")->isVisible()) << "a session is no recipe";
     EXPECT_EQ(offered("recent_1")->shortcut(), QKeySequence(Qt::ALT | Qt::Key_1));
     QTest::keyClick(offered("recent_1"), Qt::Key_Return);
     EXPECT_EQ(text_in(*open_recipe_window(), "title"), "Mild");
