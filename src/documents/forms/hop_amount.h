@@ -7,8 +7,6 @@
 
 namespace wortlex {
 
-inline constexpr float most_hop_weight = 160000; ///< ounces or grams
-
 /// Edits `line`, a copy of a line of `open`; each edit works out the bitterness that it would have there.
 /// All must outlive the form.
 void hop_amount_form(Form& form, HopUse& line, const OpenDocument& open, Prompts& prompts);

@@ -4,6 +4,7 @@
 #include "documents/forms/hop_amount.h"
 #include "documents/forms/malt_amount.h"
 #include "documents/forms/typed_amount.h"
+#include "documents/work/recipe_lines.h"
 
 #include <algorithm>
 #include <array>

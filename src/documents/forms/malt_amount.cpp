@@ -3,6 +3,7 @@
 #include "base/windows1252.h"
 #include "databases/malt_yields.h"
 #include "documents/forms/amount_row.h"
+#include "documents/work/recipe_lines.h"
 #include "measures/potential.h"
 #include "measures/units.h"
 

@@ -8,8 +8,6 @@
 
 namespace wortlex {
 
-inline constexpr float most_malt_weight = 100000; ///< in any unit
-
 /// Which figures of a line can be entered. What plays no part in its gravity is disabled.
 struct MaltEntries {
     bool potential = true; ///< and the fine yield on dry basis

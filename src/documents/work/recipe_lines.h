@@ -6,6 +6,10 @@
 
 namespace wortlex {
 
+/// What a line can weigh.
+inline constexpr float most_malt_weight = 100000; ///< in any unit
+inline constexpr float most_hop_weight = 160000;  ///< ounces or grams
+
 /// The line that is selected, or nothing.
 std::optional<std::size_t> selected_malt(const RecipeEditor& editor);
 std::optional<std::size_t> selected_hop(const RecipeEditor& editor);
