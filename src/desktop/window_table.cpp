@@ -42,6 +42,7 @@ constexpr std::array windows = {
     WindowInfo{"EXTRASHORTEDITDIALOG", {"Extra Ingredient Edit"}, from_documents(80, 81), 0},
     WindowInfo{"GRAINLISTDETAIL", {"Individual Malt Gravity/Color Contribution"}, no_places, 0},
     WindowInfo{"RECIPESHELFDIALOG", {"Open Recipe"}, {102, 102, no_place}, 0},
+    WindowInfo{"SETTODIALOG", {"Set To"}, no_places, 0},
     WindowInfo{"PREBOILDIALOG", {"Pre-Boil Calculator"}, from_documents(82, no_place), 0},
     WindowInfo{"BATCHPREBOILDIALOG", {"Pre-Boil Calculator"}, from_documents(no_place, 83), 0},
     WindowInfo{"BATCHEFFDIALOG", {"Efficiency Calculator"}, from_documents(no_place, 27), 0},

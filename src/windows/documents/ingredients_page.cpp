@@ -1,12 +1,14 @@
 #include "windows/documents/ingredients_page.h"
 
 #include "desktop/captions.h"
+#include "desktop/list_keys.h"
 #include "desktop/scrolled.h"
 #include "desktop/undo_keys.h"
 #include "documents/work/document_saving.h"
 #include "program/documents.h"
 #include "program/program.h"
 #include "windows/documents/document_keys.h"
+#include "windows/documents/set_to_dialog.h"
 #include "windows/reports/print_options_window.h"
 
 #include <QDialogButtonBox>
@@ -50,6 +52,7 @@ RecipeActions IngredientsPage::actions(const std::function<void()>& save) {
 QLayout* IngredientsPage::page_part() {
     auto* const line = new QHBoxLayout;
     const auto& widgets = panel_.widgets();
+    line->addWidget(set_to_button());
     line->addStretch();
     for (const auto* const key : {"save_as", "print", "help"}) line->addWidget(&widgets.field(key));
     auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
@@ -62,6 +65,18 @@ QLayout* IngredientsPage::page_part() {
     connect(buttons, &QDialogButtonBox::rejected, this, &QWidget::close);
     line->addWidget(buttons);
     return line;
+}
+
+// The page has no menu. Every letter of its own is taken.
+QPushButton* IngredientsPage::set_to_button() {
+    auto* const button = new QPushButton(tr("Set To..."), this);
+    button->setAutoDefault(false);
+    set_tip(*button, tr(set_to_meaning));
+    press_in_window(*this, set_to_key, *button);
+    connect(button, &QPushButton::clicked, this, [this] {
+        show_set_to({editor_, ports_, Opener::session, this});
+    });
+    return button;
 }
 
 void IngredientsPage::save_recipe_as() {

@@ -25,6 +25,7 @@ protected:
 private:
     RecipeActions actions(const std::function<void()>& save);
     QLayout* page_part();
+    QPushButton* set_to_button();
     void save_recipe_as();
     void accept();
 

@@ -4,6 +4,7 @@
 #include "desktop/scrolled.h"
 #include "program/export_report.h"
 #include "windows/documents/recipe_actions.h"
+#include "windows/documents/set_to_dialog.h"
 #include "windows/documents/simple_mash_printout.h"
 #include "windows/documents/simple_mash_window.h"
 #include "windows/mash/mash_chart_window.h"
@@ -20,7 +21,18 @@ RecipeWindow::RecipeWindow(const WindowPorts& given, const WindowInfo& info, QWi
     layout->addWidget(new Scrolled(panel_, this), 1);
     layout->addLayout(page_part());
     begin([this] { print(); });
-    panel_.add_line_actions(*findChild<QMenu*>(QStringLiteral("edit_menu")));
+    auto& edit_menu = *findChild<QMenu*>(QStringLiteral("edit_menu"));
+    add_set_to(edit_menu);
+    panel_.add_line_actions(edit_menu);
+}
+
+void RecipeWindow::add_set_to(QMenu& menu) {
+    menu.addSeparator();
+    auto* const action = menu.addAction(tr("Set &To..."), this, [this] {
+        show_set_to({editor(), ports(), Opener::recipe, this});
+    });
+    action->setShortcut(set_to_key);
+    action->setToolTip(tr(set_to_meaning));
 }
 
 RecipeActions RecipeWindow::actions() {

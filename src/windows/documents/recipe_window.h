@@ -20,6 +20,7 @@ protected:
 private:
     RecipeActions actions();
     QLayout* page_part();
+    void add_set_to(QMenu& menu);
     void print();
 
     RecipeSubject subject_;

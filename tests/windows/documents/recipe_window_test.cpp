@@ -1,6 +1,8 @@
 #include "program/recovery.h"
 #include "support/kitchen.h"
 
+#include <QDialogButtonBox>
+
 namespace wortlex {
 namespace {
 
@@ -101,6 +103,37 @@ TEST(RecipeWindow, IsWrittenInItsListsWithoutADialog) {
     kitchen.prompts.expect("yes/no/cancel",
                            "The current recipe has been modified!\nDo you want to save the changes?",
                            Answer::no, Icon::question);
+    EXPECT_TRUE(kitchen.recipe->close());
+}
+
+TEST(RecipeWindow, IsSetToAGravityByOneKey) {
+    Kitchen kitchen;
+    kitchen.begin();
+    kitchen.press(Qt::Key_1, Qt::ControlModifier);
+    kitchen.type("9 lb pale");
+    kitchen.press(Qt::Key_Return);
+    const auto sg = text_in(*kitchen.recipe, "sg");
+    const auto set_to = [&](const char* gravity, bool can) {
+        QTimer::singleShot(300, kitchen.recipe, [&kitchen, gravity, can] {
+            auto* const dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+            ASSERT_NE(dialog, nullptr);
+            kitchen.activate(dialog);
+            kitchen.type(gravity);
+            const auto* const buttons = dialog->findChild<QDialogButtonBox*>();
+            EXPECT_EQ(buttons->button(QDialogButtonBox::Ok)->isEnabled(), can);
+            kitchen.press(Qt::Key_Return);
+            EXPECT_EQ(dialog->isVisible(), !can);
+            dialog->reject();
+        });
+        kitchen.press(Qt::Key_T, Qt::ControlModifier);
+        kitchen.activate(kitchen.recipe);
+    };
+    set_to("1.075", true);
+    EXPECT_EQ(text_in(*kitchen.recipe, "sg"), "1.075");
+    kitchen.press(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(text_in(*kitchen.recipe, "sg"), sg) << "one step";
+    kitchen.press(Qt::Key_Z, Qt::ControlModifier);
+    set_to("1.05", false); // there are no malts left
     EXPECT_TRUE(kitchen.recipe->close());
 }
 
