@@ -7,7 +7,7 @@
 # A line of ROOMS is "folder folder folder...": the room, and those it is built on.
 cmake_policy(VERSION 3.21)
 get_filename_component(SOURCE ${SOURCE} ABSOLUTE)
-set(floors base jpeg settings measures records brewing forms page charts databases mash water calculators documents
+set(floors base jpeg settings measures records brewing forms page charts handbook databases mash water calculators documents
     reports program companion desktop windows)
 set(faults 0)
 macro(fault text)

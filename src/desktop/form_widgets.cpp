@@ -5,6 +5,7 @@
 #include "desktop/colours.h"
 #include "desktop/drawings.h"
 #include "desktop/fields.h"
+#include "desktop/help_keys.h"
 #include "desktop/list_view.h"
 #include "desktop/qt_text.h"
 #include "forms/glossary.h"
@@ -447,6 +448,10 @@ void FormWidgets::visit(ButtonRow& row) {
          [this, &row, button] { show_caption(*button, row.key, string_of(row.label_text()), colours_); });
     if (has_picture(row.key) && row.hint_text().empty())
         row.hint(spoken(string_of(row.label_text())).toStdString());
+    if (row.key == "help") {
+        row.press = [this] { ask_for_help(parent_); };
+        add_key(*button, QKeySequence::HelpContents);
+    }
     if (!row.press) row.enabled(false);
     QObject::connect(button, &QPushButton::clicked, &alive_, [this, &row] {
         const QPointer<QObject> still(&alive_); // what a button does may close the window

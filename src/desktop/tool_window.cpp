@@ -1,6 +1,7 @@
 #include "desktop/tool_window.h"
 
 #include "desktop/captions.h"
+#include "desktop/help_keys.h"
 #include "desktop/qt_text.h"
 
 #include <QApplication>
@@ -18,6 +19,7 @@ WindowPlace& dress_window(QWidget& window, const WindowInfo& info, std::size_t u
                           QWidget* origin, const Places& places) {
     window.setObjectName(string_of(info.template_name));
     window.setWindowTitle(string_of(info.captions.at(use)));
+    set_help_page(window, info.help_page);
     const auto place = info.places_by_use ? use : static_cast<std::size_t>(opener);
     return *new WindowPlace(window, origin, info.places.at(place), places); // the window owns it
 }

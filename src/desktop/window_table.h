@@ -1,8 +1,9 @@
-// What names a window: its template, its captions, where its place is kept, its help topic. Every window that
-// is no tool of the main window stands here once; a tool brings its own.
+// What names a window: its template, its captions, where its place is kept, its page of the handbook. Every
+// window that is no tool of the main window stands here once; a tool brings its own.
 #pragma once
 
 #include <array>
+#include <span>
 #include <string_view>
 
 namespace wortlex {
@@ -22,9 +23,11 @@ struct WindowInfo {
     std::string_view template_name;
     std::array<std::string_view, 4> captions; ///< by use, as the window tells
     std::array<int, 4> places = no_places;    ///< slots of `ToolPositions`, by opener
-    int help_topic = 0;                       ///< 0: none
+    std::string_view help_page;               ///< of the handbook
     bool places_by_use = false;               ///< `places` goes by use instead
 };
+
+std::span<const WindowInfo> all_windows();
 
 /// The row of a template; it must be there.
 const WindowInfo& window_info(std::string_view template_name);

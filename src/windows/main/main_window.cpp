@@ -22,11 +22,13 @@ MainWindow::MainWindow(const WindowPorts& ports)
       strip_(new RecentStrip(program_,
                              {.open = [this](const std::string& path) { open_file(path); },
                               .new_recipe = [this] { commands_.start(command::new_recipe); }},
-                             board_)) {
+                             board_)),
+      help_(*this, places(program_), ports.pages) {
     ports_.commands = &commands_;
     const auto& info = window_info("GENERIC");
     setObjectName(string_of(info.template_name));
     setWindowTitle(string_of(info.captions[0]));
+    set_help_page(*this, info.help_page);
     setWindowFlag(Qt::MSWindowsFixedSizeDialogHint); // no sizing border
     setCentralWidget(board_);
     new DroppedDocuments([this](const std::string& path) { open_file(path); }, this);
@@ -39,11 +41,12 @@ MainWindow::MainWindow(const WindowPorts& ports)
 
 void MainWindow::carry_out_commands() {
     for (const auto& tool : tools())
-        if (tool.run != nullptr || has_window(tool))
+        if (tool.run != nullptr || has_window(tool) || !tool.help_page.empty())
             commands_.carry_out(tool.command, [this, &tool] { start(tool); });
 }
 
 void MainWindow::start(const Tool& tool) {
+    if (!tool.help_page.empty()) return help_.open(tool.help_page);
     if (tool.run != nullptr) return tool.run(ports_, this);
     if (activate_if_open(program_.tools, tool.command)) return;
     if (tool.prepare == nullptr || tool.prepare(ports_, this)) show_window(tool);

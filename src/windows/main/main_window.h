@@ -3,6 +3,7 @@
 
 #include "program/program.h"
 #include "program/window_ports.h"
+#include "windows/help/help.h"
 #include "windows/main/picture_board.h"
 #include "windows/main/recent_strip.h"
 #include "windows/main/tools.h"
@@ -48,6 +49,7 @@ private:
     CommandTable commands_;
     PictureBoard* board_;
     RecentStrip* strip_;
+    Help help_;
 };
 
 } // namespace wortlex

@@ -2,6 +2,7 @@
 
 #include "calculators/hop_degradation.h"
 #include "desktop/system_ports.h"
+#include "handbook/handbook.h"
 #include "program/program.h"
 #include "windows/calculators/brewers_tools.h"
 #include "windows/calculators/color_utility_window.h"
@@ -94,8 +95,10 @@ void leave_program(const WindowPorts&, QWidget* main) {
     main->close();
 }
 
-constexpr WindowInfo recipe_window = {"RECIPEDIALOG", {"Wortlex Recipe Formulation"}, from_main(100)};
-constexpr WindowInfo session_window = {"BATCH1DIALOG", {"Wortlex - Brewing Session"}, from_main(101)};
+constexpr WindowInfo recipe_window = {
+    "RECIPEDIALOG", {"Wortlex Recipe Formulation"}, from_main(100), "recipe"};
+constexpr WindowInfo session_window = {
+    "BATCH1DIALOG", {"Wortlex - Brewing Session"}, from_main(101), "session"};
 
 // clang-format off
 constexpr std::array all_tools = {
@@ -127,22 +130,22 @@ constexpr std::array all_tools = {
          .menus = {{{Menu::calculators, "% &Alcohol"},
                     {Menu::hydrometer, "% &Alcohol, Attenuation and Residual Extract"}}},
          .button = {"cb10", {406, 260}, "% Alcohol", "% Alcohol"},
-         .window = {"ALCOHOLDIALOG", {"% Alcohol Calculator"}, from_main(0)},
+         .window = {"ALCOHOLDIALOG", {"% Alcohol Calculator"}, from_main(0), "alcohol"},
          .make = make_alcohol},
     Tool{.command = command::boil_off,
          .menus = {{{Menu::calculators, "&Boil Off Calculator"}}},
          .button = {"cb12", {486, 180}, "Boil Off", "Boil Off Calculator"},
-         .window = {"BOILDIALOG", {"Boil Off Calculator"}, from_main(6)},
+         .window = {"BOILDIALOG", {"Boil Off Calculator"}, from_main(6), "boil_off"},
          .make = make_boil_off},
     Tool{.command = command::carbonation,
          .menus = {{{Menu::calculators, "&Carbonation Calculator"}}},
          .button = {"cb11", {246, 260}, "Carbonation", "Carbonation Calculator"},
-         .window = {"NATURALCARBCALCULATE", {"Carbonation Calculator"}, from_main(10)},
+         .window = {"NATURALCARBCALCULATE", {"Carbonation Calculator"}, from_main(10), "carbonation"},
          .make = make_carbonation},
     Tool{.command = command::dilution,
          .menus = {{{Menu::calculators, "&Dilution Calculator"}}},
          .button = {"cb13", {486, 260}, "Dilution", "Dilution Calculator"},
-         .window = {"DILUTIONDIALOG", {"Dilution Calculator"}, from_main(7)},
+         .window = {"DILUTIONDIALOG", {"Dilution Calculator"}, from_main(7), "dilution"},
          .make = make_dilution},
     Tool{.command = command::hop_ibu,
          .menus = {{{Menu::calculators, "Hop &IBU's"}}},
@@ -156,58 +159,58 @@ constexpr std::array all_tools = {
          .menus = {{{Menu::calculators, "&Hydrometer Calculator"},
                     {Menu::hydrometer, "&Temperature Correction Calculator"}}},
          .button = {"cb09", {326, 260}, "Hydrometer", "Hydrometer Calculator"},
-         .window = {"HYDROMETERDIALOG", {"Hydrometer Correction Calculator"}, from_main(11)},
+         .window = {"HYDROMETERDIALOG", {"Hydrometer Correction Calculator"}, from_main(11), "hydrometer"},
          .make = make_hydrometer},
     Tool{.command = command::mash_designer,
          .menus = {{{Menu::calculators, "&Mash Designer"}}},
          .button = {"cb08", {166, 260}, "Mash Design", "Mash Designer"},
-         .window = {"STEPMASHDETAIL", {"Mash Designer"}, from_main(9)},
+         .window = {"STEPMASHDETAIL", {"Mash Designer"}, from_main(9), "mash_designer"},
          .make = made<MashDesignerWindow>},
     Tool{.command = command::strike_temperature,
          .menus = {{{Menu::calculators, "&Strike Temperature"}}},
          .button = {"cb07", {86, 260}, "Strike Temp.", "Strike Temperature"},
-         .window = {"WATERCALCDIALOG2", {"Dough In Strike Water Temperature Calculator"}, from_main(8)},
+         .window = {"WATERCALCDIALOG2", {"Dough In Strike Water Temperature Calculator"}, from_main(8), "strike_temperature"},
          .make = made<StrikeCalculatorWindow>},
     Tool{.command = command::units,
          .menus = {{{Menu::calculators, "&Units"}}},
          .button = {"cb01", {86, 180}, "Units", "Units"},
-         .window = {"METRICDIALOG", {"Measurements And Conversions"}, from_main(1)},
+         .window = {"METRICDIALOG", {"Measurements And Conversions"}, from_main(1), "units"},
          .make = make_units},
     Tool{.command = command::water_needed,
          .menus = {{{Menu::calculators, "&Water Needed"}}},
          .button = {"cb06", {406, 180}, "Water Needed", "Water Needed"},
-         .window = {"WATERNEEDSDIALOG", {"Water Needed Calculator"}, from_main(5)},
+         .window = {"WATERNEEDSDIALOG", {"Water Needed Calculator"}, from_main(5), "water_needed"},
          .make = made<WaterNeedsWindow>},
     Tool{.command = command::water_profile,
          .menus = {{{Menu::calculators, "Water &Profile"}}},
          .button = {"cb05", {326, 180}, "Water Prof.", "Water Profile"},
-         .window = {"CHEMICALDIALOG", {"Water Profile Calculator"}, from_main(4)},
+         .window = {"CHEMICALDIALOG", {"Water Profile Calculator"}, from_main(4), "water_calculator"},
          .make = made<WaterCalculatorWindow>},
     Tool{.command = command::temporary_calibration,
          .menus = {{{Menu::refractometer, "&Temporary Refractometer Calibration"}}},
-         .window = {"REFRACTOMETERDIALOG0", {"Temporary Refractometer Calibration"}, from_main(16)},
+         .window = {"REFRACTOMETERDIALOG0", {"Temporary Refractometer Calibration"}, from_main(16), "refractometer"},
          .make = make_calibration},
     Tool{.command = command::raw_wort_gravity,
          .menus = {{{Menu::refractometer, "&Raw Wort Gravity"}}},
-         .window = {"REFRACTOMETERDIALOG1", {"Refractometer - Wort Gravity"}, from_main(17)},
+         .window = {"REFRACTOMETERDIALOG1", {"Refractometer - Wort Gravity"}, from_main(17), "refractometer"},
          .make = make_raw_wort_gravity},
     Tool{.command = command::fermentation_gravity,
          .menus = {{{Menu::refractometer, "&Specific Gravity During Fermentation"}}},
-         .window = {"REFRACTOMETERDIALOG2", {"Refractometer - Gravity During Fermentation"}, from_main(18)},
+         .window = {"REFRACTOMETERDIALOG2", {"Refractometer - Gravity During Fermentation"}, from_main(18), "refractometer"},
          .make = make_fermentation_gravity},
     Tool{.command = command::residual_extract,
          .menus = {{{Menu::refractometer, "% &Alcohol, OG and Residual Extract"}}},
-         .window = {"REFRACTOMETERDIALOG3", {"Refractometer - % Alcohol, OG and Residual Extract"}, from_main(19)},
+         .window = {"REFRACTOMETERDIALOG3", {"Refractometer - % Alcohol, OG and Residual Extract"}, from_main(19), "refractometer"},
          .make = make_refractometer_alcohol},
     Tool{.command = command::refractometer_overview,
-         .menus = {{{Menu::refractometer, "Refractometer &Overview"}}}},
+         .menus = {{{Menu::refractometer, "Refractometer &Overview"}}}, .help_page = "refractometer"},
     Tool{.command = command::date_calculator,
          .menus = {{{Menu::time, "Dat&e Calculator"}}},
-         .window = {"DATECALC", {"Days Between Dates"}},
+         .window = {"DATECALC", {"Days Between Dates"}, no_places, "dates"},
          .make = made<DateCalculatorWindow>},
     Tool{.command = command::time_line,
          .menus = {{{Menu::time, "&Time Line"}}},
-         .window = {"TIMESHEETDIALOG", {"Time Sheet"}},
+         .window = {"TIMESHEETDIALOG", {"Time Sheet"}, no_places, "time_line"},
          .make = made<TimeSheetWindow>},
 
     Tool{.command = command::style_database,
@@ -238,8 +241,8 @@ constexpr std::array all_tools = {
     Tool{.command = command::system_settings,
          .menus = {{{Menu::options, "&System Settings"}}},
          .run = edit_settings},
-    Tool{.command = command::help_contents, .menus = {{{Menu::help, "&Contents"}}}},
-    Tool{.command = command::tutorials, .menus = {{{Menu::help, "&Tutorials"}}}},
+    Tool{.command = command::help_contents, .menus = {{{Menu::help, "&Contents"}}}, .help_page = contents_page},
+    Tool{.command = command::tutorials, .menus = {{{Menu::help, "&Tutorials"}}}, .help_page = "tutorials"},
     Tool{.command = command::about, .menus = {{{Menu::help, "&About"}}}, .run = about},
 };
 // clang-format on

@@ -42,6 +42,9 @@ struct Tool {
     /// A command that asks or shows something and is done.
     void (*run)(const WindowPorts& ports, QWidget* main) = nullptr;
 
+    /// A page of the handbook.
+    std::string_view help_page = {};
+
     /// A window that stays open, once at most. It deletes itself when it is closed.
     WindowInfo window = {};
     ToolWindow* (*make)(const WindowPorts& ports, const WindowInfo& info, QWidget* origin) = nullptr;

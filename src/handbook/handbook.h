@@ -1,0 +1,68 @@
+// The handbook: its contents, and pages of Markdown, one a topic.
+#pragma once
+
+#include "handbook/markdown.h"
+
+#include <functional>
+#include <optional>
+
+namespace wortlex {
+
+/// The page that lists all others; the handbook opens there.
+inline constexpr std::string_view contents_page = "contents";
+
+/// The Markdown of a page by its name, as `hops` for the file "hops.md"; empty where there is none.
+using PageSource = std::function<std::string(std::string_view page)>;
+
+/// A line of the contents: a chapter, which has no page, or the page of a topic.
+struct Topic {
+    std::string title;
+    std::string page;
+    int level = 0; ///< 0 for chapters
+};
+
+struct Found {
+    const Topic* topic;
+    std::string excerpt; ///< of where the words stand, plain
+};
+
+/// The name of the page that a link of the handbook leads to; empty if it leads out of it.
+std::string_view page_of(std::string_view link);
+
+class Handbook {
+public:
+    explicit Handbook(PageSource source);
+
+    const std::vector<Topic>& topics() const { return topics_; }
+    /// The topic of a page; none where the contents do not name it.
+    const Topic* topic(std::string_view page) const;
+    std::string page(std::string_view name) const { return source_(name); }
+
+    /// Pages that hold every word, or its beginning or part, in any capitals, the best first. All pages are
+    /// read at the first search.
+    std::vector<Found> search(std::string_view words);
+
+    /// What a page says of the field with this caption: the words of the list item that begins with it.
+    std::string words_on(std::string_view page, std::string_view caption) const;
+
+private:
+    struct Searched {
+        const Topic* topic;
+        std::vector<Block> blocks;
+        std::vector<std::string> texts; ///< of the blocks, plain and in small letters
+    };
+
+    struct Hit {
+        int worth = 0;
+        const Block* best = nullptr; ///< none where only headings hold the words
+    };
+
+    void read_pages();
+    static std::optional<Hit> hit_of(const Searched& page, const std::vector<std::string>& words);
+
+    PageSource source_;
+    std::vector<Topic> topics_;
+    std::vector<Searched> pages_;
+};
+
+} // namespace wortlex

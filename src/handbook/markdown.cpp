@@ -1,0 +1,128 @@
+#include "handbook/markdown.h"
+
+#include "base/text.h"
+
+#include <algorithm>
+
+namespace wortlex {
+namespace {
+
+constexpr std::string_view fence = "```";
+constexpr int indent_of_a_level = 2; // columns
+
+std::string_view take_line(std::string_view& text) {
+    const auto end = std::min(text.find('\n'), text.size());
+    const auto line = text.substr(0, end);
+    text.remove_prefix(std::min(end + 1, text.size()));
+    return line;
+}
+
+std::size_t indent_of(std::string_view line) {
+    return std::min(line.find_first_not_of(' '), line.size());
+}
+
+bool is_table_rule(std::string_view words) {
+    return words.find_first_not_of("|-: ") == std::string_view::npos;
+}
+
+// The length of "- " or "12. "; 0 where the words begin no item.
+std::size_t item_mark(std::string_view words) {
+    if (words.substr(0, 2) == "- ") return 2;
+    const auto digits = words.find_first_not_of("0123456789");
+    const bool is_numbered =
+        digits != 0 && digits != std::string_view::npos && words.substr(digits, 2) == ". ";
+    return is_numbered ? digits + 2 : 0;
+}
+
+class Reader {
+public:
+    void read(std::string_view line) {
+        const auto words = trimmed(line);
+        if (words.substr(0, fence.size()) == fence) {
+            is_fenced_ = !is_fenced_;
+            is_open_ = false;
+        } else if (is_fenced_) {
+            add(BlockKind::fenced, 0, line);
+        } else if (words.empty()) {
+            is_open_ = false;
+        } else {
+            read_words(words, static_cast<int>(indent_of(line)) / indent_of_a_level);
+        }
+    }
+
+    std::vector<Block> blocks;
+
+private:
+    void read_words(std::string_view words, int depth) {
+        const auto marks = std::min(words.find_first_not_of('#'), words.size());
+        if (marks > 0) return add(BlockKind::heading, static_cast<int>(marks), trimmed(words.substr(marks)));
+        if (words.front() == '|') return is_table_rule(words) ? void() : add(BlockKind::table_row, 0, words);
+        if (words.substr(0, 2) == "![") return add(BlockKind::picture, 0, words);
+        if (const auto mark = item_mark(words); mark > 0) {
+            add(BlockKind::item, depth, words.substr(mark));
+        } else if (is_open_) {
+            blocks.back().source.append(" ").append(words);
+            return;
+        } else {
+            add(BlockKind::paragraph, 0, words);
+        }
+        is_open_ = true;
+    }
+
+    void add(BlockKind kind, int level, std::string_view words) {
+        blocks.push_back({kind, level, std::string(words)});
+        is_open_ = false;
+    }
+
+    bool is_fenced_ = false;
+    bool is_open_ = false; // the next line goes on with the last block
+};
+
+} // namespace
+
+std::vector<Block> blocks_of(std::string_view markdown) {
+    Reader reader;
+    while (!markdown.empty()) reader.read(take_line(markdown));
+    return std::move(reader.blocks);
+}
+
+std::string plain_text(std::string_view source) {
+    std::string plain;
+    for (std::size_t at = 0; at < source.size(); ++at) {
+        const auto rest = source.substr(at);
+        if (rest.substr(0, 2) == "](")
+            at += std::min(rest.find(')'), rest.size() - 1); // the words before it stay
+        else if (rest.front() == '\\' && rest.size() > 1)
+            plain += source[++at];
+        else if (std::string_view("*`[").find(rest.front()) == std::string_view::npos &&
+                 rest.substr(0, 2) != "![")
+            plain += rest.front();
+    }
+    return plain;
+}
+
+std::string lead_of(const Block& block) {
+    const std::string_view source = block.source;
+    if (block.kind != BlockKind::item || source.substr(0, 2) != "**") return {};
+    return plain_text(source.substr(2, source.find("**", 2) - 2));
+}
+
+std::string_view first_link(std::string_view source) {
+    const auto begin = source.find("](");
+    if (begin == std::string_view::npos) return {};
+    const auto target = source.substr(begin + 2);
+    return target.substr(0, target.find(')'));
+}
+
+std::vector<std::string> cells_of(const Block& row) {
+    std::vector<std::string> cells;
+    std::string_view rest = row.source;
+    for (rest.remove_prefix(1); !rest.empty();) {
+        const auto end = std::min(rest.find('|'), rest.size());
+        cells.push_back(plain_text(trimmed(rest.substr(0, end))));
+        rest.remove_prefix(std::min(end + 1, rest.size()));
+    }
+    return cells;
+}
+
+} // namespace wortlex

@@ -1,0 +1,268 @@
+#include "windows/help/handbook_window.h"
+
+#include "desktop/captions.h"
+#include "desktop/list_keys.h"
+#include "desktop/qt_text.h"
+#include "handbook/handbook_printout.h"
+
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QShortcut>
+#include <QSplitter>
+#include <QTextCursor>
+#include <QTextTable>
+#include <QTreeWidgetItemIterator>
+#include <QVBoxLayout>
+
+#include <algorithm>
+#include <utility>
+
+namespace wortlex {
+namespace {
+
+constexpr int page_role = Qt::UserRole; // of an entry: the page that it opens
+
+QUrl url_of(std::string_view page) {
+    return {QStringLiteral("qrc:/help/%1.md").arg(string_of(page))};
+}
+
+std::string page_at(const QUrl& url) {
+    const auto file = url.fileName().toStdString();
+    return std::string(page_of(file));
+}
+
+// Tables as the toolkit reads them stand in heavy frames without room around their words.
+void dress_tables(QTextFrame& frame) {
+    for (auto* const child : frame.childFrames()) {
+        auto* const table = qobject_cast<QTextTable*>(child);
+        if (table == nullptr) continue;
+        auto format = table->format();
+        format.setCellPadding(4);
+        format.setCellSpacing(0);
+        format.setBorder(1);
+        format.setBorderCollapse(true);
+        format.setBorderBrush(Qt::gray);
+        table->setFormat(format);
+    }
+}
+
+} // namespace
+
+QVariant PageReader::loadResource(int type, const QUrl& name) {
+    auto resource = QTextBrowser::loadResource(type, name);
+    if (type != QTextDocument::ImageResource) return resource;
+    QImage picture;
+    if (!picture.loadFromData(resource.toByteArray())) return resource;
+    const int room = viewport()->width() - static_cast<int>(2 * document()->documentMargin());
+    return picture.width() <= room ? picture : picture.scaledToWidth(room, Qt::SmoothTransformation);
+}
+
+void PageReader::doSetSource(const QUrl& url, QTextDocument::ResourceType type) {
+    const bool is_page = !page_at(url).empty() && (url.isRelative() || url.scheme() == QLatin1String("qrc"));
+    if (!is_page) return; // no link leaves the handbook
+    QTextBrowser::doSetSource(url, type);
+    dress();
+}
+
+void PageReader::dress() {
+    document()->setDocumentMargin(fontMetrics().height());
+    dress_tables(*document()->rootFrame());
+}
+
+// The toolkit bakes the colour of links into the page.
+void PageReader::changeEvent(QEvent* event) {
+    QTextBrowser::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange && !source().isEmpty()) reload();
+}
+
+HandbookWindow::HandbookWindow(Handbook& handbook, const Places& places, PageDesk& pages, QWidget* origin)
+    : ToolWindow(window_info("HANDBOOKWINDOW"), 0, Opener::main, origin, places), handbook_(handbook),
+      settings_(places.settings), pages_(pages), find_line_(new QLineEdit(this)),
+      found_count_(new QLabel(this)), side_(new QStackedWidget(this)), contents_(new QTreeWidget(side_)),
+      found_(new QListWidget(side_)), reader_(new PageReader(this)) {
+    make_contents();
+    make_find_line();
+    auto* const left = new QWidget(this);
+    auto* const column = new QVBoxLayout(left);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->addWidget(find_line_);
+    column->addWidget(side_, 1);
+    column->addWidget(found_count_);
+    auto* const split = new QSplitter(this);
+    split->addWidget(left);
+    split->addWidget(reader_);
+    split->setStretchFactor(1, 1);
+    split->setChildrenCollapsible(false);
+    auto* const layout = new QVBoxLayout(this);
+    layout->addLayout(bar());
+    layout->addWidget(split, 1);
+    reader_->setAccessibleName(QStringLiteral("Page"));
+    connect(reader_, &QTextBrowser::sourceChanged, this, [this](const QUrl& url) { follow_page(url); });
+    add_keys();
+    const int letter = fontMetrics().averageCharWidth();
+    split->setSizes({40 * letter, 110 * letter});
+    resize(150 * letter, 48 * fontMetrics().height());
+    reader_->setFocus();
+}
+
+void HandbookWindow::make_contents() {
+    contents_->setObjectName(QStringLiteral("contents"));
+    contents_->setAccessibleName(QStringLiteral("Table of contents"));
+    contents_->setHeaderHidden(true);
+    QTreeWidgetItem* chapter = nullptr;
+    for (const auto& topic : handbook_.topics()) {
+        auto* const entry = topic.level > 0 && chapter != nullptr ? new QTreeWidgetItem(chapter)
+                                                                  : new QTreeWidgetItem(contents_);
+        entry->setText(0, string_of(topic.title));
+        entry->setData(0, page_role, string_of(topic.page));
+        if (topic.level == 0) chapter = entry;
+    }
+    contents_->expandAll();
+    connect(contents_, &QTreeWidget::currentItemChanged, this, [this](const QTreeWidgetItem* entry) {
+        if (entry != nullptr && contents_->hasFocus())
+            open(entry->data(0, page_role).toString().toStdString());
+    });
+    side_->addWidget(contents_);
+    side_->addWidget(found_);
+    found_->setObjectName(QStringLiteral("found"));
+    found_->setAccessibleName(QStringLiteral("Pages found"));
+    found_->setWordWrap(true);
+    found_->setAlternatingRowColors(true);
+    connect(found_, &QListWidget::currentItemChanged, this, [this](const QListWidgetItem* entry) {
+        if (entry == nullptr) return;
+        open(entry->data(page_role).toString().toStdString());
+        mark_words();
+    });
+}
+
+void HandbookWindow::make_find_line() {
+    find_line_->setObjectName(QStringLiteral("find"));
+    find_line_->setAccessibleName(QStringLiteral("Find"));
+    find_line_->setPlaceholderText(QStringLiteral("Find in all pages (Ctrl+F)"));
+    find_line_->setToolTip(QStringLiteral("Words or their beginnings; Down goes to what is found"));
+    find_line_->setClearButtonEnabled(true);
+    find_line_->installEventFilter(this);
+    connect(find_line_, &QLineEdit::textChanged, this, [this](const QString& words) { search(words); });
+}
+
+QPushButton* HandbookWindow::button(const char* name, const QString& caption, const QKeySequence& key,
+                                    const std::function<void()>& action) {
+    auto* const made = new QPushButton(caption, this);
+    made->setObjectName(QString::fromLatin1(name));
+    press_in_window(*this, key, *made);
+    connect(made, &QPushButton::clicked, this, action);
+    return made;
+}
+
+QLayout* HandbookWindow::bar() {
+    auto* const line = new QHBoxLayout;
+    auto* const back =
+        button("back", QStringLiteral("&Back"), QKeySequence::Back, [this] { reader_->backward(); });
+    auto* const forth =
+        button("forward", QStringLiteral("&Forward"), QKeySequence::Forward, [this] { reader_->forward(); });
+    connect(reader_, &QTextBrowser::backwardAvailable, back, &QWidget::setEnabled);
+    connect(reader_, &QTextBrowser::forwardAvailable, forth, &QWidget::setEnabled);
+    for (auto* const way : {back, forth}) {
+        set_tip(*way, {}, QStringLiteral("As soon as there is a page that way"));
+        way->setEnabled(false);
+        line->addWidget(way);
+    }
+    line->addWidget(button("contents_page", QStringLiteral("&Contents"), Qt::ALT | Qt::Key_Home,
+                           [this] { open(contents_page); }));
+    line->addStretch();
+    line->addWidget(button("print", QStringLiteral("&Print"), QKeySequence::Print, [this] { print(); }));
+    line->addWidget(closing_ok(QStringLiteral("OK")));
+    return line;
+}
+
+// Esc first clears what is looked for.
+void HandbookWindow::add_keys() {
+    connect(new QShortcut(QKeySequence::Cancel, this), &QShortcut::activated, this, [this] {
+        find_line_->hasFocus() && !find_line_->text().isEmpty() ? find_line_->clear() : void(close());
+    });
+    connect(new QShortcut(QKeySequence::Find, this), &QShortcut::activated, this, [this] {
+        find_line_->setFocus();
+        find_line_->selectAll();
+    });
+}
+
+void HandbookWindow::open(std::string_view page) {
+    if (page.empty() || page == shown_page()) return;
+    reader_->setSource(url_of(handbook_.topic(page) == nullptr ? contents_page : page));
+}
+
+std::string HandbookWindow::shown_page() const {
+    return page_at(reader_->source());
+}
+
+void HandbookWindow::follow_page(const QUrl& url) {
+    const auto page = string_of(page_at(url));
+    for (QTreeWidgetItemIterator at(contents_); *at != nullptr; ++at)
+        if ((*at)->data(0, page_role).toString() == page) contents_->setCurrentItem(*at);
+    if (page == string_of(contents_page)) contents_->setCurrentItem(nullptr);
+}
+
+void HandbookWindow::search(const QString& words) {
+    const auto all = handbook_.search(words.toStdString());
+    found_->clear();
+    for (const auto& [topic, excerpt] : all) {
+        auto* const entry = new QListWidgetItem(string_of(topic->title + '\n' + excerpt), found_);
+        entry->setData(page_role, string_of(topic->page));
+    }
+    const bool is_blank = words.trimmed().isEmpty();
+    side_->setCurrentWidget(is_blank ? static_cast<QWidget*>(contents_) : found_);
+    found_count_->setText(is_blank          ? QString()
+                          : all.empty()     ? QStringLiteral("Nothing found")
+                          : all.size() == 1 ? QStringLiteral("1 page found")
+                                            : QStringLiteral("%1 pages found").arg(all.size()));
+}
+
+void HandbookWindow::go_into_found() {
+    if (found_->count() == 0) return;
+    found_->setFocus();
+    found_->setCurrentRow(0);
+}
+
+// Every place of each word that was looked for; the page begins with the first.
+void HandbookWindow::mark_words() {
+    QTextEdit::ExtraSelection mark;
+    mark.format.setBackground(palette().highlight());
+    mark.format.setForeground(palette().highlightedText());
+    QList<QTextEdit::ExtraSelection> marks;
+    for (const auto& word : find_line_->text().split(QLatin1Char(' '), Qt::SkipEmptyParts)) {
+        mark.cursor = reader_->document()->find(word);
+        for (; !mark.cursor.isNull(); mark.cursor = reader_->document()->find(word, mark.cursor))
+            marks << mark;
+    }
+    reader_->setExtraSelections(marks);
+    if (marks.isEmpty()) return;
+    auto first = std::min_element(marks.begin(), marks.end(), [](const auto& one, const auto& other) {
+                     return one.cursor.position() < other.cursor.position();
+                 })->cursor;
+    first.clearSelection();
+    reader_->setTextCursor(first);
+    reader_->ensureCursorVisible();
+}
+
+bool HandbookWindow::eventFilter(QObject* watched, QEvent* event) {
+    const bool is_key = watched == find_line_ && event->type() == QEvent::KeyPress;
+    if (!is_key) return ToolWindow::eventFilter(watched, event);
+    switch (dynamic_cast<QKeyEvent*>(event)->key()) {
+    case Qt::Key_Down:
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        go_into_found();
+        return true;
+    default:
+        return false;
+    }
+}
+
+void HandbookWindow::print() {
+    const auto page = shown_page();
+    const auto* const topic = handbook_.topic(page);
+    pages_.show(handbook_printout(topic == nullptr ? "Contents" : topic->title, handbook_.page(page),
+                                  settings_.printer_scale));
+}
+
+} // namespace wortlex

@@ -1,0 +1,63 @@
+// The handbook on the screen: its contents or what a search has found, and beside them a page.
+#pragma once
+
+#include "desktop/tool_window.h"
+#include "handbook/handbook.h"
+#include "page/page.h"
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QStackedWidget>
+#include <QTextBrowser>
+#include <QTreeWidget>
+
+namespace wortlex {
+
+/// A page of the handbook as it is read. Links lead to other pages and nowhere else.
+class PageReader : public QTextBrowser {
+public:
+    explicit PageReader(QWidget* parent) : QTextBrowser(parent) {}
+    /// Pictures are no wider than the page.
+    QVariant loadResource(int type, const QUrl& name) override;
+
+protected:
+    void changeEvent(QEvent* event) override;
+    void doSetSource(const QUrl& url, QTextDocument::ResourceType type) override;
+
+private:
+    void dress();
+};
+
+class HandbookWindow : public ToolWindow {
+public:
+    HandbookWindow(Handbook& handbook, const Places& places, PageDesk& pages, QWidget* origin);
+    void open(std::string_view page);
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void make_contents();
+    void make_find_line();
+    QLayout* bar();
+    void add_keys();
+    QPushButton* button(const char* name, const QString& caption, const QKeySequence& key,
+                        const std::function<void()>& action);
+    void search(const QString& words);
+    void follow_page(const QUrl& url);
+    void mark_words();
+    void go_into_found();
+    void print();
+    std::string shown_page() const;
+
+    Handbook& handbook_;
+    const SystemSettings& settings_;
+    PageDesk& pages_;
+    QLineEdit* find_line_;
+    QLabel* found_count_;
+    QStackedWidget* side_;
+    QTreeWidget* contents_;
+    QListWidget* found_;
+    PageReader* reader_;
+};
+
+} // namespace wortlex
