@@ -1,0 +1,336 @@
+// The worked examples of the handbook, each a line "... numbers ... -> ... numbers ..." in a fenced block
+// with its name, are worked out anew by the functions that the windows use. A number is right to its last
+// decimal.
+#include "base/number.h"
+#include "brewing/calendar.h"
+#include "brewing/carbonation.h"
+#include "brewing/dilution.h"
+#include "brewing/evaporation.h"
+#include "brewing/hop_bitterness.h"
+#include "brewing/hydrometer.h"
+#include "brewing/mash_water.h"
+#include "brewing/refractometer.h"
+#include "brewing/refractometer_scales.h"
+#include "brewing/salts.h"
+#include "brewing/unit_families.h"
+#include "brewing/water_balance.h"
+#include "databases/water_hardness.h"
+#include "documents/recipe_gravity.h"
+#include "documents/session_figures.h"
+#include "measures/gravity.h"
+#include "measures/units.h"
+
+#include <gtest/gtest.h>
+
+#include <cctype>
+#include <cmath>
+#include <filesystem>
+#include <fstream>
+#include <map>
+
+namespace wortlex::examples {
+namespace {
+
+using Numbers = std::vector<float>;
+
+const Settings& plain_settings() {
+    static auto image = WriteDefaultSettings();
+    static const auto settings = settings_from(image);
+    return settings;
+}
+
+struct Told {
+    float number;
+    int decimals;
+};
+
+// Digits that belong to a word, as in CaCO3, are none.
+std::vector<Told> numbers_in(const std::string& text) {
+    std::vector<Told> numbers;
+    for (std::size_t at = 0; at < text.size(); ++at) {
+        const bool is_digit = std::isdigit(static_cast<unsigned char>(text[at])) != 0;
+        if (!is_digit) continue;
+        auto end = text.find_first_not_of("0123456789.", at);
+        if (end == std::string::npos) end = text.size();
+        if (at == 0 || std::isalpha(static_cast<unsigned char>(text[at - 1])) == 0) {
+            const auto word = text.substr(at, end - at);
+            const auto point = word.find('.');
+            numbers.push_back({narrow(leading_number(word)),
+                               point == std::string::npos ? 0 : static_cast<int>(word.size() - point - 1)});
+        }
+        at = end - 1;
+    }
+    return numbers;
+}
+
+// Pounds and a figure of each malt, as many as there are.
+BrewDocument document_of(const Numbers& in, std::size_t malts, float gallons, float MaltRecord::*figure) {
+    BrewDocument document;
+    document.batch_size = document.wort_size = gallons;
+    document.malts.resize(malts);
+    for (std::size_t i = 0; i < malts; ++i) {
+        document.malts[i].record.malt_type = MaltType::grain;
+        document.malts[i].amount = in.at(2 * i);
+        document.malts[i].record.*figure = in.at(2 * i + 1);
+    }
+    return document;
+}
+
+template <HopFormulaCode formula>
+Numbers bitterness(const Numbers& in) {
+    auto image = WriteDefaultSettings();
+    image.HopFormula = formula;
+    HopCalculator hop;
+    hop.ounces = in.at(0);
+    hop.adjusted_alpha = in.at(1);
+    hop.boil_minutes = static_cast<int>(in.at(2));
+    hop.wort_volume = hop.batch_volume = in.at(3);
+    hop.sg = in.at(4);
+    ibu_from_weight(hop, settings_from(image));
+    return {hop.ibu};
+}
+
+Numbers gravity(const Numbers& in) {
+    auto document = document_of(in, 2, in.at(5), &MaltRecord::potential);
+    document.efficiency = in.at(4) / 100;
+    RecipeFigures figures;
+    return {compute_og(document, figures, plain_settings())};
+}
+
+Numbers colour(const Numbers& in) {
+    const auto document = document_of(in, 2, in.at(4), &MaltRecord::colour);
+    const auto by = [&](ColorFormula formula) {
+        return beer_colour(document.malts, document.batch_size, formula);
+    };
+    return {by(ColorFormula::Morey).mcu, by(ColorFormula::Morey).srm, by(ColorFormula::Mosher).srm,
+            by(ColorFormula::Daniels).srm};
+}
+
+Numbers ebc(const Numbers& in) {
+    const auto shown = [&](ColorUnits units) {
+        auto image = WriteDefaultSettings();
+        image.color_units = units;
+        return to_shown_colour(in.at(0), settings_from(image));
+    };
+    return {shown(ColorUnits::ebc_new), shown(ColorUnits::ebc_traditional)};
+}
+
+Numbers efficiency(const Numbers& in) {
+    const auto document = document_of(in, 1, in.at(2), &MaltRecord::potential);
+    const auto figures = session_efficiency(document, {}, in.at(4), in.at(3), plain_settings());
+    return {figures.achieved_points, figures.efficiency * 100};
+}
+
+Numbers alcohol(const Numbers& in) {
+    const auto by_weight = alcohol_by_weight(in[0], in[1]);
+    return {by_weight, alcohol_by_volume(by_weight, in[1]), apparent_attenuation(in[0], in[1]),
+            real_attenuation(in[0], in[1]), residual_extract(in[0], in[1])};
+}
+
+Numbers brix_wort(const Numbers& in) {
+    auto image = WriteDefaultSettings();
+    image.brix_correction = in.at(1);
+    const auto plato = plato_from_brix(in.at(0), settings_from(image));
+    return {plato, plato_to_sg(plato)};
+}
+
+Numbers brix_beer(const Numbers& in) {
+    const auto figures = alcohol_from_reading(in.at(1), net_zeiss_from_brix(in.at(0), plain_settings()));
+    return {figures.by_weight, figures.by_volume, figures.original_extract};
+}
+
+Numbers water_day(const Numbers& in) {
+    WaterNeeds needs;
+    needs.sparge = in.at(0);
+    needs.sparge_deadspace = in.at(1);
+    needs.mash_water = in.at(2);
+    needs.grain = in.at(3);
+    needs.lauter_loss = in.at(4);
+    needs.boil_minutes = in.at(5);
+    needs.evaporation_rate = in.at(6);
+    needs.kettle_deadspace = in.at(7);
+    const auto balance = BalanceWater(needs, true, plain_settings());
+    return {balance.needed, balance.into_kettle, balance.after_boil, balance.after_cooling};
+}
+
+Numbers pre_boil(const Numbers& in) {
+    BrewDocument document;
+    document.batch_size = document.wort_size = in.at(0);
+    document.og_points = narrow((in.at(1) - 1) * 1000);
+    document.boil_minutes = static_cast<std::int16_t>(in.at(2));
+    const auto kettle = raw_pre_boil(document, in.at(3), plain_settings());
+    return {kettle.volume, sg_from_points(kettle.points)};
+}
+
+Numbers gypsum(const Numbers& in) {
+    WaterAnalysis water;
+    set_salt_rate(water, salt_effects[0], in.at(0));
+    return {water.totals.calcium, water.totals.sulfate};
+}
+
+Numbers thinned(const Numbers& in) {
+    WaterAnalysis water;
+    water.source.calcium = in.at(0);
+    water.dilution_rate = in.at(1);
+    return {diluted(water, ions[0])};
+}
+
+Numbers days(const Numbers& in) {
+    const auto date = [&](std::size_t at) {
+        return CalendarDate{static_cast<int>(in.at(at + 2)), static_cast<int>(in.at(at + 1)),
+                            static_cast<int>(in.at(at))};
+    };
+    return {static_cast<float>(days_between(date(0), date(3)))};
+}
+
+float unit(UnitFamily family, std::string_view to, float base) {
+    for (const auto& each : family)
+        if (each.name == to) return narrow(each.of_base(base));
+    ADD_FAILURE() << to;
+    return 0;
+}
+
+std::int32_t whole(float number) {
+    return static_cast<std::int32_t>(number);
+}
+
+using Work = Numbers (*)(const Numbers&);
+const std::map<std::string, Work, std::less<>>& works() {
+    static const std::map<std::string, Work, std::less<>> all = {
+        {"hydrometer",
+         [](const Numbers& in) { return Numbers{corrected_gravity(in[0], in[1], hydrometer_error(in[2]))}; }},
+        {"refractometer_wort", brix_wort},
+        {"refractometer_fermenting",
+         [](const Numbers& in) {
+             return Numbers{
+                 current_gravity(sg_to_plato(in[1]), net_zeiss_from_brix(in[0], plain_settings()))};
+         }},
+        {"refractometer_alcohol", brix_beer},
+        {"plato", [](const Numbers& in) { return Numbers{sg_to_plato(in[0])}; }},
+        {"alcohol", alcohol},
+        {"dilution", [](const Numbers& in) { return Numbers{diluted_gravity(in[1], in[0], in[2])}; }},
+        {"blend",
+         [](const Numbers& in) {
+             return Numbers{blended_gravity({in[0], in[1]}, {in[2], in[3]})};
+         }},
+        {"evaporation_rate",
+         [](const Numbers& in) {
+             const auto rate = evaporation_rate(in[0], in[1], whole(in[2]));
+             return Numbers{rate.percent_per_hour, rate.volume_per_hour};
+         }},
+        {"boil_off",
+         [](const Numbers& in) {
+             const auto evaporated = evaporated_by_percent(in[0], in[2], whole(in[3]));
+             return Numbers{in[0] - evaporated, diluted_gravity(in[1], in[0], -evaporated)};
+         }},
+        {"priming",
+         [](const Numbers& in) {
+             const auto grams = priming_grams(in[0], in[1], in[2]);
+             return Numbers{grams, narrow(grams / 28.3495)};
+         }},
+        {"pressure",
+         [](const Numbers& in) {
+             const auto psi = carbonation_pressure(in[0], in[1]);
+             return Numbers{psi, unit(pressure_units(), "kPa", psi)};
+         }},
+        {"gallons_to_liters",
+         [](const Numbers& in) { return Numbers{unit(us_fluid_units(), "Liter", in[0] * 128)}; }},
+        {"pounds_to_kilograms",
+         [](const Numbers& in) { return Numbers{unit(weight_units(), "Kilogram", in[0] * 16)}; }},
+        {"fahrenheit",
+         [](const Numbers& in) {
+             return Numbers{unit(temperature_units(), "Celsius", in[0]),
+                            unit(temperature_units(), "Kelvin", in[0])};
+         }},
+        {"days", days},
+        {"ibu_rager", bitterness<HopFormulaCode::Rager>},
+        {"ibu_garetz", bitterness<HopFormulaCode::Garetz>},
+        {"ibu_tinseth", bitterness<HopFormulaCode::Tinseth>},
+        {"ibu_generic", bitterness<HopFormulaCode::Generic>},
+        {"hop_aging",
+         [](const Numbers& in) {
+             return Numbers{
+                 alpha_after_storage(in[0], static_cast<std::int16_t>(in[2]), in[1], in[3], in[4])};
+         }},
+        {"hbu",
+         [](const Numbers& in) {
+             return Numbers{hbu(in[0], in[1]), mbu(in[0] * 28.35F, in[1])};
+         }},
+        {"gravity", gravity},
+        {"yield",
+         [](const Numbers& in) {
+             const auto dry = yield_from_sg(in[0]);
+             return Numbers{dry, as_is_yield(dry, in[1])};
+         }},
+        {"hwe", [](const Numbers& in) { return Numbers{hwe_from_points((in[0] - 1) * 1000)}; }},
+        {"color", colour},
+        {"ebc", ebc},
+        {"pre_boil", pre_boil},
+        {"efficiency", efficiency},
+        {"strike",
+         [](const Numbers& in) {
+             return Numbers{
+                 static_cast<float>(StrikeTemperature(whole(in[2]), whole(in[3]), in[1] / in[0], 0))};
+         }},
+        {"infusion",
+         [](const Numbers& in) {
+             return Numbers{InfusionAmount(whole(in[3]), whole(in[2]), whole(in[4]), in[1], in[0])};
+         }},
+        {"mash_volume",
+         [](const Numbers& in) {
+             return Numbers{TotalMashVolume(in[0], in[1], plain_settings().grain_water_volume)};
+         }},
+        {"decoction",
+         [](const Numbers& in) {
+             return Numbers{
+                 DecoctionVolume(whole(in[2]), whole(in[3]), {in[0], in[1], 0.4F}, whole(in[4]), in[5])};
+         }},
+        {"hardness",
+         [](const Numbers& in) {
+             return Numbers{calcium_of(in[0]), magnesium_of(in[0])};
+         }},
+        {"alkalinity",
+         [](const Numbers& in) { return Numbers{narrow(carbonates_of(in[0], in[1]).bicarbonate)}; }},
+        {"gypsum", gypsum},
+        {"dilution_of_ions", thinned},
+        {"water_needed", water_day}};
+    return all;
+}
+
+void check(const std::string& name, const std::string& line, const std::string& page) {
+    const auto arrow = line.find("->");
+    ASSERT_NE(arrow, std::string::npos) << page << ": " << line;
+    const auto work = works().find(name);
+    ASSERT_NE(work, works().end()) << page << ": nothing works out " << name;
+    Numbers given;
+    for (const auto& number : numbers_in(line.substr(0, arrow))) given.push_back(number.number);
+    const auto result = work->second(given);
+    const auto told = numbers_in(line.substr(arrow));
+    ASSERT_EQ(told.size(), result.size()) << page << ": " << line;
+    for (std::size_t i = 0; i < told.size(); ++i)
+        EXPECT_NEAR(result[i], told[i].number, 0.52 * std::pow(10, -told[i].decimals))
+            << page << ": " << line;
+}
+
+TEST(Handbook, ItsExamplesAreWhatTheProgramWorksOut) {
+    constexpr std::string_view fence = "```example ";
+    int examples = 0;
+    for (const auto& entry : std::filesystem::directory_iterator(HANDBOOK_FOLDER)) {
+        std::ifstream page(entry.path());
+        std::string line, name;
+        while (std::getline(page, line)) {
+            if (line.substr(0, fence.size()) == fence) {
+                name = line.substr(fence.size());
+            } else if (line.substr(0, 3) == "```") {
+                name.clear();
+            } else if (!name.empty()) {
+                check(name, line, entry.path().filename().string());
+                ++examples;
+            }
+        }
+    }
+    EXPECT_GT(examples, 40);
+}
+
+} // namespace
+} // namespace wortlex::examples
