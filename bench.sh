@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
 # Prints how fast the program is: its start beside that of an empty window, one recalculation, a load and a save, a hop
 # list of 999 entries, a session's inventory, the recipe window and its report, the shelf of 10,000 recipes, the
-# brewer's tools, the water calculator, a mash schedule and its chart, wortlex-report over 10,000 recipes, each from 25
-# to 400 lines of malts and hops, and how long everything takes to build anew.
+# brewer's tools, the water calculator, a mash schedule and its chart, the search in the handbook, wortlex-report over
+# 10,000 recipes, each from 25 to 400 lines of malts and hops, and how long everything takes to build anew.
 set -eu
 cd "$(dirname "$0")"
 . tools/install.sh
@@ -22,6 +22,7 @@ build/bench/bench/shelf_bench
 build/bench/bench/tools_bench
 build/bench/bench/water_bench
 build/bench/bench/mash_bench
+build/bench/bench/handbook_bench
 
 folder=$(mktemp -d)
 trap 'rm -rf "$folder"' EXIT

@@ -77,6 +77,7 @@ const Topic* Handbook::topic(std::string_view page) const {
 }
 
 void Handbook::read_pages() {
+    if (!pages_.empty()) return;
     for (const auto& topic : topics_) {
         if (topic.page.empty()) continue;
         Searched page{&topic, blocks_of(source_(topic.page)), {}};
@@ -109,7 +110,7 @@ std::optional<Handbook::Hit> Handbook::hit_of(const Searched& page, const std::v
 std::vector<Found> Handbook::search(std::string_view text) {
     const auto words = words_of(text);
     if (words.empty()) return {};
-    if (pages_.empty()) read_pages();
+    read_pages();
     std::vector<std::pair<int, Found>> ranked;
     for (const auto& page : pages_)
         if (const auto hit = hit_of(page, words))

@@ -38,8 +38,9 @@ public:
     const Topic* topic(std::string_view page) const;
     std::string page(std::string_view name) const { return source_(name); }
 
-    /// Pages that hold every word, or its beginning or part, in any capitals, the best first. All pages are
-    /// read at the first search.
+    /// Reads all pages for a search, once; the first search does so itself, which then takes longer.
+    void read_pages();
+    /// Pages that hold every word, or its beginning or part, in any capitals, the best first.
     std::vector<Found> search(std::string_view words);
 
     /// What a page says of the field with this caption: the words of the list item that begins with it.
@@ -57,7 +58,6 @@ private:
         const Block* best = nullptr; ///< none where only headings hold the words
     };
 
-    void read_pages();
     static std::optional<Hit> hit_of(const Searched& page, const std::vector<std::string>& words);
 
     PageSource source_;

@@ -9,8 +9,10 @@
 #include <QKeyEvent>
 #include <QShortcut>
 #include <QSplitter>
+#include <QTextBlock>
 #include <QTextCursor>
 #include <QTextTable>
+#include <QTimer>
 #include <QTreeWidgetItemIterator>
 #include <QVBoxLayout>
 
@@ -31,19 +33,36 @@ std::string page_at(const QUrl& url) {
     return std::string(page_of(file));
 }
 
-// Tables as the toolkit reads them stand in heavy frames without room around their words.
-void dress_tables(QTextFrame& frame) {
+// As the toolkit reads tables, they stand in heavy frames without room around their words.
+void dress_tables(const QTextFrame& frame, int room) {
     for (auto* const child : frame.childFrames()) {
         auto* const table = qobject_cast<QTextTable*>(child);
         if (table == nullptr) continue;
         auto format = table->format();
-        format.setCellPadding(4);
+        format.setCellPadding(room / 4.0);
         format.setCellSpacing(0);
         format.setBorder(1);
         format.setBorderCollapse(true);
         format.setBorderBrush(Qt::gray);
+        format.setTopMargin(room / 2.0);
+        format.setBottomMargin(room);
         table->setFormat(format);
     }
+}
+
+// Headings stand off from what is above them; formulae and examples are set in, and are wrapped where they
+// are wider than the page.
+void dress_block(const QTextBlock& block, int room, const QBrush& ground) {
+    auto format = block.blockFormat();
+    const bool is_fenced = format.hasProperty(QTextFormat::BlockCodeFence);
+    if (format.headingLevel() > 1) format.setTopMargin(room);
+    if (is_fenced) {
+        format.setNonBreakableLines(false);
+        format.setBackground(ground);
+        format.setLeftMargin(room);
+        format.setRightMargin(room);
+    }
+    if (is_fenced || format.headingLevel() > 1) QTextCursor(block).setBlockFormat(format);
 }
 
 } // namespace
@@ -65,8 +84,11 @@ void PageReader::doSetSource(const QUrl& url, QTextDocument::ResourceType type) 
 }
 
 void PageReader::dress() {
-    document()->setDocumentMargin(fontMetrics().height());
-    dress_tables(*document()->rootFrame());
+    const int room = fontMetrics().height();
+    document()->setDocumentMargin(room);
+    dress_tables(*document()->rootFrame(), room);
+    for (auto block = document()->begin(); block.isValid(); block = block.next())
+        dress_block(block, room, palette().alternateBase());
 }
 
 // The toolkit bakes the colour of links into the page.
@@ -88,6 +110,7 @@ HandbookWindow::HandbookWindow(Handbook& handbook, const Places& places, PageDes
     column->addWidget(find_line_);
     column->addWidget(side_, 1);
     column->addWidget(found_count_);
+    found_count_->hide();
     auto* const split = new QSplitter(this);
     split->addWidget(left);
     split->addWidget(reader_);
@@ -103,6 +126,7 @@ HandbookWindow::HandbookWindow(Handbook& handbook, const Places& places, PageDes
     split->setSizes({40 * letter, 110 * letter});
     resize(150 * letter, 48 * fontMetrics().height());
     reader_->setFocus();
+    QTimer::singleShot(0, this, [this] { handbook_.read_pages(); }); // before anybody types
 }
 
 void HandbookWindow::make_contents() {
@@ -210,9 +234,9 @@ void HandbookWindow::search(const QString& words) {
         entry->setData(page_role, string_of(topic->page));
     }
     const bool is_blank = words.trimmed().isEmpty();
+    found_count_->setVisible(!is_blank);
     side_->setCurrentWidget(is_blank ? static_cast<QWidget*>(contents_) : found_);
-    found_count_->setText(is_blank          ? QString()
-                          : all.empty()     ? QStringLiteral("Nothing found")
+    found_count_->setText(all.empty()       ? QStringLiteral("Nothing found")
                           : all.size() == 1 ? QStringLiteral("1 page found")
                                             : QStringLiteral("%1 pages found").arg(all.size()));
 }
