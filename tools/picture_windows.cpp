@@ -1,6 +1,6 @@
-// picture-windows [--scheme N] [--dark] TARGET_DIR RECIPE: run in a brewery folder, it opens the main window,
-// every tool and a recipe, and saves a picture of each: main-window.png, recipe-window.png, and the tools by
-// their names.
+// picture-windows [--scheme N] [--dark] TARGET_DIR RECIPE [SESSION]: run in a brewery folder, it opens the
+// main window, every tool, the handbook, a recipe and a session, and saves a picture of each:
+// main-window.png, handbook.png, recipe-window.png, session-window.png, and the tools by their names.
 #include "base/number.h"
 #include "base/ports/quiet_prompts.h"
 #include "desktop/picture_easel.h"
@@ -27,7 +27,7 @@ namespace {
 struct Options {
     std::optional<std::uint8_t> scheme; ///< of the artwork; the brewer's own if not told
     bool dark = false;
-    std::vector<std::string> names; ///< the target folder and the recipe
+    std::vector<std::string> names; ///< the target folder, the recipe and, if wanted, a session
 };
 
 std::optional<std::uint8_t> scheme_number(std::string_view text) {
@@ -50,7 +50,8 @@ std::optional<Options> parse(std::span<char* const> arguments) {
             options.names.emplace_back(argument);
         }
     }
-    return options.names.size() == 2 ? std::optional(options) : std::nullopt;
+    const auto count = options.names.size();
+    return count == 2 || count == 3 ? std::optional(options) : std::nullopt;
 }
 
 void darken() {
@@ -108,7 +109,30 @@ bool picture_tools(MainWindow& main, const QDir& target) {
     return saved;
 }
 
-bool picture(Program& program, Prompts& prompts, const QDir& target, const std::string& recipe) {
+bool picture_document(MainWindow& main, const QDir& target, const std::string& path, const QString& name) {
+    main.open_file(path);
+    settle();
+    auto* const document = other_window(main);
+    if (document == nullptr) return complain(name + QStringLiteral(": the document did not open"));
+    document->resize(document->sizeHint()); // whole, however small the screen is
+    settle();
+    const bool saved = save_picture(*document, target, name);
+    document->close();
+    settle();
+    return saved;
+}
+
+bool picture_handbook(MainWindow& main, const QDir& target) {
+    main.commands().start(command::tutorials);
+    settle();
+    auto* const handbook = other_window(main);
+    const bool saved = save_picture(*handbook, target, QStringLiteral("handbook.png"));
+    handbook->close();
+    settle();
+    return saved;
+}
+
+bool picture(Program& program, Prompts& prompts, const QDir& target, std::span<const std::string> documents) {
     FileDialogs files;
     SystemClipboard clipboard;
     PreviewDesk pages(files, prompts, places(program), program.folders, program.data_folder);
@@ -117,13 +141,12 @@ bool picture(Program& program, Prompts& prompts, const QDir& target, const std::
     MainWindow main({program, prompts, files, pages, clipboard, easel, pictures});
     main.show();
     settle();
-    const bool saved =
-        save_picture(main, target, QStringLiteral("main-window.png")) && picture_tools(main, target);
-    main.open_file(recipe);
-    settle();
-    auto* const document = other_window(main);
-    if (document == nullptr) return complain(QStringLiteral("the recipe did not open"));
-    return save_picture(*document, target, QStringLiteral("recipe-window.png")) && saved;
+    bool saved = save_picture(main, target, QStringLiteral("main-window.png"));
+    saved = picture_tools(main, target) && saved;
+    saved = picture_handbook(main, target) && saved;
+    saved = picture_document(main, target, documents[0], QStringLiteral("recipe-window.png")) && saved;
+    if (documents.size() == 1) return saved;
+    return picture_document(main, target, documents[1], QStringLiteral("session-window.png")) && saved;
 }
 
 int run(const Options& options) {
@@ -137,7 +160,7 @@ int run(const Options& options) {
     if (options.scheme) program.art_scheme = *options.scheme;
     const QDir target(QFile::decodeName(options.names[0].c_str()));
     target.mkpath(QStringLiteral("."));
-    return picture(program, prompts, target, options.names[1]) ? 0 : 1;
+    return picture(program, prompts, target, std::span(options.names).subspan(1)) ? 0 : 1;
 }
 
 } // namespace
@@ -151,6 +174,6 @@ int main(int count, char** arguments) {
     const std::span<char* const> all(arguments, static_cast<std::size_t>(count));
     const auto options = wortlex::parse(all.subspan(1));
     if (options) return wortlex::run(*options);
-    std::fputs("Usage: picture-windows [--scheme N] [--dark] TARGET_DIR RECIPE\n", stderr);
+    std::fputs("Usage: picture-windows [--scheme N] [--dark] TARGET_DIR RECIPE [SESSION]\n", stderr);
     return 2;
 }

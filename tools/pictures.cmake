@@ -3,3 +3,14 @@ add_executable(picture-windows picture_windows.cpp)
 target_link_libraries(picture-windows PRIVATE windows_main)
 add_executable(has-display has_display.cpp)
 target_link_libraries(has-display PRIVATE wortlex_options Qt6::Gui)
+
+# Pictures of the handbook, made anew after a change of these windows. They are kept: the program holds them itself.
+set(pictures ${PROJECT_BINARY_DIR}/pictures)
+set(of_handbook ${pictures}/main-window.png ${pictures}/recipe-window.png ${pictures}/session-window.png)
+add_custom_target(handbook-pictures
+    COMMAND picture-windows ${pictures} "Recipes/Front Porch Pale Ale.rec"
+            "Sessions/Front Porch Pale Ale, Second Brewing.brw"
+    COMMAND ${CMAKE_COMMAND} -E copy ${of_handbook} ${PROJECT_SOURCE_DIR}/data/help/pictures
+    WORKING_DIRECTORY ${brewery}
+    VERBATIM)
+add_dependencies(handbook-pictures brewery)

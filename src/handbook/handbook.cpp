@@ -49,9 +49,14 @@ std::string excerpt_of(const Block& block) {
     return text + " ...";
 }
 
-std::string without_colon(std::string_view caption) {
+std::string plain_caption(std::string_view caption) {
     if (!caption.empty() && caption.back() == ':') caption.remove_suffix(1);
     return in_small_letters(std::string(caption));
+}
+
+// "Volume (GAL)" is "Volume (L)" elsewhere.
+std::string without_unit(std::string_view caption) {
+    return plain_caption(trimmed(caption.substr(0, caption.find('('))));
 }
 
 } // namespace
@@ -123,10 +128,11 @@ std::vector<Found> Handbook::search(std::string_view text) {
 }
 
 std::string Handbook::words_on(std::string_view page, std::string_view caption) const {
-    const auto wanted = without_colon(caption);
-    for (const auto& block : blocks_of(source_(page)))
-        if (const auto lead = lead_of(block); !lead.empty() && without_colon(lead) == wanted)
-            return plain_text(block.source);
+    const auto blocks = blocks_of(source_(page));
+    for (auto* const as_compared : {plain_caption, without_unit})
+        for (const auto& block : blocks)
+            if (const auto lead = lead_of(block); !lead.empty() && as_compared(lead) == as_compared(caption))
+                return plain_text(block.source);
     return {};
 }
 

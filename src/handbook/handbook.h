@@ -43,7 +43,8 @@ public:
     /// Pages that hold every word, or its beginning or part, in any capitals, the best first.
     std::vector<Found> search(std::string_view words);
 
-    /// What a page says of the field with this caption: the words of the list item that begins with it.
+    /// What a page says of the field with this caption: the words of the list item that begins with it,
+    /// or with the same in another unit.
     std::string words_on(std::string_view page, std::string_view caption) const;
 
 private:
