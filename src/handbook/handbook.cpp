@@ -37,7 +37,7 @@ int count_in(std::string_view text, const std::vector<std::string>& words) {
 int worth_of(const Block& block) {
     constexpr int of_title = 100, of_heading = 20, of_field = 5;
     if (block.kind == BlockKind::heading) return block.level == 1 ? of_title : of_heading;
-    return lead_of(block).empty() ? 1 : of_field;
+    return leads_of(block).empty() ? 1 : of_field;
 }
 
 // Cut at a blank, and never within a letter of more than one byte.
@@ -131,8 +131,8 @@ std::string Handbook::words_on(std::string_view page, std::string_view caption) 
     const auto blocks = blocks_of(source_(page));
     for (auto* const as_compared : {plain_caption, without_unit})
         for (const auto& block : blocks)
-            if (const auto lead = lead_of(block); !lead.empty() && as_compared(lead) == as_compared(caption))
-                return plain_text(block.source);
+            for (const auto& lead : leads_of(block))
+                if (as_compared(lead) == as_compared(caption)) return plain_text(block.source);
     return {};
 }
 

@@ -101,10 +101,17 @@ std::string plain_text(std::string_view source) {
     return plain;
 }
 
-std::string lead_of(const Block& block) {
-    const std::string_view source = block.source;
-    if (block.kind != BlockKind::item || source.substr(0, 2) != "**") return {};
-    return plain_text(source.substr(2, source.find("**", 2) - 2));
+std::vector<std::string> leads_of(const Block& block) {
+    std::vector<std::string> leads;
+    if (block.kind != BlockKind::item) return leads;
+    for (std::string_view rest = block.source; rest.substr(0, 2) == "**";) {
+        const auto end = std::min(rest.find("**", 2), rest.size());
+        leads.push_back(plain_text(rest.substr(2, end - 2)));
+        rest.remove_prefix(std::min(end + 2, rest.size()));
+        for (const std::string_view link : {", ", " and "})
+            if (rest.substr(0, link.size()) == link) rest.remove_prefix(link.size());
+    }
+    return leads;
 }
 
 std::string_view first_link(std::string_view source) {

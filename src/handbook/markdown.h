@@ -24,8 +24,8 @@ std::vector<Block> blocks_of(std::string_view markdown);
 /// Without marks of emphasis and code; of a link or picture its words.
 std::string plain_text(std::string_view source);
 
-/// The bold words that an item begins with, plain; empty where it begins with none.
-std::string lead_of(const Block& block);
+/// The bold words that an item begins with, plain: of "**A**, **B** and **C** are" these three.
+std::vector<std::string> leads_of(const Block& block);
 
 /// Where the first link of a text leads; empty where it has none.
 std::string_view first_link(std::string_view source);

@@ -18,7 +18,7 @@ std::string small_page(std::string_view name) {
     static const std::map<std::string, std::string, std::less<>> pages = {
         {"contents", "# All\n\n- First\n  - [Strike water](strike.md)\n  - [Hops & such](hops.md)\n"},
         {"strike", "# Strike water\n\nHow hot\nit must be.\n\n- **Grain `Temp`:** (1 to 221 F):\n"
-                   "  of the *dry* grain.\n- **Total (GAL)**: [hops](hops.md) too.\n"},
+                   "  of the *dry* grain.\n- **Rest**, **Total (GAL)**: [hops](hops.md) too.\n"},
         {"hops", "# Hops & such\n\n| form | word |\n|---|---:|\n| a | [b](x.md) |\n\n"
                  "```example hbu\n1.5 ounces\n```\n\n![The list](a.png)\n\n12. grain bags\n"}};
     const auto page = pages.find(name);
@@ -30,7 +30,7 @@ TEST(Handbook, TellsOfAFieldInTheWordsOfItsPage) {
     EXPECT_EQ(handbook.topics().size(), 3U);
     EXPECT_EQ(handbook.topic("hops")->title, "Hops & such");
     EXPECT_EQ(handbook.words_on("strike", "Grain Temp"), "Grain Temp: (1 to 221 F): of the dry grain.");
-    EXPECT_EQ(handbook.words_on("strike", "TOTAL (hL):"), "Total (GAL): hops too.");
+    EXPECT_EQ(handbook.words_on("strike", "TOTAL (hL):"), "Rest, Total (GAL): hops too.");
     EXPECT_EQ(handbook.words_on("strike", "Tot"), "");
     EXPECT_EQ(handbook.words_on("missing", "Total"), "");
     for (const auto* const outside : {"https://x.org/hops.md", "../hops.md", "hops.html", ".md"})

@@ -1,0 +1,130 @@
+#include "desktop/qt_text.h"
+#include "support/started_brewery.h"
+#include "windows/help/handbook_window.h"
+#include "windows/help/help.h"
+
+#include <QPushButton>
+#include <QTest>
+#include <QTextBlock>
+#include <QWhatsThis>
+
+namespace wortlex {
+namespace {
+
+HandbookWindow* open_handbook() {
+    for (auto* const window : QApplication::topLevelWidgets())
+        if (auto* const handbook = dynamic_cast<HandbookWindow*>(window);
+            handbook != nullptr && handbook->isVisible())
+            return handbook;
+    return nullptr;
+}
+
+// Keys of a window are heard while it is in use.
+HandbookWindow* use_handbook() {
+    auto* const handbook = open_handbook();
+    if (handbook == nullptr) throw std::logic_error("the handbook is not open");
+    handbook->activateWindow();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(handbook));
+    return handbook;
+}
+
+QString title_of(const HandbookWindow& window) {
+    return window.findChild<QTextBrowser*>()->document()->firstBlock().text();
+}
+
+struct Helped : Brewery {
+    MainWindow main{ports()};
+
+    Helped() { main.show(); }
+    QWidget& tool(int command) {
+        main.commands().start(command);
+        for (auto* const window : QApplication::topLevelWidgets())
+            if (window->isVisible() &&
+                window->objectName() == string_of(tool_of(command).window.template_name))
+                return *window;
+        throw std::logic_error("the tool did not open");
+    }
+};
+
+TEST(Help, EveryWindowHasAPage) {
+    const auto handbook = shipped_handbook();
+    const auto check = [&](const WindowInfo& window) {
+        EXPECT_NE(handbook.topic(window.help_page), nullptr) << window.template_name << window.help_page;
+    };
+    for (const auto& window : all_windows()) check(window);
+    for (const auto& tool : tools()) {
+        if (has_window(tool)) check(tool.window);
+        if (!tool.help_page.empty() && tool.help_page != contents_page) {
+            EXPECT_NE(handbook.topic(tool.help_page), nullptr) << tool.help_page;
+        }
+    }
+}
+
+TEST(Help, OpensThePageOfItsWindowInOneHandbook) {
+    Helped program;
+    auto& hydrometer = program.tool(command::hydrometer);
+    auto* const button = hydrometer.findChild<QPushButton*>("help");
+    ASSERT_TRUE(button->isEnabled());
+    button->click();
+    auto* const handbook = open_handbook();
+    ASSERT_NE(handbook, nullptr);
+    EXPECT_EQ(title_of(*handbook), "Hydrometer");
+    QTest::keyClick(hydrometer.focusWidget(), Qt::Key_F1);
+    QTest::keyClick(&program.main, Qt::Key_F1);
+    EXPECT_EQ(open_handbook(), handbook);
+    EXPECT_EQ(title_of(*handbook), "The main window");
+    program.main.commands().start(command::help_contents);
+    EXPECT_EQ(title_of(*handbook), "Wortlex handbook");
+    use_handbook();
+    QTest::keyClick(handbook, Qt::Key_Left, Qt::AltModifier);
+    QTest::keyClick(handbook, Qt::Key_Left, Qt::AltModifier);
+    EXPECT_EQ(title_of(*handbook), "Hydrometer");
+    hydrometer.close();
+    use_handbook();
+    EXPECT_FALSE(any_open(program.program.tools)) << "the settings may be changed beside the handbook";
+    QTest::keyClick(handbook, Qt::Key_Escape);
+    EXPECT_FALSE(handbook->isVisible());
+}
+
+TEST(Help, FindsAndMarksWordsAndLeavesTheHandbookByNoLink) {
+    Helped program;
+    program.main.commands().start(command::help_contents);
+    auto* const handbook = use_handbook();
+    auto* const find = handbook->findChild<QLineEdit*>("find");
+    QTest::keyClick(handbook, Qt::Key_F, Qt::ControlModifier);
+    QTest::keyClicks(find, "tinseth");
+    auto* const found = handbook->findChild<QListWidget*>("found");
+    ASSERT_TRUE(found->isVisible());
+    EXPECT_TRUE(found->item(0)->text().startsWith("Bitterness"));
+    QTest::keyClick(find, Qt::Key_Down);
+    auto* const page = handbook->findChild<QTextBrowser*>();
+    EXPECT_EQ(title_of(*handbook), "Bitterness");
+    EXPECT_GT(page->extraSelections().size(), 2);
+    for (const auto* const link : {"https://example.org/hops.md", "file:///etc/hops.md", "nowhere.txt"}) {
+        page->setSource(QUrl(QString::fromLatin1(link)));
+        EXPECT_EQ(title_of(*handbook), "Bitterness") << link;
+    }
+    find->setFocus();
+    QTest::keyClick(find, Qt::Key_Escape);
+    EXPECT_TRUE(find->text().isEmpty());
+    EXPECT_TRUE(handbook->findChild<QTreeWidget*>("contents")->isVisible());
+    EXPECT_TRUE(handbook->isVisible()) << "Esc clears the line first";
+    handbook->findChild<QPushButton*>("print")->click();
+    EXPECT_EQ(program.pages.jobs.size(), 1U);
+}
+
+TEST(Help, TellsOfTheFieldInUse) {
+    Helped program;
+    auto& carbonation = program.tool(command::carbonation);
+    QTest::keyClick(carbonation.findChild<QWidget*>("level"), Qt::Key_F1, Qt::ShiftModifier);
+    const auto windows = QApplication::topLevelWidgets();
+    EXPECT_TRUE(std::any_of(windows.begin(), windows.end(), [](const QWidget* window) {
+        return window->isVisible() && QString(window->metaObject()->className()) == "QWhatsThat";
+    }));
+    QWhatsThis::hideText();
+    EXPECT_EQ(open_handbook(), nullptr);
+    carbonation.close();
+}
+
+} // namespace
+} // namespace wortlex
