@@ -44,7 +44,7 @@ std::vector<OfferedRecipe> recent_recipes(const Program& program) {
 }
 
 std::optional<OfferedRecipe> sample_recipe(const Program& program) {
-    auto recipe = offered(folder_path(program.folders, FolderKind::recipes).append(sample_file), program);
+    auto recipe = offered(folder_path(program.folders, FolderKind::recipes).append(welcome_file), program);
     return recipe.can_be_opened ? std::optional(std::move(recipe)) : std::nullopt;
 }
 

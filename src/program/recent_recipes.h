@@ -25,6 +25,6 @@ std::vector<OfferedRecipe> recent_recipes(const Program& program);
 
 /// A recipe of a new brewery to look at, where it is still there.
 std::optional<OfferedRecipe> sample_recipe(const Program& program);
-inline constexpr std::string_view sample_file = "Front Porch Pale Ale.rec";
+inline constexpr std::string_view welcome_file = "Front Porch Pale Ale.rec";
 
 } // namespace wortlex

@@ -4,7 +4,7 @@
 #include "forms/rows.h"
 #include "program/shelf/shelf_query.h"
 
-#include <array>
+#include <utility>
 
 namespace wortlex {
 
