@@ -24,19 +24,14 @@ Scrolled::Scrolled(QWidget& part, QWidget* parent) : QScrollArea(parent) {
     setFocusPolicy(Qt::NoFocus);
     setWidgetResizable(true);
     setWidget(&part);
-    connect(qApp, &QApplication::focusChanged, this,
-            [this](const QWidget*, QWidget* now) { keep_in_sight(now); });
-}
-
-void Scrolled::keep_in_sight(QWidget* focus) {
-    if (focus != nullptr && widget() != nullptr && widget()->isAncestorOf(focus))
-        ensureWidgetVisible(focus, 0, focus->height());
-}
-
-// A window begins with a field before it has its size and its scroll bars.
-void Scrolled::resizeEvent(QResizeEvent* event) {
-    QScrollArea::resizeEvent(event);
-    keep_in_sight(window()->focusWidget());
+    connect(qApp, &QApplication::focusChanged, this, [this](const QWidget*, QWidget* now) {
+        if (now == nullptr || widget() == nullptr || !widget()->isAncestorOf(now)) return;
+        // All of it: the toolkit would show its caret alone.
+        const auto centre = now->mapTo(widget(), now->rect().center());
+        const auto margins =
+            (now->size() / 2).grownBy({1, now->height(), 0, 0}).boundedTo(viewport()->size() / 2);
+        ensureVisible(centre.x(), centre.y(), margins.width(), margins.height());
+    });
 }
 
 QSize Scrolled::minimumSizeHint() const {

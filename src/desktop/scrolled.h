@@ -19,13 +19,6 @@ public:
     int heightForWidth(int width) const override { return widget()->heightForWidth(width); }
     /// The window hears that the part has become larger or smaller.
     bool eventFilter(QObject* watched, QEvent* event) override;
-
-protected:
-    void resizeEvent(QResizeEvent* event) override;
-
-private:
-    /// What has the focus, if it is in here.
-    void keep_in_sight(QWidget* focus);
 };
 
 } // namespace wortlex
