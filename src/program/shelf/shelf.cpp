@@ -97,8 +97,8 @@ void Shelf::select_again(std::size_t entry) {
 }
 
 std::vector<ListColumn> Shelf::heads() const {
-    return {{.caption = "Name", .width = 30, .stretches = true},
-            {.caption = "Style", .width = 18},
+    return {{.caption = "Name", .width = 25},
+            {.caption = "Style", .width = 22, .stretches = true},
             {.caption = "OG", .is_number = true, .width = 6},
             {.caption = "IBU", .is_number = true, .width = 5},
             {.caption = colour_unit(settings_).usual, .is_number = true, .width = 5},

@@ -14,8 +14,8 @@ namespace wortlex {
 namespace {
 
 // In pixels, as the picture is.
-constexpr QRect strip_place(86, 4, 465, 72);
-constexpr int heading_pixels = 11, link_pixels = 12, heading_height = 16, link_height = 18;
+constexpr QRect strip_place(86, 3, 465, 70);
+constexpr int heading_pixels = 11, link_pixels = 12, heading_height = 15, link_height = 18;
 constexpr int link_width = 232;
 constexpr double gone = 0.45; // of a recipe that cannot be opened
 
