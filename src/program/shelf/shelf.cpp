@@ -46,8 +46,9 @@ std::string date_of(std::int64_t seconds, DateFormat format) {
 bool Shelf::comes_before(std::size_t left, std::size_t right) const {
     const auto &a = entries_[left], &b = entries_[right];
     if (a.can_be_opened != b.can_be_opened) return a.can_be_opened;
-    if (const auto order = compared(a, b, column_); order != 0) return is_descending_ ? order > 0 : order < 0;
-    if (const auto order = a.name_words <=> b.name_words; order != 0) return order < 0;
+    if (const auto order = compared(a, b, column_); std::is_neq(order))
+        return std::is_lt(order) != is_descending_;
+    if (a.name_words != b.name_words) return a.name_words < b.name_words;
     return a.path < b.path;
 }
 
