@@ -19,8 +19,8 @@ Pixels PictureEasel::drawn(Extent size, const std::function<void(Surface&)>& dra
     Pixels pixels{size.width, size.height, {}};
     pixels.rgb.reserve(static_cast<std::size_t>(size.width) * static_cast<std::size_t>(size.height) * 3);
     for (int row = 0; row < size.height; ++row) {
-        const std::span line(reinterpret_cast<const QRgb*>(image.constScanLine(row)),
-                             static_cast<std::size_t>(size.width));
+        const void* const bytes = image.constScanLine(row); // four a dot
+        const std::span line(static_cast<const QRgb*>(bytes), static_cast<std::size_t>(size.width));
         for (const auto dot : line)
             for (const int part : {qRed(dot), qGreen(dot), qBlue(dot)})
                 pixels.rgb.push_back(static_cast<std::uint8_t>(part));
