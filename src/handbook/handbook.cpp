@@ -95,11 +95,11 @@ void Handbook::read_pages() {
 std::optional<Handbook::Hit> Handbook::hit_of(const Searched& page, const std::vector<std::string>& words) {
     Hit hit;
     int best_worth = 0;
-    std::size_t met = 0;
-    for (const auto& word : words)
-        met += std::any_of(page.texts.begin(), page.texts.end(),
+    const bool has_all = std::all_of(words.begin(), words.end(), [&](const std::string& word) {
+        return std::any_of(page.texts.begin(), page.texts.end(),
                            [&](const std::string& text) { return text.find(word) != std::string::npos; });
-    if (met < words.size()) return std::nullopt;
+    });
+    if (!has_all) return std::nullopt;
     for (std::size_t i = 0; i < page.blocks.size(); ++i) {
         const auto& block = page.blocks[i];
         const int found = count_in(page.texts[i], words);
@@ -119,10 +119,11 @@ std::vector<Found> Handbook::search(std::string_view text) {
     std::vector<std::pair<int, Found>> ranked;
     for (const auto& page : pages_)
         if (const auto hit = hit_of(page, words))
-            ranked.push_back({hit->worth, {page.topic, hit->best ? excerpt_of(*hit->best) : ""}});
+            ranked.push_back({hit->worth, {page.topic, hit->best == nullptr ? "" : excerpt_of(*hit->best)}});
     std::stable_sort(ranked.begin(), ranked.end(),
                      [](const auto& one, const auto& other) { return one.first > other.first; });
     std::vector<Found> found;
+    found.reserve(ranked.size());
     for (auto& [worth, page] : ranked) found.push_back(std::move(page));
     return found;
 }

@@ -41,7 +41,7 @@ public:
     /// Reads all pages for a search, once; the first search does so itself, which then takes longer.
     void read_pages();
     /// Pages that hold every word, or its beginning or part, in any capitals, the best first.
-    std::vector<Found> search(std::string_view words);
+    std::vector<Found> search(std::string_view text);
 
     /// What a page says of the field with this caption: the words of the list item that begins with it,
     /// or with the same in another unit.
