@@ -7,6 +7,7 @@
 
 #include <QHBoxLayout>
 #include <QKeyEvent>
+#include <QScrollBar>
 #include <QShortcut>
 #include <QSplitter>
 #include <QTextBlock>
@@ -72,7 +73,8 @@ QVariant PageReader::loadResource(int type, const QUrl& name) {
     if (type != QTextDocument::ImageResource) return resource;
     QImage picture;
     if (!picture.loadFromData(resource.toByteArray())) return resource;
-    const int room = viewport()->width() - static_cast<int>(2 * document()->documentMargin());
+    const int margins = 2 * fontMetrics().height();
+    const int room = width() - margins - 2 * frameWidth() - verticalScrollBar()->sizeHint().width();
     return picture.width() <= room ? picture : picture.scaledToWidth(room, Qt::SmoothTransformation);
 }
 
