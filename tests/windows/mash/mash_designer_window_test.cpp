@@ -96,9 +96,9 @@ TEST(MashDesignerWindow, TakesPublishedSchedulesByKeyboardAlone) {
         auto* const window = open_window<MashDesignerWindow>();
         ASSERT_NE(window, nullptr);
         Kitchen::activate(window);
-        for (const auto& [key, text] : {std::pair("grain", published.grain),
-                                        std::pair("ratio", published.ratio),
-                                        std::pair("mash_name", published.name)}) {
+        for (const auto& [key, text] :
+             {std::pair("grain", published.grain), std::pair("ratio", published.ratio),
+              std::pair("mash_name", published.name)}) {
             Kitchen::tab_to(key);
             Kitchen::type(text);
         }
