@@ -4,6 +4,7 @@
 #include "measures/gravity.h"
 #include "measures/precision.h"
 #include "measures/rounding.h"
+#include "measures/unit_words.h"
 #include "measures/units.h"
 
 #include <algorithm>

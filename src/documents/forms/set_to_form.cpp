@@ -4,6 +4,7 @@
 #include "documents/forms/gravity_rows.h"
 #include "documents/forms/hop_amount.h"
 #include "documents/forms/result_strip.h"
+#include "measures/unit_words.h"
 #include "measures/units.h"
 
 namespace wortlex {
