@@ -1,4 +1,4 @@
-// What a search in the handbook takes for each key, as a brewer types.
+// What a search in the handbook takes for each key, as a brewer types. To be run in the project's folder.
 #include "handbook/handbook.h"
 
 #include "base/files.h"
@@ -9,7 +9,7 @@ namespace wortlex {
 namespace {
 
 std::string read_page(std::string_view page) {
-    const auto file = read_file(HANDBOOK_FOLDER + std::string(page) + ".md");
+    const auto file = read_file("data/help/" + std::string(page) + ".md");
     if (!file) return {};
     std::string text;
     for (const auto byte : *file) text += static_cast<char>(byte);
