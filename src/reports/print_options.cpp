@@ -9,7 +9,7 @@
 namespace wortlex {
 namespace {
 
-constexpr const char* no_mash = "There is no grain to mash";
+constexpr const char* nothing_to_mash = "There is no grain to mash";
 
 struct SectionSwitch {
     const char* key = nullptr;
@@ -22,7 +22,7 @@ struct SectionSwitch {
 };
 
 constexpr SectionSwitch mash_switch{"mash", "&Mash Schedule",           PrintSection::mash_schedule,
-                                    true,   &PrintedDocument::has_mash, no_mash};
+                                    true,   &PrintedDocument::has_mash, nothing_to_mash};
 
 constexpr std::array recipe_switches = {
     SectionSwitch{"style", "&Style Guidelines", PrintSection::recipe_style_guidelines},
@@ -92,11 +92,11 @@ bool wants_water_chart(PrintSelection selection, const PrintedDocument& document
 }
 
 std::string lack_of_mash(const PrintSelection&, const PrintedDocument& document) {
-    return document.has_mash ? "" : no_mash;
+    return document.has_mash ? "" : nothing_to_mash;
 }
 
 std::string lack_of_mash_chart(const PrintSelection& selection, const PrintedDocument& document) {
-    if (!document.has_mash) return no_mash;
+    if (!document.has_mash) return nothing_to_mash;
     return wants_mash_chart(selection, document) ? "" : "It belongs to the mash graph";
 }
 

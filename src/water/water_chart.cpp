@@ -19,7 +19,7 @@ constexpr int name_below = 12, most_above = 25;
 constexpr int legend_below = 42, legend_pitch = 13, swatch_side = 12, swatch_to_text = 16;
 constexpr Point title_at{125, 5};
 constexpr int additions_below_legend = 50, list_below_legend = 62, list_pitch = 10;
-constexpr int letter_height = 14, letter_weight = 300;
+constexpr int word_height = 14, word_weight = 300;
 constexpr Extent printed_size{water_chart_size.width, 410};
 
 // The water of a bar, in the order of the bars.
@@ -93,7 +93,7 @@ void draw_chart(Surface& surface, const WaterAnalysis& analysis, Extent area) {
     const auto chart = water_chart(analysis);
     clear(surface, area, chart_white);
     surface.set_text_colour(chart_black);
-    set_chart_font(surface, letter_height, false, letter_weight);
+    set_chart_font(surface, word_height, false, word_weight);
     for (const auto& group : chart.groups) draw_group(surface, group);
     for (const auto& entry : chart.legend) {
         fill(surface, entry.swatch, entry.colour);
@@ -105,7 +105,7 @@ void draw_chart(Surface& surface, const WaterAnalysis& analysis, Extent area) {
 // Rows as close as these take letters that are as low.
 void draw_additions(Surface& surface, const WaterAnalysis& analysis) {
     constexpr int legend_top = baseline + legend_below;
-    set_chart_font(surface, list_pitch, false, letter_weight);
+    set_chart_font(surface, list_pitch, false, word_weight);
     surface.text({groups_left, legend_top + additions_below_legend}, "Additions (per gallon):");
     int y = legend_top + list_below_legend;
     for (std::size_t i = 0; i < salt_words.size(); ++i) {
