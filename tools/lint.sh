@@ -15,9 +15,9 @@ flags_of() { # the compile command of a source, without its output
 # A header that no source includes before all others goes by itself too.
 first=$(git ls-files 'src/*.cpp' | xargs grep -h -m 1 '^#include' | sed -n 's/.*"\(.*\)"/src\/\1/p')
 alone=$(git ls-files 'src/*.h' | grep -vxF "$first")
-stand() { # the files told, with the flags of this one and those behind it
+stand() { # the files told, with the flags of this one
     # shellcheck disable=SC2046
-    xargs -P "$(nproc)" -n 1 $(flags_of dev "$1") -w -fsyntax-only "${@:2}" -x c++ ||
+    xargs -P "$(nproc)" -n 1 $(flags_of dev "$1") -w -fsyntax-only -x c++ ||
         { echo "A file does not stand by itself."; exit 1; }
 }
 with_toolkit='^(src/desktop|src/windows|bench)/'
@@ -27,12 +27,7 @@ all() { # with what is built on demand alone, so that it still stands on the day
 }
 cmake --build --preset dev --target src/CMakeFiles/desktop.dir/cmake_pch.hxx.gch > /dev/null &
 toolkit=$!
-# What most files read of the standard library is read once, as the toolkit is.
-standard=build/dev/standard.h
-all | grep -vE "$with_toolkit" | xargs grep -h '^#include <[a-z_]*>' | sort | uniq -c | awk '$1 > 5 {print $2, $3}' > "$standard"
-# shellcheck disable=SC2046
-$(flags_of dev src/base/files.cpp) -w -x c++-header "$standard" -o "$standard.gch"
-all | grep -vE "$with_toolkit" | stand src/base/files.cpp -include "$standard"
+all | grep -vE "$with_toolkit" | stand src/base/files.cpp
 wait $toolkit
 all | grep -E "$with_toolkit" | stand src/desktop/captions.cpp
 echo "Every file stands by itself."

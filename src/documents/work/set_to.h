@@ -27,7 +27,7 @@ struct SetToPlan {
     SetToTarget target = SetToTarget::og;
     BrewDocument document; ///< as it would be, as the figures; neither counts where there is a fault
     RecipeFigures figures;
-    std::string fault = ""; ///< why it cannot be reached, in words; empty: it can
+    std::string fault = {}; ///< why it cannot be reached, in words; empty: it can
 };
 
 /// Looks for the amounts by the recipe's own recalculation. They are as round as the figure, in the decimals

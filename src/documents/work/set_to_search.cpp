@@ -67,10 +67,8 @@ std::string reading(SetToTarget target, float value, const Settings& settings) {
 class Trial {
 public:
     Trial(const OpenDocument& open, const SetToWish& wish)
-        : open_(open), wish_(wish), now_(changing_weights(open.document, wish.target)) {
-        weigh(open_, wish_.target, now_); // a figure may be older than what it is made of
-        gravity_ = gravity_of(open_.document);
-    }
+        : open_(open), wish_(wish), now_(changing_weights(open.document, wish.target)),
+          gravity_(first_gravity()) {}
 
     // Why it cannot be; else it is.
     std::string reach() {
@@ -85,6 +83,12 @@ public:
     }
 
 private:
+    // A figure may be older than what it is made of.
+    float first_gravity() {
+        weigh(open_, wish_.target, now_);
+        return gravity_of(open_.document);
+    }
+
     float wanted() const { return value_of(wish_); }
     std::string read(float value) const { return reading(wish_.target, value, open_.settings); }
 
@@ -194,7 +198,7 @@ private:
     const OpenDocument& open_;
     const SetToWish& wish_;
     Weights now_;
-    float gravity_ = 1; // to be held
+    float gravity_; // to be held
 };
 
 } // namespace

@@ -30,7 +30,7 @@ protected:
 private:
     /// A sample, if there is one, and the way to a new recipe, which has no path.
     std::vector<OfferedRecipe> welcome();
-    void open(const std::string& path) { path.empty() ? calls_.new_recipe() : calls_.open(path); }
+    void open(const std::string& path) const { path.empty() ? calls_.new_recipe() : calls_.open(path); }
 
     const Program& program_;
     Calls calls_;
