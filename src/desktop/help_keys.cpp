@@ -57,7 +57,7 @@ bool HelpKeys::eventFilter(QObject* watched, QEvent* event) {
     return true;
 }
 
-void HelpKeys::tell_of_field(QWidget& field, const std::string& page) {
+void HelpKeys::tell_of_field(QWidget& field, const std::string& page) const {
     const auto* const named = named_field(&field);
     if (named == nullptr) return;
     // A field that shares its caption is told apart by what stands behind a comma.

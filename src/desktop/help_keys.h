@@ -27,7 +27,7 @@ public:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    void tell_of_field(QWidget& field, const std::string& page);
+    void tell_of_field(QWidget& field, const std::string& page) const;
 
     HelpDesk desk_;
 };
