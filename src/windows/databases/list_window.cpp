@@ -11,7 +11,6 @@
 #include <QDragEnterEvent>
 #include <QFile>
 #include <QFileInfo>
-#include <QKeyEvent>
 #include <QPushButton>
 #include <QScreen>
 #include <QShortcut>
@@ -138,63 +137,31 @@ void ListWindow::go_on(bool backwards) {
 }
 
 void ListWindow::make_find_line() {
-    find_line_.setObjectName(QStringLiteral("find"));
-    find_line_.setPlaceholderText(QStringLiteral("Find (Ctrl+F)"));
-    find_line_.setAccessibleName(QStringLiteral("Find"));
-    find_line_.setToolTip(
-        QStringLiteral("Parts of words in any column; Down and F3 go to the next one found"));
-    find_line_.setClearButtonEnabled(true);
-    find_line_.installEventFilter(this);
+    find_line_.describe(QStringLiteral("Find (Ctrl+F)"),
+                        QStringLiteral("Parts of words in any column; Down and F3 go to the next one found"));
+    find_line_.take_typing_in(dynamic_cast<ListView&>(widgets_->field("list")));
     connect(&find_line_, &QLineEdit::textChanged, this, [this](const QString& text) {
         query_ = make_query(text.toStdString(), ports_.other_names);
         seek();
         widgets_->refresh();
     });
-    dynamic_cast<ListView&>(widgets_->field("list")).typed = [this](const QString& text) {
-        find_line_.setFocus();
-        find_line_.setText(text);
-    };
-}
-
-bool ListWindow::eventFilter(QObject* watched, QEvent* event) {
-    if (watched == &find_line_ && event->type() == QEvent::KeyPress)
-        if (take_find_key(*dynamic_cast<QKeyEvent*>(event))) return true;
-    return QDialog::eventFilter(watched, event);
-}
-
-// Arrows go on in the list, to the next row that is found; Enter takes what is found, Esc first clears the
-// line.
-bool ListWindow::take_find_key(const QKeyEvent& event) {
-    auto& list = widgets_->field("list");
-    switch (event.key()) {
-    case Qt::Key_Up:
-    case Qt::Key_Down:
-        if (count_found(list_, query_) > 0) {
-            list.setFocus();
-            go_on(event.key() == Qt::Key_Up);
-            return true;
-        }
-        [[fallthrough]];
-    case Qt::Key_PageUp:
-    case Qt::Key_PageDown: {
-        list.setFocus();
-        QKeyEvent same(event.type(), event.key(), event.modifiers());
-        QApplication::sendEvent(&list, &same);
-        return true;
-    }
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
+    find_line_.stepped = [this](QKeyEvent& event) { step_in_list(event); };
+    // Takes what is found.
+    find_line_.entered = [this] {
         if (find_line_.text().isEmpty() ||
             (list_.selected >= 0 && match(list_, static_cast<std::size_t>(list_.selected), query_) > 0))
             act();
-        return true;
-    case Qt::Key_Escape:
-        if (find_line_.text().isEmpty()) return false;
-        find_line_.clear();
-        return true;
-    default:
-        return false;
-    }
+    };
+}
+
+// Arrows go on in the list, to the next row that is found.
+void ListWindow::step_in_list(const QKeyEvent& event) {
+    auto& list = widgets_->field("list");
+    list.setFocus();
+    const bool is_up = event.key() == Qt::Key_Up;
+    if ((is_up || event.key() == Qt::Key_Down) && count_found(list_, query_) > 0) return go_on(is_up);
+    QKeyEvent same(event.type(), event.key(), event.modifiers());
+    QApplication::sendEvent(&list, &same);
 }
 
 void ListWindow::edit_buttons(Rows& rows) {
@@ -255,10 +222,6 @@ void ListWindow::add_keys() {
     const auto on = [this](const QKeySequence& key, std::function<void()> action) {
         connect(new QShortcut(key, this), &QShortcut::activated, this, std::move(action));
     };
-    on(QKeySequence::Find, [this] {
-        find_line_.setFocus();
-        find_line_.selectAll();
-    });
     on(QKeySequence::FindNext, [this] { go_on(false); });
     on(QKeySequence::FindPrevious, [this] { go_on(true); });
     const auto tell = [this](std::string_view button, const QKeySequence& key) {

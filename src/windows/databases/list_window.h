@@ -3,11 +3,11 @@
 
 #include "databases/find.h"
 #include "databases/ingredient_list.h"
+#include "desktop/find_line.h"
 #include "desktop/form_widgets.h"
 #include "desktop/placement.h"
 
 #include <QDialog>
-#include <QLineEdit>
 #include <QMimeData>
 
 namespace wortlex {
@@ -39,8 +39,6 @@ protected:
     /// Transfer files dropped on the list are imported.
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dropEvent(QDropEvent* event) override;
-    /// Keys of the find line.
-    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void fill_form();
@@ -50,7 +48,7 @@ private:
     void edit_buttons(Rows& rows);
     void print_button(Rows& rows);
     void make_find_line();
-    bool take_find_key(const QKeyEvent& event);
+    void step_in_list(const QKeyEvent& event);
     std::string found_text() const;
     std::string empty_text() const;
     /// Selects what is found best; nothing where nothing is found.
@@ -77,7 +75,7 @@ private:
     std::size_t added_ = 0; ///< picked while it stayed open
     Form form_;
     FindQuery query_;
-    QLineEdit find_line_{this};
+    FindLine find_line_{this};
     Listening listening_; ///< before the rows, which show what was heard
     std::unique_ptr<FormWidgets> widgets_;
     WindowPlace& place_;

@@ -101,7 +101,7 @@ void PageReader::changeEvent(QEvent* event) {
 
 HandbookWindow::HandbookWindow(Handbook& handbook, const Places& places, PageDesk& pages, QWidget* origin)
     : ToolWindow(window_info("HANDBOOKWINDOW"), 0, Opener::main, origin, places), handbook_(handbook),
-      settings_(places.settings), pages_(pages), find_line_(new QLineEdit(this)),
+      settings_(places.settings), pages_(pages), find_line_(new FindLine(this)),
       found_count_(new QLabel(this)), side_(new QStackedWidget(this)), contents_(new QTreeWidget(side_)),
       found_(new QListWidget(side_)), reader_(new PageReader(this)) {
     make_contents();
@@ -162,13 +162,13 @@ void HandbookWindow::make_contents() {
 }
 
 void HandbookWindow::make_find_line() {
-    find_line_->setObjectName(QStringLiteral("find"));
-    find_line_->setAccessibleName(QStringLiteral("Find"));
-    find_line_->setPlaceholderText(QStringLiteral("Find in all pages (Ctrl+F)"));
-    find_line_->setToolTip(QStringLiteral("Words or their beginnings; Down goes to what is found"));
-    find_line_->setClearButtonEnabled(true);
-    find_line_->installEventFilter(this);
+    find_line_->describe(QStringLiteral("Find in all pages (Ctrl+F)"),
+                         QStringLiteral("Words or their beginnings; Down goes to what is found"));
     connect(find_line_, &QLineEdit::textChanged, this, [this](const QString& words) { search(words); });
+    find_line_->entered = [this] { go_into_found(); };
+    find_line_->stepped = [this](const QKeyEvent& event) {
+        if (event.key() == Qt::Key_Down) go_into_found();
+    };
 }
 
 QPushButton* HandbookWindow::button(const char* name, const QString& caption, const QKeySequence& key,
@@ -205,10 +205,6 @@ QLayout* HandbookWindow::bar() {
 void HandbookWindow::add_keys() {
     connect(new QShortcut(QKeySequence::Cancel, this), &QShortcut::activated, this, [this] {
         find_line_->hasFocus() && !find_line_->text().isEmpty() ? find_line_->clear() : void(close());
-    });
-    connect(new QShortcut(QKeySequence::Find, this), &QShortcut::activated, this, [this] {
-        find_line_->setFocus();
-        find_line_->selectAll();
     });
 }
 
@@ -268,20 +264,6 @@ void HandbookWindow::mark_words() {
     first.clearSelection();
     reader_->setTextCursor(first);
     reader_->ensureCursorVisible();
-}
-
-bool HandbookWindow::eventFilter(QObject* watched, QEvent* event) {
-    const bool is_key = watched == find_line_ && event->type() == QEvent::KeyPress;
-    if (!is_key) return ToolWindow::eventFilter(watched, event);
-    switch (dynamic_cast<QKeyEvent*>(event)->key()) {
-    case Qt::Key_Down:
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
-        go_into_found();
-        return true;
-    default:
-        return false;
-    }
 }
 
 void HandbookWindow::print() {

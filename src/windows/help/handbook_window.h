@@ -1,12 +1,12 @@
 // The handbook on the screen: its contents or what a search has found, and beside them a page.
 #pragma once
 
+#include "desktop/find_line.h"
 #include "desktop/tool_window.h"
 #include "handbook/handbook.h"
 #include "page/page.h"
 
 #include <QLabel>
-#include <QLineEdit>
 #include <QListWidget>
 #include <QStackedWidget>
 #include <QTextBrowser>
@@ -33,7 +33,6 @@ class HandbookWindow : public ToolWindow {
 public:
     HandbookWindow(Handbook& handbook, const Places& places, PageDesk& pages, QWidget* origin);
     void open(std::string_view page);
-    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void make_contents();
@@ -52,7 +51,7 @@ private:
     Handbook& handbook_;
     const SystemSettings& settings_;
     PageDesk& pages_;
-    QLineEdit* find_line_;
+    FindLine* find_line_;
     QLabel* found_count_;
     QStackedWidget* side_;
     QTreeWidget* contents_;

@@ -15,7 +15,6 @@
 #include <QFontDatabase>
 #include <QPushButton>
 #include <QScreen>
-#include <QShortcut>
 #include <QSplitter>
 #include <QVBoxLayout>
 
@@ -90,24 +89,21 @@ void ShelfWindow::list_row(Rows& rows) {
 }
 
 void ShelfWindow::make_find_line() {
-    find_line_.setObjectName(QStringLiteral("find"));
-    find_line_.setPlaceholderText(QStringLiteral("Find, as in: cascade og>1.055 pale"));
-    find_line_.setAccessibleName(QStringLiteral("Find"));
-    find_line_.setToolTip(
+    auto& list = dynamic_cast<ListView&>(widgets_->field("recipes"));
+    find_line_.describe(
+        QStringLiteral("Find, as in: cascade og>1.055 pale"),
         QStringLiteral("Parts of words of names, styles and ingredients; og, ibu, %1 and size with <, > or = "
                        "and a number (Ctrl+F)")
             .arg(string_of(shelf_.heads()[4].caption()).toLower()));
-    find_line_.setClearButtonEnabled(true);
-    find_line_.installEventFilter(this);
+    find_line_.take_typing_in(list);
     connect(&find_line_, &QLineEdit::textChanged, this, [this](const QString& text) {
         shelf_.find(text.toStdString());
         widgets_->refresh();
         show_selected();
     });
-    dynamic_cast<ListView&>(widgets_->field("recipes")).typed = [this](const QString& text) {
-        find_line_.setFocus();
-        find_line_.setText(text);
-    };
+    // Arrows go through the list while the line keeps the focus.
+    find_line_.stepped = [&list](QKeyEvent& event) { QApplication::sendEvent(&list, &event); };
+    find_line_.entered = [this] { accept(); };
 }
 
 void ShelfWindow::make_preview() {
@@ -160,10 +156,6 @@ void ShelfWindow::add_keys() {
     add_key(button("open"), Qt::Key_Return);
     add_key(button("cancel"), Qt::Key_Escape);
     press_in_window(*this, QKeySequence::Open, button("browse"));
-    connect(new QShortcut(QKeySequence::Find, this), &QShortcut::activated, this, [this] {
-        find_line_.setFocus();
-        find_line_.selectAll();
-    });
     find_line_.setFocus();
 }
 
@@ -173,34 +165,6 @@ void ShelfWindow::take_what_was_read() {
     if (is_read_) reader_.stop();
     widgets_->refresh();
     show_selected();
-}
-
-bool ShelfWindow::eventFilter(QObject* watched, QEvent* event) {
-    if (watched == &find_line_ && event->type() == QEvent::KeyPress)
-        if (take_find_key(*dynamic_cast<QKeyEvent*>(event))) return true;
-    return QDialog::eventFilter(watched, event);
-}
-
-// Arrows go through the list while the find line keeps the focus; Esc first clears the line.
-bool ShelfWindow::take_find_key(QKeyEvent& event) {
-    switch (event.key()) {
-    case Qt::Key_Up:
-    case Qt::Key_Down:
-    case Qt::Key_PageUp:
-    case Qt::Key_PageDown:
-        QApplication::sendEvent(&widgets_->field("recipes"), &event);
-        return true;
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
-        accept();
-        return true;
-    case Qt::Key_Escape:
-        if (find_line_.text().isEmpty()) return false;
-        find_line_.clear();
-        return true;
-    default:
-        return false;
-    }
 }
 
 std::string ShelfWindow::count_text() const {

@@ -1,6 +1,7 @@
 // The shelf of recipes: what File > Open shows before the dialog of files.
 #pragma once
 
+#include "desktop/find_line.h"
 #include "desktop/form_widgets.h"
 #include "desktop/placement.h"
 #include "program/shelf/shelf.h"
@@ -30,8 +31,6 @@ protected:
     /// A recipe dropped on it is picked.
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dropEvent(QDropEvent* event) override;
-    /// Keys of the find line.
-    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void fill_form();
@@ -41,7 +40,6 @@ private:
     void lay_out_parts();
     void add_keys();
     void take_what_was_read();
-    bool take_find_key(QKeyEvent& event);
     std::string count_text() const;
     std::string empty_text() const;
     bool can_open() const;
@@ -56,7 +54,7 @@ private:
     std::string path_;
     bool is_read_ = false;
     Form form_;
-    QLineEdit find_line_{this};
+    FindLine find_line_{this};
     QPlainTextEdit preview_{this};
     std::string previewed_; ///< the path of what it shows
     QTimer reader_;         ///< asks for what was read
