@@ -26,11 +26,10 @@ struct MeasuredTool {
     Make make;
     const char* field;
     const char* figure;
-    int first_digit = 4; ///< of the two typed
 };
 
 constexpr std::array tools = {
-    MeasuredTool{"hydrometer", make_hydrometer, "temperature_fahrenheit", "corrected_sg", 7},
+    MeasuredTool{"hydrometer", make_hydrometer, "current_plato", "corrected_sg"},
     MeasuredTool{"raw wort", make_raw_wort_gravity, "brix", "gravity_sg"},
     MeasuredTool{"fermentation", make_fermentation_gravity, "brix", "gravity_sg"},
     MeasuredTool{"refractometer alcohol", make_refractometer_alcohol, "brix", "by_volume"},
@@ -63,7 +62,7 @@ void keystroke(benchmark::State& state, Brewery& brewery, const MeasuredTool& to
         state, {&line_of(*window, tool.figure)},
         [&] {
             field.selectAll();
-            press_digit(field, tool.first_digit);
+            press_digit(field, 4);
         },
         [&] {
             digit = (digit + 1) % 10;

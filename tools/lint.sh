@@ -35,7 +35,7 @@ echo "Every file stands by itself."
 cmake --preset quick > /dev/null
 rm -rf build/lint
 mkdir -p build/lint
-floors=("base jpeg settings measures records brewing" "forms page charts databases mash water calculators"
+floors=("base jpeg settings measures records brewing" "forms page handbook charts databases mash water calculators"
     "documents reports" "program companion" "desktop windows")
 texts=$(find build/quick/tools -name 'unity_*.cxx')
 for floor in "${floors[@]}"; do

@@ -12,7 +12,7 @@ namespace {
 constexpr const char* recipe_title = "Wortlex Recipe - Mash Details Printout";
 constexpr const char* session_title = "Wortlex Brewing Session - Mash Details Printout";
 
-PrintRequest page_of(const char* title, std::vector<ReportSection> sections, const Settings& settings) {
+PrintRequest mash_page(const char* title, std::vector<ReportSection> sections, const Settings& settings) {
     DocumentReport report;
     report.page_title = title;
     report.sections = std::move(sections);
@@ -34,13 +34,13 @@ PrintRequest simple_mash_printout(const OpenDocument& open, const ColorTable& co
     const auto view = default_report_view(settings);
     const OpenDocument planned{document, figures, settings};
     const ReportSource source{planned, view, colours};
-    return page_of(recipe_title, {heading_section(source), {"", simple_schedule(source)}}, settings);
+    return mash_page(recipe_title, {heading_section(source), {"", simple_schedule(source)}}, settings);
 }
 
 PrintRequest complex_mash_printout(const OpenDocument& open, const ColorTable& colours) {
     const auto view = default_report_view(open.settings);
     const char* const title = open.session == nullptr ? recipe_title : session_title;
-    return page_of(title, {{"", complex_schedule({open, view, colours})}}, open.settings);
+    return mash_page(title, {{"", complex_schedule({open, view, colours})}}, open.settings);
 }
 
 } // namespace wortlex
