@@ -57,7 +57,8 @@ void rate_rows(Form& form, BoilOffCalculator& calculator, const Settings& settin
         return [&calculator, unit] { return narrow(rate_of(calculator).volume_per_hour * unit); };
     };
     lines.shown(std::string(words.american) + " Per Hour:", {"volume_per_hour", per_hour(1 / words.gallons)},
-                std::string(words.metric), {"litres_per_hour", per_hour(litres_per_gallon / words.litres)});
+                std::string(words.metric) + ":",
+                {"litres_per_hour", per_hour(litres_per_gallon / words.litres)});
 }
 
 } // namespace

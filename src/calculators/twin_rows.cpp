@@ -11,6 +11,11 @@ std::string with_unit(const std::string& label, const Settings& settings) {
     return label + " (" + std::string(volume_words(settings).american) + "):";
 }
 
+// The word of the second field: a line whose label ends with a colon has one there, too.
+std::string second_word(std::string_view word, std::string_view label) {
+    return std::string(word) + (label.ends_with(':') ? ":" : "");
+}
+
 std::function<float(float)> scaled(double by) {
     return [by](float value) { return narrow(value * by); };
 }
@@ -68,7 +73,7 @@ Binding<float> TwinLines::bound(Pair& pair, float Pair::*part, Pair (*both)(floa
 TwinLines::Gravity TwinLines::gravity(const std::string& key, const std::string& label, TwinGravity& pair) {
     auto& line = table_.line(label);
     auto& sg = line.sg(key + "_sg", bound(pair, &TwinGravity::sg, of_sg), settings_).step(0.001F);
-    line.note(key + "_word", "Plato");
+    line.note(key + "_word", second_word("Plato", label));
     auto& plato =
         line.plato(key + "_plato", bound(pair, &TwinGravity::plato, of_plato), settings_).step(0.1F);
     return {sg, plato, line};
@@ -101,7 +106,7 @@ TwinLines::Volume TwinLines::named_volume(const std::string& key, const std::str
     };
     auto& gallons = as_amount(line.number(key + "_gallons", bound(pair, &TwinGallons::gallons, of_gallons)),
                               words.gallons);
-    line.note(key + "_word", std::string(words.metric));
+    line.note(key + "_word", second_word(words.metric, label));
     auto& litres = as_amount(
         line.number(key + "_litres", bound(pair, &TwinGallons::litres, gallons_of_litres)), words.litres);
     return {gallons, litres};
@@ -149,16 +154,17 @@ void TwinLines::shown_degrees(const std::string& key, const std::string& label,
 
 void TwinLines::shown_gravity(const std::string& key, const std::string& label,
                               const std::function<TwinGravity()>& pair) {
-    shown(label, {key + "_sg", [pair] { return cut(pair().sg, 5); }, sg_pattern(0, settings_)}, "Plato",
+    shown(label, {key + "_sg", [pair] { return cut(pair().sg, 5); }, sg_pattern(0, settings_)},
+          second_word("Plato", label),
           {key + "_plato", [pair] { return cut(pair().plato, 3); }, plato_pattern(0, settings_)});
 }
 
 void TwinLines::shown_volume(const std::string& key, const std::string& label,
                              const std::function<TwinGallons()>& pair) {
     const auto words = volume_words(settings_);
-    shown(with_unit(label, settings_),
-          {key + "_gallons", [pair, words] { return narrow(pair().gallons / words.gallons); }},
-          std::string(words.metric),
+    const auto in_unit = with_unit(label, settings_);
+    shown(in_unit, {key + "_gallons", [pair, words] { return narrow(pair().gallons / words.gallons); }},
+          second_word(words.metric, in_unit),
           {key + "_litres", [pair, words] { return narrow(pair().litres / words.litres); }});
 }
 
