@@ -17,11 +17,11 @@ bool is_decoction(const MashDesigner& designer) {
 using SetWhole = void (*)(MashDesigner& designer, std::int32_t value);
 
 IntegerRow& temperature_row(Rows& rows, const char* key, MashDesigner& designer,
-                            std::int32_t MashStep::*field, SetWhole set) {
+                            const std::function<std::int32_t(const MashStep&)>& degrees, SetWhole set) {
     const Binding<std::int32_t> value{
-        [&designer, field] {
+        [&designer, degrees] {
             const auto* const step = selected_step(designer);
-            return step == nullptr ? 0 : shown_degrees(step->*field, designer.settings.temperature_units);
+            return step == nullptr ? 0 : shown_degrees(degrees(*step), designer.settings.temperature_units);
         },
         [&designer, set](std::int32_t shown) { set(designer, typed_degrees(designer, shown)); }};
     return rows.temperature(key, value, [&designer] { return designer.settings.temperature_units; })
@@ -40,9 +40,14 @@ IntegerRow& minutes_row(Rows& rows, const char* key, MashDesigner& designer, std
     });
 }
 
+// Direct heat infuses nothing, whatever the step holds for another kind of heat.
+std::int32_t infuse_degrees(const MashStep& step) {
+    return step.heat_type == StepHeat::direct ? 0 : step.infuse_temperature;
+}
+
 // What is worked out, or not used, cannot be typed.
 void infuse_row(Rows& rows, MashDesigner& designer) {
-    temperature_row(rows, "infuse_temp", designer, &MashStep::infuse_temperature, set_infuse_temperature)
+    temperature_row(rows, "infuse_temp", designer, infuse_degrees, set_infuse_temperature)
         .label([&designer] { return is_decoction(designer) ? "D&ecoc Temp" : "Infus&e Temp"; })
         .enabled([&designer] {
             return has_step(designer) && designer.selection > 0 && !is_heated_by(designer, StepHeat::direct);

@@ -79,6 +79,9 @@ TEST(MashDesigner, WorksOutAStepInfusion) {
     brewer.type("grain", "8");
     brewer.type("ratio", "1");
     brewer.add("Acid Rest", StepHeat::direct, {{"start_temp", "104"}, {"rest_time", "20"}});
+    brewer.add("Held", StepHeat::direct);
+    EXPECT_EQ(brewer.greyed("infuse_temp"), "0") << "nothing is infused";
+    brewer.press("delete_step");
     brewer.add("Beta Rest", StepHeat::infuse, {{"start_temp", "140"}, {"rest_time", "40"}});
     brewer.add("Alpha Rest", StepHeat::infuse, {{"start_temp", "158"}, {"rest_time", "40"}});
     EXPECT_EQ(brewer.line(0), "Acid Rest|5|20|104|104|Infuse|110|8.00|1.00") << "0.2 x 34 + 104, cut";
