@@ -70,7 +70,7 @@ void mash_water_rows(Rows& rows, SystemSettings& image) {
         .format("%6.2f")
         .unit(by_volume(image, "Gallons Per LBS", "Liters Per kg"));
     scaled_row(rows, "grain_water_volume", image.grain_water_volume, litres_per_quart, image)
-        .label("&1 Qt Water + 1 LBS Grain:")
+        .label(by_volume(image, "&1 Qt Water + 1 LBS Grain:", "&0.95 L Water + 0.45 kg Grain:"))
         .typed(1.0F, 5.0F)
         .spun([&image] { return has_metric_volumes(image) ? 0.75F : 1.0F; }, 5.0F, 0.0025F)
         .format("%6.4f")

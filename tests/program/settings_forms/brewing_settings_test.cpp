@@ -113,6 +113,7 @@ TEST(MashSettings, RangesAreOfWhatIsShown) {
     EXPECT_NEAR(image.grain_absorption, 0.2, 1e-7);
     image.grain_water_volume = 0.7925F; // 0.7505 litres
     EXPECT_EQ(dialog.spin_down("grain_water_volume"), "0.7500");
+    EXPECT_EQ(dialog.row<EntryRow>("grain_water_volume").label_text(), "&0.95 L Water + 0.45 kg Grain:");
 }
 
 TEST(EfficiencySettings, YieldIsFlaggedAndNamed) {
