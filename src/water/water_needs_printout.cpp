@@ -82,11 +82,10 @@ private:
     }
 
     std::string absorption() const {
-        constexpr double kilograms_per_pound = grams_per_pound / 1000.0;
         if (is_american(units_))
             return formatted("Grain absorption rate is: %0.2f (Gallons Per LBS)", settings_.grain_absorption);
         return formatted("Grain absorption rate is: %0.2f (L Per kg)",
-                         settings_.grain_absorption * litres_per_gallon / kilograms_per_pound);
+                         settings_.grain_absorption * absorption_per_kilogram);
     }
 
     const WaterNeeds& needs_;

@@ -180,7 +180,7 @@ TEST(WaterNeedsPrintout, IsTheWorksheet) {
     needs.choose("units", 1);
     EXPECT_THAT(printed_lines(water_needs_printout(needs.tool, needs.settings)),
                 testing::IsSupersetOf({"Total Grain kg:\t4.54\tL Per kg:\t2.50\tTotal From Mash:\t  3.79",
-                                       "Grain absorption rate is: 1.67 (L Per kg)"}));
+                                       "Grain absorption rate is: 1.68 (L Per kg)"}));
 }
 
 TEST(WaterNeeds, OfASessionTakeMashAndBoilFromItsDocument) {
