@@ -3,6 +3,7 @@
 #include "measures/units.h"
 #include "reports/row_parts.h"
 #include "reports/sections.h"
+#include "water/water_needs_calculator.h"
 
 namespace wortlex {
 namespace {
@@ -122,7 +123,12 @@ private:
 } // namespace
 
 ReportSection water_needed_section(const ReportSource& source) {
-    return section_of("Water Needed For Brewing Session", ReportLines{{250}, Worksheet(source).rows()});
+    const auto& settings = source.open.settings;
+    auto section = section_of("Water Needed For Brewing Session", ReportLines{{}, Worksheet(source).rows()});
+    section.print_body = [balance = Balance(source), &settings](PageContext& page) {
+        print_water_needs(page, balance.needs, balance.water, settings.volume_units, settings);
+    };
+    return section;
 }
 
 } // namespace wortlex

@@ -2,6 +2,7 @@
 
 #include "report_forms.h"
 #include "reports/file_names.h"
+#include "reports/session_pages.h"
 #include "support/recording_desk.h"
 
 #include <gmock/gmock.h>
@@ -36,6 +37,13 @@ TEST(SessionReport, AnExtractBrewHasNoMashAndNoEfficiency) {
     EXPECT_THAT(text, HasSubstr("Sparge Amount:    0.00\n"));
     EXPECT_THAT(text, HasSubstr("Amount into Kettle:    6.00\n"));
     EXPECT_THAT(text, HasSubstr("Adjust Sparge Water - 0.00 Gallons (0.00 Quarts) with:\n"));
+    const auto opened = session.recalculated();
+    const auto page_of_water = session_page(SessionPrint::water_needed, session.source(opened));
+    EXPECT_THAT(
+        printed_lines({"", 1, [&](PageContext& page) { write_print(page_of_water, page); }}),
+        testing::IsSupersetOf({"Water Needed For Brewing Session Printout",
+                               "Sparge Amount:\t0.00\tSparge Deadspace:\t0.00\tTotal Into Mash:\t  0.00",
+                               "\t\tAmount into Kettle:\t\t\t6.00"}));
 }
 
 TEST(SessionReport, WithAllSwitchesOffLeavesWhatEveryReportHas) {
