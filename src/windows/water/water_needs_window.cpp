@@ -1,5 +1,6 @@
 #include "windows/water/water_needs_window.h"
 
+#include "desktop/captions.h"
 #include "desktop/qt_text.h"
 #include "desktop/scrolled.h"
 #include "program/program.h"
@@ -109,6 +110,11 @@ void WaterNeedsWindow::lay_out_rows() {
     layout->addWidget(new Scrolled(arrange_water_needs(widgets_), this), 1);
     auto* const buttons = button_line(widgets_, {"save_default", "print", "help"}, {});
     buttons->addWidget(closing_ok(tr("OK")));
+    auto* const cancel = new QPushButton(tr("Cancel"), this); // nothing to put back: the file is read anew
+    cancel->setObjectName(QStringLiteral("cancel"));
+    set_tip(*cancel, tr("Closes; the usual figures are back at the next opening"));
+    connect(cancel, &QPushButton::clicked, this, &QWidget::close);
+    buttons->addWidget(cancel);
     layout->addLayout(buttons);
 }
 
