@@ -70,8 +70,9 @@ ReportSection fermentation_section(const ReportSource& source) {
     rows.push_back({"Lag Time:             |%0.2f hours\n\n", {log.lag_hours}});
     add_fermenter(rows, {"Primary", log.primary_vessel, log.primary_open != 0, log.primary_days,
                          log.primary_temperature, is_celsius(log.primary_temperature_unit)});
-    add_fermenter(rows, {"Secondary", log.secondary_vessel, log.secondary_open != 0, log.secondary_days,
-                         log.secondary_temperature, is_celsius(log.secondary_temperature_unit)});
+    if (log.secondary_days > 0)
+        add_fermenter(rows, {"Secondary", log.secondary_vessel, log.secondary_open != 0, log.secondary_days,
+                             log.secondary_temperature, is_celsius(log.secondary_temperature_unit)});
     rows.push_back(gravity_line({.label = "Original Gravity:  |", .width = 6, .gap = " SG   |"},
                                 session.actual_og, source.open.settings));
     rows.push_back(gravity_line({.label = "Finishing Gravity: |", .width = 6, .gap = " SG   |"},

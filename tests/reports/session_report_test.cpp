@@ -24,6 +24,7 @@ TEST(SessionReport, ReadsAsItDid) {
     ReportedSession brewery(image);
     brewery.document.mash_flags = 1;
     brewery.session.bottling.used = {0, 0, 1};
+    brewery.session.fermentation.secondary_days = 14;
     expect_golden("session_metric_brewery.txt", plain_lines(brewery.text()));
 }
 
