@@ -9,7 +9,7 @@ constexpr std::size_t most_line_bytes = 252;
 } // namespace
 
 void competition_form(Form& form, CompetitionInfo& info, std::function<void()> help) {
-    auto& rows = form.rows();
+    auto& rows = form.group("Additional Information For Competition Form Printouts");
     rows.text("address", info.address)
         .label("&Address:")
         .lines()
@@ -23,7 +23,7 @@ void competition_form(Form& form, CompetitionInfo& info, std::function<void()> h
     line("evening_phone", "&Evening Phone:", info.evening_phone);
     line("email", "E&mail Address:", info.email_address);
     line("club", "&Brew Club:", info.brew_club);
-    rows.button("help", "&Help", std::move(help));
+    form.group().button("help", "&Help", std::move(help));
     form.restore_on_cancel(info);
 }
 
