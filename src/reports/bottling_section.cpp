@@ -1,3 +1,4 @@
+#include "measures/unit_words.h"
 #include "measures/units.h"
 #include "reports/row_parts.h"
 #include "reports/sections.h"
@@ -21,12 +22,6 @@ std::string_view medium_word(PrimingMedium medium) {
     default:
         return "Other Type";
     }
-}
-
-// The unit of small amounts, which follow that of volumes.
-const char* small_unit(Settings settings) {
-    settings.hop_weight_units = settings.volume_units;
-    return hop_unit(settings).usual;
 }
 
 const char* pressure_word(const Settings& settings) {
@@ -53,7 +48,7 @@ void add_priming(std::vector<ReportRow>& rows, const BottlingLog& log, std::size
     const bool is_apart = source.is_competition_form && vessel == kegs && medium == PrimingMedium::dme;
     rows.push_back({std::string("Priming Medium Used:       ") + (is_apart ? " |%s\n" : "|%s\n"),
                     {medium_word(medium)}});
-    rows.push_back({std::string("Amount of Priming Used:    |%0.2f ") + small_unit(settings) + "\n",
+    rows.push_back({std::string("Amount of Priming Used:    |%0.2f ") + small_unit(settings).usual + "\n",
                     {small_to_shown(log.priming_amount.at(vessel), settings)}});
     rows.push_back({std::string("Amount of Liquid Added:    |%0.2f ") + volume_unit(settings).usual + "\n",
                     {to_shown_volume(log.liquid_added.at(vessel), settings)}});

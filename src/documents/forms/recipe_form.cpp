@@ -283,8 +283,6 @@ void hop_rows(Rows& rows, const RecipeSubject& subject) {
     hop_buttons(rows, subject);
 }
 
-// A schedule of steps has a window of its own, which is not there yet. The mark that a save leaves in the
-// flag byte makes no steps.
 void page_rows(Rows& rows, const RecipeSubject& subject) {
     const auto& document = subject.editor.open.document;
     const auto& actions = subject.actions;
