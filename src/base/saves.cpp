@@ -2,8 +2,10 @@
 #include "base/staged_save.h"
 
 #include <cerrno>
+#include <dirent.h>
 #include <fcntl.h>
 #include <filesystem>
+#include <memory>
 #include <sys/file.h>
 #include <sys/stat.h>
 
@@ -60,9 +62,14 @@ bool take_mode_and_owner(int descriptor, const OldFile& old) {
     return ::fchmod(descriptor, old.status.st_mode & 07777) == 0;
 }
 
+// Folders are read by the system itself: a save goes through the whole of its own, whatever its size.
+struct CloseFolder {
+    void operator()(DIR* directory) const { ::closedir(directory); }
+};
+
 constexpr std::string_view temporary_name = ".wortlex-XXXXXX";
 
-bool is_temporary(const std::string& name) {
+bool is_temporary(std::string_view name) {
     return name.size() == temporary_name.size() &&
            name.starts_with(temporary_name.substr(0, temporary_name.find('X')));
 }
@@ -133,11 +140,13 @@ bool save_or_tell(const std::string& path, ByteView content, Prompts& prompts) {
 }
 
 void remove_broken_saves(const std::string& folder) {
-    std::error_code error;
-    auto entry = std::filesystem::directory_iterator(folder, error);
-    for (; !error && entry != std::filesystem::directory_iterator(); entry.increment(error)) {
-        const auto path = entry->path().string();
-        if (is_temporary(entry->path().filename().string()) && is_abandoned(path)) ::unlink(path.c_str());
+    const std::unique_ptr<DIR, CloseFolder> directory(::opendir(folder.c_str()));
+    if (directory == nullptr) return;
+    while (const auto* const entry = ::readdir(directory.get())) {
+        const std::string_view name = std::data(entry->d_name);
+        if (!is_temporary(name)) continue;
+        const auto path = (std::filesystem::path(folder) / name).string();
+        if (is_abandoned(path)) ::unlink(path.c_str());
     }
 }
 

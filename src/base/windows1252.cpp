@@ -1,5 +1,7 @@
 #include "base/windows1252.h"
 
+#include "base/take_while.h"
+
 #include <algorithm>
 #include <array>
 #include <cstdint>
@@ -15,6 +17,10 @@ constexpr std::array<char16_t, 32> upper_controls = {
 
 char16_t character_of(std::uint8_t byte) {
     return byte >= 0x80 && byte < 0xA0 ? upper_controls[byte - 0x80] : byte;
+}
+
+bool is_ascii(char byte) {
+    return static_cast<std::uint8_t>(byte) < 0x80;
 }
 
 std::optional<char> byte_of(char32_t character) {
@@ -62,7 +68,12 @@ std::optional<char32_t> take_utf8(std::string_view& text) {
 std::string utf8_from_windows1252(std::string_view text) {
     std::string out;
     out.reserve(text.size());
-    for (const char byte : text) append_utf8(out, character_of(static_cast<std::uint8_t>(byte)));
+    while (!text.empty()) {
+        out += take_while(text, is_ascii);
+        if (text.empty()) break;
+        append_utf8(out, character_of(static_cast<std::uint8_t>(text.front())));
+        text.remove_prefix(1);
+    }
     return out;
 }
 

@@ -1,6 +1,7 @@
 #include "page/html_writer.h"
 
 #include "base/files.h"
+#include "base/take_while.h"
 
 #include <algorithm>
 #include <span>
@@ -8,7 +9,7 @@
 namespace wortlex {
 namespace {
 
-constexpr std::string_view indent = "  ";
+constexpr std::size_t indent_width = 2;
 constexpr int largest_font = 7;
 constexpr std::string_view hex_digits = "0123456789abcdef";
 constexpr std::string_view faces = "verdana,helvetica,arial";
@@ -90,22 +91,31 @@ std::string escaped(std::string_view text, Breaks breaks = Breaks::kept) {
             text.remove_prefix(escape->character.size());
             continue;
         }
-        const auto run = std::find_if(text.begin() + 1, text.end(), may_be_escaped) - text.begin();
-        markup += text.substr(0, static_cast<std::size_t>(run));
-        text.remove_prefix(static_cast<std::size_t>(run));
+        markup += text.front();
+        text.remove_prefix(1);
+        markup += take_while(text, [](char byte) { return !may_be_escaped(byte); });
     }
     return markup;
+}
+
+bool is_in_word(char byte) {
+    return byte != ' ' && byte != '\t' && byte != '\r' && byte != '\n';
 }
 
 // A browser draws one blank for several, and none at the start of a line.
 std::string with_kept_blanks(std::string_view text) {
     std::string kept;
     bool is_kept = true;
-    for (const char byte : text) {
-        for (const char c : byte == '\t' ? tab_blanks : std::string_view(&byte, 1)) {
+    while (!text.empty()) {
+        const auto word = take_while(text, is_in_word);
+        kept += word;
+        is_kept = is_kept && word.empty();
+        const auto blank = text.substr(0, 1);
+        for (const char c : blank == "\t" ? tab_blanks : blank) {
             kept += c == ' ' && is_kept ? html_blank : std::string_view(&c, 1);
-            is_kept = c == '\r' || c == '\n' || (c == ' ' && !is_kept);
+            is_kept = c != ' ' || !is_kept;
         }
+        text.remove_prefix(blank.size());
     }
     return kept;
 }
@@ -134,7 +144,7 @@ const HtmlWriter::AreaMarkup& HtmlWriter::markup_of(HtmlArea area) const {
 }
 
 void HtmlWriter::line_of(std::initializer_list<std::string_view> parts) {
-    for (int step = 0; step < depth_; ++step) page_ += indent;
+    page_.append(static_cast<std::size_t>(depth_) * indent_width, ' ');
     for (const auto part : parts) page_ += part;
     page_ += '\n';
 }

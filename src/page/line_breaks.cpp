@@ -27,26 +27,19 @@ std::string plain_text(std::string_view text) {
 } // namespace
 
 std::string_view start_that_fits(std::string_view text, const LineRoom& room) {
-    const auto fits = [&](std::size_t count) {
-        return room.measure.text_extent(first_characters(text, count)).width <= room.dots;
-    };
-    // Most texts fit whole, and of a long paragraph no more is measured than about a line.
-    constexpr std::size_t about_a_line = 64;
+    // Most texts fit whole, and of a long paragraph no more is measured than about a line: how wide it is
+    // tells about where the room ends.
     std::size_t fitting = 0, most = std::min(character_count(text), room.characters);
-    for (auto reach = std::min(about_a_line, most); fitting < reach; reach = std::min(2 * reach, most)) {
-        if (!fits(reach)) {
-            most = reach - 1;
-            break;
-        }
-        fitting = reach;
-    }
-    while (fitting < most) {
-        const auto middle = (fitting + most + 1) / 2;
-        if (fits(middle)) {
-            fitting = middle;
+    for (std::size_t count = std::min<std::size_t>(64, most); fitting < most;) {
+        const int width = room.measure.text_extent(first_characters(text, count)).width;
+        if (width <= room.dots) {
+            fitting = count;
         } else {
-            most = middle - 1;
+            most = count - 1;
         }
+        const double wanted = static_cast<double>(count) * std::max(room.dots, 0) / std::max(width, 1);
+        count = wanted < static_cast<double>(most) ? std::max(static_cast<std::size_t>(wanted), fitting + 1)
+                                                   : most;
     }
     return first_characters(text, fitting);
 }

@@ -211,10 +211,12 @@ std::vector<std::string> PageContext::wrapped(std::string_view text, int from) c
     return wortlex::wrapped(text, room(room_from(from)));
 }
 
-std::vector<std::string> PageContext::paragraph_lines(std::string_view text) const {
+const std::vector<std::string>& PageContext::paragraph_lines(std::string_view text) {
+    if (broken_.text == text && broken_.font == font_) return broken_.lines;
     auto line = room(room_from(0));
     line.characters = paragraph_columns;
-    return wortlex::paragraph_lines(text, line);
+    broken_ = {std::string(text), font_, wortlex::paragraph_lines(text, line)};
+    return broken_.lines;
 }
 
 // Words behind a figure, such as its unit, stand outside its column.
@@ -247,7 +249,7 @@ void PageContext::NewLines(int count) {
 
 void PageContext::Paragraph(std::string_view text, int lines_below) {
     const auto font = font_of(font_);
-    const auto lines = paragraph_lines(text);
+    const auto& lines = paragraph_lines(text);
     for (const auto& line : lines) {
         if (lines_below > 0 && &line == &lines.back()) KeepTogether(1 + lines_below);
         begin_line(std::max(paragraph_pitch_, font.cell_height));
@@ -266,9 +268,10 @@ bool PageContext::KeepTogether(int lines) {
 }
 
 void PageContext::KeepParagraph(std::string_view text) {
+    if (y_ == 0) return;
     const int lines = static_cast<int>(paragraph_lines(text).size());
     const int height = lines * (line_pitch_ + 2) + line_pitch_;
-    if (y_ > 0 && !fits(height + lines_with_paragraph * line_pitch_)) EndPage();
+    if (!fits(height + lines_with_paragraph * line_pitch_)) EndPage();
 }
 
 void PageContext::Rule() {

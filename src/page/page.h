@@ -124,7 +124,7 @@ private:
     LineRoom room(int dots) const;
     int figure_width(std::string_view cell) const;
     std::string fitted(std::string_view text, int from, int to) const;
-    std::vector<std::string> paragraph_lines(std::string_view text) const;
+    const std::vector<std::string>& paragraph_lines(std::string_view text);
     int pitch() const;
     bool fits(int dots) const;
     void begin_line(int height);
@@ -136,6 +136,14 @@ private:
     void advance(int dots);
     void draw_rule(int right);
 
+    /// The paragraph broken last: what is kept together is written next.
+    struct Broken {
+        std::string text;
+        PageFont font = PageFont::body;
+        std::vector<std::string> lines;
+    };
+
+    Broken broken_;
     PageJob job_;
     Surface* measure_ = nullptr;
     std::array<FontSpec, 5> fonts_;

@@ -1,8 +1,10 @@
 #include "page/text_sink.h"
 
 #include "base/files.h"
+#include "base/take_while.h"
 #include "page/characters.h"
 
+#include <algorithm>
 #include <span>
 
 namespace wortlex {
@@ -17,14 +19,12 @@ void TextSink::end_line() {
 }
 
 void TextSink::put(std::string_view piece) {
-    for (std::size_t i = 0; i < piece.size(); ++i) {
-        if (piece[i] == '\r') continue;
-        if (piece[i] == '\n') {
-            end_line();
-            continue;
-        }
-        text_ += piece[i];
-        if (piece.substr(i, 2) == "%%") ++i;
+    const auto is_plain = [](char byte) { return byte != '\r' && byte != '\n' && byte != '%'; };
+    while (!piece.empty()) {
+        text_ += take_while(piece, is_plain);
+        if (piece.starts_with('\n')) end_line();
+        if (piece.starts_with('%')) text_ += '%';
+        piece.remove_prefix(std::min<std::size_t>(piece.starts_with("%%") ? 2 : 1, piece.size()));
     }
 }
 
@@ -37,17 +37,14 @@ void TextSink::heading(std::string_view text) {
 }
 
 void TextSink::long_text(std::string_view text) {
-    std::size_t column = 0;
-    for (const char byte : text) {
-        if (byte == '\r') continue;
-        const bool is_full = begins_character(byte) && column == longest_line;
-        if (byte == '\n' || is_full) {
-            end_line();
-            column = 0;
-        }
-        if (byte == '\n') continue;
-        text_ += byte;
-        if (begins_character(byte)) ++column;
+    std::string plain(text);
+    std::erase(plain, '\r');
+    for (std::string_view rest = plain; !rest.empty();) {
+        const auto line = first_characters(rest.substr(0, rest.find('\n')), longest_line);
+        text_ += line;
+        rest.remove_prefix(line.size());
+        if (!rest.empty()) end_line();
+        if (rest.starts_with('\n')) rest.remove_prefix(1);
     }
 }
 

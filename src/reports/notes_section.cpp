@@ -1,3 +1,4 @@
+#include "base/take_while.h"
 #include "base/windows1252.h"
 #include "reports/sections.h"
 
@@ -7,11 +8,12 @@
 namespace wortlex {
 
 ReportText::ReportText(std::string_view typed) {
-    for (std::size_t i = 0; i < typed.size(); ++i) {
-        const bool is_return = typed[i] == '\r';
-        if (is_return || typed[i] == '\n') text_ += "\r\n";
-        if (!is_return && typed[i] != '\n') text_ += typed[i];
-        if (is_return && typed.substr(i + 1, 1) == "\n") ++i;
+    const auto in_line = [](char byte) { return byte != '\r' && byte != '\n'; };
+    while (!typed.empty()) {
+        text_ += take_while(typed, in_line);
+        if (typed.empty()) break;
+        text_ += "\r\n";
+        typed.remove_prefix(typed.starts_with("\r\n") ? 2 : 1);
     }
 }
 
