@@ -15,9 +15,11 @@ flags_of() { # the compile command of a source, without its output
 # A header that no source includes before all others goes by itself too.
 first=$(git ls-files 'src/*.cpp' | xargs grep -h -m 1 '^#include' | sed -n 's/.*"\(.*\)"/src\/\1/p')
 alone=$(git ls-files 'src/*.h' | grep -vxF "$first")
-stand() { # the files told, with the flags of this one
+stand() { # the files told, with the flags of this one and what else follows
+    source=$1
+    shift
     # shellcheck disable=SC2046
-    xargs -P "$(nproc)" -n 1 $(flags_of dev "$1") -w -fsyntax-only -x c++ ||
+    xargs -P "$(nproc)" -n 1 $(flags_of dev "$source") -w -fsyntax-only "$@" -x c++ ||
         { echo "A file does not stand by itself."; exit 1; }
 }
 with_toolkit='^(src/desktop|src/windows|bench)/'
@@ -27,7 +29,13 @@ all() { # with what is built on demand alone, so that it still stands on the day
 }
 cmake --build --preset dev --target src/CMakeFiles/desktop.dir/cmake_pch.hxx.gch > /dev/null &
 toolkit=$!
-all | grep -vE "$with_toolkit" | stand src/base/files.cpp
+# The headers of the library that most files use are read once.
+standard=$PWD/build/dev/standard.h
+git ls-files 'src/*.h' 'src/*.cpp' | xargs grep -ho '^#include <[a-z_0-9]*>' | sort | uniq -c |
+    awk '$1 >= 15 { print $2, $3 }' > "$standard"
+# shellcheck disable=SC2046
+$(flags_of dev src/base/files.cpp) -w -x c++-header "$standard"
+all | grep -vE "$with_toolkit" | stand src/base/files.cpp -include "$standard"
 wait $toolkit
 all | grep -E "$with_toolkit" | stand src/desktop/captions.cpp
 echo "Every file stands by itself."
