@@ -21,11 +21,16 @@ std::string name_of(const ChartedMash& mash) {
     return mash.complex == nullptr ? "" : utf8_from_windows1252(mash.complex->mash_name.view());
 }
 
+Opener opener_of(const LiveDocument& document) {
+    return document.kind == DocumentKind::session ? Opener::session : Opener::recipe;
+}
+
 class MashChartWindow : public ToolWindow {
 public:
     MashChartWindow(const WindowPorts& ports, const WindowInfo& info, MashAsked mash, QWidget* origin)
-        : ToolWindow(info, 0, Opener::main, origin, places(ports.program)), ports_(ports),
-          mash_(std::move(mash)), form_(made_form()), widgets_(form_, places(ports.program), *this) {
+        : ToolWindow(info, 0, opener_of(ports.program.document), origin, places(ports.program)),
+          ports_(ports), mash_(std::move(mash)), form_(made_form()),
+          widgets_(form_, places(ports.program), *this) {
         setParent(origin, Qt::Dialog); // stays above it, where desktops stack by kind too
         auto* const layout = new QVBoxLayout(this);
         layout->setSizeConstraint(QLayout::SetFixedSize); // the chart has one size

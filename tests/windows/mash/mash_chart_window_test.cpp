@@ -46,6 +46,7 @@ TEST(MashChartWindow, FollowsTheScheduleBesideItAndClosesWithIt) {
     EXPECT_FALSE(chart->findChild<QCheckBox*>("infusion_spikes")->isEnabled());
     press(*chart, "print");
     EXPECT_EQ(brewery.pages.jobs.size(), 1U);
+    EXPECT_NE(brewery.program.tool_positions.slots[32], Rectangle()) << "its place is kept";
     window->close();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     EXPECT_TRUE(chart.isNull());
