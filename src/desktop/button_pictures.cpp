@@ -8,6 +8,9 @@
 #include <QPainter>
 #include <QSvgRenderer>
 
+#include <algorithm>
+#include <array>
+
 namespace wortlex {
 namespace {
 
@@ -15,11 +18,27 @@ QString source_of(std::string_view key) {
     return QStringLiteral(":/artwork/buttons/") + string_of(key) + QStringLiteral(".svg");
 }
 
-// Of the instrument that a button leads to; empty for other buttons.
-std::string_view instrument_of(std::string_view key) {
+struct KeyPicture {
+    std::string_view key;
+    std::string_view picture;
+};
+
+constexpr std::array subject_keys = {KeyPicture{"correct_gravity", "hydrometer"},
+                                     KeyPicture{"measure_runnings", "refractometer"},
+                                     KeyPicture{"mash", "mash"},
+                                     KeyPicture{"mash_schedule", "mash"},
+                                     KeyPicture{"graph", "mash"},
+                                     KeyPicture{"water_needed", "water"},
+                                     KeyPicture{"water_profile", "water"},
+                                     KeyPicture{"show_graph", "water"}};
+
+// Of the instrument, the mash or the water that a button leads to; empty for other buttons.
+std::string_view subject_of(std::string_view key) {
     for (const std::string_view instrument : {"refractometer", "hydrometer"})
         if (key.ends_with(instrument)) return instrument;
-    return {};
+    const auto* const found = std::find_if(subject_keys.begin(), subject_keys.end(),
+                                           [key](const KeyPicture& subject) { return subject.key == key; });
+    return found == subject_keys.end() ? std::string_view() : found->picture;
 }
 
 // Drawn anew for each size and screen.
@@ -52,10 +71,10 @@ void show_no_picture(QPushButton& button) {
 }
 
 // Beside the words, as high as they are.
-void show_instrument(QPushButton& button, std::string_view instrument, const SystemSettings& settings) {
+void show_subject(QPushButton& button, std::string_view subject, const SystemSettings& settings) {
     if (settings.use_tool_bitmaps == 0) return show_no_picture(button);
     if (!button.icon().isNull()) return;
-    const auto source = source_of(instrument);
+    const auto source = source_of(subject);
     const QSizeF drawn = QSvgRenderer(source).defaultSize();
     const int height = button.fontMetrics().height();
     button.setIcon(QIcon(new VectorPicture(source)));
@@ -70,9 +89,9 @@ bool has_picture(std::string_view key) {
 
 void show_caption(QPushButton& button, std::string_view key, const QString& caption,
                   const SystemSettings& settings) {
-    if (const auto instrument = instrument_of(key); !instrument.empty()) {
+    if (const auto subject = subject_of(key); !subject.empty()) {
         button.setText(caption);
-        return show_instrument(button, instrument, settings);
+        return show_subject(button, subject, settings);
     }
     const bool is_picture = settings.hide_print_help_bitmaps == 0 && has_picture(key);
     if (!is_picture) {

@@ -101,7 +101,7 @@ void system_settings_form(Form& form, SettingsSession& session, const SettingsBu
     auto& sections = form.group("Sections");
     sections.stack_buttons();
     sections.button("measures", "&Measurements, Sizes, Precision", buttons.measures);
-    sections.button("mash", "Mash System, E&vaporation", buttons.mash);
+    sections.button("mash_system", "Mash System, E&vaporation", buttons.mash);
     sections.button("efficiency", "Brewhouse &Efficiency", buttons.efficiency);
     sections.button("hops", "&Hop Calculations, Utilization and Storage", buttons.hops);
     sections.button("colour", "Beer and Malt &Color", buttons.colour);
