@@ -99,7 +99,6 @@ struct CatalogueFilter {
 struct CatalogueWords {
     std::string_view import_filter;
     std::string_view import_extension;
-    std::string_view export_file;
     std::array<std::string_view, 2> sort_files; ///< of maintenance and pick
     std::string_view data_file;
     std::string_view full; ///< at the import limit

@@ -16,7 +16,6 @@ constexpr std::size_t most_characters = 54; // of every text that the dialog tak
 constexpr CatalogueWords extra_words = {
     .import_filter = "Extra Import File (*.eim)|*.eim",
     .import_extension = "eim",
-    .export_file = "Extra.eim",
     .sort_files = {"esort1.srt", "esort2.srt"},
     .data_file = extra_file,
     .full = "The Extra Ingredient Database is Full!",

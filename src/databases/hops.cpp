@@ -35,7 +35,6 @@ std::vector<CatalogueColumn<HopRecord>> hop_columns(const Settings& settings) {
 constexpr CatalogueWords hop_words = {
     .import_filter = "Hop Import File (*.him)|*.him",
     .import_extension = "him",
-    .export_file = "Hop.him",
     .sort_files = {"hsort1.srt", "hsort2.srt"},
     .data_file = hop_file,
     .full = "The Hop Database is Full!",

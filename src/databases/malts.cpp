@@ -71,7 +71,6 @@ std::vector<CatalogueColumn<MaltRecord>> malt_columns(const Settings& settings) 
 constexpr CatalogueWords malt_words = {
     .import_filter = "Malt Import File (*.him)|*.mim",
     .import_extension = "mim",
-    .export_file = "Malt.mim",
     .sort_files = {"msort1.srt", "msort2.srt"},
     .data_file = malt_file,
     .full = "The Malt Database is Full!",

@@ -8,7 +8,6 @@ namespace {
 constexpr CatalogueWords aha_words = {
     .import_filter = "AHA Style Import File (*.asim)|*.asim",
     .import_extension = "asim",
-    .export_file = "Style.asim",
     .sort_files = {"ssort1.srt", "ssort2.srt"},
     .data_file = aha_style_file,
     .full = "The Style Database is Full!",
@@ -28,7 +27,6 @@ CatalogueWords words_of(StyleBook book) {
     if (book == StyleBook::aha) return words;
     words.import_filter = "BJCP Style Import File (*.bsim)|*.bsim";
     words.import_extension = "bsim";
-    words.export_file = "Style.bsim";
     words.data_file = bjcp_style_file;
     words.closing_question =
         "You have made changes to the Style Guidlines Database!\nExiting now will not save the changes "

@@ -18,7 +18,6 @@ constexpr std::size_t most_of_name = 24;
 constexpr CatalogueWords water_words = {
     .import_filter = "Water Import File (*.wim)|*.wim",
     .import_extension = "wim",
-    .export_file = "Water.wim",
     .sort_files = {"wsort1.srt", "wsort2.srt"},
     .data_file = water_file,
     .full = "The Water Database is Full!",

@@ -16,7 +16,6 @@ constexpr float most_fahrenheit = 212.0F;
 constexpr CatalogueWords yeast_words = {
     .import_filter = "Yeast Import File (*.yim)|*.yim",
     .import_extension = "yim",
-    .export_file = "Yeast.yim",
     .sort_files = {"ysort1.srt", "ysort2.srt"},
     .data_file = yeast_file,
     .full = "The Yeast Database is Full!",
