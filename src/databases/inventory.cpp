@@ -3,6 +3,7 @@
 #include "base/number.h"
 #include "databases/messages.h"
 
+#include <algorithm>
 #include <memory>
 
 namespace wortlex {
@@ -33,7 +34,9 @@ float moved(const Movement& movement, const InventorySubject& subject) {
 void inventory_form(Form& form, const InventorySubject& subject, Prompts& prompts) {
     const auto movement = std::make_shared<Movement>();
     auto& rows = form.group("Inventory");
-    rows.shown("name", [name = subject.name] { return name; }).label("Name").width(30);
+    rows.shown("name", [name = subject.name] { return name; })
+        .label("Name")
+        .width(std::clamp(static_cast<int>(subject.name.size()) + 2, 30, 60));
     rows.shown_number(
             "stock", [movement, subject] { return subject.to_shown(stock_before(*movement, subject)); },
             "%0.2f")

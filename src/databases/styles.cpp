@@ -77,7 +77,7 @@ Catalogue<StyleRecord> style_catalogue(const Settings& settings, const std::stri
     const bool bjcp = book == StyleBook::bjcp;
     Catalogue<StyleRecord> styles;
     styles.words = words_of(book);
-    styles.columns = {Style::words(style_book_name(book) + "\n#", 6, style_number),
+    styles.columns = {Style::words(style_book_name(book) + "\n#", 8, style_number),
                       Style::text("Category", 26, &StyleRecord::category),
                       Style::text("Sub-Category", 30, &StyleRecord::name).stretched(),
                       Style::words("Type", 10, style_type_word)};

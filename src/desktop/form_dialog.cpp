@@ -9,7 +9,7 @@
 namespace wortlex {
 namespace {
 
-constexpr int title_buttons = 80; // pixels that a title bar keeps for itself, roughly
+constexpr int title_buttons = 100; // pixels that a title bar keeps for itself, roughly
 
 } // namespace
 
@@ -19,7 +19,9 @@ FormDialog::FormDialog(Form& form, const DialogUse& use, const Places& places, Q
       buttons_(new QDialogButtonBox(QDialogButtonBox::Ok, this)), enter_closes_(use.enter_closes) {
     setWindowModality(Qt::WindowModal);
     auto* const layout = new QVBoxLayout(this);
-    layout->addStrut(fontMetrics().horizontalAdvance(windowTitle()) + title_buttons);
+    auto title_font = font();
+    title_font.setBold(true);
+    layout->addStrut(QFontMetrics(title_font).horizontalAdvance(windowTitle()) + title_buttons);
     layout->addWidget(new Scrolled(lay_out(form, widgets_, buttons_), this), 1);
     if (use.has_cancel) buttons_->addButton(QDialogButtonBox::Cancel);
     set_tips(*buttons_, enter_closes_);

@@ -77,7 +77,10 @@ private:
         for (const auto& cell : line.cells.rows()) {
             auto& field = widgets_.field(*cell);
             if (column == 1) make_buddies(*label, field);
-            if (auto* const words = qobject_cast<QLabel*>(&field)) words->setAlignment(Qt::AlignCenter);
+            if (auto* const words = qobject_cast<QLabel*>(&field)) {
+                words->setAlignment(Qt::AlignCenter);
+                words->setWordWrap(false);
+            }
             if (field.accessibleName().isEmpty()) {
                 const auto index = static_cast<std::size_t>(column) - 1;
                 field.setAccessibleName(distinct(cell_name(*label, grid, line, index), *cell));
