@@ -3,6 +3,7 @@
 #include "companion/full_report.h"
 #include "companion/report_format.h"
 #include "companion/terminal.h"
+#include "program/brewery_folder.h"
 
 #include <algorithm>
 #include <cstdio>
@@ -17,8 +18,8 @@ constexpr std::string_view usage =
     "Usage: wortlex-report [--json] FILE ...\n"
     "       wortlex-report --text | --html [--output FOLDER] FILE ...\n"
     "       wortlex-report --save-as FILE INPUT\n"
-    "Run in a brewery folder, with whose settings the figures of recipes (.rec) and brewing\n"
-    "sessions (.brw) are worked out.\n"
+    "Works out the figures of recipes (.rec) and brewing sessions (.brw) with the settings of the\n"
+    "brewery folder that it is run in; elsewhere, as far as it is installed, with those of your own.\n"
     "  --json           one JSON object a line instead of a page to read\n"
     "  --text           the report of the program's text export; it holds the sections that are\n"
     "                   chosen as default in the program\n"
@@ -177,7 +178,8 @@ int run(std::span<char* const> arguments) {
     ConsolePrompts prompts;
     prompts.subject = "WlxMSys.DAT";
     Program program;
-    if (!start_core(program, working_folder(), prompts)) return 1;
+    const auto folder = open_brewery(start_places(), prompts);
+    if (!folder || !start_core(program, *folder, prompts)) return 1;
     Reporter reporter{program, *options, prompts};
     if (is_whole_report(options->form)) reporter.full.emplace(program);
     bool all_well = true;

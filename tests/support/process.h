@@ -1,23 +1,14 @@
 // Programs run as a user runs them.
 #pragma once
 
+#include "support/file_content.h"
 #include "support/temporary_folder.h"
 
-#include <fstream>
 #include <iomanip>
 #include <sstream>
 #include <vector>
 
 namespace wortlex {
-
-inline std::string content_of(const std::string& path) {
-    std::ifstream file(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
-}
-
-inline void write_content(const std::string& path, const std::string& content) {
-    std::ofstream(path, std::ios::binary) << content;
-}
 
 inline std::vector<std::string> lines_of(const std::string& text) {
     std::vector<std::string> lines;

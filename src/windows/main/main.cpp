@@ -1,4 +1,4 @@
-// wortlex: run in a brewery folder, it opens the main window on it, and a document given by name.
+// wortlex: opens the main window on a brewery folder, and a document given by name.
 #include "base/folder_guard.h"
 #include "desktop/end_of_session.h"
 #include "desktop/message_boxes.h"
@@ -7,6 +7,7 @@
 #include "desktop/second_start.h"
 #include "desktop/system_ports.h"
 #include "jpeg/jpeg_pictures.h"
+#include "program/brewery_folder.h"
 #include "program/start.h"
 #include "settings/new_brewery.h"
 #include "windows/main/main_window.h"
@@ -41,8 +42,10 @@ int run(int count, char** arguments) {
     // The end is the main window's to tell: a recipe that is closed behind it must not end the program.
     QApplication::setQuitOnLastWindowClosed(false);
     MessageBoxes prompts;
-    const auto folder = working_folder();
     const auto named = named_document(count, arguments);
+    const auto brewery = open_brewery(start_places(), prompts);
+    if (!brewery) return 1;
+    const auto& folder = *brewery;
     const FolderGuard guard(folder);
     if (guard.is_open_elsewhere()) {
         if (!hand_over(folder, named))

@@ -1,0 +1,19 @@
+// Files as texts.
+#pragma once
+
+#include <fstream>
+#include <iterator>
+#include <string>
+
+namespace wortlex {
+
+inline std::string content_of(const std::string& path) {
+    std::ifstream file(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
+}
+
+inline void write_content(const std::string& path, const std::string& content) {
+    std::ofstream(path, std::ios::binary) << content;
+}
+
+} // namespace wortlex
