@@ -135,7 +135,7 @@ bool save_atomically(const std::string& path, ByteView content) {
 
 bool save_or_tell(const std::string& path, ByteView content, Prompts& prompts) {
     if (save_atomically(path, content)) return true;
-    prompts.tell({.text = write_error, .icon = Icon::warning});
+    prompts.tell({.text = write_error, .icon = Icon::warning, .own = path});
     return false;
 }
 

@@ -189,11 +189,13 @@ void TimeSheet::load() {
     const auto path = desk_.files.choose_to_open({time_line_filter, desk_.data_folder, {}, "tml"});
     if (!path) return;
     const auto file = read_file(*path, time_line_size);
-    if (!file) return desk_.prompts.tell({.text = file_not_found});
+    if (!file) return desk_.prompts.tell({.text = file_not_found, .icon = Icon::error, .own = *path});
     auto line = read_time_line(*file);
-    if (!line)
-        return desk_.prompts.tell(
-            {.text = file_name(*path) + " is damaged and cannot be loaded.", .icon = Icon::warning});
+    if (!line) {
+        const auto name = file_name(*path);
+        const auto fault = name + " is damaged and cannot be loaded.";
+        return desk_.prompts.tell({.text = fault, .icon = Icon::warning, .own = name});
+    }
     if (is_modified_) forget_kept();
     line_ = std::move(*line);
     line_.path.assign(*path);

@@ -1,7 +1,6 @@
 #include "databases/import.h"
 
 #include <algorithm>
-#include <filesystem>
 
 namespace wortlex {
 namespace {
@@ -20,8 +19,8 @@ bool importing::is_sound_text(std::string_view whole_array) {
     return std::none_of(text.begin(), text.end(), is_control);
 }
 
-std::string nothing_to_import(const std::string& path) {
-    return std::filesystem::path(path).filename().string() + " holds nothing that this database could take.";
+std::string nothing_to_import(const std::string& name) {
+    return name + " holds nothing that this database could take.";
 }
 
 std::string left_out_unreadable(std::size_t count) {

@@ -10,7 +10,7 @@
 namespace wortlex {
 
 /// What is told of a file without a record, of damaged records, and of those that found no room.
-std::string nothing_to_import(const std::string& path);
+std::string nothing_to_import(const std::string& name);
 std::string left_out_unreadable(std::size_t count);
 std::string database_full(std::string_view full, int left_out);
 

@@ -73,8 +73,8 @@ public:
     bool close(Prompts& prompts) override;
     PrintRequest printout() const override;
 
-    /// The same from the bytes of a transfer file; `name` is what messages call it.
-    void import_bytes(ByteView file, const std::string& name, Prompts& prompts);
+    /// The same from the bytes of a transfer file; messages tell the last part of its `path`.
+    void import_bytes(ByteView file, const std::string& path, Prompts& prompts);
 
     std::optional<Record> selected_record() const override;
 
@@ -415,16 +415,19 @@ void Store<Record>::import(Files& files, Prompts& prompts) {
 template <class Record>
 void Store<Record>::import_file(const std::string& path, Prompts& prompts) {
     const auto file = read_file(path);
-    if (!file) return prompts.tell({.text = file_not_found, .icon = Icon::error});
+    if (!file) return prompts.tell({.text = file_not_found, .icon = Icon::error, .own = path});
     import_bytes(*file, path, prompts);
 }
 
 template <class Record>
-void Store<Record>::import_bytes(ByteView file, const std::string& name, Prompts& prompts) {
+void Store<Record>::import_bytes(ByteView file, const std::string& path, Prompts& prompts) {
     auto records = transferred<Record>(file);
     const auto unreadable =
         std::erase_if(records, [](const Record& record) { return !looks_like_a_record(record); });
-    if (records.empty()) return prompts.tell({.text = nothing_to_import(name), .icon = Icon::error});
+    if (records.empty()) {
+        const auto name = file_name(path);
+        return prompts.tell({.text = nothing_to_import(name), .icon = Icon::error, .own = name});
+    }
     sort_for_file();
     const auto before = database_;
     Merge merge;

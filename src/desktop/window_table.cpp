@@ -212,6 +212,7 @@ constexpr std::array windows = {
     WindowInfo{"PRINTPREVIEW", {"Print Preview"}, no_places, "reports"},
     WindowInfo{"HTMLDIALOG", {"HTML Theme Settings"}, no_places, "html_themes"},
     WindowInfo{"ABOUTDIALOG", {"About Wortlex"}, no_places, "main_window"},
+    WindowInfo{"LOGDIALOG", {"Wortlex Log"}, no_places, "log"},
     WindowInfo{"HANDBOOKWINDOW", {"Wortlex Help"}, no_places, "help"},
 };
 

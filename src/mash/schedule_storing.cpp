@@ -36,11 +36,13 @@ bool same_design(const MashDesign& a, const MashDesign& b) {
 
 // What is wrong with a file, if anything is; whether it can be taken.
 bool is_taken(ScheduleLoad load, const std::string& path, Prompts& prompts) {
-    const auto tell = [&](std::string_view text) { prompts.tell({.text = text, .icon = Icon::warning}); };
+    const auto name = file_name(path);
+    const auto tell = [&](std::string_view text) {
+        prompts.tell({.text = text, .icon = Icon::warning, .own = name});
+    };
     if (load == ScheduleLoad::not_found) tell(file_not_found);
-    if (load == ScheduleLoad::damaged) tell(file_name(path) + " is damaged and cannot be loaded.");
-    if (load == ScheduleLoad::incomplete)
-        tell(file_name(path) + " ended early; what is missing stays as it was.");
+    if (load == ScheduleLoad::damaged) tell(name + " is damaged and cannot be loaded.");
+    if (load == ScheduleLoad::incomplete) tell(name + " ended early; what is missing stays as it was.");
     return load == ScheduleLoad::loaded || load == ScheduleLoad::incomplete;
 }
 

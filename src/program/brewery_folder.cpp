@@ -102,7 +102,7 @@ std::optional<std::string> open_brewery(const StartPlaces& places, Prompts& prom
     const auto text = "The brewery folder cannot be made or filled. Is the disk full, or a folder "
                       "read-only?\n" +
                       folder;
-    prompts.tell({.text = text, .icon = Icon::error});
+    prompts.tell({.text = text, .icon = Icon::error, .own = folder});
     return std::nullopt;
 }
 

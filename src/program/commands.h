@@ -54,6 +54,8 @@ inline constexpr int close = 10060;
 
 /// A number of our own, for the submenu of recent documents: its entries have no commands.
 inline constexpr int open_recent = 41000;
+/// Another one, for the log.
+inline constexpr int show_log = 41001;
 
 } // namespace command
 

@@ -24,11 +24,12 @@ bool makes_room(const Program& program, const std::string& path, DocumentKind ki
 void tell_fault(LoadResult result, const std::string& path, Prompts& prompts) {
     if (result == LoadResult::loaded) return;
     if (result == LoadResult::not_found) {
-        prompts.tell({.text = file_not_found, .icon = Icon::error});
+        prompts.tell({.text = file_not_found, .icon = Icon::error, .own = path});
         return;
     }
-    const auto text = file_name(path) + " " + std::string(load_fault(result)) + ".";
-    prompts.tell({.text = text, .icon = is_sound(result) ? Icon::warning : Icon::error});
+    const auto name = file_name(path);
+    const auto text = name + " " + std::string(load_fault(result)) + ".";
+    prompts.tell({.text = text, .icon = is_sound(result) ? Icon::warning : Icon::error, .own = name});
 }
 
 } // namespace
@@ -97,8 +98,9 @@ std::optional<BrewDocument> choose_recipe_for_session(Program& program, Files& f
 bool open_document_file(Program& program, const std::string& path, Prompts& prompts) {
     const auto kind = document_kind(path);
     if (!kind) {
-        const auto text = file_name(path).append(" ").append(is_no_document).append(".");
-        prompts.tell({.text = text, .icon = Icon::error});
+        const auto name = file_name(path);
+        const auto text = name + " " + std::string(is_no_document) + ".";
+        prompts.tell({.text = text, .icon = Icon::error, .own = name});
         return false;
     }
     return makes_room(program, path, *kind) &&

@@ -53,13 +53,14 @@ bool load_water_analysis(WaterAnalysis& analysis, std::string& path, const Water
     if (!chosen) return false;
     follow_user(desk.folders, FolderKind::water_profiles, *chosen);
     const auto file = read_file(*chosen, water_analysis_layout.size);
+    const auto name = file_name(*chosen);
     if (!file) {
-        desk.prompts.tell({.text = file_not_found, .icon = Icon::error});
+        desk.prompts.tell({.text = file_not_found, .icon = Icon::error, .own = name});
         return false;
     }
     const auto read = read_water_analysis(*file);
-    const auto fault = file_name(*chosen) + " is incomplete; what is missing was left empty.";
-    if (!read.is_complete) desk.prompts.tell({.text = fault, .icon = Icon::warning});
+    const auto fault = name + " is incomplete; what is missing was left empty.";
+    if (!read.is_complete) desk.prompts.tell({.text = fault, .icon = Icon::warning, .own = name});
     analysis = read.analysis;
     settle_water(analysis);
     path = *chosen;

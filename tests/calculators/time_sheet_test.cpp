@@ -247,7 +247,7 @@ TEST(TimeLineFile, ADamagedOneIsNamedAndNothingIsLoaded) {
     day.prompts.expect_tell("old.tml is damaged and cannot be loaded.", Icon::warning);
     sheet.load();
     day.files.add(day.folder.path() + "none.tml");
-    day.prompts.expect_tell("File Not Found!");
+    day.prompts.expect_tell("File Not Found!", Icon::error);
     sheet.load();
     EXPECT_TRUE(sheet.may_start());
 }

@@ -18,7 +18,8 @@ struct Message {
     std::string_view text;
     std::string_view caption = "Wortlex";
     Icon icon = Icon::none;
-    Answer safe = Answer::no; ///< of a question: what Enter answers, the one by which nothing is lost
+    Answer safe = Answer::no;  ///< of a question: what Enter answers, the one by which nothing is lost
+    std::string_view own = {}; ///< what is the brewer's own, as a file's name: the log leaves it out
 };
 
 class Prompts {

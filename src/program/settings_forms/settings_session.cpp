@@ -59,12 +59,13 @@ void SettingsSession::save_as_default(Prompts& prompts) {
 void SettingsSession::load(Files& files, Prompts& prompts) {
     const auto path = files.choose_to_open({settings_filter, desk_.data_folder, {}, "wxt"});
     if (!path) return;
-    if (!LoadSettingsFile(*path, image())) return prompts.tell({.text = file_not_found, .icon = Icon::error});
+    if (!LoadSettingsFile(*path, image()))
+        return prompts.tell({.text = file_not_found, .icon = Icon::error, .own = *path});
     ApplySettings(image(), desk_.working, true);
     desk_.notices.tell(Change::settings);
     const auto file = read_file(*path);
     if (!file || file->size() < system_settings_layout.size)
-        prompts.tell({.text = short_settings, .icon = Icon::warning});
+        prompts.tell({.text = short_settings, .icon = Icon::warning, .own = *path});
     prompts.tell({.text = only_for_now, .icon = Icon::information});
 }
 

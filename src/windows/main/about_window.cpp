@@ -2,6 +2,7 @@
 
 #include "desktop/captions.h"
 #include "desktop/tool_window.h"
+#include "program/version.h"
 #include "windows/main/picture_board.h"
 
 #include <QDialog>
@@ -25,7 +26,7 @@ public:
         setWindowModality(Qt::WindowModal);
         setFixedSize(picture_size);
         auto* const layout = new QVBoxLayout(this);
-        add_line(*layout, "Wortlex Version 1.8.A", title_pixels);
+        add_line(*layout, program_version, title_pixels);
         add_line(*layout, "Software for the Micro, Pub, Pico, Nano and Sub-Atomic Brewer", motto_pixels);
         layout->addSpacing(credit_pixels);
         add_line(*layout, "Hop bitterness by Jackie Rager, Mark Garetz and Glenn Tinseth", credit_pixels);

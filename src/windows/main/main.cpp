@@ -8,6 +8,8 @@
 #include "desktop/system_ports.h"
 #include "jpeg/jpeg_pictures.h"
 #include "program/brewery_folder.h"
+#include "program/fault_log.h"
+#include "program/recovery.h"
 #include "program/start.h"
 #include "settings/new_brewery.h"
 #include "windows/main/main_window.h"
@@ -17,7 +19,9 @@
 #include <QLocale>
 #include <QTimer>
 
+#include <exception>
 #include <filesystem>
+#include <utility>
 
 namespace wortlex {
 namespace {
@@ -35,13 +39,40 @@ void set_icon() {
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/artwork/application/wortlex.svg")));
 }
 
+// What nobody caught is noted before it ends the program.
+class NotedApplication : public QApplication {
+public:
+    // The toolkit keeps a reference to the count.
+    NotedApplication(int& count, char** arguments, const FaultLog& log)
+        : QApplication(count, arguments), log_(log) {}
+
+    bool notify(QObject* receiver, QEvent* event) override {
+        try {
+            return QApplication::notify(receiver, event);
+        } catch (const std::exception& fault) {
+            if (!std::exchange(is_noted_, true)) log_.note(std::string("It broke off: ") + fault.what());
+            throw;
+        }
+    }
+
+private:
+    const FaultLog& log_;
+    bool is_noted_ = false;
+};
+
+void note_broken_run(const std::string& folder, const FaultLog& log) {
+    if (stamp_of(work_path(folder))) log.note("An earlier run broke off and left unsaved work.");
+}
+
 int run(int count, char** arguments) {
-    const QApplication application(count, arguments);
+    const auto log = user_log();
+    const NotedApplication application(count, arguments, log);
     QApplication::setApplicationName(QStringLiteral("wortlex"));
     QApplication::setDesktopFileName(QStringLiteral("wortlex"));
     // The end is the main window's to tell: a recipe that is closed behind it must not end the program.
     QApplication::setQuitOnLastWindowClosed(false);
-    MessageBoxes prompts;
+    MessageBoxes boxes;
+    NotedPrompts prompts(boxes, log);
     const auto named = named_document(count, arguments);
     const auto brewery = open_brewery(start_places(), prompts);
     if (!brewery) return 1;
@@ -56,6 +87,7 @@ int run(int count, char** arguments) {
     take_units_of_country(folder, QLocale::system().measurementSystem() == QLocale::MetricSystem);
     Program program;
     if (!start(program, folder, prompts)) return 0;
+    note_broken_run(folder, log);
     FileDialogs files;
     SystemClipboard clipboard;
     PreviewDesk pages(files, prompts, places(program), program.folders, program.data_folder);
