@@ -1,0 +1,72 @@
+#!/usr/bin/env bash
+# Makes the packages of a release build in build/packages: one for Debian, and a portable folder to be unpacked and
+# run, with the libraries that it needs. Its brewery lies in it.
+set -eu
+cd "$(dirname "$0")/.."
+. tools/install.sh
+install_missing g++ cmake ninja-build qt6-base-dev qt6-svg-dev qt6-wayland libjpeg-dev dpkg-dev file patchelf
+packages=$PWD/build/packages
+
+# What every desktop has, and what belongs to its drivers, is taken from there.
+of_every_system='^(ld-linux.*|lib(c|m|dl|rt|pthread|resolv|stdc\+\+|gcc_s|GL|EGL|GLX|GLdispatch|OpenGL|drm|gbm|xcb'
+of_every_system+='|X11|X11-xcb|Xau|Xdmcp|wayland-[a-z]*|fontconfig|freetype|expat|z|uuid|cups|systemd|dbus-1)[.-].*)$'
+
+# libraries_of FILES...: the paths of the others.
+libraries_of() {
+    local name arrow path rest
+    ldd "$@" | while read -r name arrow path rest; do
+        [ "$arrow" = "=>" ] && [ -e "$path" ] || continue
+        [[ $name =~ $of_every_system ]] || echo "$path"
+    done | sort -u
+}
+
+copy_plugins() {
+    local from kind
+    from=$(qtpaths6 --query QT_INSTALL_PLUGINS 2> /dev/null || qmake6 -query QT_INSTALL_PLUGINS)
+    for kind in platforms/libqxcb platforms/libqwayland-generic platforms/libqoffscreen imageformats/libqsvg \
+        iconengines/libqsvgicon platforminputcontexts/libcomposeplatforminputcontextplugin \
+        platforminputcontexts/libibusplatforminputcontextplugin \
+        printsupport/libcupsprintersupport wayland-shell-integration/libxdg-shell \
+        wayland-decoration-client/libbradient; do
+        install -D -m 644 "$from/$kind.so" "$1/$kind.so"
+    done
+}
+
+# Each of the libraries and plugins comes with its licence.
+copy_licences() {
+    local package
+    dpkg-query -S "$@" 2> /dev/null | sed 's/: .*//; s/,.*//; s/:.*//' | sort -u | while read -r package; do
+        install -D -m 644 "/usr/share/doc/$package/copyright" "$licences/$package"
+    done
+}
+
+make_portable() {
+    local folder=$packages/Wortlex-$version
+    local licences=$folder/share/doc/wortlex/licences
+    rm -rf "$folder"
+    DESTDIR=/ cmake --install build/release --prefix "$folder" --strip > /dev/null
+    mkdir "$folder/brewery" "$folder/lib"
+    copy_plugins "$folder/plugins"
+    local plugins libraries
+    mapfile -t plugins < <(find "$folder/plugins" -name '*.so')
+    mapfile -t libraries < <(libraries_of "$folder"/bin/wortlex* "${plugins[@]}")
+    install -m 644 "${libraries[@]}" "$folder/lib"
+    # The programs' own path counts for the libraries of libraries, too.
+    patchelf --force-rpath --set-rpath '$ORIGIN/../lib' "$folder"/bin/wortlex*
+    printf '[Paths]\nPrefix=..\nPlugins=plugins\n' > "$folder/bin/qt.conf"
+    copy_licences "$(realpath -s "${libraries[@]}")"
+    ln -s bin/wortlex "$folder/wortlex"
+    cp data/desktop/portable.txt "$folder/README.txt"
+    tar -C "$packages" --owner=0 --group=0 --sort=name -czf "$packages/wortlex-$version-portable.tar.gz" "Wortlex-$version"
+    rm -rf "$folder"
+}
+
+cmake --preset release > /dev/null
+cmake --build --preset release
+version=$(sed -n 's/^CMAKE_PROJECT_VERSION:.*=//p' build/release/CMakeCache.txt)
+mkdir -p "$packages"
+(cd build/release && cpack -B "$packages/work" > /dev/null)
+mv "$packages"/work/*.deb "$packages"
+rm -rf "$packages/work"
+make_portable
+ls -sh "$packages"
