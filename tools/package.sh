@@ -4,20 +4,32 @@
 set -eu
 cd "$(dirname "$0")/.."
 . tools/install.sh
-install_missing g++ cmake ninja-build qt6-base-dev qt6-svg-dev qt6-wayland libjpeg-dev dpkg-dev file patchelf
+install_missing g++ cmake ninja-build qt6-base-dev qt6-svg-dev qt6-wayland libjpeg-dev binutils dpkg-dev file patchelf
 packages=$PWD/build/packages
 
-# What every desktop has, and what belongs to its drivers, is taken from there.
-of_every_system='^(ld-linux.*|lib(c|m|dl|rt|pthread|resolv|stdc\+\+|gcc_s|GL|EGL|GLX|GLdispatch|OpenGL|drm|gbm|xcb'
-of_every_system+='|X11|X11-xcb|Xau|Xdmcp|wayland-[a-z]*|fontconfig|freetype|expat|z|uuid|cups|systemd|dbus-1)[.-].*)$'
+# What every desktop has, and what belongs to its drivers, is taken from there, with all that it needs itself.
+of_every_system='^(ld-linux.*|lib(c|m|dl|rt|pthread|resolv|stdc\+\+|gcc_s|GL|EGL|GLX|OpenGL|drm|gbm|xcb|X11|X11-xcb'
+of_every_system+='|wayland-client|wayland-cursor|fontconfig|freetype|z|cups|dbus-1)\.so\..*)$'
 
-# libraries_of FILES...: the paths of the others.
+# libraries_of FILES...: the paths of all others that these files need, and those need in turn.
 libraries_of() {
+    local -A places=()
     local name arrow path rest
-    ldd "$@" | while read -r name arrow path rest; do
-        [ "$arrow" = "=>" ] && [ -e "$path" ] || continue
-        [[ $name =~ $of_every_system ]] || echo "$path"
-    done | sort -u
+    while read -r name arrow path rest; do
+        [ "$arrow" != "=>" ] || places[$name]=$path
+    done < <(ldd "$@")
+    local -A found=()
+    local files=("$@")
+    while [ ${#files[@]} -gt 0 ]; do
+        mapfile -t names < <(objdump -p "${files[@]}" | sed -n 's/^ *NEEDED *//p' | grep -Ev "$of_every_system" | sort -u)
+        files=()
+        for name in "${names[@]}"; do
+            [ -z "${found[$name]:-}" ] || continue
+            found[$name]=${places[$name]}
+            files+=("${places[$name]}")
+        done
+    done
+    printf '%s\n' "${found[@]}"
 }
 
 copy_plugins() {
@@ -32,10 +44,9 @@ copy_plugins() {
     done
 }
 
-# Each of the libraries and plugins comes with its licence.
+# copy_licences FILES...: of the packages that they come from.
 copy_licences() {
-    local package
-    dpkg-query -S "$@" 2> /dev/null | sed 's/: .*//; s/,.*//; s/:.*//' | sort -u | while read -r package; do
+    dpkg-query -S "${@/#*\//*/}" 2> /dev/null | sed 's/:.*//' | sort -u | while read -r package; do
         install -D -m 644 "/usr/share/doc/$package/copyright" "$licences/$package"
     done
 }
@@ -54,7 +65,7 @@ make_portable() {
     # The programs' own path counts for the libraries of libraries, too.
     patchelf --force-rpath --set-rpath '$ORIGIN/../lib' "$folder"/bin/wortlex*
     printf '[Paths]\nPrefix=..\nPlugins=plugins\n' > "$folder/bin/qt.conf"
-    copy_licences "$(realpath -s "${libraries[@]}")"
+    copy_licences "${libraries[@]}" "${plugins[@]}"
     ln -s bin/wortlex "$folder/wortlex"
     cp data/desktop/portable.txt "$folder/README.txt"
     tar -C "$packages" --owner=0 --group=0 --sort=name -czf "$packages/wortlex-$version-portable.tar.gz" "Wortlex-$version"

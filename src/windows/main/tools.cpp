@@ -1,10 +1,8 @@
 #include "windows/main/tools.h"
 
 #include "calculators/hop_degradation.h"
-#include "desktop/form_dialog.h"
 #include "desktop/system_ports.h"
 #include "handbook/handbook.h"
-#include "program/fault_log.h"
 #include "program/program.h"
 #include "windows/calculators/brewers_tools.h"
 #include "windows/calculators/color_utility_window.h"
@@ -16,6 +14,7 @@
 #include "windows/documents/recipe_window.h"
 #include "windows/documents/session_window.h"
 #include "windows/main/about_window.h"
+#include "windows/main/log_window.h"
 #include "windows/main/settings_windows.h"
 #include "windows/mash/mash_designer_window.h"
 #include "windows/mash/strike_calculator_window.h"
@@ -89,11 +88,8 @@ void edit_settings(const WindowPorts& ports, QWidget* main) {
     edit_system_settings({ports.program, ports.files, ports.prompts, edit_colours}, main);
 }
 
-void show_log(const WindowPorts& ports, QWidget* main) {
-    const auto log = user_log();
-    Form form;
-    log_form(form, log, ports.clipboard);
-    run_dialog(form, {.template_name = "LOGDIALOG", .has_cancel = false}, places(ports.program), main);
+void open_log(const WindowPorts& ports, QWidget* main) {
+    show_log(ports.clipboard, places(ports.program), main);
 }
 
 void about(const WindowPorts& ports, QWidget* main) {
@@ -252,7 +248,7 @@ constexpr std::array all_tools = {
          .run = edit_settings},
     Tool{.command = command::help_contents, .menus = {{{Menu::help, "&Contents"}}}, .help_page = contents_page},
     Tool{.command = command::tutorials, .menus = {{{Menu::help, "&Tutorials"}}}, .help_page = "tutorials"},
-    Tool{.command = command::show_log, .menus = {{{Menu::help, "&Log"}}}, .run = show_log},
+    Tool{.command = command::show_log, .menus = {{{Menu::help, "&Log"}}}, .run = open_log},
     Tool{.command = command::about, .menus = {{{Menu::help, "&About"}}}, .run = about},
 };
 // clang-format on
