@@ -21,14 +21,6 @@ void refuse(const Place& place, const std::string& reason) {
     throw SourceFault(place.file + ":" + std::to_string(place.line) + ": " + reason);
 }
 
-std::string folded(std::string_view text) {
-    std::string folded(text);
-    for (auto& c : folded) {
-        if (c >= 'A' && c <= 'Z') c = static_cast<char>(c + ('a' - 'A'));
-    }
-    return folded;
-}
-
 std::vector<std::string> read_lines(const std::string& path) {
     const auto file = read_file(path);
     if (!file) throw SourceFault(path + ": cannot be read");

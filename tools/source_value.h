@@ -3,6 +3,7 @@
 #pragma once
 
 #include "base/text.h"
+#include "databases/sort_keys.h"
 
 #include <cstdint>
 #include <initializer_list>
@@ -25,9 +26,6 @@ struct Place {
 };
 
 [[noreturn]] void refuse(const Place& place, const std::string& reason);
-
-/// With the letters A to Z in lower case.
-std::string folded(std::string_view text);
 
 /// The lines of a text file, without their ends.
 std::vector<std::string> read_lines(const std::string& path);

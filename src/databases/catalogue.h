@@ -95,6 +95,15 @@ struct CatalogueFilter {
     std::function<bool(const Record&)> passes;
 };
 
+/// A text of a record, which must outlive it.
+template <class Record>
+using CatalogueText = std::function<std::string_view(const Record&)>;
+
+template <class Record, std::size_t N>
+CatalogueText<Record> stored_text(Text<N> Record::*field) {
+    return [field](const Record& record) { return (record.*field).view(); };
+}
+
 /// The fixed words of a database; see the six modules.
 struct CatalogueWords {
     std::string_view import_filter;
@@ -151,10 +160,10 @@ struct Catalogue {
     std::size_t entry_caption = 0; ///< of those that the entry dialog has
     CataloguePages<Record> pages;
 
-    /// Whether an imported record is one that is there already.
-    std::function<bool(const Record&, const Record&)> is_same;
-    /// Which of several such is meant rather; empty: the first.
-    std::function<bool(const Record&, const Record&)> is_closer = nullptr;
+    /// The texts, as stored, by which an imported record is one that is there already.
+    std::vector<CatalogueText<Record>> names;
+    /// Which of several such is meant rather: the one with the same word; empty: the first.
+    CatalogueText<Record> kind = nullptr;
     /// Carries what a replacement keeps into the imported record.
     std::function<void(Record& imported, const Record& existing)> keep;
     /// The two names of an entry in questions: on replacing, and on deleting.
@@ -164,6 +173,17 @@ struct Catalogue {
     std::function<DatabaseState(Database<Record>&, Prompts&)> load;
     std::function<bool(const Database<Record>&)> save;
 };
+
+template <class Record>
+bool has_same_names(const Catalogue<Record>& catalogue, const Record& a, const Record& b) {
+    return std::all_of(catalogue.names.begin(), catalogue.names.end(),
+                       [&](const auto& name) { return name(a) == name(b); });
+}
+
+template <class Record>
+bool is_same_kind(const Catalogue<Record>& catalogue, const Record& a, const Record& b) {
+    return !catalogue.kind || catalogue.kind(a) == catalogue.kind(b);
+}
 
 constexpr const auto& layout_of(const HopRecord&) {
     return hop_layout;

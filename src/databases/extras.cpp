@@ -134,9 +134,8 @@ Catalogue<ExtraRecord> extra_catalogue(const Settings& /*settings*/, const std::
     };
     extras.entry_form = extra_entry_form;
     extras.pages = extra_pages();
-    extras.is_same = [](const ExtraRecord& a, const ExtraRecord& b) {
-        return a.name == b.name && a.extra_type == b.extra_type;
-    };
+    extras.names = {stored_text(&ExtraRecord::name),
+                    [](const ExtraRecord& extra) { return type_word(extra.extra_type); }};
     extras.keep = [](ExtraRecord& imported, const ExtraRecord& existing) { imported.stock = existing.stock; };
     extras.exists_text = [](const ExtraRecord& extra) {
         return extra_name(extra) + " \nThis extra type already exists in the database!";

@@ -183,10 +183,8 @@ Catalogue<HopRecord> hop_catalogue(const Settings& settings, const std::string& 
     hops.new_record = new_hop;
     hops.entry_form = hop_entry_form;
     hops.pages = hop_pages(settings);
-    hops.is_same = [](const HopRecord& a, const HopRecord& b) {
-        return a.name == b.name && a.origin == b.origin;
-    };
-    hops.is_closer = [](const HopRecord& a, const HopRecord& b) { return form(a) == form(b); };
+    hops.names = {stored_text(&HopRecord::name), stored_text(&HopRecord::origin)};
+    hops.kind = [](const HopRecord& hop) { return form_word(form(hop)); };
     hops.keep = [](HopRecord& imported, const HopRecord& existing) {
         imported.stock = existing.stock;
         imported.alpha = existing.alpha;

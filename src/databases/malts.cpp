@@ -127,9 +127,7 @@ Catalogue<MaltRecord> malt_catalogue(const Settings& settings, const std::string
     malts.new_record = new_malt;
     malts.entry_form = [&settings](Form& form, MaltRecord& malt) { malt_entry_form(form, malt, settings); };
     malts.pages = malt_pages(settings);
-    malts.is_same = [](const MaltRecord& a, const MaltRecord& b) {
-        return a.name == b.name && a.origin == b.origin;
-    };
+    malts.names = {stored_text(&MaltRecord::name), stored_text(&MaltRecord::origin)};
     malts.keep = [](MaltRecord& imported, const MaltRecord& existing) {
         imported.stock = existing.stock;
         imported.potential = existing.potential;

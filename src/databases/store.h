@@ -448,11 +448,10 @@ void Store<Record>::import_bytes(ByteView file, const std::string& path, Prompts
 template <class Record>
 typename std::span<Record>::iterator Store<Record>::find_existing(const Record& record) {
     const auto all = entries();
-    const auto is_same = [&](const Record& there) { return catalogue_.is_same(there, record); };
+    const auto is_same = [&](const Record& there) { return has_same_names(catalogue_, there, record); };
     const auto first = std::find_if(all.begin(), all.end(), is_same);
-    if (!catalogue_.is_closer) return first;
     const auto closest = std::find_if(first, all.end(), [&](const Record& there) {
-        return is_same(there) && catalogue_.is_closer(there, record);
+        return is_same(there) && is_same_kind(catalogue_, there, record);
     });
     return closest == all.end() ? first : closest;
 }

@@ -17,7 +17,7 @@ std::string printed_number(const StyleRecord& style) {
 // Sake has no line of its own.
 std::string detail_type(const StyleRecord& style) {
     if (style.type == BeerType::mixed) return "Ale/Lager (mixed)";
-    return style.type < BeerType::sake ? style_type_word(style) : "";
+    return style.type < BeerType::sake ? std::string(style_type_word(style)) : "";
 }
 
 void add_range(EntryLines& entry, const std::string& label, float low, float high,
@@ -48,8 +48,8 @@ EntryLines style_entry(const StyleRecord& style, const Settings& settings) {
 }
 
 std::vector<std::string> style_row(const StyleRecord& style) {
-    return {printed_number(style), style_type_word(style), utf8_from_windows1252(style.category.view()),
-            utf8_from_windows1252(style.name.view())};
+    return {printed_number(style), std::string(style_type_word(style)),
+            utf8_from_windows1252(style.category.view()), utf8_from_windows1252(style.name.view())};
 }
 
 } // namespace

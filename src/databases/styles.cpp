@@ -50,8 +50,8 @@ StyleRecord new_style(std::size_t /*filter*/) {
     return style;
 }
 
-bool is_same_style(const StyleRecord& a, const StyleRecord& b) {
-    return a.name == b.name && a.category == b.category && a.type == b.type;
+std::string type_text(const StyleRecord& style) {
+    return std::string(style_type_word(style));
 }
 
 } // namespace
@@ -65,8 +65,8 @@ std::string style_number(const StyleRecord& style) {
     return formatted("%02d", style.number) + "-" + utf8_from_windows1252(letter);
 }
 
-std::string style_type_word(const StyleRecord& style) {
-    constexpr std::array words = {"Ale", "Lager", "Cider", "Mead", "Sake", "Ale/Lager"};
+std::string_view style_type_word(const StyleRecord& style) {
+    constexpr std::array<std::string_view, 6> words = {"Ale", "Lager", "Cider", "Mead", "Sake", "Ale/Lager"};
     const auto code = static_cast<std::size_t>(style.type);
     return code < words.size() ? words.at(code) : "N/A";
 }
@@ -80,7 +80,7 @@ Catalogue<StyleRecord> style_catalogue(const Settings& settings, const std::stri
     styles.columns = {Style::words(style_book_name(book) + "\n#", 8, style_number),
                       Style::text("Category", 26, &StyleRecord::category),
                       Style::text("Sub-Category", 30, &StyleRecord::name).stretched(),
-                      Style::words("Type", 10, style_type_word)};
+                      Style::words("Type", 10, type_text)};
     styles.chains = {{0}, {1, 0}, {2, 0}, {3, 0}};
     styles.identity = {1, 2, 3};
     styles.filters = {set_of(StyleBook::aha, "&AHA"), set_of(StyleBook::bjcp, "&BJCP")};
@@ -91,7 +91,7 @@ Catalogue<StyleRecord> style_catalogue(const Settings& settings, const std::stri
     };
     styles.entry_caption = bjcp ? 1 : 0;
     styles.pages = style_pages(settings, book);
-    styles.is_same = is_same_style;
+    styles.names = {stored_text(&StyleRecord::name), stored_text(&StyleRecord::category), style_type_word};
     styles.keep = [](StyleRecord&, const StyleRecord&) {};
     styles.exists_text = [](const StyleRecord& style) {
         return utf8_from_windows1252(style.name.view()) + " " + utf8_from_windows1252(style.category.view()) +

@@ -18,6 +18,6 @@ void style_entry_form(Form& form, StyleRecord& style, const Settings& settings);
 
 /// "01-A", or "01-?" without a letter, UTF-8; and the type as lists show it.
 std::string style_number(const StyleRecord& style);
-std::string style_type_word(const StyleRecord& style);
+std::string_view style_type_word(const StyleRecord& style);
 
 } // namespace wortlex

@@ -114,7 +114,7 @@ Catalogue<WaterRecord> water_catalogue(const Settings& /*settings*/, const std::
         water_entry_form(form, water, converters);
     };
     waters.pages = water_pages();
-    waters.is_same = [](const WaterRecord& a, const WaterRecord& b) { return a.name == b.name; };
+    waters.names = {stored_text(&WaterRecord::name)};
     waters.keep = [](WaterRecord&, const WaterRecord&) {};
     waters.exists_text = [](const WaterRecord& water) {
         return water_name(water) + "\nThis Water type already exists in the database!";

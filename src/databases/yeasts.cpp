@@ -178,12 +178,9 @@ Catalogue<YeastRecord> yeast_catalogue(const Settings& /*settings*/, const std::
     yeasts.new_record = [](std::size_t) { return YeastRecord(); };
     yeasts.entry_form = yeast_entry_form;
     yeasts.pages = yeast_pages();
-    yeasts.is_same = [](const YeastRecord& a, const YeastRecord& b) {
-        return a.name == b.name && a.lab == b.lab && a.catalog_number == b.catalog_number;
-    };
-    yeasts.is_closer = [](const YeastRecord& a, const YeastRecord& b) {
-        return a.yeast_medium == b.yeast_medium;
-    };
+    yeasts.names = {stored_text(&YeastRecord::name), stored_text(&YeastRecord::lab),
+                    stored_text(&YeastRecord::catalog_number)};
+    yeasts.kind = [](const YeastRecord& yeast) { return medium_word(yeast.yeast_medium); };
     yeasts.keep = [](YeastRecord& imported, const YeastRecord& existing) { imported.stock = existing.stock; };
     yeasts.exists_text = [](const YeastRecord& yeast) {
         return lab_and_name(yeast) + "\nThis Yeast type already exists in the database!";
