@@ -95,6 +95,8 @@ QWidget* SessionPanel::style_part() {
     auto* const ranges = new QGridLayout;
     int column = 0;
     for (const auto* const key : {"min_sg", "max_sg", "min_ibu", "max_ibu", "min_colour", "max_colour"}) {
+        auto& field = widgets_.field(key);
+        if (column > 2) field.setFixedWidth(field.minimumWidth() * 3 / 4); // fewer digits than an SG
         add_field(*ranges, widgets_, key, 0, column);
         column += 2;
     }
