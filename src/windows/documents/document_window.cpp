@@ -108,6 +108,7 @@ void DocumentWindow::reopen() {
     auto opened = open_live();
     saved_ = std::move(opened.saved);
     start_editing(editor_, opened.view);
+    first_field().setFocus(Qt::TabFocusReason);
 }
 
 void DocumentWindow::tell_once_shown() {

@@ -33,6 +33,8 @@ protected:
     };
     /// The order of work as it opens on the live document.
     virtual Opened open_live() = 0;
+    /// Where a brewer begins on a document that was made or opened.
+    virtual QWidget& first_field() const = 0;
     /// Makes the live document a new one.
     virtual void make_new() = 0;
     /// Follows the name of the file in the caption.

@@ -14,6 +14,7 @@ public:
 
 protected:
     Opened open_live() override;
+    QWidget& first_field() const override { return panel_.widgets().field("title"); }
     void make_new() override { new_recipe(program()); }
     void show_simple_mash() override;
 

@@ -42,7 +42,6 @@ SessionPanel::SessionPanel(const SessionSubject& subject, const Places& places, 
     auto* const pages = new Scrolled(right, this);
     sides->addWidget(beside(*pages, left), 1);
     sides->addWidget(pages);
-    widgets_.field(has_picked_recipe(subject.editor.open) ? "ingredients" : "pick_recipe").setFocus();
 }
 
 // On a small screen the way to the pages stays in sight, and the rest is scrolled.

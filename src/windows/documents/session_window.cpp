@@ -79,6 +79,10 @@ DocumentWindow::Opened SessionWindow::open_live() {
     return {snapshot_document(open, SnapshotScope::with_schedule), {}};
 }
 
+QWidget& SessionWindow::first_field() const {
+    return panel_.widgets().field(document().session.has_recipe != 0 ? "ingredients" : "pick_recipe");
+}
+
 void SessionWindow::make_new() {
     const SystemClock clock;
     new_session(program(), clock.today());

@@ -17,6 +17,8 @@ public:
 protected:
     Opened open_live() override;
     void make_new() override;
+    /// What comes next: the recipe to brew, or its page.
+    QWidget& first_field() const override;
     void show_simple_mash() override;
     /// Whether its stock is booked.
     QString state_words() const override;

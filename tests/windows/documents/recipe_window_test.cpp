@@ -100,9 +100,13 @@ TEST(RecipeWindow, IsWrittenInItsListsWithoutADialog) {
     EXPECT_EQ(recipe.malts[0].amount, 10);
     kitchen.press(Qt::Key_Z, Qt::ControlModifier);
     EXPECT_EQ(recipe.malts[0].amount, 9) << "one step";
-    kitchen.prompts.expect("yes/no/cancel",
-                           "The current recipe has been modified!\nDo you want to save the changes?",
-                           Answer::no, Icon::question);
+    for (int i = 0; i < 2; ++i)
+        kitchen.prompts.expect("yes/no/cancel",
+                               "The current recipe has been modified!\nDo you want to save the changes?",
+                               Answer::no, Icon::question);
+    kitchen.press(Qt::Key_N, Qt::ControlModifier);
+    kitchen.type("Next");
+    EXPECT_EQ(text_in(*kitchen.recipe, "title"), "Next") << "a new recipe begins with its name";
     EXPECT_TRUE(kitchen.recipe->close());
 }
 
