@@ -5,7 +5,9 @@
 
 #include <QAbstractItemView>
 #include <QKeyEvent>
+#include <QStyle>
 
+#include <algorithm>
 #include <utility>
 
 namespace wortlex {
@@ -67,8 +69,17 @@ void EntryLine::show_proposals() {
     for (const auto row : found_) texts << proposal_text(list(), row, use_.columns);
     proposals_.setStringList(texts);
     if (found_.empty()) return completer_.popup()->hide();
-    completer_.complete();
+    completer_.complete(proposal_place(texts));
     completer_.popup()->setCurrentIndex(completer_.completionModel()->index(0, 0));
+}
+
+// Below the line; as wide as it is, or as the longest of them.
+QRect EntryLine::proposal_place(const QStringList& texts) const {
+    int widest = 0;
+    for (const auto& text : texts) widest = std::max(widest, fontMetrics().horizontalAdvance(text));
+    auto place = rect();
+    place.setWidth(std::max(width(), widest + 2 * style()->pixelMetric(QStyle::PM_ScrollBarExtent)));
+    return place;
 }
 
 void EntryLine::take_chosen() {

@@ -40,6 +40,7 @@ private:
     IngredientList& list();
     void propose();
     void show_proposals();
+    QRect proposal_place(const QStringList& texts) const;
     void take_chosen();
     void take(std::size_t proposal);
     void forget();
