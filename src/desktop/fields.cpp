@@ -34,6 +34,32 @@ private:
     QLineEdit& edit_;
 };
 
+class ExampleInk : public QObject {
+public:
+    explicit ExampleInk(QLineEdit& edit) : QObject(&edit), edit_(edit) {
+        edit.installEventFilter(this);
+        apply();
+    }
+
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (event->type() == QEvent::PaletteChange) apply();
+        return QObject::eventFilter(watched, event);
+    }
+
+private:
+    void apply() {
+        constexpr int half = 128;
+        auto ink = edit_.palette().color(QPalette::Active, QPalette::Text);
+        ink.setAlpha(half);
+        if (edit_.palette().color(QPalette::Active, QPalette::PlaceholderText) == ink) return;
+        QPalette own; // of this role alone; the others go on following the desktop
+        own.setColor(QPalette::PlaceholderText, ink);
+        edit_.setPalette(own);
+    }
+
+    QLineEdit& edit_;
+};
+
 // The focus of a field that has it does not come anew.
 class MnemonicSelector : public QObject {
 public:
@@ -137,6 +163,10 @@ QAbstractSpinBox::StepEnabled ArrowField::stepEnabled() const {
 void ArrowField::wheelEvent(QWheelEvent* event) {
     if (hasFocus()) return QAbstractSpinBox::wheelEvent(event);
     event->ignore();
+}
+
+void keep_example_readable(QLineEdit& edit) {
+    new ExampleInk(edit); // the line owns it
 }
 
 void select_on_focus(QLineEdit& edit) {

@@ -66,6 +66,9 @@ protected:
 /// The text is selected whole as the field is entered, however it is entered.
 void select_on_focus(QLineEdit& edit);
 
+/// The example in an empty field is seen on a dark ground, too: some desktops do not tell its colour.
+void keep_example_readable(QLineEdit& edit);
+
 /// A choice by its letter counts before the next key does: Enter may close the dialog.
 void choose_at_once(QAbstractButton& button);
 

@@ -1,5 +1,6 @@
 #include "desktop/find_line.h"
 
+#include "desktop/fields.h"
 #include "desktop/list_view.h"
 
 #include <QShortcut>
@@ -10,6 +11,7 @@ FindLine::FindLine(QWidget* window) : QLineEdit(window) {
     setObjectName(QStringLiteral("find"));
     setAccessibleName(QStringLiteral("Find"));
     setClearButtonEnabled(true);
+    keep_example_readable(*this);
     connect(new QShortcut(QKeySequence::Find, window), &QShortcut::activated, this, [this] {
         setFocus();
         selectAll();

@@ -32,6 +32,7 @@ EntryLine::EntryLine(EntryLineUse use, const WindowPorts& ports, QWidget* parent
     setToolTip(string_of(use_.hint));
     setAccessibleDescription(string_of(use_.hint));
     select_on_focus(*this);
+    keep_example_readable(*this);
     completer_.setModel(&proposals_);
     completer_.setCompletionMode(QCompleter::UnfilteredPopupCompletion);
     completer_.setMaxVisibleItems(static_cast<int>(most_proposals));
