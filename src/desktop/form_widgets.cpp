@@ -358,6 +358,7 @@ void FormWidgets::make_drop_down(ChoiceRow& row) {
             if (box->count() == static_cast<int>(i)) box->addItem({});
             box->setItemText(static_cast<int>(i), string_of(row.words[i]()));
         }
+        while (box->count() > static_cast<int>(row.words.size())) box->removeItem(box->count() - 1);
         const auto chosen = row.chosen();
         box->setCurrentIndex(chosen ? static_cast<int>(*chosen) : -1);
     };

@@ -71,6 +71,13 @@ void sheet_rows(Rows& rows, LabelDesk& desk, ChoiceRow& list) {
                 })
         .hint("Puts the sheet into the list under its name; it stays there with OK")
         .enabled(on_sheet);
+    rows.button("remove", "Remove Th&is Sheet",
+                [&desk, &list] {
+                    if (desk.remove_sheet()) list.words = desk.sheet_words();
+                })
+        .hint("Takes a sheet of your own out of the list; it is gone with OK")
+        .enabled([&desk] { return desk.is_own(); })
+        .disabled_because("Only a sheet of your own can be removed.");
 }
 
 void shift_rows(Rows& rows, LabelDesk& desk, std::function<void()> ruler) {
@@ -182,6 +189,20 @@ bool LabelDesk::keep_sheet() {
     if (find_sheet(sheet.name, settings.own) == nullptr) settings.own.push_back(sheet);
     choice.sheet_name = sheet.name;
     choice.run.sheet = std::move(sheet);
+    return true;
+}
+
+bool LabelDesk::is_own() const {
+    return find_sheet(choice.sheet_name.value_or(""), settings.own) != nullptr;
+}
+
+bool LabelDesk::remove_sheet() {
+    const auto name = choice.sheet_name.value_or("");
+    const auto question = name + "\n\nDo you really want to remove this sheet of labels?";
+    if (!is_own() || prompts.ask_yes_no({.text = question, .icon = Icon::question}) != Answer::yes)
+        return false;
+    std::erase_if(settings.own, [&](const LabelSheet& sheet) { return sheet.name == name; });
+    choose(0);
     return true;
 }
 

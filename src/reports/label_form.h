@@ -43,6 +43,11 @@ public:
     /// Puts the sheet among the brewer's own, who is asked before it takes the place of another; whether it
     /// stands there.
     bool keep_sheet();
+    /// Whether the brewer's own ones hold the chosen sheet.
+    bool is_own() const;
+    /// Takes the chosen sheet out of the brewer's own, who is asked first; whether it is gone. It comes back
+    /// where nothing is saved.
+    bool remove_sheet();
     /// False, and told, where the labels would not lie on the paper.
     bool is_sound() const;
     void save();

@@ -115,5 +115,33 @@ TEST(LabelSheets, OwnOnesAreKeptByTheirNamesAndWithOk) {
     EXPECT_EQ(LoadLabelSettings(folder.path()), (LabelSettings{{mine}, {{"", {1.5F, 0}}}}));
 }
 
+TEST(LabelSheets, OwnOnesAreRemovedAfterAQuestionAndShippedOnesNever) {
+    const TemporaryFolder folder;
+    LabelSettings kept{{common_label_sheets()[4], common_label_sheets()[4]}, {}};
+    kept.own.front().name = "First";
+    kept.own.back().name = "Mine";
+    ASSERT_TRUE(SaveLabelSettings(folder.path(), kept));
+    ScriptedPrompts prompts;
+    LabelChoice choice;
+    LabelDesk desk(choice, folder.path(), {}, prompts);
+    FormUser user;
+    label_form(user.form, desk, nullptr);
+    user.choose("sheet", 6);
+    EXPECT_FALSE(user.can("remove"));
+    user.choose("sheet", 7);
+    for (const auto answer : {Answer::no, Answer::yes}) {
+        EXPECT_EQ(desk.chosen(), 7);
+        prompts.expect("yes/no", "First\n\nDo you really want to remove this sheet of labels?", answer,
+                       Icon::question);
+        user.press("remove");
+    }
+    EXPECT_EQ(desk.chosen(), 0);
+    ASSERT_EQ(user.row<ChoiceRow>("sheet").words.size(), 8U);
+    EXPECT_EQ(user.row<ChoiceRow>("sheet").words.back()(), "Mine");
+    EXPECT_EQ(LoadLabelSettings(folder.path()), kept) << "before OK";
+    user.form.accept();
+    EXPECT_EQ(LoadLabelSettings(folder.path()).own.size(), 1U);
+}
+
 } // namespace
 } // namespace wortlex
