@@ -100,6 +100,16 @@ int match_all(const FindWords& words, const Cells& cells) {
     return sum;
 }
 
+constexpr int most_words = 15;
+
+// Of the shortest text that holds `word`.
+int words_around(const std::string& word, const Cells& cells) {
+    std::size_t fewest = most_words;
+    for (const auto& cell : cells.texts)
+        if (match_in_text(word, cell) > 0) fewest = std::min(fewest, cell.size());
+    return static_cast<int>(fewest);
+}
+
 std::string_view cut_line(std::string_view& text) {
     const auto line = text.substr(0, text.find('\n'));
     text.remove_prefix(std::min(line.size() + 1, text.size()));
@@ -160,8 +170,13 @@ FindQuery make_query(std::string_view typed, const OtherNames& names) {
 int match(const IngredientList& list, std::size_t row, const FindQuery& query) {
     if (query.empty()) return 0;
     const auto cells = cells_of(list, row);
-    int best = 2 * match_all(query.front(), cells);
-    for (std::size_t i = 1; i < query.size(); ++i) best = std::max(best, 2 * match_all(query[i], cells) - 1);
+    int best = 0;
+    for (std::size_t i = 0; i < query.size(); ++i) {
+        const int sum = match_all(query[i], cells);
+        if (sum == 0) continue;
+        const int rank = 2 * sum - (i == 0 ? 0 : 1); // another name counts a little less
+        best = std::max(best, rank * (most_words + 1) - words_around(query[i].front(), cells));
+    }
     return best;
 }
 

@@ -28,7 +28,8 @@ inline constexpr std::string_view other_names_file = "WlxNames.txt";
 using FindQuery = std::vector<FindWords>;
 FindQuery make_query(std::string_view typed, const OtherNames& names);
 
-/// How well a row holds what is looked for; 0: it does not. Whole words count most, numbers least.
+/// How well a row holds what is looked for; 0: it does not. Whole words count most, numbers least; among
+/// equals a name with fewer other words is better.
 int match(const IngredientList& list, std::size_t row, const FindQuery& query);
 
 std::size_t count_found(const IngredientList& list, const FindQuery& query);
