@@ -48,7 +48,9 @@ void ListWindow::setVisible(bool visible) {
 void ListWindow::fill_form() {
     auto& rows = form_.rows();
     choice_rows(rows);
-    rows.note("found", [this] { return found_text(); });
+    rows.note("found", [this] { return found_text(); }).visible([this] {
+        return !query_.empty() || added_ > 0;
+    });
     list_row(rows);
     if (picked_)
         pick_rows(rows);
