@@ -9,6 +9,7 @@
 #include <QDeadlineTimer>
 #include <QFile>
 #include <QFileDialog>
+#include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
 
@@ -30,6 +31,15 @@ QMessageBox::Icon icon_of(Icon icon) {
     }
 }
 
+// The toolkit would break the lines of a text anew, and leave single words.
+void keep_lines_whole(const QMessageBox& box) {
+    constexpr int widest = 640;
+    auto* const words = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
+    if (words == nullptr) return;
+    const int width = words->sizeHint().width();
+    if (width <= widest) words->setMinimumWidth(width);
+}
+
 void prepare(QMessageBox& box, const Message& message, QMessageBox::StandardButtons buttons) {
     box.setWindowModality(Qt::WindowModal);
     box.setWindowTitle(string_of(message.caption));
@@ -39,8 +49,8 @@ void prepare(QMessageBox& box, const Message& message, QMessageBox::StandardButt
     box.setStandardButtons(buttons);
     box.setDefaultButton(message.safe == Answer::yes ? QMessageBox::Yes : QMessageBox::No);
     box.setTextInteractionFlags(Qt::TextSelectableByMouse);
+    keep_lines_whole(box);
 }
-
 int show(const Message& message, QMessageBox::StandardButtons buttons) {
     QMessageBox box(window_in_use());
     prepare(box, message, buttons);
