@@ -46,7 +46,9 @@ TEST(MashChartWindow, FollowsTheScheduleBesideItAndClosesWithIt) {
     EXPECT_FALSE(chart->findChild<QCheckBox*>("infusion_spikes")->isEnabled());
     press(*chart, "print");
     EXPECT_EQ(brewery.pages.jobs.size(), 1U);
-    EXPECT_NE(brewery.program.tool_positions.slots[32], Rectangle()) << "its place is kept";
+    brewery.program.settings.save_window_positions = 1;
+    chart->move(40, 50);
+    EXPECT_EQ(brewery.program.tool_positions.slots[32].top, 50) << "the place of a recipe's chart";
     window->close();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     EXPECT_TRUE(chart.isNull());
