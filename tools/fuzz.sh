@@ -11,7 +11,7 @@ minutes=${1:-5}
 cmake --preset fuzz > /dev/null
 cmake --build --preset fuzz
 [ -d build/fuzz/brewery ] || build/fuzz/tools/make-brewery data build/fuzz/brewery
-[ $# -gt 0 ] || set -- recipe session settings schedule color_table database import sort_file jpeg time_line calculator_state joint_save water_analysis
+[ $# -gt 0 ] || set -- recipe session settings schedule color_table database import sort_file jpeg time_line calculator_state joint_save water_analysis shipped_names
 
 # The first entries of a database behind the bytes of HEAD.
 seed_entries() {
@@ -37,6 +37,7 @@ run() {
     session) cp build/fuzz/brewery/Sessions/*.brw "$corpus" ;;
     settings) cp build/fuzz/brewery/WlxMSys.DAT "$corpus" ;;
     color_table) cp build/fuzz/brewery/kv_lovrgb.ldt "$corpus" ;;
+    shipped_names) cp build/fuzz/brewery/WlxShipped.txt "$corpus" ;;
     database) cp build/fuzz/brewery/WATER.DAT "$corpus" ;;
     import) seed_import "$corpus" ;;
     jpeg) printf '\1\20\20' > "$corpus/picture" ;;

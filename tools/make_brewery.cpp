@@ -3,6 +3,7 @@
 #include "base/files.h"
 #include "brewing/beer_colour.h"
 #include "databases/find.h"
+#include "databases/shipped.h"
 #include "records/documents/document_files.h"
 #include "records/water/water_needs.h"
 #include "sample_sources.h"
@@ -74,6 +75,21 @@ void make_databases(const std::string& folder, const Databases& databases) {
     make_file(folder, "STYLES.BJCP", [&] { return SaveStyles(folder, true, databases.bjcp_styles); });
 }
 
+// A brewer who deletes any of them is not offered them again.
+void note_names(const std::string& folder, const Databases& databases, const Settings& settings) {
+    ShippedNames names;
+    add_names(names, hop_catalogue(settings, folder), databases.hops);
+    add_names(names, malt_catalogue(settings, folder), databases.malts);
+    add_names(names, yeast_catalogue(settings, folder), databases.yeasts);
+    add_names(names, water_catalogue(settings, folder, {}), databases.water);
+    add_names(names, extra_catalogue(settings, folder), databases.extras);
+    add_names(names, style_catalogue(settings, folder, StyleBook::aha), databases.aha_styles);
+    add_names(names, style_catalogue(settings, folder, StyleBook::bjcp), databases.bjcp_styles);
+    make_file(folder, shipped_names_file, [&] {
+        return save_atomically(folder + std::string(shipped_names_file), shipped_names_bytes(names));
+    });
+}
+
 void copy_other_names(const std::string& source, const std::string& folder) {
     const auto text = read_file(source);
     if (!text) throw SourceFault(source + ": cannot be read");
@@ -97,12 +113,14 @@ void make_brewery(const std::string& data, const std::string& target) {
     const auto image = new_brewery_settings();
     const auto databases = read_databases(data + "databases/");
     auto repaired = image;
-    const auto samples = read_samples(data + "samples/", databases, settings_from(repaired));
+    const auto settings = settings_from(repaired);
+    const auto samples = read_samples(data + "samples/", databases, settings);
     make_folder(target);
     for (std::size_t i = 0; i < folder_kinds; ++i)
         make_folder(target + std::string(default_sub_folder(static_cast<FolderKind>(i))));
     make_system_files(target, image);
     make_databases(target, databases);
+    note_names(target, databases, settings);
     copy_other_names(data + "databases/other_names.txt", target);
     for (const auto& sample : samples) make_sample(target, sample);
 }

@@ -123,6 +123,7 @@ constexpr std::array windows = {
     WindowInfo{"YEASTTYPEENTRYDIALOG", {"Yeast Entry"}, from_main(60), "yeast"},
     WindowInfo{"WATERTYPEENTRYDIALOG", {"Water Profile Entry"}, from_main(61), "water"},
     WindowInfo{"EXTRAENTRYDIALOG", {"Extra Engredients and Agents"}, from_main(62), "extras"},
+    WindowInfo{"NEWENTRIESDIALOG", {"New Entries for Your Databases"}, no_places, "new_entries"},
     WindowInfo{"MALTINVENTORY", {"Malt Inventory"}, no_places, "inventory"},
     WindowInfo{"HOPINVENTORY", {"Hop Inventory"}, no_places, "inventory"},
     WindowInfo{"YEASTINVENTORY", {"Yeast Inventory"}, no_places, "inventory"},

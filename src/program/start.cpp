@@ -2,6 +2,7 @@
 
 #include "base/files.h"
 #include "program/inventory.h"
+#include "program/shipped_data.h"
 
 namespace wortlex {
 namespace {
@@ -46,6 +47,7 @@ bool start(Program& program, const std::string& data_folder, Prompts& prompts) {
     read_places(program, data_folder);
     if (!start_core(program, data_folder, prompts)) return false;
     finish_booking(data_folder, prompts);
+    finish_offer(data_folder);
     clear_broken_saves(program);
     read_print_options(program);
     program.art_scheme = program.system.settings.art_scheme;

@@ -105,6 +105,7 @@ int run(int count, char** arguments) {
         set_icon();
         window.offer_unsaved_work();
         if (!named.empty()) window.open_file(named);
+        window.offer_new_entries(shipped_data(start_places().programs));
     });
     once_shown.start(0);
     return QApplication::exec();

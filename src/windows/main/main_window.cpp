@@ -5,6 +5,7 @@
 #include "desktop/qt_text.h"
 #include "program/exit.h"
 #include "program/recovery.h"
+#include "windows/databases/offer_window.h"
 #include "windows/main/dropped_documents.h"
 #include "windows/main/main_menu.h"
 #include "windows/main/open_window.h"
@@ -101,6 +102,10 @@ void MainWindow::offer_unsaved_work() {
     if (offer_work(program_, prompts_)) show_document(program_.document.kind);
     // Its window offers it.
     if (is_time_line_kept(program_.data_folder)) commands_.start(command::time_line);
+}
+
+void MainWindow::offer_new_entries(const std::string& shipped_folder) {
+    wortlex::offer_new_entries(ports_, shipped_folder, this);
 }
 
 void MainWindow::open_file(const std::string& path) {

@@ -20,6 +20,8 @@ public:
     CommandTable& commands() { return commands_; }
     /// Opens the unsaved work of a run that broke off, if there is any and it is wanted.
     void offer_unsaved_work();
+    /// Offers what a new version has brought along for the databases, in the folder of shipped data.
+    void offer_new_entries(const std::string& shipped_folder);
     /// Opens a document file as if it were dropped on the window.
     void open_file(const std::string& path);
     /// Comes forward for a second start in its folder, and opens its file; an empty path names none.
