@@ -7,15 +7,13 @@ namespace {
 
 constexpr int page_units = 620, item_indent = 14; // logical units
 
-void print_indented(PageContext& page, const std::string& text, int depth) {
-    const int from = item_indent * (depth + 1);
-    const auto lines = page.wrapped(text, from);
-    for (std::size_t line = 0; line < lines.size(); ++line)
-        page.TabbedLine({from}, (line == 0 ? "-\t" : "\t") + lines[line]);
-}
-
-void print_wrapped(PageContext& page, const std::string& text) {
-    for (const auto& line : page.wrapped(text, 0)) page.Line(line);
+std::vector<PageRun> page_runs(const std::string& source) {
+    std::vector<PageRun> runs;
+    for (auto& run : runs_of(source)) {
+        const auto slope = run.is_italic ? PageFont::body_italic : PageFont::body;
+        runs.push_back({std::move(run.text), run.is_bold ? PageFont::body_bold : slope});
+    }
+    return runs;
 }
 
 void print_row(PageContext& page, const Block& row) {
@@ -26,17 +24,18 @@ void print_row(PageContext& page, const Block& row) {
     page.TableLine(columns, cells);
 }
 
-void print_block(PageContext& page, const Block& block) {
+void print_block(PageContext& page, const Block& block, bool is_first) {
     switch (block.kind) {
     case BlockKind::heading:
         page.KeepTogether(4);
         page.SelectFont(block.level < 3 ? PageFont::title : PageFont::title_italic);
         return page.Line(plain_text(block.source));
     case BlockKind::paragraph:
-        return print_wrapped(page, plain_text(block.source));
+        return page.RunLines(page_runs(block.source), 0);
     case BlockKind::item:
-        return print_indented(page, plain_text(block.source), block.level);
+        return page.RunLines(page_runs(block.source), item_indent * (block.level + 1), "-", item_indent);
     case BlockKind::table_row:
+        if (is_first) page.SelectFont(PageFont::body_bold); // the head
         return print_row(page, block);
     case BlockKind::fenced:
         return page.TabbedLine({item_indent}, '\t' + block.source);
@@ -58,7 +57,7 @@ PrintRequest handbook_printout(const std::string& title, const std::string& mark
                 std::optional<BlockKind> above;
                 for (const auto& block : blocks) {
                     if (above && parts(*above, block.kind)) page.NewLines(1);
-                    print_block(page, block);
+                    print_block(page, block, above != block.kind);
                     above = block.kind;
                 }
             }};

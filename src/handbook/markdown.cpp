@@ -78,6 +78,30 @@ private:
     bool is_open_ = false; // the next line goes on with the last block
 };
 
+// Takes a text mark by mark, letter by letter.
+class RunReader {
+public:
+    /// How much of the text is done with.
+    std::size_t read(std::string_view rest) {
+        const char first = rest.front();
+        if (first == '`') return is_code_ = !is_code_, 1;
+        if (is_code_) return add(first);
+        if (rest.starts_with("](")) return std::min(rest.find(')'), rest.size() - 1) + 1; // its words stay
+        if (rest.starts_with("**")) return begin(!runs.back().is_bold, runs.back().is_italic), 2;
+        if (first == '*') return begin(runs.back().is_bold, !runs.back().is_italic), 1;
+        if (first == '[' || rest.starts_with("![")) return 1;
+        return first == '\\' && rest.size() > 1 ? 1 + add(rest[1]) : add(first);
+    }
+
+    std::vector<EmphasisRun> runs = std::vector<EmphasisRun>(1);
+
+private:
+    std::size_t add(char letter) { return runs.back().text += letter, 1; }
+    void begin(bool is_bold, bool is_italic) { runs.push_back({{}, is_bold, is_italic}); }
+
+    bool is_code_ = false;
+};
+
 } // namespace
 
 std::vector<Block> blocks_of(std::string_view markdown) {
@@ -86,18 +110,16 @@ std::vector<Block> blocks_of(std::string_view markdown) {
     return std::move(reader.blocks);
 }
 
+std::vector<EmphasisRun> runs_of(std::string_view source) {
+    RunReader reader;
+    while (!source.empty()) source.remove_prefix(reader.read(source));
+    std::erase_if(reader.runs, [](const EmphasisRun& run) { return run.text.empty(); });
+    return std::move(reader.runs);
+}
+
 std::string plain_text(std::string_view source) {
     std::string plain;
-    for (std::size_t at = 0; at < source.size(); ++at) {
-        const auto rest = source.substr(at);
-        if (rest.substr(0, 2) == "](")
-            at += std::min(rest.find(')'), rest.size() - 1); // the words before it stay
-        else if (rest.front() == '\\' && rest.size() > 1)
-            plain += source[++at];
-        else if (std::string_view("*`[").find(rest.front()) == std::string_view::npos &&
-                 rest.substr(0, 2) != "![")
-            plain += rest.front();
-    }
+    for (const auto& run : runs_of(source)) plain += run.text;
     return plain;
 }
 

@@ -21,7 +21,18 @@ struct Block {
 /// line below a table's head is left out.
 std::vector<Block> blocks_of(std::string_view markdown);
 
-/// Without marks of emphasis and code; of a link or picture its words.
+/// Words between marks of emphasis; not empty.
+struct EmphasisRun {
+    std::string text;
+    bool is_bold = false;
+    bool is_italic = false;
+
+    bool operator==(const EmphasisRun&) const = default;
+};
+
+/// Without the marks, and those of code; of a link or picture its words. In code nothing is a mark.
+std::vector<EmphasisRun> runs_of(std::string_view source);
+/// The same without emphasis.
 std::string plain_text(std::string_view source);
 
 /// The bold words that an item begins with, plain: of "**A**, **B** and **C** are" these three.

@@ -27,8 +27,12 @@ struct FontShape {
     bool italic = false;
 };
 
-constexpr std::array<FontShape, 5> shapes = {
-    {{14, 400, false}, {14, 400, true}, {21, 700, false}, {21, 700, true}, {12, 400, false}}};
+constexpr std::array<FontShape, 6> shapes = {{{14, 400, false},
+                                              {14, 400, true},
+                                              {21, 700, false},
+                                              {21, 700, true},
+                                              {12, 400, false},
+                                              {14, 700, false}}};
 
 bool is_title(PageFont font) {
     return font == PageFont::title || font == PageFont::title_italic;
@@ -259,6 +263,23 @@ void PageContext::Paragraph(std::string_view text, int lines_below) {
         if (y_ > lines_on_page_ * (line_pitch_ + 2)) EndPage();
     }
     font_ = PageFont::body;
+}
+
+void PageContext::RunLines(std::span<const PageRun> runs, int from, std::string_view mark, int mark_units) {
+    const auto width = [this](const PageRun& run) {
+        measure_->set_font(font_of(run.font));
+        return measure_->text_extent(run.text).width;
+    };
+    for (const auto& line : run_lines(runs, room_from(from), width)) {
+        start_line();
+        if (!mark.empty()) page().text({tab(from - mark_units), y_}, std::exchange(mark, {}));
+        for (int x = tab(from); const auto& run : line) {
+            use(font_of(run.font));
+            page().text({x, y_}, run.text);
+            x += width(run);
+        }
+        end_line();
+    }
 }
 
 bool PageContext::KeepTogether(int lines) {

@@ -9,14 +9,13 @@
 
 #include "page/line_breaks.h"
 #include "page/page_job.h"
+#include "page/run_lines.h"
 #include "settings/label_sheets.h"
 
 #include <array>
 #include <initializer_list>
 
 namespace wortlex {
-
-enum class PageFont { body, body_italic, title, title_italic, small };
 
 /// A chart that stands alone on its page, or below the lines of a report.
 enum class ChartForm { alone, in_report };
@@ -76,6 +75,10 @@ public:
     /// A long text in lines between the margins, of 101 characters at most. Carriage returns end lines, line
     /// feeds are dropped. The last line keeps so many lines below it on its page.
     void Paragraph(std::string_view text, int lines_below = 0);
+
+    /// A text of several fonts in lines between a tab position and the right margin; `mark` stands before the
+    /// first one, so many units to the left.
+    void RunLines(std::span<const PageRun> runs, int from, std::string_view mark = {}, int mark_units = 0);
 
     /// A new page without headers, to be drawn on at will.
     Surface& WholePage();
@@ -146,7 +149,7 @@ private:
     Broken broken_;
     PageJob job_;
     Surface* measure_ = nullptr;
-    std::array<FontSpec, 5> fonts_;
+    std::array<FontSpec, 6> fonts_;
     std::array<std::optional<std::string>, header_slots> headers_;
     PageFont font_ = PageFont::body;
     bool numbers_pages_ = true;

@@ -167,6 +167,19 @@ TEST(Page, NumbersPagesAndKeepsNothingOffThePaper) {
                     ElementsAre("113 line", "135 line"));
 }
 
+TEST(Page, BreaksTextOfSeveralFontsBetweenWordsAlone) {
+    const std::vector<PageRun> runs = {
+        {"ab "}, {"cd", PageFont::body_bold}, {", ef  "}, {"longest ", PageFont::body_bold}};
+    const auto twice_as_wide_in_bold = [](const PageRun& run) {
+        return static_cast<int>(run.text.size()) * (run.font == PageFont::body_bold ? 2 : 1);
+    };
+    const std::vector<PageRun> first = {{"ab "}, {"cd", PageFont::body_bold}, {","}};
+    EXPECT_THAT(run_lines(runs, 8, twice_as_wide_in_bold),
+                ElementsAre(first, std::vector<PageRun>{{"ef"}},
+                            std::vector<PageRun>{{"longest", PageFont::body_bold}}));
+    EXPECT_TRUE(run_lines({}, 8, twice_as_wide_in_bold).empty());
+}
+
 TEST(Page, BreaksParagraphsAtBlanksAndAtTheMargin) {
     // 550 dots between the margins take 68 letters of 8.
     const auto part = [](int count) { return std::string(static_cast<std::size_t>(count), 'w'); };
