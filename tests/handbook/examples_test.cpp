@@ -1,6 +1,6 @@
 // The worked examples of the handbook, each a line "... numbers ... -> ... numbers ..." in a fenced block
 // with its name, are worked out anew by the functions that the windows use. A number is right to its last
-// decimal.
+// decimal. The same in another unit may stand behind it: "5 gallons (18.9 L)".
 #include "base/number.h"
 #include "brewing/calendar.h"
 #include "brewing/carbonation.h"
@@ -27,6 +27,7 @@
 #include <filesystem>
 #include <fstream>
 #include <map>
+#include <regex>
 
 namespace wortlex::examples {
 namespace {
@@ -61,6 +62,24 @@ std::vector<Told> numbers_in(const std::string& text) {
         at = end - 1;
     }
     return numbers;
+}
+
+const std::regex in_both_units(R"(([0-9.]+) (gallons|quarts|lb|pounds|ounces?|F) \(([0-9.]+) (L|kg|g|C)\))");
+
+void check_units(const std::smatch& told, const std::string& page) {
+    const double number = std::stod(told[1]);
+    const std::map<std::string, double> converted = {
+        {"gallons L", number * 3.785412}, {"quarts L", number * 0.946353}, {"lb kg", number * 0.453592},
+        {"pounds kg", number * 0.453592}, {"ounces g", number * 28.3495},  {"ounce g", number * 28.3495},
+        {"F C", (number - 32) / 1.8}};
+    const auto metric = numbers_in(told[3]).at(0);
+    EXPECT_NEAR(converted.at(told[2].str() + ' ' + told[4].str()), metric.number,
+                0.52 * std::pow(10, -metric.decimals))
+        << page << ": " << told[0];
+}
+
+std::string without_other_units(const std::string& line) {
+    return std::regex_replace(line, in_both_units, "$1 $2");
 }
 
 // Pounds and a figure of each malt, as many as there are.
@@ -297,7 +316,8 @@ const std::map<std::string, Work, std::less<>>& works() {
     return all;
 }
 
-void check(const std::string& name, const std::string& line, const std::string& page) {
+void check(const std::string& name, const std::string& whole_line, const std::string& page) {
+    const auto line = without_other_units(whole_line);
     const auto arrow = line.find("->");
     ASSERT_NE(arrow, std::string::npos) << page << ": " << line;
     const auto work = works().find(name);
@@ -314,11 +334,14 @@ void check(const std::string& name, const std::string& line, const std::string& 
 
 TEST(Handbook, ItsExamplesAreWhatTheProgramWorksOut) {
     constexpr std::string_view fence = "```example ";
-    int examples = 0;
+    int examples = 0, in_two_units = 0;
     for (const auto& entry : std::filesystem::directory_iterator(HANDBOOK_FOLDER)) {
         std::ifstream page(entry.path());
         std::string line, name;
         while (std::getline(page, line)) {
+            for (std::sregex_iterator both(line.begin(), line.end(), in_both_units), end; both != end;
+                 ++both, ++in_two_units)
+                check_units(*both, entry.path().filename().string());
             if (line.substr(0, fence.size()) == fence) {
                 name = line.substr(fence.size());
             } else if (line.substr(0, 3) == "```") {
@@ -330,6 +353,7 @@ TEST(Handbook, ItsExamplesAreWhatTheProgramWorksOut) {
         }
     }
     EXPECT_GT(examples, 40);
+    EXPECT_GT(in_two_units, 20);
 }
 
 } // namespace
