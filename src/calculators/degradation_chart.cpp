@@ -25,9 +25,15 @@ struct Scales {
     Point place(int month, double alpha) const { return {months.place(month), percent.place(alpha)}; }
 };
 
-Scales scales_of(const HopDegradation& hop, int top) {
+// A year, or as many as the hop is old.
+int months_shown(const HopDegradation& hop) {
     int months = steps_of_months;
     while (months < hop.months && months < 60) months += steps_of_months;
+    return months;
+}
+
+Scales scales_of(const HopDegradation& hop, int top) {
+    const int months = months_shown(hop);
     const int percent = std::clamp(truncate(hop.start_alpha), 0, 100) + 1;
     return {{plot.left, plot.right, 0, static_cast<double>(months)},
             {top + plot.bottom, top + plot.top, 0, static_cast<double>(percent)}};
@@ -99,6 +105,14 @@ void draw_mark(Surface& surface, const Scales& scales, const HopDegradation& hop
 }
 
 } // namespace
+
+std::string words_of_degradation_chart(const HopDegradation& hop) {
+    const int months = months_shown(hop), quarter = months / 4;
+    auto words = formatted("Chart of the alpha acid: %0.2f percent fresh", hop.start_alpha);
+    for (int month = quarter; month <= months; month += quarter)
+        words += formatted(", %0.2f", alpha_after(hop, month)) + formatted(" after %d months", month);
+    return words;
+}
 
 Extent degradation_chart_size(bool with_header) {
     return {area.width, area.height + (with_header ? header_height : 0)};

@@ -145,7 +145,7 @@ void hop_degradation_form(Form& form, HopDegradation& degradation, DegradationAc
     form.group()
         .canvas("chart", degradation_chart_size(false),
                 [&degradation](Surface& surface) { draw_degradation_chart(surface, degradation, false); })
-        .named("Chart of the alpha acid over the months");
+        .named([&degradation] { return words_of_degradation_chart(degradation); });
     form.after_edit(
         [&degradation](Row&) { degradation.adjusted_alpha = alpha_after(degradation, degradation.months); });
 }

@@ -216,4 +216,17 @@ MashChart mash_chart(const MashCourse& course, const MashChartOptions& options, 
     return ChartMaker(course, options, frame).made();
 }
 
+std::string words_of_mash_chart(const MashCourse& course, TemperatureUnits units) {
+    const auto* const degree = units == TemperatureUnits::celsius ? "%d C for " : "%d F for ";
+    std::string words = "Mash chart";
+    const auto* separator = ": ";
+    for (const auto& step : course.names) {
+        const auto name = std::string_view(step.name).substr(step.name.starts_with("- ") ? 2 : 0);
+        words += separator + std::string(name) + ' ' + formatted(degree, shown_degrees(step.degrees, units)) +
+                 formatted("%d min", step.minutes);
+        separator = ", ";
+    }
+    return words + formatted("; %d minutes in all", course.minutes);
+}
+
 } // namespace wortlex

@@ -55,6 +55,9 @@ struct MashChart {
 /// At most one line of the grid stands on a dot, whatever the schedule says.
 MashChart mash_chart(const MashCourse& course, const MashChartOptions& options, const ChartFrame& frame = {});
 
+/// What the chart tells, for those who do not see it.
+std::string words_of_mash_chart(const MashCourse& course, TemperatureUnits units);
+
 /// What a chart takes on the screen and in a picture.
 Extent mash_chart_size(const MashCourse& course, const MashChartOptions& options);
 

@@ -79,7 +79,7 @@ void mash_chart_form(Form& form, const MashAsked& mash, MashChartOptions& option
         .canvas(
             "chart", [drawing] { return drawing().size; },
             [drawing](Surface& surface) { drawing().draw(surface); })
-        .named("Chart of the mash");
+        .named([mash, &options] { return words_of_mash_chart(course_of(mash(), options), options.units); });
     option_rows(form, mash, options);
     auto& buttons = form.group();
     buttons.button("print", "&Print", std::move(actions.print));

@@ -63,12 +63,12 @@ private:
     // In the middle beside its swatch; of a rest, from the middle of its swatch.
     void add_name(std::size_t at) {
         const auto box = swatch(at);
-        const auto& [name, colour] = course_.names[at];
+        const auto& step = course_.names[at];
         const bool by_middle = course_.is_simple && !frame_.is_paper;
         const int middle = (box.top + box.bottom) / 2;
         const Point place = by_middle ? Point{(box.left + box.right) / 2 + name_gap, middle - 7}
                                       : Point{box.left + dots(name_gap), middle - dots(letter_height) / 2};
-        chart_.swatches.push_back({box, colour, {place, name}});
+        chart_.swatches.push_back({box, step.colour, {place, step.name}});
     }
 
     void add_spikes(int names) {

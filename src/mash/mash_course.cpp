@@ -149,7 +149,7 @@ private:
         at = {at.minute + minutes, degrees};
         patch.points.push_back(at);
         course.patches.push_back(std::move(patch));
-        course.names.push_back({shown.name, shown.colour});
+        course.names.push_back({shown.name, shown.colour, shown.rest.temperature, shown.rest.minutes});
     }
 
     const InfusionExtras* infusions_; ///< null where they do not heat
@@ -168,7 +168,8 @@ MashCourse complex_course(const ComplexMash& mash, const MashChartOptions& optio
             add_spike(course, mash, i,
                       {at.minute + heating, static_cast<double>(steps[i].start_temperature)});
         add_step(course, at, steps[i], heating);
-        course.names.push_back({utf8_from_windows1252(steps[i].name.view()), steps[i].rest_colour});
+        course.names.push_back({utf8_from_windows1252(steps[i].name.view()), steps[i].rest_colour,
+                                steps[i].start_temperature, steps[i].rest_minutes});
     }
     course.minutes = at.minute;
     return course;

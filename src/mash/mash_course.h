@@ -38,9 +38,12 @@ struct CourseSpike {
     double degrees = 0;
 };
 
+/// A step, as the legend names it.
 struct CourseName {
     std::string name; ///< UTF-8
     std::uint32_t colour = 0;
+    std::int32_t degrees = 0; ///< F, as its rest begins
+    std::int32_t minutes = 0; ///< of its rest
 };
 
 struct MashCourse {

@@ -135,6 +135,17 @@ WaterChart water_chart(const WaterAnalysis& analysis) {
     return chart;
 }
 
+std::string words_of_water_chart(const WaterAnalysis& analysis) {
+    std::string words = "Water chart, ppm of your water, of the profile and of yours with the additions: ";
+    const auto* separator = "";
+    for (const auto& ion : ions) {
+        words += separator + std::string(name_of(ion));
+        for (const auto& water : charted) words += formatted(" %0.1f", charted_ppm(analysis, water, ion));
+        separator = "; ";
+    }
+    return words;
+}
+
 ChartDrawing water_chart_drawing(const WaterAnalysis& analysis, Extent size) {
     return {size, [&analysis, size](Surface& surface) { draw_chart(surface, analysis, size); }};
 }

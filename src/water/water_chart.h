@@ -37,6 +37,9 @@ struct WaterChart {
 
 WaterChart water_chart(const WaterAnalysis& analysis);
 
+/// What the chart tells, for those who do not see it.
+std::string words_of_water_chart(const WaterAnalysis& analysis);
+
 /// The client area of the chart's window. What is drawn leaves the lowest 30 pixels to the buttons.
 inline constexpr Extent water_chart_window{500, 360};
 inline constexpr Extent water_chart_size{water_chart_window.width, water_chart_window.height - 30};

@@ -42,6 +42,22 @@ void fill_from(Surface& surface, int left, int right, int top, std::uint32_t col
     surface.rectangle({left, top, right, top + bar_high});
 }
 
+std::string shown_volume(float gallons, const WaterPlan& plan, const Settings& settings) {
+    return formatted("%0.2f", to_shown_volume(gallons, plan.units, settings.system_mode));
+}
+
+std::string words_of_volume(float gallons, const WaterPlan& plan, const Settings& settings) {
+    return shown_volume(gallons, plan, settings) + ' ' + water_unit(plan.units, settings).usual;
+}
+
+// Empty where nothing was lost.
+std::string words_of_losses(const WaterStage& stage, const WaterPlan& plan, const Settings& settings) {
+    std::string lost;
+    for (const auto& [words, gallons] : stage.losses)
+        lost += (lost.empty() ? "lost: " : ", ") + shown_volume(gallons, plan, settings) + ' ' + words;
+    return lost;
+}
+
 } // namespace
 
 std::vector<WaterStage> water_flow(const WaterNeeds& needs, const WaterBalance& balance, bool has_mash) {
@@ -61,10 +77,19 @@ std::vector<WaterStage> water_flow(const WaterNeeds& needs, const WaterBalance& 
              without_nothing({{"by cooling", less(balance.to_chillers, balance.after_cooling)}})}};
 }
 
+std::string words_of_water_flow(const WaterPlan& plan, const Settings& settings) {
+    std::string words = "The way of the water";
+    const auto* separator = ": ";
+    for (const auto& stage : water_flow(plan.needs, plan.balance, has_mash(plan))) {
+        const auto lost = words_of_losses(stage, plan, settings);
+        words += separator + std::string(stage.words) + ' ' + words_of_volume(stage.gallons, plan, settings);
+        if (!lost.empty()) words += ", " + lost;
+        separator = "; ";
+    }
+    return words;
+}
+
 void draw_water_flow(Surface& surface, const WaterPlan& plan, const Settings& settings) {
-    const auto shown = [&](float gallons) {
-        return formatted("%0.2f", to_shown_volume(gallons, plan.units, settings.system_mode));
-    };
     const auto stages = water_flow(plan.needs, plan.balance, has_mash(plan));
     const double most = most_of(stages);
     clear(surface, surface.size(), chart_white);
@@ -78,13 +103,11 @@ void draw_water_flow(Surface& surface, const WaterPlan& plan, const Settings& se
         set_chart_font(surface, bar_high, false, 400);
         surface.text({words_at, top}, stage.words);
         const int figure_at = std::max(reach, before) + figure_gap;
-        surface.text({figure_at, top}, shown(stage.gallons) + ' ' + water_unit(plan.units, settings).usual);
+        surface.text({figure_at, top}, words_of_volume(stage.gallons, plan, settings));
         before = reach;
-        std::string lost;
-        for (const auto& [words, gallons] : stage.losses)
-            lost += (lost.empty() ? "" : ", ") + shown(gallons) + ' ' + words;
         surface.set_text_colour(quiet_ink);
-        if (!lost.empty()) surface.text({bars_at, top - bar_high}, "lost: " + lost);
+        const auto lost = words_of_losses(stage, plan, settings);
+        if (!lost.empty()) surface.text({bars_at, top - bar_high}, lost);
         top += row_pitch;
     }
 }

@@ -22,6 +22,9 @@ std::vector<WaterStage> water_flow(const WaterNeeds& needs, const WaterBalance& 
 
 inline constexpr Extent water_flow_size{600, 196};
 
+/// What the drawing tells, for those who do not see it.
+std::string words_of_water_flow(const WaterPlan& plan, const Settings& settings);
+
 /// On white, in the units of the plan.
 void draw_water_flow(Surface& surface, const WaterPlan& plan, const Settings& settings);
 

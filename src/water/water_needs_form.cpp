@@ -223,7 +223,7 @@ void water_needs_form(Form& form, const WaterPlan& plan, const Settings& setting
     if (plan.own_units != nullptr) unit_choice(need, *plan.own_units, settings);
     need.canvas("flow", water_flow_size,
                 [plan, &settings](Surface& surface) { draw_water_flow(surface, plan, settings); })
-        .named("The way of the water");
+        .named([plan, &settings] { return words_of_water_flow(plan, settings); });
     need.button("save_default", "Sa&ve As Default", std::move(actions.save_default));
     need.button("print", "&Print", std::move(actions.print));
     need.button("help", "Help", std::move(actions.help));

@@ -98,12 +98,16 @@ TEST(HopDegradation, ItsFieldsFollowEachOther) {
     EXPECT_EQ(shown(form, "adjusted_alpha"), "0.01");
 }
 
-// What is drawn of a hop of `alpha` at the age of `months`, at 15 degrees C.
-std::vector<std::string> drawn(float alpha, std::int16_t months, bool with_header = false) {
+// At the age of `months`, at 15 degrees C.
+HopDegradation stored_hop(float alpha, std::int16_t months) {
     HopDegradation hop{"Saaz", alpha, 45, 59, 15, months, StorageKind::airtight};
     hop.adjusted_alpha = alpha_after(hop, months);
+    return hop;
+}
+
+std::vector<std::string> drawn(float alpha, std::int16_t months, bool with_header = false) {
     RecordingSurface surface;
-    draw_degradation_chart(surface, hop, with_header);
+    draw_degradation_chart(surface, stored_hop(alpha, months), with_header);
     return surface.lines;
 }
 
@@ -180,6 +184,9 @@ TEST(DegradationChart, NamesEverything) {
         if (line.starts_with("text ") && std::isalpha(line.back()) != 0 && line[line.size() - 2] == ' ')
             letters += line.back();
     EXPECT_EQ(letters, "Alpha") << "one letter a line";
+    const auto words = words_of_degradation_chart(stored_hop(4.5F, 6));
+    EXPECT_TRUE(words.starts_with("Chart of the alpha acid: 4.50 percent fresh, ")) << words;
+    EXPECT_THAT(words, testing::HasSubstr(", 3.15 after 6 months, "));
 }
 
 // Five percent, in five gallons, by Rager: an ounce gives 0.30 x 0.05 x 7462 / 5 = 22.386 IBU.

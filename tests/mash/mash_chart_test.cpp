@@ -89,6 +89,8 @@ TEST(MashChart, ADecoctionTakesFiveMinutesAndRunsBackToWhereItWasPulled) {
     EXPECT_THAT(chart.captions.back(), Reads(80, 364, "Decoction Spike"));
     EXPECT_EQ(chart.swatches.at(1).box, (Box{70, 307, 76, 313})) << "the second of the legend";
     EXPECT_EQ(chart.swatches.at(1).name.text, "Sugar");
+    EXPECT_EQ(words_of_mash_chart(mash.course(), TemperatureUnits::celsius),
+              "Mash chart: Acid 40 C for 20 min, Sugar 66 C for 65 min; 100 minutes in all");
 }
 
 // Without its spike the chart goes from 94 to 160 F, and the highest line is the frame itself.

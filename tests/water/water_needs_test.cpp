@@ -54,6 +54,7 @@ TEST(WaterNeeds, FollowTheWaterFromSpargeToFermenter) {
     EXPECT_TRUE(water_flow(needs.tool.needs, needs.tool.balance, false)[1].losses.empty()) << "of an extract";
     EXPECT_TRUE(flow[3].losses.empty()) << "nothing is left behind";
     EXPECT_FLOAT_EQ(flow[2].losses.at(0).gallons, 0.525F);
+    EXPECT_TRUE(needs.form.row("flow").name_text().ends_with("To Fermenter 4.54 Gal, lost: 0.19 by cooling"));
     needs.type_all({{"evaporation_rate", "150"}, {"other", "1"}});
     EXPECT_EQ(needs.results(), "  8.00|  2.00|  1.00|  5.25| -2.62| -3.48")
         << "-2.625 to the even digit, and -3.625 x 0.96";

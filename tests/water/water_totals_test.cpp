@@ -109,6 +109,7 @@ TEST(WaterChart, EveryIonHasAScaleOfItsOwn) {
     EXPECT_EQ(chart.legend[1].text_at, (Point{56, 305}));
     EXPECT_EQ(chart.legend[0].text + chart.legend[1].text + chart.legend[2].text,
               "=Your Water : Well=Profile Water : Wanted=Yours+Additions");
+    EXPECT_THAT(words_of_water_chart(charted_waters()), testing::HasSubstr(": Ca 50.0 200.0 100.0; Mg "));
 }
 
 TEST(WaterChart, ListsTheAdditionsOnPaper) {

@@ -34,7 +34,9 @@ WaterChartWindow::WaterChartWindow(const WindowPorts& ports, const WaterAnalysis
 Form WaterChartWindow::made_form() {
     Form form;
     const auto shown = water_chart_drawing(analysis_, water_chart_shown);
-    form.rows().canvas("chart", shown.size, shown.draw).named("Chart of the ions of three waters");
+    form.rows().canvas("chart", shown.size, shown.draw).named([this] {
+        return words_of_water_chart(analysis_);
+    });
     form.rows().button("print", "&Print", [this] {
         ports_.pages.show(water_chart_printout(analysis_, ports_.program.settings.printer_scale));
     });
