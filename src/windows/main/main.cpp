@@ -2,6 +2,7 @@
 #include "base/folder_guard.h"
 #include "desktop/end_of_session.h"
 #include "desktop/message_boxes.h"
+#include "desktop/outlined_style.h"
 #include "desktop/picture_easel.h"
 #include "desktop/print_preview.h"
 #include "desktop/second_start.h"
@@ -71,6 +72,7 @@ int run(int count, char** arguments) {
     QApplication::setDesktopFileName(QStringLiteral("wortlex"));
     // The end is the main window's to tell: a recipe that is closed behind it must not end the program.
     QApplication::setQuitOnLastWindowClosed(false);
+    outline_on_black();
     MessageBoxes boxes;
     NotedPrompts prompts(boxes, log);
     const auto named = named_document(count, arguments);
