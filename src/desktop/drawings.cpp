@@ -2,16 +2,30 @@
 
 #include "desktop/colours.h"
 #include "desktop/painter_surface.h"
+#include "desktop/read_aloud.h"
 
 #include <QStyleOptionFocusRect>
 
 namespace wortlex {
 
+void draw_focus(QPainter& painter, const QWidget& widget) {
+    if (!widget.hasFocus()) return;
+    QStyleOptionFocusRect option;
+    option.initFrom(&widget);
+    option.rect = widget.rect().adjusted(3, 3, -3, -3);
+    widget.style()->drawPrimitive(QStyle::PE_FrameFocusRect, &option, &painter, &widget);
+}
+
 SwatchButton::SwatchButton(std::function<std::uint32_t()> colour, const std::function<void()>& press,
                            QWidget* parent)
     : QAbstractButton(parent), colour_(std::move(colour)) {
     setFocusPolicy(press ? Qt::StrongFocus : Qt::NoFocus);
-    if (press) connect(this, &QAbstractButton::clicked, this, press);
+    if (press) {
+        connect(this, &QAbstractButton::clicked, this, press);
+    } else {
+        give_role(*this, QAccessible::Graphic);
+        let_reader_reach(*this);
+    }
 }
 
 QSize SwatchButton::sizeHint() const {
@@ -24,15 +38,14 @@ void SwatchButton::paintEvent(QPaintEvent*) {
     painter.setBrush(colour_of(colour_()));
     painter.setPen(Qt::black);
     painter.drawRect(rect().adjusted(0, 0, -1, -1));
-    if (!hasFocus()) return;
-    QStyleOptionFocusRect option;
-    option.initFrom(this);
-    option.rect = rect().adjusted(3, 3, -3, -3);
-    style()->drawPrimitive(QStyle::PE_FrameFocusRect, &option, &painter, this);
+    draw_focus(painter, *this);
 }
 
 Canvas::Canvas(std::function<void(Surface&)> draw, QWidget* parent)
-    : QWidget(parent), draw_(std::move(draw)) {}
+    : QWidget(parent), draw_(std::move(draw)) {
+    give_role(*this, QAccessible::Graphic);
+    let_reader_reach(*this);
+}
 
 void Canvas::show_again(Extent least) {
     setMinimumSize(least.width, least.height);
@@ -43,6 +56,7 @@ void Canvas::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     PainterSurface surface(painter, {width(), height()});
     draw_(surface);
+    draw_focus(painter, *this);
 }
 
 } // namespace wortlex

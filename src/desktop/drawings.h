@@ -7,11 +7,16 @@
 
 #include <functional>
 
+class QPainter;
+
 namespace wortlex {
+
+/// Around a painted widget that has the focus.
+void draw_focus(QPainter& painter, const QWidget& widget);
 
 class SwatchButton : public QAbstractButton {
 public:
-    /// Without an action it is only a patch and takes no focus.
+    /// Without an action it is only a patch, which nothing but a screen reader goes to.
     SwatchButton(std::function<std::uint32_t()> colour, const std::function<void()>& press, QWidget* parent);
     QSize sizeHint() const override;
 
@@ -22,6 +27,7 @@ private:
     std::function<std::uint32_t()> colour_;
 };
 
+/// A figure like any other to a screen reader.
 class Canvas : public QWidget {
 public:
     Canvas(std::function<void(Surface&)> draw, QWidget* parent);

@@ -8,6 +8,7 @@
 #include "desktop/help_keys.h"
 #include "desktop/list_view.h"
 #include "desktop/qt_text.h"
+#include "desktop/read_aloud.h"
 #include "forms/glossary.h"
 
 #include <QButtonGroup>
@@ -43,13 +44,24 @@ QString meaning(const Row& row) {
     return string_of(meaning_of(caption));
 }
 
+QString lines_of(QStringList lines) {
+    lines.removeAll(QString());
+    return lines.join(QLatin1Char('\n'));
+}
+
 // What may be typed, and why nothing may, stand below what it means.
 QString tip_of(const Row& row) {
     const auto* const entry = dynamic_cast<const EntryRow*>(&row);
-    QStringList lines = {meaning(row), entry == nullptr ? QString() : string_of(entry->range_words()),
-                         reason_of(row)};
-    lines.removeAll(QString());
-    return lines.join(QLatin1Char('\n'));
+    return lines_of(
+        {meaning(row), entry == nullptr ? QString() : string_of(entry->range_words()), reason_of(row)});
+}
+
+// What is drawn in a field, for those who do not see it.
+QString drawn_in(const Row& row) {
+    if (const auto* const swatch = dynamic_cast<const SwatchRow*>(&row))
+        return string_of(words_of_colour(swatch->colour()));
+    const auto* const list = dynamic_cast<const ListRow*>(&row);
+    return list == nullptr || list->count() > 0 ? QString() : string_of(list->empty_words());
 }
 
 bool is_to_fill_in(const Row& row) {
@@ -85,6 +97,12 @@ void aim_at_width(QLineEdit& line, const EntryRow& row, int beside) {
     field->setMinimumWidth(width);
     if (row.is_number()) field->setMaximumWidth(width);
     if (row.is_number()) line.setAlignment(Qt::AlignRight);
+}
+
+// To be copied, not to be passed through.
+void leave_to_copy(QWidget& figure) {
+    figure.setFocusPolicy(Qt::ClickFocus);
+    let_reader_reach(figure);
 }
 
 // Tells when the desktop has changed its colours.
@@ -212,7 +230,7 @@ void FormWidgets::name(const Row& row, QWidget& field) const {
         const auto heading = spoken(string_of(form_.heading_of(row)));
         if (!heading.isEmpty() && heading != words) words += QLatin1String(", ") + heading;
     }
-    field.setAccessibleName(words);
+    tell_name(field, words);
 }
 
 void FormWidgets::count_names() {
@@ -231,7 +249,7 @@ void FormWidgets::show_state(const Row& row, const Shown& shown) const {
     else
         shown.field->setToolTip(tip);
     if (shown.label != nullptr) shown.label->setToolTip(tip);
-    shown.field->setAccessibleDescription(tip);
+    tell_description(*shown.field, lines_of({tip, drawn_in(row)}));
     shown.field->setEnabled(row.is_enabled());
     const bool visible = row.is_visible();
     if (shown.field->isVisibleTo(&parent_) != visible) shown.field->setVisible(visible);
@@ -270,7 +288,7 @@ void FormWidgets::visit(EntryRow& row) {
 void FormWidgets::make_page(EntryRow& row) {
     auto* const page = new Page(&parent_);
     page->setReadOnly(row.is_read_only());
-    if (row.is_read_only()) page->setFocusPolicy(Qt::ClickFocus);
+    if (row.is_read_only()) leave_to_copy(*page);
     const auto field = std::make_shared<PageField>(*page);
     // The toolkit tells its own writes too; only those of the user reach the form.
     const auto writes = std::make_shared<bool>(false);
@@ -303,7 +321,7 @@ FormWidgets::Line FormWidgets::made_line(const EntryRow& row) {
     auto* const edit = arrows != nullptr ? &arrows->line() : new QLineEdit(&parent_);
     auto* const widget = arrows != nullptr ? static_cast<QWidget*>(arrows) : edit;
     edit->setReadOnly(row.is_read_only());
-    if (row.is_read_only()) widget->setFocusPolicy(Qt::ClickFocus); // to be copied, not to be passed through
+    if (row.is_read_only()) leave_to_copy(*widget);
     aim_at_width(*edit, row,
                  arrows == nullptr ? 0 : 2 * widget->style()->pixelMetric(QStyle::PM_ScrollBarExtent));
     select_on_focus(*edit);
@@ -324,6 +342,7 @@ void FormWidgets::follow_typing(EntryRow& row, const Line& line) {
 void FormWidgets::follow_leaving(EntryRow& row, const Line& line) {
     const auto leave = [this, &row, line] {
         show_value(shown_.at(&row));
+        show_state(row, shown_.at(&row)); // it may have been told out of range
         const QPointer<QObject> still(&alive_);
         form_.leave();
         if (!still.isNull() && line.widget->hasFocus())
@@ -391,7 +410,7 @@ void FormWidgets::make_buttons(ChoiceRow& row) {
             const auto option = static_cast<std::size_t>(buttons->id(button));
             const auto word = string_of(row.words[option]());
             button->setText(broken(word));
-            button->setAccessibleName(option_name(word, *frame));
+            tell_name(*button, option_name(word, *frame));
             button->setToolTip(string_of(meaning_of(spoken(word).toStdString())));
             button->setEnabled(!row.option_when || row.option_when(option));
             button->setChecked(chosen == option);

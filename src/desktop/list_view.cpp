@@ -69,6 +69,11 @@ QVariant ListModel::ink(std::size_t row) const {
     return view().palette().color(QPalette::Disabled, QPalette::Text);
 }
 
+// The ground tells it to the eye alone.
+QVariant ListModel::mark(std::size_t row) const {
+    return row_.is_marked && row_.is_marked(row) ? QStringLiteral("Marked") : QVariant();
+}
+
 QVariant ListModel::glass(const QModelIndex& index) const {
     if (!row_.glass || index.column() != 0) return {};
     return glass_icon(row_.glass(static_cast<std::size_t>(index.row())), view());
@@ -86,6 +91,7 @@ QVariant ListModel::data(const QModelIndex& index, int role) const {
     if (role == Qt::FontRole) return font(row);
     if (role == Qt::ForegroundRole) return ink(row);
     if (role == Qt::DecorationRole) return glass(index);
+    if (role == Qt::AccessibleDescriptionRole) return mark(row);
     if (role != Qt::DisplayRole) return {};
     return QString::fromStdString(row_.cell(row, static_cast<std::size_t>(index.column())));
 }

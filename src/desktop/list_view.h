@@ -29,6 +29,7 @@ private:
     QVariant font(std::size_t row) const;
     QVariant ink(std::size_t row) const;
     QVariant glass(const QModelIndex& index) const;
+    QVariant mark(std::size_t row) const;
     const ListView& view() const;
 
     const ListRow& row_;

@@ -1,6 +1,7 @@
 #include "desktop/range_hint.h"
 
 #include "desktop/colours.h"
+#include "desktop/read_aloud.h"
 
 #include <QAccessible>
 #include <QEvent>
@@ -29,6 +30,7 @@ void RangeHint::tell(QWidget& field, const QString& range) {
     field.installEventFilter(this);
     range_ = range;
     setAccessibleName(range);
+    tell_description(field, QStringLiteral("Out of range: ") + range);
     place();
     show();
     raise();

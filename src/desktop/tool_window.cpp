@@ -3,6 +3,7 @@
 #include "desktop/captions.h"
 #include "desktop/help_keys.h"
 #include "desktop/qt_text.h"
+#include "desktop/read_aloud.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -17,6 +18,8 @@ namespace wortlex {
 
 WindowPlace& dress_window(QWidget& window, const WindowInfo& info, std::size_t use, Opener opener,
                           QWidget* origin, const Places& places) {
+    const bool is_plain = window.metaObject() == &QWidget::staticMetaObject;
+    if (is_plain) give_role(window, QAccessible::Window); // as dialogs have theirs
     window.setObjectName(string_of(info.template_name));
     window.setWindowTitle(string_of(info.captions.at(use)));
     set_help_page(window, info.help_page);

@@ -27,7 +27,7 @@ constexpr std::array words = {
     Word{"SRM", "Standard Reference Method: the color of beer, 2 is pale and 40 black"},
     Word{"EBC", "European Brewery Convention: the color of beer, about twice the number of SRM"},
     Word{"Lovibond", "The color of a malt on the scale of SRM"},
-    Word{"CLR", "The color of the beer in the glass; press for its detail"},
+    Word{"CLR", "The color of the beer in the glass"},
     Word{"pppg", "Points of gravity that a pound yields in a gallon: 37 make 1.037"},
     Word{"HWE", "Hot water extract: liter degrees a kilogram"},
     Word{"DME", "Dry malt extract"},

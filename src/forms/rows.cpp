@@ -4,6 +4,11 @@
 
 namespace wortlex {
 
+std::string words_of_colour(std::uint32_t colour) {
+    const auto part = [colour](unsigned place) { return std::to_string(colour >> place & 0xFF); };
+    return "Red " + part(0) + ", green " + part(8) + ", blue " + part(16);
+}
+
 ChoiceRow::ChoiceRow(std::string row_key, Binding<std::int32_t> code,
                      std::vector<Live<std::string>> option_words)
     : RowOptions(std::move(row_key), std::nullopt), words(std::move(option_words)), code_(std::move(code)) {}

@@ -69,6 +69,9 @@ public:
     void accept(RowVisitor& visitor) override { visitor.visit(*this); }
 };
 
+/// "Red 198, green 166, blue 50", of 0x00BBGGRR.
+std::string words_of_colour(std::uint32_t colour);
+
 /// A patch of colour, 0x00BBGGRR; with an action it is a button.
 class SwatchRow : public RowOptions<SwatchRow, Row> {
 public:

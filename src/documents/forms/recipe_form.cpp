@@ -138,6 +138,7 @@ void figure_rows(Rows& rows, const RecipeSubject& subject) {
                     return swatch_colour(colours, open.figures.colour.srm, open.settings);
                 })
         .label("&CLR")
+        .hint("The color of the beer in the glass; press for its detail")
         .pressed(subject.actions.show_colour);
 }
 

@@ -117,6 +117,7 @@ void aim_rows(Rows& rows, const SessionSubject& subject) {
                     return swatch_colour(colours, open.figures.colour.srm, open.settings);
                 })
         .named("Color of the beer")
+        .hint("Press for its detail")
         .enabled([&open] { return has_picked_recipe(open); })
         .pressed(subject.actions.show_colour);
     aim.figure("boil_minutes", "Boil Time", recipe_figure::boil_minutes);

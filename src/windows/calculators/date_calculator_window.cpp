@@ -1,9 +1,9 @@
 #include "windows/calculators/date_calculator_window.h"
 
 #include "brewing/calendar.h"
-#include "program/program.h"
-
 #include "desktop/captions.h"
+#include "program/program.h"
+#include "windows/calculators/date_dialog.h"
 
 #include <QDialogButtonBox>
 #include <QGridLayout>
@@ -49,7 +49,7 @@ void DateCalculatorWindow::add_calendar(QCalendarWidget& calendar, const QString
     auto* const label = new QLabel(name, this);
     label->setBuddy(&calendar);
     calendar.setObjectName(column == 0 ? QStringLiteral("start") : QStringLiteral("stop"));
-    calendar.setAccessibleName(QString(name).remove(QLatin1Char('&')));
+    name_calendar(calendar, spoken(name));
     connect(&calendar, &QCalendarWidget::selectionChanged, this, [this] { widgets_.refresh(); });
     auto& grid = dynamic_cast<QGridLayout&>(*layout());
     grid.addWidget(label, 0, column);

@@ -13,6 +13,9 @@
 
 namespace wortlex {
 
+/// To a screen reader, with its days and the buttons of its months.
+void name_calendar(QCalendarWidget& calendar, const QString& name);
+
 /// Modal to its owner. The second month follows the first one; a day can be chosen in either.
 class DateDialog : public QDialog {
 public:

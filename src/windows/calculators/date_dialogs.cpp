@@ -6,9 +6,20 @@
 
 #include <QGridLayout>
 
+#include <array>
 #include <utility>
 
 namespace wortlex {
+
+void name_calendar(QCalendarWidget& calendar, const QString& name) {
+    calendar.setAccessibleName(name);
+    constexpr std::array parts = {std::pair("qt_calendar_calendarview", "Days"),
+                                  std::pair("qt_calendar_prevmonth", "Previous month"),
+                                  std::pair("qt_calendar_nextmonth", "Next month")};
+    for (const auto& [part, words] : parts)
+        if (auto* const found = calendar.findChild<QWidget*>(QLatin1String(part)))
+            found->setAccessibleName(QLatin1String(words) + QLatin1String(", ") + name);
+}
 
 DateDialog::DateDialog(std::string_view template_name, const CalendarDate& date, const Places& places,
                        QWidget* owner)
@@ -68,7 +79,7 @@ void DateDialog::add_button(const QString& key, const QString& caption, const QS
 
 void DateDialog::make_calendar(QCalendarWidget& calendar, const QString& key, const QString& name) {
     calendar.setObjectName(key);
-    calendar.setAccessibleName(name);
+    name_calendar(calendar, name);
     calendar.setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
     connect(&calendar, &QCalendarWidget::activated, this, &QDialog::accept);
 }

@@ -50,7 +50,6 @@ void TimeSheetWindow::lay_out_rows() {
     face->setFont(font);
     face->setMaximumWidth(QWIDGETSIZE_MAX);
     face->setAlignment(Qt::AlignCenter);
-    face->setFocusPolicy(Qt::ClickFocus);
     face->setAccessibleName(tr("Running Time"));
     layout->addWidget(face);
     layout->addWidget(&widgets_.field("lines"), 1);

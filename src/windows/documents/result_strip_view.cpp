@@ -1,8 +1,10 @@
 #include "windows/documents/result_strip_view.h"
 
 #include "desktop/colours.h"
+#include "desktop/drawings.h"
 #include "desktop/glass.h"
 #include "desktop/qt_text.h"
+#include "desktop/read_aloud.h"
 #include "forms/glossary.h"
 
 #include <QHBoxLayout>
@@ -24,6 +26,8 @@ class StripCellView : public QWidget {
 public:
     explicit StripCellView(QWidget* parent) : QWidget(parent) {
         setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+        give_role(*this, QAccessible::StaticText);
+        let_reader_reach(*this);
     }
 
     void tell(StripCell cell) {
@@ -55,6 +59,7 @@ protected:
         draw_figure(painter);
         draw_band(painter);
         if (has_glass_) draw_glass(painter, glass_box(), beer_);
+        draw_focus(painter, *this);
     }
 
 private:

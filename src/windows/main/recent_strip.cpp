@@ -105,6 +105,7 @@ void RecentStrip::refresh() {
     if (recipes.empty()) recipes = welcome();
     for (std::size_t i = 0; i < links_.size(); ++i)
         i < recipes.size() ? links_.at(i)->lead_to(recipes[i]) : links_.at(i)->hide();
+    setAccessibleName(heading_);
     update();
 }
 

@@ -2,6 +2,7 @@
 #include "desktop/drawings.h"
 #include "desktop/qt_text.h"
 #include "support/started_brewery.h"
+#include "windows/main/picture_board.h"
 #include "windows/main/tools.h"
 
 #include <QAbstractItemView>
@@ -16,6 +17,8 @@
 #include <QPlainTextEdit>
 #include <QPointer>
 #include <QPushButton>
+#include <QTest>
+#include <QTextEdit>
 #include <QTimer>
 #include <QTreeView>
 
@@ -41,10 +44,11 @@ QString name_of(QWidget& widget) {
 
 bool is_part_of_another(const QWidget& widget) {
     const auto* const whole = widget.parentWidget();
+    const auto key = widget.objectName();
     return qobject_cast<const QAbstractSpinBox*>(whole) != nullptr ||
            qobject_cast<const QLineEdit*>(whole) != nullptr ||
-           qobject_cast<const QComboBox*>(whole) != nullptr ||
-           widget.objectName().startsWith("qt_calendar_") ||
+           qobject_cast<const QComboBox*>(whole) != nullptr || key == "qt_calendar_monthbutton" ||
+           key == "qt_calendar_yearbutton" || // the same of each month
            qobject_cast<const QHeaderView*>(&widget) != nullptr;
 }
 
@@ -55,6 +59,7 @@ bool is_control(const QWidget& widget) {
            qobject_cast<const QAbstractSpinBox*>(&widget) != nullptr ||
            qobject_cast<const QComboBox*>(&widget) != nullptr ||
            qobject_cast<const QPlainTextEdit*>(&widget) != nullptr ||
+           qobject_cast<const QTextEdit*>(&widget) != nullptr ||
            qobject_cast<const QAbstractItemView*>(&widget) != nullptr ||
            dynamic_cast<const Canvas*>(&widget) != nullptr;
 }
@@ -77,9 +82,47 @@ QStringList mnemonics_of(const QWidget& window) {
     return keys;
 }
 
-// What somebody meets who reads a window by ear, what the pointer tells about its buttons, and that a key
-// means one thing.
+// Where Tab stops on its way round a window.
+std::set<const QWidget*> stops_of_tab(QWidget& window) {
+    const auto press_tab = [&window]() -> const QWidget* {
+        QTest::keyClick(window.focusWidget() == nullptr ? &window : window.focusWidget(), Qt::Key_Tab);
+        return window.focusWidget();
+    };
+    constexpr int most = 300;
+    const auto* const first = press_tab();
+    std::set<const QWidget*> stops = {first};
+    const auto* stop = press_tab();
+    // The links of a page are stops, too, before Tab leaves it.
+    for (int i = 0; i < most && (stop != first || stops.size() == 1); ++i, stop = press_tab())
+        stops.insert(stop);
+    return stops;
+}
+
+// Pictures do what is in the menu, and Page Up turns a calendar back.
+bool is_done_by_other_keys(const QWidget& widget) {
+    return dynamic_cast<const PictureButton*>(&widget) != nullptr ||
+           widget.objectName() == "qt_calendar_prevmonth" || widget.objectName() == "qt_calendar_nextmonth";
+}
+
+// Arrows go from the chosen one of several to the others.
+bool is_stopped_at(const QWidget& control, const std::set<const QWidget*>& stops) {
+    const auto* const button = qobject_cast<const QAbstractButton*>(&control);
+    const auto choice = button == nullptr || button->group() == nullptr ? QList<QAbstractButton*>()
+                                                                        : button->group()->buttons();
+    const auto* const stop = control.focusProxy() == nullptr ? &control : control.focusProxy();
+    return stops.count(stop) != 0 || std::any_of(choice.begin(), choice.end(), [&stops](const auto* other) {
+               return stops.count(other) != 0;
+           });
+}
+
+// What somebody meets who reads a window by ear or goes about it by keys, what the pointer tells about its
+// buttons, and that a key means one thing.
 void read(QWidget& window) {
+    EXPECT_NE(QAccessible::queryAccessibleInterface(&window)->role(), QAccessible::Client)
+        << window.objectName().toStdString() << " is no window to a reader";
+    QAccessible::setActive(true); // with whom Tab comes to figures and drawings, too
+    const auto stops = stops_of_tab(window);
+    QAccessible::setActive(false);
     for (const auto keys = mnemonics_of(window); const auto& key : keys)
         EXPECT_EQ(keys.count(key), 1) << window.objectName().toStdString() << ": " << key.toStdString();
     constexpr int narrow_screen = 1024;
@@ -89,6 +132,8 @@ void read(QWidget& window) {
         if (!is_seen_in(*widget, window) || !is_control(*widget) || is_part_of_another(*widget)) continue;
         const auto where = (window.objectName() + ": " + widget->objectName()).toStdString();
         const auto name = name_of(*widget);
+        EXPECT_TRUE(!widget->isEnabled() || is_done_by_other_keys(*widget) || is_stopped_at(*widget, stops))
+            << where << " is not reached by Tab";
         EXPECT_FALSE(name.isEmpty()) << where << " has no name";
         EXPECT_FALSE(name.contains('&')) << where << ' ' << name.toStdString();
         const bool is_new = name.isEmpty() || names.try_emplace(name, widget->objectName()).second;
