@@ -4,7 +4,10 @@
 #include "desktop/painter_surface.h"
 #include "desktop/read_aloud.h"
 
+#include <QFontInfo>
 #include <QStyleOptionFocusRect>
+
+#include <algorithm>
 
 namespace wortlex {
 
@@ -48,14 +51,24 @@ Canvas::Canvas(std::function<void(Surface&)> draw, QWidget* parent)
 }
 
 void Canvas::show_again(Extent least) {
-    setMinimumSize(least.width, least.height);
+    setMinimumSize(QSize(least.width, least.height) * scale());
     update();
+}
+
+// In halves, which keep lines even. The usual letters have 12 pixels.
+qreal Canvas::scale() const {
+    constexpr int usual = 12;
+    return std::max(QFontInfo(font()).pixelSize() * 2 / usual, 2) / 2.0;
 }
 
 void Canvas::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    PainterSurface surface(painter, {width(), height()});
+    const auto larger = scale();
+    painter.scale(larger, larger);
+    const auto area = size() / larger;
+    PainterSurface surface(painter, {area.width(), area.height()});
     draw_(surface);
+    painter.resetTransform();
     draw_focus(painter, *this);
 }
 

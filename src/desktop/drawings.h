@@ -27,7 +27,7 @@ private:
     std::function<std::uint32_t()> colour_;
 };
 
-/// A figure like any other to a screen reader.
+/// A figure like any other, which a screen reader goes to, and as much larger than told as the letters are.
 class Canvas : public QWidget {
 public:
     Canvas(std::function<void(Surface&)> draw, QWidget* parent);
@@ -38,6 +38,8 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    qreal scale() const;
+
     std::function<void(Surface&)> draw_;
 };
 
