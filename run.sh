@@ -10,7 +10,6 @@ recipe=${1:-"Recipes/Ploughman's Best Bitter.rec"}
 [ ! -e "$recipe" ] || recipe=$(realpath "$recipe") # else it is one of ./brewery
 cd "$(dirname "$0")"
 
-<<<<<<< HEAD
 # A build that is newer than all that it is made of is used as it is, also where there is no compiler.
 release=$PWD/build/release
 is_built() { [ -e "$release/made" ]; }
@@ -50,13 +49,6 @@ if ! is_current; then
 fi >&2
 "$release/tools/make-brewery" data brewery
 "$release/tools/render-artwork" data/artwork brewery
-=======
-cmake --preset release > /dev/null
-cmake --build --preset release --target wortlex wortlex-report make-brewery render-artwork picture-windows has-display brewery
-build/release/tools/make-brewery data brewery
-build/release/tools/render-artwork data/artwork brewery
-programs=$PWD/build/release
->>>>>>> ba82322 (A new version offers the entries that it brings along, once and by name)
 pictures=$PWD/build/pictures
 cd brewery
 
