@@ -51,6 +51,7 @@ void prepare(QMessageBox& box, const Message& message, QMessageBox::StandardButt
     box.setTextInteractionFlags(Qt::TextSelectableByMouse);
     keep_lines_whole(box);
 }
+
 int show(const Message& message, QMessageBox::StandardButtons buttons) {
     QMessageBox box(window_in_use());
     prepare(box, message, buttons);

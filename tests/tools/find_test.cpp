@@ -31,8 +31,9 @@ TEST(Find, FindsWhatABrewerMeansInTheShippedLists) {
     EXPECT_EQ(found(yeast_list, "w34/70", 2), "SafLager W-34/70 of 1") << "marks do not count";
     EXPECT_EQ(found(yeast_list, "wyeast kolsch ii", 2), "K\u00F6lsch II of 1") << "nor accents; the lab too";
     EXPECT_EQ(found(malt_list, "crystal 40").substr(0, 16), "Caramel Malt 40L");
-    EXPECT_EQ(found(malt_list, "Pale DME"), "Light DME of 3") << "the one with the fewest other words";
-    EXPECT_EQ(found(malt_list, "pale malt").substr(0, 10), "Pale Malt ");
+    EXPECT_EQ(found(malt_list, "Pale DME"), "Extra Light DME of 3");
+    EXPECT_EQ(found(malt_list, "pale malt").substr(0, 10), "Pale Malt ")
+        << "the one with the fewest other words";
     EXPECT_EQ(found(malt_list, "pale dme zz"), "nothing") << "every word counts";
     EXPECT_EQ(found(malt_list, "  "), "nothing");
     EXPECT_EQ(found(hop_list, "EKG").substr(0, 18), "East Kent Goldings");
