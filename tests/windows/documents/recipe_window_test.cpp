@@ -104,6 +104,7 @@ TEST(RecipeWindow, IsWrittenInItsListsWithoutADialog) {
         kitchen.prompts.expect("yes/no/cancel",
                                "The current recipe has been modified!\nDo you want to save the changes?",
                                Answer::no, Icon::question);
+    Kitchen::activate(kitchen.recipe); // which the list of proposals was before
     kitchen.press(Qt::Key_N, Qt::ControlModifier);
     kitchen.type("Next");
     EXPECT_EQ(text_in(*kitchen.recipe, "title"), "Next") << "a new recipe begins with its name";
