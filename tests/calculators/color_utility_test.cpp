@@ -4,8 +4,8 @@
 #include "calculators/color_swatch.h"
 #include "calculators/color_utility.h"
 #include "support/byte_probe.h"
-#include "support/field.h"
 #include "support/fixed_clock.h"
+#include "support/form_user.h"
 #include "support/recording_surface.h"
 #include "support/scripted_files.h"
 #include "support/scripted_prompts.h"
@@ -52,11 +52,6 @@ struct Desk {
         return folder / name;
     }
 };
-
-void type(Form& form, const char* key, const char* text) {
-    PlainField field(text);
-    form.type(dynamic_cast<EntryRow&>(form.row(key)), field);
-}
 
 // A row of 200, 100, 3 and alpha 51, a fifth: white gives four fifths of 255, which is 204.
 TEST(ColorUtility, PaintsTheChosenRowInFourWaysAndCombines) {
@@ -213,11 +208,7 @@ TEST(ColorSwatch, TriesAnAlphaThatTheSettingsNeverHearOf) {
     ColorSwatch swatch{table, settings};
     Form form;
     color_swatch_form(form, swatch);
-    const auto shown = [&form](const char* key) {
-        PlainField field;
-        dynamic_cast<EntryRow&>(form.row(key)).show(field);
-        return field.content;
-    };
+    const auto shown = [&form](const char* key) { return content_of(form, key); };
     set_swatch(swatch, 10); // 191, 129, 58 and alpha 205
     EXPECT_EQ(std::pair(shown("alpha"), shown("colour")), std::pair(std::string("105"), std::string("19.7")));
     EXPECT_EQ(painted_swatch(swatch), swatch_colour(table, 10, settings));

@@ -2,7 +2,7 @@
 #include "calculators/ibu_calculator.h"
 #include "charts/chart_picture.h"
 #include "documents/brewing.h"
-#include "support/field.h"
+#include "support/form_user.h"
 #include "support/recording_surface.h"
 #include "support/scripted_files.h"
 #include "support/scripted_prompts.h"
@@ -17,22 +17,6 @@ namespace {
 using testing::Contains;
 using testing::EndsWith;
 using testing::Not;
-
-void enter(Form& form, std::string_view key, std::string text) {
-    PlainField field(std::move(text));
-    form.type(dynamic_cast<EntryRow&>(form.row(key)), field);
-}
-
-std::string shown(const Form& form, std::string_view key) {
-    PlainField field;
-    dynamic_cast<EntryRow&>(form.row(key)).show(field);
-    return field.content;
-}
-
-void spin(Form& form, std::string_view key, Spin direction) {
-    PlainField field(shown(form, key));
-    form.spin(dynamic_cast<EntryRow&>(form.row(key)), field, direction);
-}
 
 // Loses 45 percent in six months at 20 degrees C.
 HopRecord fading_hop() {
@@ -78,24 +62,24 @@ TEST(HopDegradation, ItsFieldsFollowEachOther) {
     auto hop = start_degradation(picked_hop(fading_hop(), {}, store_settings()), store_settings());
     Form form;
     hop_degradation_form(form, hop);
-    enter(form, "celsius", "-10");
-    EXPECT_EQ(shown(form, "fahrenheit"), "14.00");
+    type(form, "celsius", "-10");
+    EXPECT_EQ(content_of(form, "fahrenheit"), "14.00");
     EXPECT_NEAR(hop.adjusted_alpha, 4.0228193, 1e-5);
-    enter(form, "celsius", "34.5");
+    type(form, "celsius", "34.5");
     spin(form, "celsius", Spin::up);
-    EXPECT_EQ(std::pair(shown(form, "celsius"), shown(form, "fahrenheit")),
+    EXPECT_EQ(std::pair(content_of(form, "celsius"), content_of(form, "fahrenheit")),
               (std::pair<std::string, std::string>("35.00", "95.00")))
         << "not beyond the range";
-    EXPECT_EQ(shown(form, "adjusted_alpha"), "1.84");
-    enter(form, "fahrenheit", "59");
+    EXPECT_EQ(content_of(form, "adjusted_alpha"), "1.84");
+    type(form, "fahrenheit", "59");
     EXPECT_EQ(hop.celsius, 15);
-    EXPECT_EQ(shown(form, "adjusted_alpha"), "3.15");
-    enter(form, "months", "99");
+    EXPECT_EQ(content_of(form, "adjusted_alpha"), "3.15");
+    type(form, "months", "99");
     form.choose(dynamic_cast<ChoiceRow&>(form.row("storage")), 2);
-    enter(form, "fahrenheit", "200");
+    type(form, "fahrenheit", "200");
     EXPECT_EQ((std::tuple{hop.months, hop.storage, hop.celsius}),
               (std::tuple{60, StorageKind::inert_gas, 35.0F}));
-    EXPECT_EQ(shown(form, "adjusted_alpha"), "0.01");
+    EXPECT_EQ(content_of(form, "adjusted_alpha"), "0.01");
 }
 
 // At the age of `months`, at 15 degrees C.
@@ -250,7 +234,7 @@ TEST(IbuCalculator, WeightUnitsAndIbuFollowEachOther) {
     }
     take_storage_loss(open.calculator, 10, 5, open.settings);
     EXPECT_NEAR(open.calculator.ibu, 44.772, 1e-3);
-    EXPECT_EQ(shown(open.form, "hbu"), "10.00") << "of what is left";
+    EXPECT_EQ(content_of(open.form, "hbu"), "10.00") << "of what is left";
     type(open.form, "hbu", "20");
     EXPECT_EQ(std::pair(open.calculator.ounces, open.calculator.adjusted_alpha), std::pair(2.0F, 10.0F))
         << "the loss is dropped";
@@ -265,7 +249,7 @@ TEST(IbuCalculator, VolumesPullAndFlagsExcludeEachOther) {
     type(open.form, "wort_volume", "8");
     EXPECT_EQ(calculator.batch_volume, 8);
     type(open.form, "batch_volume", "10");
-    EXPECT_EQ(std::pair(calculator.wort_volume, shown(open.form, "concentration")),
+    EXPECT_EQ(std::pair(calculator.wort_volume, content_of(open.form, "concentration")),
               std::pair(8.0F, std::string("1.25")));
     type(open.form, "batch_volume", "5");
     EXPECT_EQ(calculator.wort_volume, 5);
@@ -305,7 +289,7 @@ TEST(IbuCalculator, ItsFieldsFollowModeUnitsAndFormula) {
     EXPECT_FALSE(pro.form.row("bag_used").is_enabled() || pro.form.row("concentration").is_enabled());
     EXPECT_TRUE(pro.form.row("hbu").is_visible() && pro.form.row("form").is_enabled());
     type(pro.form, "grams", "4.536");
-    EXPECT_EQ(std::pair(shown(pro.form, "ounces"), shown(pro.form, "hbu")),
+    EXPECT_EQ(std::pair(content_of(pro.form, "ounces"), content_of(pro.form, "hbu")),
               (std::pair<std::string, std::string>("10.00", "800.00")));
     pro.settings.volume_units = Units::american;
     EXPECT_EQ(pro.label("batch_volume"), "Batch Size: (bbl)");

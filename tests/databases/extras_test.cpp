@@ -1,5 +1,5 @@
 #include "databases/extras.h"
-#include "support/field.h"
+#include "support/form_user.h"
 #include "support/listed.h"
 
 #include <gtest/gtest.h>
@@ -27,8 +27,7 @@ TEST(ExtraList, NamesItsKindsAndSortsByThem) {
     const auto entry = each->new_entry(each.prompts);
     each.prompts.expect_tell("An entry needs a name.", Icon::warning);
     EXPECT_FALSE(entry->form.accept());
-    PlainField field("Rose");
-    entry->form.type(dynamic_cast<EntryRow&>(entry->form.row("name")), field);
+    type(entry->form, "name", "Rose");
     EXPECT_TRUE(entry->form.accept());
     EXPECT_EQ(each.column(1), "Herb|Other|") << "whatever the list shows";
 
@@ -54,8 +53,7 @@ TEST(ExtraEntry, CutsTextsThatAreTooLongOnlyOnAccept) {
     auto record = extra("Coriander", ExtraType::spice, std::string(60, 'u'));
     Form form;
     extra_entry_form(form, record);
-    PlainField field("500");
-    form.type(dynamic_cast<EntryRow&>(form.row("time")), field);
+    type(form, "time", "500");
     EXPECT_EQ(std::pair(record.time, record.use.view().size()), std::pair(200, 60UL));
     form.accept();
     EXPECT_EQ(record.use.view(), std::string(54, 'u'));

@@ -1,6 +1,6 @@
 #include "databases/malt_yields.h"
 #include "databases/malts.h"
-#include "support/field.h"
+#include "support/form_user.h"
 #include "support/listed.h"
 
 #include <gtest/gtest.h>
@@ -96,8 +96,7 @@ TEST(MaltEntry, WritesItsYieldsAndLeavesTheRestAlone) {
     EXPECT_NEAR(record.coarse_yield, 78.5, 1e-3);
     std::tie(before.fine_yield, before.coarse_yield) = std::tie(record.fine_yield, record.coarse_yield);
     EXPECT_EQ(record, before) << "neither colour nor potential passed through its unit";
-    PlainField field("193"); // half of 386 litre-degrees
-    form.type(dynamic_cast<EntryRow&>(form.row("potential")), field);
+    type(form, "potential", "193"); // half of 386 litre-degrees
     form.choose(dynamic_cast<ChoiceRow&>(form.row("malt_type")), 1);
     EXPECT_FALSE(form.row("moisture").is_enabled() || form.row("coarse_dry").is_enabled());
     form.accept();

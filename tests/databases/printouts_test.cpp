@@ -6,7 +6,7 @@
 #include "databases/styles.h"
 #include "databases/water.h"
 #include "databases/yeasts.h"
-#include "support/field.h"
+#include "support/form_user.h"
 #include "support/listed.h"
 #include "support/recording_desk.h"
 
@@ -50,9 +50,8 @@ std::string entry_of(IngredientList& list, const char* typed_in = nullptr, const
     list.print = [&lines](const PrintRequest& request) { lines = lines_of(request); };
     ScriptedPrompts prompts;
     const auto entry = list.edit_entry(prompts);
-    PlainField field(text);
-    if (typed_in != nullptr) entry->form.type(dynamic_cast<EntryRow&>(entry->form.row(typed_in)), field);
-    dynamic_cast<ButtonRow&>(entry->form.row("print")).press();
+    if (typed_in != nullptr) type(entry->form, typed_in, text);
+    press(entry->form, "print");
     return lines;
 }
 

@@ -1,6 +1,6 @@
 #include "databases/hops.h"
 #include "databases/messages.h"
-#include "support/field.h"
+#include "support/form_user.h"
 #include "support/listed.h"
 
 #include <gtest/gtest.h>
@@ -78,8 +78,7 @@ TEST(Store, AddsClonesAndDeletes) {
     Hops hops({hop("Saaz", "CZ", 3)});
     hops->filter = 3;
     auto entry = hops->new_entry(hops.prompts);
-    PlainField field("Admiral");
-    entry->form.type(dynamic_cast<EntryRow&>(entry->form.row("name")), field);
+    type(entry->form, "name", "Admiral");
     EXPECT_EQ(hops.database.count, 1) << "nothing is stored before OK";
     entry->form.accept();
     EXPECT_EQ(hops.column(0), "Saaz|Admiral|") << "unsorted until a column is clicked";
@@ -87,8 +86,7 @@ TEST(Store, AddsClonesAndDeletes) {
     hops.prompts.expect("yes/no", std::string(clone_warning), Answer::yes, Icon::warning);
     hops->clone_entry(hops.prompts);
     entry = hops->edit_entry(hops.prompts);
-    field.content = "4.5";
-    entry->form.type(dynamic_cast<EntryRow&>(entry->form.row("alpha")), field);
+    type(entry->form, "alpha", "4.5");
     entry->form.accept();
     EXPECT_EQ(std::pair(hops.database.slots[1].alpha, hops.database.slots[2].alpha), std::pair(0.0F, 4.5F))
         << "the copy was selected and is meant, though both read the same";
@@ -158,8 +156,7 @@ TEST(Store, EntriesThatReadTheSameMeanTheFirst) {
     hops->selected = 1;
     EXPECT_EQ(hops->selected_record()->stock, 0.0F);
     auto entry = hops->inventory(hops.prompts);
-    PlainField field("2.5");
-    entry->form.type(dynamic_cast<EntryRow&>(entry->form.row("amount")), field);
+    type(entry->form, "amount", "2.5");
     entry->form.accept();
     EXPECT_EQ(hops.database.slots[0].stock, 2.5F);
     EXPECT_EQ(hops.database.slots[1].stock, 7.0F);
@@ -170,8 +167,7 @@ TEST(StoreInventory, SubtractsDownToNothing) {
     stocked.stock = 3;
     Hops hops({stocked});
     auto entry = hops->inventory(hops.prompts);
-    PlainField field("5");
-    entry->form.type(dynamic_cast<EntryRow&>(entry->form.row("amount")), field);
+    type(entry->form, "amount", "5");
     entry->form.choose(dynamic_cast<ChoiceRow&>(entry->form.row("change")), 1);
     entry->form.accept();
     EXPECT_EQ(hops.database.slots[0].stock, 0.0F);
@@ -268,12 +264,11 @@ TEST(Store, ABookingElsewhereIsTakenOverAndNeverWrittenOver) {
     hops->click(0); // downwards, unlike the file
     hops->selected = 1;
     auto entry = hops->edit_entry(hops.prompts);
-    PlainField alpha("4.5"), two("2");
-    entry->form.type(dynamic_cast<EntryRow&>(entry->form.row("alpha")), alpha);
+    type(entry->form, "alpha", "4.5");
     entry->form.accept();
     hops->selected = 2;
     const auto inventory = hops->inventory(hops.prompts);
-    inventory->form.type(dynamic_cast<EntryRow&>(inventory->form.row("amount")), two);
+    type(inventory->form, "amount", "2");
 
     auto booked = hops.database;
     LoadHops(hops.folder.path(), booked, hops.prompts);
@@ -304,8 +299,7 @@ TEST(HopEntry, StorageClassAndFactorFollowEachOther) {
     auto record = hop("Saaz", "CZ", 3, HopForm::pellet);
     Form form;
     hop_entry_form(form, record);
-    PlainField field("25");
-    form.type(dynamic_cast<EntryRow&>(form.row("storage_factor")), field);
+    type(form, "storage_factor", "25");
     EXPECT_EQ(storage_class(record), StorageClass::average);
     form.choose(dynamic_cast<ChoiceRow&>(form.row("storage")), 2);
     EXPECT_EQ(std::pair(record.storage_factor, wortlex::form(record)), std::pair(50.0F, HopForm::pellet));

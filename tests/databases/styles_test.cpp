@@ -1,5 +1,5 @@
 #include "databases/styles.h"
-#include "support/field.h"
+#include "support/form_user.h"
 #include "support/scripted_prompts.h"
 #include "support/temporary_folder.h"
 
@@ -61,8 +61,7 @@ std::string column_of(const IngredientList& list, std::size_t which) {
 void rename_first(IngredientList& list, Prompts& prompts) {
     list.selected = 0;
     const auto entry = list.edit_entry(prompts);
-    PlainField field("Renamed");
-    entry->form.type(dynamic_cast<EntryRow&>(entry->form.row("name")), field);
+    type(entry->form, "name", "Renamed");
     entry->form.accept();
 }
 

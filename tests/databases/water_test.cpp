@@ -1,18 +1,13 @@
 #include "brewing/water_ph.h"
 #include "databases/water.h"
 #include "databases/water_hardness.h"
-#include "support/field.h"
+#include "support/form_user.h"
 #include "support/listed.h"
 
 #include <gtest/gtest.h>
 
 namespace wortlex {
 namespace {
-
-void type(Form& form, const char* key, const char* text) {
-    PlainField field(text);
-    form.type(dynamic_cast<EntryRow&>(form.row(key)), field);
-}
 
 TEST(WaterList, WorksOnTheResidentArray) {
     Listed<WaterRecord> waters(

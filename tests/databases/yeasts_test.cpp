@@ -1,5 +1,5 @@
 #include "databases/yeasts.h"
-#include "support/field.h"
+#include "support/form_user.h"
 #include "support/listed.h"
 
 #include <gtest/gtest.h>
@@ -46,8 +46,7 @@ TEST(YeastList, SortsByItsWordsAndTellsMediaApart) {
     EXPECT_EQ(yeasts->shown_count(), 4U) << "for an import the medium is no difference";
     yeasts.database.count = 998;
     const auto entry = yeasts->new_entry(yeasts.prompts);
-    PlainField field("d");
-    entry->form.type(dynamic_cast<EntryRow&>(entry->form.row("name")), field);
+    type(entry->form, "name", "d");
     entry->form.accept();
     EXPECT_EQ(yeasts.database.count, 999) << "there is room beyond the limit of the hops";
 }

@@ -65,11 +65,7 @@ struct Designing : FormUser {
         return all;
     }
     std::string title(std::size_t column) const { return row<ListRow>("steps").columns[column].caption(); }
-    std::string greyed(std::string_view key) const {
-        PlainField field;
-        row<EntryRow>(key).show(field);
-        return field.content;
-    }
+    std::string greyed(std::string_view key) const { return content_of(form, key); }
     void select(std::int32_t step) { form.select(row<ListRow>("steps"), step); }
     std::size_t count() const { return row<ListRow>("steps").count(); }
 };

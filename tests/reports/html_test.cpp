@@ -1,7 +1,7 @@
 #include "page/html_writer.h"
 #include "reports/html_theme_form.h"
 #include "support/byte_probe.h"
-#include "support/field.h"
+#include "support/form_user.h"
 #include "support/scripted_files.h"
 #include "support/scripted_prompts.h"
 #include "support/temporary_folder.h"
@@ -197,8 +197,7 @@ struct ThemeDialog {
 TEST(HtmlThemeForm, EditsACopyUntilItIsAccepted) {
     ThemeDialog dialog;
     dialog.press("theme_5");
-    PlainField field("Cellar Night");
-    dialog.form.type(dynamic_cast<EntryRow&>(dialog.form.row("name")), field);
+    type(dialog.form, "name", "Cellar Night");
     dialog.prompts.expect("colour", std::to_string(0xFFFFFF), ScriptedPrompts::Colour(0x123456), {}, "");
     dialog.press("body_background");
     dialog.editor.work.second_background = 1;

@@ -6,6 +6,29 @@
 
 namespace wortlex {
 
+inline void type(Form& form, std::string_view key, std::string text) {
+    PlainField field(std::move(text));
+    form.type(dynamic_cast<EntryRow&>(form.row(key)), field);
+}
+
+/// What the field shows, also where it is disabled.
+inline std::string content_of(const Form& form, std::string_view key) {
+    PlainField field;
+    dynamic_cast<EntryRow&>(form.row(key)).show(field);
+    return field.content;
+}
+
+/// What the field shows then.
+inline std::string spin(Form& form, std::string_view key, Spin direction) {
+    PlainField field(content_of(form, key));
+    form.spin(dynamic_cast<EntryRow&>(form.row(key)), field, direction);
+    return field.content;
+}
+
+inline void press(const Form& form, std::string_view key) {
+    dynamic_cast<ButtonRow&>(form.row(key)).press();
+}
+
 struct FormUser {
     Form form;
 
@@ -14,11 +37,8 @@ struct FormUser {
         return dynamic_cast<Kind&>(form.row(key));
     }
     std::string shown(std::string_view key) const {
-        PlainField field;
         const auto& entry = row<EntryRow>(key);
-        if (!entry.is_enabled()) return entry.text_when_disabled;
-        entry.show(field);
-        return field.content;
+        return entry.is_enabled() ? content_of(form, key) : entry.text_when_disabled;
     }
     /// Several, with a bar between them.
     std::string shown_all(std::initializer_list<std::string_view> keys) const {
@@ -26,17 +46,10 @@ struct FormUser {
         for (const auto key : keys) all += (all.empty() ? "" : "|") + shown(key);
         return all;
     }
-    void type(std::string_view key, std::string text) {
-        PlainField field(std::move(text));
-        form.type(row<EntryRow>(key), field);
-    }
-    void spin(std::string_view key, Spin direction) {
-        PlainField field;
-        row<EntryRow>(key).show(field);
-        form.spin(row<EntryRow>(key), field, direction);
-    }
+    void type(std::string_view key, std::string text) { wortlex::type(form, key, std::move(text)); }
+    std::string spin(std::string_view key, Spin direction) { return wortlex::spin(form, key, direction); }
     void choose(std::string_view key, std::size_t option) { form.choose(row<ChoiceRow>(key), option); }
-    void press(std::string_view key) const { row<ButtonRow>(key).press(); }
+    void press(std::string_view key) const { wortlex::press(form, key); }
     bool can(std::string_view key) const { return form.row(key).is_enabled(); }
 };
 

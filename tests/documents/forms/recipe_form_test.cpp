@@ -2,7 +2,7 @@
 #include "documents/forms/recipe_form.h"
 #include "documents/recipe_gravity.h"
 #include "measures/unit_words.h"
-#include "support/field.h"
+#include "support/form_user.h"
 
 #include <gtest/gtest.h>
 
@@ -101,11 +101,7 @@ TEST(RecipeForm, ShowsFiguresAndStyle) {
     Shown shown;
     Form form;
     recipe_form(form, shown.subject);
-    const auto text = [&](std::string_view key) {
-        PlainField field;
-        dynamic_cast<EntryRow&>(form.row(key)).show(field);
-        return field.content;
-    };
+    const auto text = [&](std::string_view key) { return content_of(form, key); };
     shown.document.og_points = 48.6F;
     shown.document.total_ibu = 35.25F;
     EXPECT_EQ(text("sg") + "|" + text("total_ibu") + "|" + text("total_grain") + "|" + text("efficiency"),

@@ -287,7 +287,7 @@ void change_all(FormUser& user) {
             button->press();
         else if (auto* const entry = dynamic_cast<EntryRow*>(&row);
                  entry != nullptr && !entry->is_read_only())
-            entry->has_arrows() ? user.spin(row.key, Spin::up) : user.type(row.key, "changed");
+            entry->has_arrows() ? void(user.spin(row.key, Spin::up)) : user.type(row.key, "changed");
     });
 }
 

@@ -3,7 +3,7 @@
 #include "documents/forms/recipe_form.h"
 #include "documents/recipe_gravity.h"
 #include "documents/snapshot.h"
-#include "support/field.h"
+#include "support/form_user.h"
 
 #include <gtest/gtest.h>
 
@@ -288,8 +288,7 @@ TEST(RecipePages, CancelPutsBackWhatThePageFound) {
     Form extras;
     extras_form(extras, work.editor, {});
     delete_extra(work.editor);
-    PlainField field("Good.");
-    extras.type(dynamic_cast<EntryRow&>(extras.row("notes")), field);
+    type(extras, "notes", "Good.");
     extras.cancel();
     EXPECT_EQ(work.document.extras.size(), 1U);
     EXPECT_EQ(work.document.notes.view(), "");

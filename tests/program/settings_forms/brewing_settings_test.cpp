@@ -2,7 +2,7 @@
 #include "program/settings_forms/hop_settings.h"
 #include "program/settings_forms/mash_settings.h"
 #include "program/settings_forms/measure_settings.h"
-#include "support/field.h"
+#include "support/form_user.h"
 
 #include <gtest/gtest.h>
 
@@ -10,31 +10,13 @@ namespace wortlex {
 namespace {
 
 // An image, a form on it, and a user.
-struct Dialog {
+struct Dialog : FormUser {
     SystemSettings image = WriteDefaultSettings();
-    Form form;
 
-    template <class Kind>
-    Kind& row(std::string_view key) const {
-        return dynamic_cast<Kind&>(form.row(key));
-    }
     std::string shown(std::string_view key) const {
-        PlainField field;
-        row<EntryRow>(key).show(field);
-        return field.content + ' ' + row<EntryRow>(key).unit_text();
+        return content_of(form, key) + ' ' + row<EntryRow>(key).unit_text();
     }
-    void type(std::string_view key, std::string text) {
-        PlainField field(std::move(text));
-        form.type(row<EntryRow>(key), field);
-    }
-    std::string spin_down(std::string_view key) {
-        PlainField field;
-        row<EntryRow>(key).show(field);
-        form.spin(row<EntryRow>(key), field, Spin::down);
-        return field.content;
-    }
-    void choose(std::string_view key, std::size_t option) { form.choose(row<ChoiceRow>(key), option); }
-    void press(std::string_view key) const { row<ButtonRow>(key).press(); }
+    std::string spin_down(std::string_view key) { return spin(key, Spin::down); }
 };
 
 TEST(MeasureSettings, UnitsChangeWhatIsShownAndNotWhatIsStored) {

@@ -4,7 +4,7 @@
 #include "program/settings_forms/printer_settings.h"
 #include "program/settings_forms/screen_settings.h"
 #include "settings/reminders.h"
-#include "support/field.h"
+#include "support/form_user.h"
 #include "support/scripted_prompts.h"
 #include "support/temporary_folder.h"
 
@@ -16,28 +16,6 @@
 namespace wortlex {
 namespace {
 
-void type(Form& form, std::string_view key, std::string text) {
-    PlainField field(std::move(text));
-    form.type(dynamic_cast<EntryRow&>(form.row(key)), field);
-}
-
-void step_up(Form& form, std::string_view key) {
-    auto& row = dynamic_cast<EntryRow&>(form.row(key));
-    PlainField field;
-    row.show(field);
-    form.spin(row, field, Spin::up);
-}
-
-std::string shown(const Form& form, std::string_view key) {
-    PlainField field;
-    dynamic_cast<EntryRow&>(form.row(key)).show(field);
-    return field.content;
-}
-
-void press(Form& form, std::string_view key) {
-    dynamic_cast<ButtonRow&>(form.row(key)).press();
-}
-
 void check(Form& form, std::string_view key, bool on) {
     form.check(dynamic_cast<CheckRow&>(form.row(key)), on);
 }
@@ -48,15 +26,15 @@ TEST(GaugeSettings, LinkTheirTemperaturesAndKeepToTheirRanges) {
     Form form;
     gauge_settings_form(form, image, prompts);
     type(form, "celsius", "20");
-    EXPECT_EQ(shown(form, "fahrenheit"), " 68.00");
+    EXPECT_EQ(content_of(form, "fahrenheit"), " 68.00");
     type(form, "celsius", "101");
     EXPECT_EQ(image.hydrometer_calibration, 212.0F);
     type(form, "fahrenheit", "5");
-    EXPECT_EQ(shown(form, "celsius"), "  0.00");
+    EXPECT_EQ(content_of(form, "celsius"), "  0.00");
     type(form, "ri", "-3");
     type(form, "brix", "-0.25");
     type(form, "brix_correction", "1.998");
-    step_up(form, "brix_correction");
+    spin(form, "brix_correction", Spin::up);
     EXPECT_EQ(std::tuple(image.water_ri, image.water_brix, image.brix_correction),
               std::tuple(-2.0F, -0.25F, 2.0F));
     const std::string question =
@@ -83,7 +61,7 @@ TEST(ColourCalibration, PacksAlphaAndAdjustIntoOneField) {
     EXPECT_EQ(image.color_alpha, -40 * 256 + 255);
     type(form, "global_alpha", "0");
     EXPECT_EQ(image.color_alpha, -40 * 256 + 1);
-    EXPECT_EQ(shown(form, "global_adjust"), "-40");
+    EXPECT_EQ(content_of(form, "global_adjust"), "-40");
     type(form, "global_adjust", "101");
     EXPECT_EQ(image.color_alpha, 100 * 256 + 1);
     EXPECT_EQ(settings_from(image).global_alpha_adjust, 100);
@@ -244,7 +222,7 @@ TEST(FolderSettings, BrowseAndRemindOnceOfFoldersThatFollow) {
     press(form, "folder_5_browse");
     EXPECT_TRUE(folders == original);
     browse("/exports/");
-    EXPECT_EQ(shown(form, "folder_5"), "/exports/");
+    EXPECT_EQ(content_of(form, "folder_5"), "/exports/");
     EXPECT_EQ(folder_path(folders, FolderKind::html_exports),
               folder_path(original, FolderKind::html_exports));
     prompts.expect(
