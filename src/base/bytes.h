@@ -5,6 +5,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <span>
+#include <string>
 #include <type_traits>
 #include <vector>
 
@@ -12,6 +13,14 @@ namespace wortlex {
 
 using Bytes = std::vector<std::byte>;
 using ByteView = std::span<const std::byte>;
+
+/// The bytes of a text file as its text.
+inline std::string characters_of(ByteView bytes) {
+    std::string text;
+    text.reserve(bytes.size());
+    for (const auto byte : bytes) text += static_cast<char>(byte);
+    return text;
+}
 
 template <std::size_t Width>
 using UnsignedOf =

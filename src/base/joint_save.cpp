@@ -65,18 +65,12 @@ std::optional<ByteView> take_bytes(ByteView& rest, std::int32_t count) {
     return taken;
 }
 
-std::string text_of(ByteView bytes) {
-    std::string text;
-    for (const auto byte : bytes) text += static_cast<char>(byte);
-    return text;
-}
-
 std::optional<FileChange> take_change(ByteView& rest, const std::string& folder) {
     const auto path_length = take_number(rest);
     const auto path = path_length ? take_bytes(rest, *path_length) : std::nullopt;
     const auto length = path ? take_number(rest) : std::nullopt;
     if (!length || path->empty()) return std::nullopt;
-    FileChange change{(std::filesystem::path(folder) / text_of(*path)).string(), std::nullopt};
+    FileChange change{(std::filesystem::path(folder) / characters_of(*path)).string(), std::nullopt};
     if (*length == removed) return change;
     const auto content = take_bytes(rest, *length);
     if (!content) return std::nullopt;

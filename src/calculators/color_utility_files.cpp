@@ -29,10 +29,6 @@ constexpr std::string_view not_written =
 
 constexpr std::size_t longest_text = std::size_t{1} << 20; // 400 lines are a fiftieth of it
 
-std::string_view text_of(const Bytes& bytes) {
-    return {static_cast<const char*>(static_cast<const void*>(bytes.data())), bytes.size()};
-}
-
 } // namespace
 
 bool ColorUtility::asked(std::string_view question) const {
@@ -63,7 +59,7 @@ void ColorUtility::load_text() {
     if (!path) return;
     const auto file = read_file(*path, longest_text);
     if (!file) return fail(text_unreadable);
-    const bool is_complete = read_color_text(text_of(*file), work.rows);
+    const bool is_complete = read_color_text(characters_of(*file), work.rows);
     take_origin(*path);
     if (!is_complete) fail(text_unreadable);
 }

@@ -152,10 +152,7 @@ OtherNames read_other_names(std::string_view text) {
 
 OtherNames LoadOtherNames(const std::string& data_folder) {
     const auto file = read_file(find_data_file(data_folder, other_names_file), most_names_text);
-    if (!file) return {};
-    std::string text;
-    for (const auto byte : *file) text += static_cast<char>(byte);
-    return read_other_names(text);
+    return file ? read_other_names(characters_of(*file)) : OtherNames();
 }
 
 FindQuery make_query(std::string_view typed, const OtherNames& names) {

@@ -17,7 +17,7 @@ std::string caption_of(const std::string& name) {
 }
 
 std::string told(std::size_t entries) {
-    const auto what = entries == 1 ? "entry that is" : "entries that are";
+    const auto* const what = entries == 1 ? "entry that is" : "entries that are";
     return "Wortlex brings " + std::to_string(entries) + " " + what +
            " not in your databases. Those that are checked are added; your own entries stay as they are.";
 }

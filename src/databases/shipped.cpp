@@ -123,8 +123,10 @@ bool change_database(const Catalogue<Record>& catalogue, const ShippedNames& wan
 } // namespace
 
 std::optional<ShippedNames> read_shipped_names(ByteView file) {
-    std::string_view text(reinterpret_cast<const char*>(file.data()), file.size());
-    if (!text.starts_with(first_line) || !text.ends_with('\n' + std::string(last_line))) return std::nullopt;
+    const auto whole = characters_of(file);
+    if (!whole.starts_with(first_line) || !whole.ends_with('\n' + std::string(last_line)))
+        return std::nullopt;
+    std::string_view text = whole;
     text = text.substr(first_line.size(), text.size() - first_line.size() - last_line.size());
     ShippedNames names;
     for (auto end = text.find('\n'); end != std::string_view::npos; end = text.find('\n')) {

@@ -86,10 +86,7 @@ void FaultLog::note(std::string_view what, std::string_view own) const {
 }
 
 std::string FaultLog::text() const {
-    std::string text;
-    for (const auto byte : read_file(path_, 2 * largest_log).value_or(Bytes()))
-        text += static_cast<char>(byte);
-    return text;
+    return characters_of(read_file(path_, 2 * largest_log).value_or(Bytes()));
 }
 
 FaultLog user_log() {

@@ -153,8 +153,7 @@ void DropWork(const std::string& data_folder) {
 std::optional<RecoveredWork> ReadWork(const std::string& path) {
     const auto file = read_file(path);
     if (!file) return std::nullopt;
-    std::string content;
-    for (const auto byte : *file) content += static_cast<char>(byte);
+    const auto content = characters_of(*file);
     std::string_view rest = content;
     const auto kind = kind_signed(take_line(rest));
     if (!kind) return std::nullopt;

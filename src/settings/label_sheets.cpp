@@ -112,8 +112,7 @@ LabelSettings LoadLabelSettings(const std::string& data_folder) {
     LabelSettings settings;
     const auto file = read_file(find_data_file(data_folder, label_file), most);
     if (!file) return settings;
-    std::string text;
-    for (const std::byte byte : *file) text += static_cast<char>(byte);
+    const auto text = characters_of(*file);
     for (std::string_view rest = text; !rest.empty();) {
         const auto line = rest.substr(0, rest.find('\n'));
         rest.remove_prefix(std::min(line.size() + 1, rest.size()));

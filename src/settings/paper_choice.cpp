@@ -31,8 +31,7 @@ PaperChoice LoadPaperChoice(const std::string& data_folder, const PaperChoice& u
     constexpr std::size_t most = 256;
     const auto file = read_file(find_data_file(data_folder, paper_file), most);
     if (!file) return usual;
-    std::string text;
-    for (const std::byte byte : *file) text += static_cast<char>(byte);
+    const auto text = characters_of(*file);
     return {told(text, kinds, usual.kind), told(text, turns, usual.turn)};
 }
 
