@@ -7,8 +7,6 @@
 #include <QFontInfo>
 #include <QStyleOptionFocusRect>
 
-#include <algorithm>
-
 namespace wortlex {
 
 void draw_focus(QPainter& painter, const QWidget& widget) {
@@ -55,10 +53,10 @@ void Canvas::show_again(Extent least) {
     update();
 }
 
-// In halves, which keep lines even. The usual letters have 12 pixels.
+// Not in between, where lines come out uneven, and no larger, as a chart is to leave room for its buttons.
 qreal Canvas::scale() const {
-    constexpr int usual = 12;
-    return std::max(QFontInfo(font()).pixelSize() * 2 / usual, 2) / 2.0;
+    constexpr int large_letters = 18; // pixels; 12 are usual
+    return QFontInfo(font()).pixelSize() < large_letters ? 1 : 1.5;
 }
 
 void Canvas::paintEvent(QPaintEvent*) {

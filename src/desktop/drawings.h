@@ -27,7 +27,8 @@ private:
     std::function<std::uint32_t()> colour_;
 };
 
-/// A figure like any other, which a screen reader goes to, and as much larger than told as the letters are.
+/// A figure like any other, which a screen reader goes to, and half as large again as told where letters are
+/// large.
 class Canvas : public QWidget {
 public:
     Canvas(std::function<void(Surface&)> draw, QWidget* parent);
