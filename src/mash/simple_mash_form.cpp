@@ -62,6 +62,7 @@ private:
             .range(0, longest_rest)
             .step(5)
             .format("%3d")
+            .width(3)
             .enabled(enabled)
             .changed([&rest] { hold_minutes(rest); });
         return line;
@@ -202,15 +203,15 @@ const char* mash_volume_label(MashSide side, const Settings& settings) {
 void simple_mash_form(Form& form, SimpleMashWork& work, const Settings& settings, MashSide side,
                       SimpleMashActions actions) {
     rest_rows(form.group("Rests"), work, settings, side, std::move(actions.calculate_strike));
-    form.next_column();
-    auto& water = form.group("Water");
-    water_rows(water, work, settings, side);
-    total_rows(water, work, settings, side);
-    if (side == MashSide::session) {
+    if (side == MashSide::session) { // below the rests: beside them it would be too wide for small screens
         wort_rows(form.group("Wort"), work.session, std::move(actions.correct_gravity),
                   std::move(actions.measure_runnings));
         form.after_edit([&work](Row&) { work_out_infusions(work); });
     }
+    form.next_column();
+    auto& water = form.group("Water");
+    water_rows(water, work, settings, side);
+    total_rows(water, work, settings, side);
     auto& buttons = form.group();
     add_button(buttons, "revert", "Revert To &Complex Schedule", std::move(actions.revert));
     add_button(buttons, "graph", "Graph", std::move(actions.graph));
