@@ -46,7 +46,7 @@ protected:
         QPainter painter(this);
         painter.setRenderHint(QPainter::SmoothPixmapTransform);
         painter.fillRect(rect(), Qt::black);
-        if (!picture_.isNull()) painter.drawPixmap(rect(), picture_);
+        if (!picture_.isNull()) painter.drawImage(rect(), picture_);
     }
 
 private:
@@ -71,7 +71,7 @@ private:
     }
 
     WindowPlace& place_;
-    QPixmap picture_;
+    QImage picture_;
 };
 
 } // namespace

@@ -1,15 +1,23 @@
 #include "base/files.h"
 #include "desktop/artwork.h"
+#include "desktop/picture_file.h"
 #include "windows/main/picture_board.h"
+
+#include <QBuffer>
 
 #include <cmath>
 #include <cstdlib>
-#include <cstring>
 
 namespace wortlex {
 namespace {
 
 const auto sources = QStringLiteral(":/artwork");
+
+QImage picture_of(ByteView bitmap) {
+    auto bytes = QByteArrayView(bitmap.data(), static_cast<qsizetype>(bitmap.size())).toByteArray();
+    QBuffer buffer(&bytes);
+    return buffer.open(QIODevice::ReadOnly) ? read_picture(buffer, "BMP") : QImage();
+}
 
 // Whether a file is our own small rendering. Two versions of the toolkit may differ by a shade.
 bool is_our_own(const QImage& file, const QImage& drawn) {
@@ -29,25 +37,25 @@ bool is_our_own(const QImage& file, const QImage& drawn) {
     return true;
 }
 
-QPixmap sharpest(const QImage& file, std::string_view name, double device_scale) {
-    if (device_scale <= 1 || !is_our_own(file, draw_artwork(sources, name, 1)))
-        return QPixmap::fromImage(file);
-    auto drawn = QPixmap::fromImage(draw_artwork(sources, name, device_scale));
-    drawn.setDevicePixelRatio(device_scale);
-    return drawn;
+QImage drawn(std::string_view name, double device_scale) {
+    auto picture = draw_artwork(sources, name, device_scale);
+    picture.setDevicePixelRatio(device_scale);
+    return picture;
 }
 
-QPixmap load_picture(const std::string& path, std::string_view name, double device_scale,
-                     ArtPictures& pictures) {
+QImage sharpest(const QImage& file, std::string_view name, double device_scale) {
+    return device_scale > 1 && is_our_own(file, drawn(name, 1)) ? drawn(name, device_scale) : file;
+}
+
+QImage load_picture(const std::string& path, std::string_view name, double device_scale,
+                    ArtPictures& pictures) {
     const auto file = read_file(path);
     const auto fault = bitmap_fault(file ? std::optional(ByteView(*file)) : std::nullopt);
     if (!fault.empty()) {
         pictures.faults.insert(fault);
         return {};
     }
-    QByteArray bytes(static_cast<qsizetype>(file->size()), Qt::Uninitialized);
-    std::memcpy(bytes.data(), file->data(), file->size());
-    const auto image = QImage::fromData(bytes, "BMP");
+    const auto image = picture_of(*file);
     if (image.isNull()) {
         pictures.undrawable.insert(undrawable_bitmap);
         return {};
@@ -57,14 +65,11 @@ QPixmap load_picture(const std::string& path, std::string_view name, double devi
 
 } // namespace
 
-QPixmap about_picture(const std::string& data_folder, double device_scale) {
+QImage about_picture(const std::string& data_folder, double device_scale) {
     constexpr std::string_view name = "kettle";
     ArtPictures only;
-    auto picture = load_picture(about_bitmap(data_folder), name, device_scale, only);
-    if (!picture.isNull()) return picture;
-    picture = QPixmap::fromImage(draw_artwork(sources, name, device_scale));
-    picture.setDevicePixelRatio(device_scale);
-    return picture;
+    const auto picture = load_picture(about_bitmap(data_folder), name, device_scale, only);
+    return picture.isNull() ? drawn(name, device_scale) : picture;
 }
 
 ArtPictures load_art(const std::string& data_folder, const ArtScheme& scheme,

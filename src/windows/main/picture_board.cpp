@@ -23,7 +23,7 @@ PictureButton::PictureButton(const ButtonPicture& told, QWidget* parent) : QAbst
     setFixedSize(button_side, button_side);
 }
 
-void PictureButton::set_picture(const QPixmap& picture) {
+void PictureButton::set_picture(const QImage& picture) {
     picture_ = picture;
     update();
 }
@@ -31,14 +31,15 @@ void PictureButton::set_picture(const QPixmap& picture) {
 void PictureButton::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     if (!isEnabled()) painter.setOpacity(asleep);
-    painter.drawPixmap(0, 0, picture_);
+    painter.drawImage(0, 0, picture_);
 }
 
 PictureBoard::PictureBoard(const std::string& data_folder, const ArtScheme& scheme,
                            std::vector<MainScreenButton> told, CommandTable& commands, Prompts& prompts,
                            QWidget* parent)
     : QWidget(parent), data_folder_(data_folder), scheme_(scheme), told_(std::move(told)),
-      commands_(commands), prompts_(prompts) {
+      commands_(commands), prompts_(prompts),
+      first_(std::async(std::launch::async, [this] { return load_art(data_folder_, scheme_, told_, 1); })) {
     setAttribute(Qt::WA_OpaquePaintEvent);
     for (const auto& button : told_) {
         buttons_.push_back(new PictureButton(button.picture, this));
@@ -56,9 +57,8 @@ void PictureBoard::show_commands() {
     }
 }
 
-void PictureBoard::load(double device_scale) {
-    pictures_ = load_art(data_folder_, scheme_, told_, device_scale);
-    loaded_scale_ = device_scale;
+void PictureBoard::show_pictures(ArtPictures pictures) {
+    pictures_ = std::move(pictures);
     for (std::size_t i = 0; i < buttons_.size(); ++i) {
         buttons_[i]->set_picture(pictures_.buttons[i]);
         buttons_[i]->setVisible(!pictures_.buttons[i].isNull());
@@ -76,7 +76,7 @@ void PictureBoard::tell_faults() const {
 // Once a showing; the boxes wait until the window stands.
 void PictureBoard::showEvent(QShowEvent* event) {
     if (!event->spontaneous()) {
-        load(1);
+        show_pictures(first_.valid() ? first_.get() : load_art(data_folder_, scheme_, told_, loaded_scale_));
         QTimer::singleShot(0, this, [this] { tell_faults(); });
     }
     QWidget::showEvent(event);
@@ -92,7 +92,7 @@ void PictureBoard::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
     painter.fillRect(rect(), Qt::black);
-    if (!pictures_.background.isNull()) painter.drawPixmap(rect(), pictures_.background);
+    if (!pictures_.background.isNull()) painter.drawImage(rect(), pictures_.background);
     draw_titles(painter);
     sharpen_later();
 }
@@ -101,7 +101,8 @@ void PictureBoard::paintEvent(QPaintEvent*) {
 void PictureBoard::sharpen_later() {
     if (devicePixelRatioF() <= loaded_scale_) return;
     loaded_scale_ = devicePixelRatioF();
-    QTimer::singleShot(0, this, [this] { load(devicePixelRatioF()); });
+    QTimer::singleShot(0, this,
+                       [this] { show_pictures(load_art(data_folder_, scheme_, told_, loaded_scale_)); });
 }
 
 void PictureBoard::mousePressEvent(QMouseEvent* event) {

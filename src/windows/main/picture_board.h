@@ -6,18 +6,20 @@
 #include "program/main_screen.h"
 
 #include <QAbstractButton>
+#include <QImage>
 #include <QMouseEvent>
-#include <QPixmap>
 
+#include <future>
 #include <set>
 #include <vector>
 
 namespace wortlex {
 
-/// The art files of one scheme as pictures, and what was wrong with those that could not be read.
+/// The art files of one scheme as pictures, and what was wrong with those that could not be read. They are
+/// images, which any thread may read.
 struct ArtPictures {
-    QPixmap background;
-    std::vector<QPixmap> buttons;      ///< in the order of theirs
+    QImage background;
+    std::vector<QImage> buttons;       ///< in the order of theirs
     std::set<std::string_view> faults; ///< each told once, however many files share it
     std::set<std::string_view> undrawable;
 };
@@ -28,13 +30,13 @@ ArtPictures load_art(const std::string& data_folder, const ArtScheme& scheme,
                      std::span<const MainScreenButton> buttons, double device_scale);
 
 /// The picture of the about box, in the same way; a file that cannot be read is drawn from its source.
-QPixmap about_picture(const std::string& data_folder, double device_scale);
+QImage about_picture(const std::string& data_folder, double device_scale);
 
 /// A button that is a picture. It has a name for assistive tools; keyboards reach its command in the menu.
 class PictureButton : public QAbstractButton {
 public:
     PictureButton(const ButtonPicture& told, QWidget* parent);
-    void set_picture(const QPixmap& picture);
+    void set_picture(const QImage& picture);
 
 protected:
     /// The board acts as the button goes down; there are no other states.
@@ -43,7 +45,7 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    QPixmap picture_;
+    QImage picture_;
 };
 
 class PictureBoard : public QWidget {
@@ -61,7 +63,7 @@ protected:
     void mousePressEvent(QMouseEvent* event) override;
 
 private:
-    void load(double device_scale);
+    void show_pictures(ArtPictures pictures);
     void sharpen_later();
     void tell_faults() const;
     void draw_titles(QPainter& painter) const;
@@ -74,6 +76,8 @@ private:
     ArtPictures pictures_;
     double loaded_scale_ = 1; ///< of the pictures, or of those on their way
     std::vector<PictureButton*> buttons_;
+    std::future<ArtPictures>
+        first_; ///< read while the rest of the window is made; last, as it reads the others
 };
 
 } // namespace wortlex
