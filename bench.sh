@@ -6,7 +6,7 @@
 set -eu
 cd "$(dirname "$0")"
 . tools/install.sh
-install_missing g++ cmake ninja-build libbenchmark-dev qt6-base-dev qt6-svg-dev libjpeg-dev libxcb1-dev pkg-config xvfb xauth
+install_missing g++ cmake ninja-build libbenchmark-dev qt6-base-dev qt6-svg-dev libfontconfig-dev libjpeg-dev libxcb1-dev pkg-config xvfb xauth
 
 cmake --preset bench > /dev/null
 cmake --build --preset bench

@@ -20,7 +20,7 @@ is_current() {
 
 can_compile() {
     . tools/install.sh
-    install_missing g++ cmake ninja-build qt6-base-dev qt6-svg-dev libjpeg-dev &&
+    install_missing g++ cmake ninja-build qt6-base-dev qt6-svg-dev libfontconfig-dev libjpeg-dev &&
         { [ -z "${WAYLAND_DISPLAY:-}" ] || install_missing qt6-wayland; }
 }
 

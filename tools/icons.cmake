@@ -5,6 +5,7 @@ set(icons ${PROJECT_BINARY_DIR}/icons)
 set(drawings ${PROJECT_SOURCE_DIR}/data/artwork/application)
 set(of_mimetypes mimetypes/application-x-wortlex)
 add_custom_command(OUTPUT ${icons}.made
+    BYPRODUCTS ${window_icons}
     COMMAND render-icons ${drawings}/wortlex.svg ${icons} apps/wortlex
     COMMAND render-icons ${drawings}/recipe.svg ${icons} ${of_mimetypes}-recipe
     COMMAND render-icons ${drawings}/session.svg ${icons} ${of_mimetypes}-session

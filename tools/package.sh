@@ -4,7 +4,7 @@
 set -eu
 cd "$(dirname "$0")/.."
 . tools/install.sh
-install_missing g++ cmake ninja-build qt6-base-dev qt6-svg-dev qt6-wayland libjpeg-dev binutils dpkg-dev file patchelf
+install_missing g++ cmake ninja-build qt6-base-dev qt6-svg-dev qt6-wayland libfontconfig-dev libjpeg-dev binutils dpkg-dev file patchelf
 packages=$PWD/build/packages
 
 # What every desktop has, and what belongs to its drivers, is taken from there, with all that it needs itself.

@@ -1,9 +1,11 @@
 // wortlex: opens the main window on a brewery folder, and a document given by name.
 #include "base/folder_guard.h"
+#include "desktop/early_start.h"
 #include "desktop/end_of_session.h"
 #include "desktop/message_boxes.h"
 #include "desktop/outlined_style.h"
 #include "desktop/picture_easel.h"
+#include "desktop/picture_file.h"
 #include "desktop/print_preview.h"
 #include "desktop/second_start.h"
 #include "desktop/system_ports.h"
@@ -16,12 +18,15 @@
 #include "windows/main/main_window.h"
 
 #include <QApplication>
+#include <QDir>
+#include <QFile>
 #include <QIcon>
 #include <QLocale>
 #include <QTimer>
 
 #include <exception>
 #include <filesystem>
+#include <future>
 #include <utility>
 
 namespace wortlex {
@@ -37,7 +42,12 @@ std::string named_document(int count, char** arguments) {
 }
 
 void set_icon() {
-    QApplication::setWindowIcon(QIcon(QStringLiteral(":/artwork/application/wortlex.svg")));
+    QIcon icon;
+    for (const auto& size : QDir(QStringLiteral(":/icon")).entryList()) {
+        QFile file(QStringLiteral(":/icon/%1/apps/wortlex.png").arg(size));
+        if (file.open(QIODevice::ReadOnly)) icon.addPixmap(QPixmap::fromImage(read_picture(file, "PNG")));
+    }
+    QApplication::setWindowIcon(icon);
 }
 
 // What nobody caught is noted before it ends the program.
@@ -65,31 +75,21 @@ void note_broken_run(const std::string& folder, const FaultLog& log) {
     if (stamp_of(work_path(folder))) log.note("An earlier run broke off and left unsaved work.");
 }
 
-int run(int count, char** arguments) {
-    const auto log = user_log();
-    const NotedApplication application(count, arguments, log);
-    QApplication::setApplicationName(QStringLiteral("wortlex"));
-    QApplication::setDesktopFileName(QStringLiteral("wortlex"));
-    // The end is the main window's to tell: a recipe that is closed behind it must not end the program.
-    QApplication::setQuitOnLastWindowClosed(false);
-    outline_on_black();
-    MessageBoxes boxes;
-    NotedPrompts prompts(boxes, log);
-    const auto named = named_document(count, arguments);
-    const auto brewery = open_brewery(start_places(), prompts);
-    if (!brewery) return 1;
-    const auto& folder = *brewery;
-    const FolderGuard guard(folder);
-    if (guard.is_open_elsewhere()) {
-        if (!hand_over(folder, named))
-            prompts.tell(
-                {.text = "Wortlex is already open in this brewery folder.", .icon = Icon::information});
-        return 0;
-    }
-    take_units_of_country(folder, QLocale::system().measurementSystem() == QLocale::MetricSystem);
-    Program program;
-    if (!start(program, folder, prompts)) return 0;
-    note_broken_run(folder, log);
+// What is asked for by the start: a document by name, and where the program lies.
+struct Request {
+    std::string named;
+    StartPlaces places;
+};
+
+// The window need not wait for its icon; questions wait until the program runs, and can end.
+void once_shown(MainWindow& window, const Request& asked) {
+    set_icon();
+    window.offer_unsaved_work();
+    if (!asked.named.empty()) window.open_file(asked.named);
+    window.offer_new_entries(shipped_data(asked.places.programs));
+}
+
+int show(Program& program, const std::string& folder, Prompts& prompts, const Request& asked) {
     FileDialogs files;
     SystemClipboard clipboard;
     PreviewDesk pages(files, prompts, places(program), program.folders, program.data_folder);
@@ -99,18 +99,43 @@ int run(int count, char** arguments) {
     window.show();
     const EndOfSession end_of_session([&program] { keep_work(program.tools); });
     const SecondStarts second_starts(folder, [&window](const std::string& path) { window.take_over(path); });
-    // Drawing the icon in all its sizes takes a tenth of the start: the window need not wait for it.
-    // Questions wait until the program runs, and can end.
-    QTimer once_shown;
-    once_shown.setSingleShot(true);
-    QObject::connect(&once_shown, &QTimer::timeout, [&window, &named] {
-        set_icon();
-        window.offer_unsaved_work();
-        if (!named.empty()) window.open_file(named);
-        window.offer_new_entries(shipped_data(start_places().programs));
-    });
-    once_shown.start(0);
+    QTimer::singleShot(0, &window, [&window, &asked] { once_shown(window, asked); });
     return QApplication::exec();
+}
+
+int open(const std::string& folder, Prompts& prompts, const FaultLog& log, const Request& asked,
+         const std::future<void>& fonts) {
+    const FolderGuard guard(folder);
+    if (guard.is_open_elsewhere()) {
+        if (!hand_over(folder, asked.named))
+            prompts.tell(
+                {.text = "Wortlex is already open in this brewery folder.", .icon = Icon::information});
+        return 0;
+    }
+    take_units_of_country(folder, QLocale::system().measurementSystem() == QLocale::MetricSystem);
+    Program program;
+    if (!start(program, folder, prompts)) return 0;
+    note_broken_run(folder, log);
+    fonts.wait();
+    return show(program, folder, prompts, asked);
+}
+
+int run(int count, char** arguments) {
+    const auto fonts = read_fonts_early();
+    const auto log = user_log();
+    const NotedApplication application(count, arguments, log);
+    const auto bus = open_session_bus_early();
+    const auto taken_fonts = take_fonts_early(fonts);
+    QApplication::setApplicationName(QStringLiteral("wortlex"));
+    QApplication::setDesktopFileName(QStringLiteral("wortlex"));
+    // The end is the main window's to tell: a recipe that is closed behind it must not end the program.
+    QApplication::setQuitOnLastWindowClosed(false);
+    outline_on_black();
+    MessageBoxes boxes;
+    NotedPrompts prompts(boxes, log);
+    const Request asked{.named = named_document(count, arguments), .places = start_places()};
+    const auto folder = open_brewery(asked.places, prompts);
+    return folder ? open(*folder, prompts, log, asked, fonts) : 1;
 }
 
 } // namespace
