@@ -17,7 +17,7 @@ std::string_view first_line(std::string_view text, const LineRoom& room) {
     return fitting.empty() ? first_characters(text, 1) : fitting;
 }
 
-std::string plain_text(std::string_view text) {
+std::string without_breaks(std::string_view text) {
     std::string plain(text);
     std::erase(plain, '\n');
     std::replace(plain.begin(), plain.end(), '\t', ' ');
@@ -56,7 +56,7 @@ std::vector<std::string> wrapped(std::string_view text, const LineRoom& room) {
 
 std::vector<std::string> paragraph_lines(std::string_view text, const LineRoom& room) {
     std::vector<std::string> lines;
-    const auto plain = plain_text(text);
+    const auto plain = without_breaks(text);
     for (std::string_view rest = plain; !rest.empty();) {
         const auto end = std::min(rest.find('\r'), rest.size());
         for (auto& line : wrapped(rest.substr(0, end), room)) lines.push_back(std::move(line));

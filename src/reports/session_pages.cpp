@@ -8,7 +8,7 @@
 namespace wortlex {
 namespace {
 
-const char* page_title(SessionPrint print) {
+const char* session_page_title(SessionPrint print) {
     switch (print) {
     case SessionPrint::mash:
         return "Wortlex Brewing Session - Mash Details Printout";
@@ -80,7 +80,7 @@ void add_page(std::vector<ReportSection>& sections, SessionPrint print, const Re
 } // namespace
 
 DocumentReport session_page(SessionPrint print, const ReportSource& source) {
-    DocumentReport report{"", page_title(print), "", ""};
+    DocumentReport report{"", session_page_title(print), "", ""};
     report.sections.push_back(head(print, source));
     add_page(report.sections, print, source);
     return report;
