@@ -1,8 +1,9 @@
 #!/usr/bin/env bash
-# Prints how fast the program is: its start beside that of an empty window, one recalculation, a load and a save, a hop
-# list of 999 entries, a session's inventory, the recipe window and its report, the shelf of 10,000 recipes, the
-# brewer's tools, the water calculator, a mash schedule and its chart, the search in the handbook, wortlex-report over
-# 10,000 recipes, each from 25 to 400 lines of malts and hops, and how long everything takes to build anew.
+# Prints how fast the program is: its start, installed, warm and cold, beside that of an empty window, one
+# recalculation, a load and a save, a hop list of 999 entries, a session's inventory, the recipe window and its report,
+# the shelf of 10,000 recipes, the brewer's tools, the water calculator, a mash schedule and its chart, the search in
+# the handbook, wortlex-report over 10,000 recipes, each from 25 to 400 lines of malts and hops, and how long everything
+# takes to build anew.
 set -eu
 cd "$(dirname "$0")"
 . tools/install.sh
@@ -10,8 +11,11 @@ install_missing g++ cmake ninja-build libbenchmark-dev qt6-base-dev qt6-svg-dev 
 
 cmake --preset bench > /dev/null
 cmake --build --preset bench
-(cd build/bench/brewery && timeout 300 xvfb-run -a -s "-screen 0 1280x1024x24" \
-    env QT_QPA_PLATFORM=xcb ../bench/start_bench 15 ../src/wortlex ../bench/empty_window)
+installed=$(mktemp -d)
+cmake --install build/bench --prefix "$installed" > /dev/null
+(cd "$installed" && timeout 300 xvfb-run -a -s "-screen 0 1280x1024x24" env QT_QPA_PLATFORM=xcb HOME="$installed" \
+    XDG_DATA_HOME="$installed/data" "$OLDPWD/build/bench/bench/start_bench" 15 bin/wortlex "$OLDPWD/build/bench/bench/empty_window")
+rm -rf "$installed"
 build/bench/bench/documents_bench --benchmark_counters_tabular=true
 build/bench/bench/lists_bench
 build/bench/bench/inventory_bench

@@ -1,8 +1,9 @@
 // start_bench ROUNDS PROGRAM PROGRAM: starts two programs in turn, and prints for each the median time until
-// its window is mapped, and the memory it holds once it is idle. The display must have no other programs and
-// no window manager on it.
+// its window is mapped, with its files in the disk cache and without, and the memory it holds once it is
+// idle. The display must have no other programs and no window manager on it.
 #include "base/number.h"
 
+#include <fcntl.h>
 #include <spawn.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -16,6 +17,7 @@
 #include <cstdlib>
 #include <fstream>
 #include <memory>
+#include <set>
 #include <sstream>
 #include <stdexcept>
 #include <thread>
@@ -28,10 +30,11 @@ using Clock = std::chrono::steady_clock;
 using Connection = std::unique_ptr<xcb_connection_t, decltype(&xcb_disconnect)>;
 using Event = std::unique_ptr<xcb_generic_event_t, decltype(&std::free)>;
 
-/// Milliseconds and kilobytes.
+/// Milliseconds and kilobytes, and the programs, libraries and data that lie in memory.
 struct Start {
     double time = 0;
     double memory = 0;
+    std::set<std::string> files = {};
 };
 
 // Listens for windows that are mapped on the screen itself.
@@ -83,6 +86,24 @@ double proportional_memory(pid_t process) {
     throw std::runtime_error("the memory of the program cannot be read");
 }
 
+std::set<std::string> mapped_files(pid_t process) {
+    std::ifstream map("/proc/" + std::to_string(process) + "/maps");
+    std::set<std::string> files;
+    for (std::string line; std::getline(map, line);)
+        if (const auto path = line.find('/'); path != std::string::npos) files.insert(line.substr(path));
+    return files;
+}
+
+// Out of the disk cache. What another program holds as well stays, as it would on any desktop.
+void forget(const std::set<std::string>& files) {
+    for (const auto& file : files) {
+        const int descriptor = open(file.c_str(), O_RDONLY | O_CLOEXEC);
+        if (descriptor < 0) continue; // as a file that was deleted
+        posix_fadvise(descriptor, 0, 0, POSIX_FADV_DONTNEED);
+        close(descriptor);
+    }
+}
+
 pid_t spawn(char* program) {
     pid_t process = 0;
     std::array<char*, 2> arguments = {program, nullptr};
@@ -98,38 +119,54 @@ Start measure(xcb_connection_t* display, char* program) {
     const std::chrono::duration<double, std::milli> time = Clock::now() - started;
     wait_until_idle(process);
     const auto memory = proportional_memory(process);
+    auto files = mapped_files(process);
     kill(process, SIGTERM);
     waitpid(process, nullptr, 0);
     wait_for(display, XCB_DESTROY_NOTIFY);
-    return {time.count(), memory};
+    return {time.count(), memory, std::move(files)};
 }
 
-double median(const std::vector<Start>& starts, double Start::*figure) {
-    std::vector<double> figures;
-    figures.reserve(starts.size());
-    for (const auto& start : starts) figures.push_back(start.*figure);
+double median(std::vector<double> figures) {
     std::sort(figures.begin(), figures.end());
     return figures[figures.size() / 2];
 }
 
-void print(const char* program, const std::vector<Start>& starts) {
-    std::printf("%-40s mapped after %6.1f ms, %6.1f MB\n", program, median(starts, &Start::time),
-                median(starts, &Start::memory) / 1024);
+/// One program's figures, a round each.
+struct Rounds {
+    std::vector<double> warm, cold, memory;
+};
+
+void add_round(xcb_connection_t* display, char* program, Rounds& rounds) {
+    const auto warm = measure(display, program);
+    rounds.warm.push_back(warm.time);
+    rounds.memory.push_back(warm.memory);
+    forget(warm.files);
+    rounds.cold.push_back(measure(display, program).time);
+}
+
+void print(const char* program, const Rounds& rounds) {
+    std::printf("%-40s mapped after %6.1f ms, cold %6.1f ms, %6.1f MB\n", program, median(rounds.warm),
+                median(rounds.cold), median(rounds.memory) / 1024);
+}
+
+double ratio(const std::vector<double>& figures, const std::vector<double>& to) {
+    return median(figures) / median(to);
 }
 
 // In turn, so that a slow spell of the machine strikes both.
-void compare(int rounds, char* first, char* second) {
+void compare(int count, char* first, char* second) {
     const auto display = listen();
     measure(display.get(), first); // warms the disk cache
     measure(display.get(), second);
-    std::vector<Start> firsts, seconds;
-    for (int round = 0; round < rounds; ++round) {
-        firsts.push_back(measure(display.get(), first));
-        seconds.push_back(measure(display.get(), second));
+    Rounds firsts, seconds;
+    for (int round = 0; round < count; ++round) {
+        add_round(display.get(), first, firsts);
+        add_round(display.get(), second, seconds);
     }
     print(first, firsts);
     print(second, seconds);
-    std::printf("ratio of the times: %.2f\n", median(firsts, &Start::time) / median(seconds, &Start::time));
+    std::printf("ratios: warm %.2f, cold %.2f, memory %.2f\n", ratio(firsts.warm, seconds.warm),
+                ratio(firsts.cold, seconds.cold), ratio(firsts.memory, seconds.memory));
 }
 
 } // namespace
