@@ -81,12 +81,13 @@ struct Request {
     StartPlaces places;
 };
 
-// The window need not wait for its icon; questions wait until the program runs, and can end.
+// The window need not wait for its icon; questions wait until the program runs, and can end. What was asked for
+// comes last, so that it lies on top.
 void once_shown(MainWindow& window, const Request& asked) {
     set_icon();
     window.offer_unsaved_work();
-    if (!asked.named.empty()) window.open_file(asked.named);
     window.offer_new_entries(shipped_data(asked.places.programs));
+    if (!asked.named.empty()) window.open_file(asked.named);
 }
 
 int show(Program& program, const std::string& folder, Prompts& prompts, const Request& asked) {
