@@ -23,7 +23,7 @@ struct WindowInfo {
     std::string_view template_name;
     std::array<std::string_view, 4> captions; ///< by use, as the window tells
     std::array<int, 4> places = no_places;    ///< slots of `ToolPositions`, by opener
-    std::string_view help_page;               ///< of the handbook
+    std::string_view help_page = {};          ///< of the handbook
     bool places_by_use = false;               ///< `places` goes by use instead
 };
 
