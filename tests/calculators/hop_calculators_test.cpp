@@ -29,7 +29,6 @@ HopRecord fading_hop() {
 
 Settings store_settings() {
     auto settings = brewing_settings();
-    settings.volume_units = Units::american;
     settings.hop_storage_temperature = 60;
     settings.batch_size = settings.wort_size = 5;
     return settings;

@@ -17,7 +17,6 @@ using testing::IsSupersetOf;
 
 Settings kitchen() {
     auto settings = brewing_settings();
-    settings.volume_units = Units::american;
     settings.printer_scale = 1;
     settings.sg_precision = 1;
     return settings;

@@ -2,12 +2,14 @@
 #pragma once
 
 #include "documents/document_recalculation.h"
+#include "support/measured_in.h"
 #include "support/worked_figures.h"
 
 namespace wortlex {
 
-inline Settings brewing_settings() {
+inline Settings brewing_settings(Units units = Units::american) {
     Settings settings;
+    measure_in(settings, units);
     settings.sucrose_value = 46.21F;
     settings.tinseth_factor = 1.3F;
     settings.kettle_factor = 1;

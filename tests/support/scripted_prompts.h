@@ -26,6 +26,30 @@ public:
         script_.push_back({what, text, caption, icon, reply});
     }
     void expect_tell(std::string text, Icon icon = {}) { expect("tell", text, {}, icon); }
+    void expect_yes_no(std::string text, Answer answer) { expect("yes/no", text, answer, Icon::question); }
+    /// Of changes in a recipe, a brew session entry, a time line ...
+    void expect_save(const std::string& what, Answer answer) {
+        expect("yes/no/cancel",
+               "The current " + what + " has been modified!\nDo you want to save the changes?", answer,
+               Icon::question);
+    }
+    /// Of work on a document that an earlier run has left.
+    void expect_unsaved_work(const std::string& name, Answer answer) {
+        expect("yes/no/cancel",
+               "Wortlex ended before your work on " + name +
+                   " was saved.\nDo you want to open it as it was? No discards it, Cancel asks again at the "
+                   "next start.",
+               answer, Icon::question);
+    }
+    void expect_write_error() {
+        expect_tell("Wortlex has experienced an error in writing this file.\n\nPossible reasons include:\n\n"
+                    "a) The file has somehow been tagged as read-only by the system.\n\n"
+                    "b) The file has become corrupted by other means.\n\n"
+                    "If the file has been transferred over a network and saved by a \n"
+                    "different program, it is very likely it has been tagged as read-only.\n\n"
+                    "It is suggested you try and save the file under a different name.",
+                    Icon::warning);
+    }
 
     void tell(const Message& message) override { take("tell", message, std::monostate()); }
     Answer ask_yes_no(const Message& m) override { return take("yes/no", m, Answer::no); }

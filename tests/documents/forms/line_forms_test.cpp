@@ -6,7 +6,6 @@
 #include "documents/forms/pre_boil_form.h"
 #include "mash/simple_mash_form.h"
 #include "support/form_user.h"
-#include "support/measured_in.h"
 #include "support/scripted_prompts.h"
 
 namespace wortlex {
@@ -14,7 +13,6 @@ namespace {
 
 Settings american_settings() {
     auto settings = brewing_settings();
-    measure_in(settings, Units::american);
     settings.quarts_per_pound = 1.25F;
     settings.grain_increment = 0.5F;
     settings.hop_increment = 0.25F;

@@ -1,6 +1,6 @@
-#include "documents/brewing.h"
 #include "documents/forms/recipe_form.h"
 #include "documents/recipe_gravity.h"
+#include "documents/under_work.h"
 #include "measures/unit_words.h"
 #include "support/form_user.h"
 
@@ -10,18 +10,12 @@ namespace wortlex {
 namespace {
 
 // A recipe as the window shows it.
-struct Shown {
-    Settings settings = brewing_settings();
-    BrewDocument document = empty_recipe();
-    RecipeFigures figures;
-    RecipeEditor editor{{document, figures, settings}, {}, {}};
+struct Shown : UnderWork {
     RecipeView& view = editor.view;
     ColorTable colours;
     RecipeSubject subject{editor, colours};
 
     Shown() {
-        settings.volume_units = settings.weight_units = settings.hop_weight_units = Units::american;
-        settings.temperature_units = TemperatureUnits::fahrenheit;
         settings.bittering_unit = BitteringUnit::hbu;
         document.malts = {malt(MaltType::grain, 1.037F, 7.5F, false, 0, 2.6F),
                           malt(MaltType::extract, 1.036F, 2.5F, true, 0, 120.4F)};
@@ -34,26 +28,20 @@ struct Shown {
         figures.total_extract_pounds = 4.8;
     }
 
-    std::string malt_row(std::size_t line) const {
-        std::string row;
-        for (std::size_t column = 0; column < malt_columns; ++column)
-            row += (column == 0 ? "" : "\t") + malt_cell(editor.open, view, line, column);
-        return row;
-    }
-    std::string hop_row(std::size_t line) const {
-        std::string row;
-        for (std::size_t column = 0; column < hop_columns; ++column)
-            row += (column == 0 ? "" : "\t") + hop_cell(editor.open, view, line, column);
-        return row;
+    std::string row(auto cell, std::size_t line) const {
+        std::string all;
+        for (std::size_t column = 0; column < 6; ++column)
+            all += (column == 0 ? "" : "\t") + cell(editor.open, view, line, column);
+        return all;
     }
 };
 
 TEST(RecipeLists, HaveTheirFormats) {
     Shown shown;
-    EXPECT_EQ(shown.malt_row(0),
+    EXPECT_EQ(shown.row(malt_cell, 0),
               "Ch\u00e2teau Pilsen 2-Row Malted\tUnited Kingd\t  1.037\t     3\t  7.50\t 75.0");
-    EXPECT_EQ(shown.malt_row(1), "\t\t  1.036\t   120\t  2.50\t 25.0");
-    EXPECT_EQ(shown.hop_row(0), "\tWhole\t  12.60\t 0.0\t   0.50\t 60");
+    EXPECT_EQ(shown.row(malt_cell, 1), "\t\t  1.036\t   120\t  2.50\t 25.0");
+    EXPECT_EQ(shown.row(hop_cell, 0), "\tWhole\t  12.60\t 0.0\t   0.50\t 60");
     for (const auto& [line, time] : {std::pair{1U, "FW"}, {2U, "MH"}, {3U, "Dry"}, {4U, " 63"}})
         EXPECT_EQ(hop_cell(shown.editor.open, shown.view, line, 5), time);
     shown.view.show_potential = shown.view.show_ibu = false;
@@ -69,7 +57,8 @@ TEST(RecipeLists, FollowTheUnits) {
     shown.settings.color_units = ColorUnits::ebc_new;
     shown.settings.potential_display = PotentialDisplay::points;
     shown.settings.plato_precision = 1;
-    EXPECT_EQ(shown.malt_row(1), "\t\t  36.00\t   237\t  1.13\t 25.0") << "120.4 x 1.97, 2.5 x 453.6 / 1000";
+    EXPECT_EQ(shown.row(malt_cell, 1), "\t\t  36.00\t   237\t  1.13\t 25.0")
+        << "120.4 x 1.97, 2.5 x 453.6 / 1000";
     EXPECT_EQ(hop_cell(shown.editor.open, shown.view, 1, 4), "  56.70") << "2 x 28.35";
     shown.settings.sg_precision = 2;
     shown.settings.potential_display = PotentialDisplay::sg;

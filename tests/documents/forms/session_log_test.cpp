@@ -1,13 +1,13 @@
 #include "brewing/calendar.h"
 #include "calculators/carbonation_of_session.h"
 #include "documents/bottling_date.h"
-#include "documents/brewing.h"
 #include "documents/forms/bottling_form.h"
 #include "documents/forms/efficiency_form.h"
 #include "documents/forms/fermentation_form.h"
 #include "documents/forms/session_notes_form.h"
 #include "documents/opening.h"
 #include "documents/snapshot.h"
+#include "documents/under_work.h"
 #include "records/documents/document_traits.h"
 #include "support/form_user.h"
 
@@ -19,17 +19,9 @@ namespace {
 constexpr float not_a_number = std::numeric_limits<float>::quiet_NaN();
 
 // Ten pounds that hold 80 % extract, for five gallons: 46.21 x 0.8 x 10 / 5 are 73.936 points at the most.
-struct LoggedDay {
-    Settings settings = brewing_settings();
-    BrewDocument document = empty_recipe();
-    RecipeFigures figures;
-    SessionDocument session;
-    WaterBalance water;
-    RecipeEditor editor{{document, figures, settings, &session, &water}, {}, {}};
-
-    LoggedDay() {
-        settings.volume_units = settings.weight_units = settings.pressure_units = Units::american;
-        settings.temperature_units = TemperatureUnits::fahrenheit;
+struct LoggedDay : UnderWork {
+    LoggedDay() : UnderWork(DocumentKind::session) {
+        settings.pressure_units = Units::american;
         settings.wort_equals_batch = 1;
         settings.plato_precision = 1;
         document.malts = {malt(MaltType::grain, 1.036968F, 10)};

@@ -1,8 +1,8 @@
-#include "documents/brewing.h"
 #include "documents/forms/cell_typing.h"
 #include "documents/forms/hop_amount.h"
 #include "documents/forms/line_entry.h"
 #include "documents/forms/malt_amount.h"
+#include "documents/under_work.h"
 #include "support/form_user.h"
 #include "support/scripted_prompts.h"
 
@@ -11,14 +11,9 @@
 namespace wortlex {
 namespace {
 
-struct Bench {
-    Settings settings = brewing_settings();
-    BrewDocument document = empty_recipe();
-    RecipeFigures figures;
-    RecipeEditor editor{{document, figures, settings}, {}, {}};
-
+struct Bench : UnderWork {
     explicit Bench(Units units) {
-        settings.weight_units = settings.hop_weight_units = units;
+        measure_in(settings, units);
         document.boil_minutes = 60;
         document.malts = {malt(MaltType::grain, 1.037F, 6), malt(MaltType::grain, 1.034F, 3),
                           malt(MaltType::sugar, 1.046F, 1)};

@@ -1,4 +1,4 @@
-#include "documents/brewing.h"
+#include "documents/under_work.h"
 #include "documents/work/document_saving.h"
 #include "records/documents/document_files.h"
 #include "support/scripted_files.h"
@@ -12,16 +12,9 @@
 namespace wortlex {
 namespace {
 
-constexpr const char* modified_question =
-    "The current recipe has been modified!\nDo you want to save the changes?";
-
 // A recipe under work that is about to be saved.
-struct SavingDesk {
+struct SavingDesk : UnderWork {
     TemporaryFolder folder;
-    Settings settings = brewing_settings();
-    BrewDocument document = empty_recipe();
-    RecipeFigures figures;
-    RecipeEditor editor{{document, figures, settings}, {}, {}};
     DocumentFile file;
     DocumentImage saved;
     ScriptedPrompts prompts;
@@ -103,10 +96,10 @@ TEST(DocumentSaving, TheMethodIsSettledFirst) {
         "grain).\n\nPlease be aware of this difference and that the predicted gravity here may be different "
         "than what the author targeted.\n\nDo you want to reset the recipe using your current Efficiency "
         "Method?\n";
-    desk.prompts.expect("yes/no", question, Answer::no, Icon::question);
+    desk.prompts.expect_yes_no(question, Answer::no);
     EXPECT_TRUE(desk.save({desk.path("Mild.rec")}));
     EXPECT_EQ(desk.document.file_efficiency_mode, 2);
-    desk.prompts.expect("yes/no", question, Answer::yes, Icon::question);
+    desk.prompts.expect_yes_no(question, Answer::yes);
     EXPECT_TRUE(desk.save({}));
     EXPECT_EQ(desk.document.file_efficiency_mode, 0);
     EXPECT_FALSE(desk.modified()) << "the mark of a save is no change";
@@ -133,13 +126,13 @@ TEST(DocumentSaving, NothingIsLeftUnsavedUnasked) {
     EXPECT_TRUE(desk.leave()) << "nothing has changed";
     set_title(desk.editor, "Porter");
     for (const auto& [answer, may] : {std::pair(Answer::cancel, false), std::pair(Answer::no, true)}) {
-        desk.prompts.expect("yes/no/cancel", modified_question, answer, Icon::question);
+        desk.prompts.expect_save("recipe", answer);
         EXPECT_EQ(desk.leave(), may);
     }
-    desk.prompts.expect("yes/no/cancel", modified_question, Answer::yes, Icon::question);
+    desk.prompts.expect_save("recipe", Answer::yes);
     EXPECT_FALSE(desk.leave({std::nullopt})) << "the save was left";
     set_title(desk.editor, "Porter");
-    desk.prompts.expect("yes/no/cancel", modified_question, Answer::yes, Icon::question);
+    desk.prompts.expect_save("recipe", Answer::yes);
     EXPECT_TRUE(desk.leave({desk.path("Porter.rec")}));
     desk.file.recovered = true;
     EXPECT_TRUE(desk.modified()) << "unsaved work of another run, however it looks";

@@ -1,8 +1,8 @@
-#include "documents/brewing.h"
 #include "documents/forms/page_forms.h"
 #include "documents/forms/recipe_form.h"
 #include "documents/recipe_gravity.h"
 #include "documents/snapshot.h"
+#include "documents/under_work.h"
 #include "support/form_user.h"
 
 #include <gtest/gtest.h>
@@ -11,17 +11,12 @@ namespace wortlex {
 namespace {
 
 // A recipe under work, with the form of its window.
-struct Work {
-    Settings settings = brewing_settings();
-    BrewDocument document = empty_recipe();
-    RecipeFigures figures;
-    RecipeEditor editor{{document, figures, settings}, {}, {}};
+struct Work : UnderWork {
     ColorTable colours;
     RecipeSubject subject{editor, colours};
     Form form;
 
     Work() {
-        settings.volume_units = settings.weight_units = settings.hop_weight_units = Units::american;
         settings.grain_increment = 0.5F;
         settings.hop_increment = 0.25F;
         document.malts = {malt(MaltType::grain, 1.037F, 8.1F), malt(MaltType::sugar, 1.046F, 0.7F)};

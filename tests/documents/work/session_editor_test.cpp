@@ -1,5 +1,5 @@
-#include "documents/brewing.h"
 #include "documents/opening.h"
+#include "documents/under_work.h"
 #include "documents/work/session_editor.h"
 #include "documents/work/session_pages.h"
 #include "records/documents/document_files.h"
@@ -10,15 +10,8 @@ namespace wortlex {
 namespace {
 
 // A brew day that has begun, and a recipe to be picked for it.
-struct BrewersDesk {
-    Settings settings = brewing_settings();
-    BrewDocument document;
-    RecipeFigures figures;
-    SessionDocument session;
-    WaterBalance water;
-    RecipeEditor editor{{document, figures, settings, &session, &water}, {}, {}};
-
-    BrewersDesk() {
+struct BrewersDesk : UnderWork {
+    BrewersDesk() : UnderWork(DocumentKind::session) {
         settings.grain_temperature = 71.9F;
         settings.tun_thermal_mass = 2.5F;
         start_session(editor.open, {}, {5, 3, 2001});

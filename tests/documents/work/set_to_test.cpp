@@ -1,5 +1,5 @@
-#include "documents/brewing.h"
 #include "documents/forms/set_to_form.h"
+#include "documents/under_work.h"
 #include "measures/precision.h"
 #include "measures/rounding.h"
 #include "measures/units.h"
@@ -13,14 +13,9 @@ namespace wortlex {
 namespace {
 
 // 57.8 points by method #1 on points: (6 x 37 + 3 x 34) x 0.75 + 46, over 5 gallons.
-struct Goal {
-    Settings settings = brewing_settings();
-    BrewDocument document = empty_recipe();
-    RecipeFigures figures;
-    RecipeEditor editor{{document, figures, settings}, {}, {}};
-
+struct Goal : UnderWork {
     explicit Goal(Units units = Units::american) {
-        settings.volume_units = settings.weight_units = settings.hop_weight_units = units;
+        measure_in(settings, units);
         document.boil_minutes = 60;
         document.malts = {malt(MaltType::grain, 1.037F, 6, false, 0, 2),
                           malt(MaltType::grain, 1.034F, 3, false, 0, 60), malt(MaltType::sugar, 1.046F, 1)};
