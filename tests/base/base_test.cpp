@@ -1,8 +1,8 @@
-#include "base/files.h"
 #include "base/folder_guard.h"
 #include "base/number.h"
 #include "base/text.h"
 #include "base/windows1252.h"
+#include "support/file_content.h"
 #include "support/temporary_folder.h"
 
 #include <gtest/gtest.h>
@@ -10,7 +10,6 @@
 #include <clocale>
 #include <cmath>
 #include <csignal>
-#include <fstream>
 #include <locale>
 #include <sys/resource.h>
 #include <sys/stat.h>
@@ -20,11 +19,6 @@ namespace wortlex {
 namespace {
 
 namespace fs = std::filesystem;
-
-Bytes bytes_of(std::string_view text) {
-    const auto view = std::as_bytes(std::span(text));
-    return {view.begin(), view.end()};
-}
 
 TEST(SaveAtomically, ReplacesAFileKeepsItsModeAndLeavesNothingElse) {
     const TemporaryFolder folder;
@@ -60,7 +54,7 @@ TEST(SaveAtomically, RefusesWhatIsNoWritableFile) {
     const TemporaryFolder folder;
     fs::create_directory(folder / "folder");
     ASSERT_EQ(::mkfifo((folder / "pipe").c_str(), 0600), 0);
-    std::ofstream(folder / "kept") << "old";
+    write_content(folder / "kept", "old");
     fs::permissions(folder / "kept", fs::perms{0444});
     for (const auto& path : {folder / "folder", folder / "pipe", folder / "absent/file", std::string()})
         EXPECT_FALSE(save_atomically(path, bytes_of("x"))) << path;
@@ -77,7 +71,7 @@ TEST(SaveAtomically, RefusesWhatIsNoWritableFile) {
 // A limit on the size of files stands in for a full disk: both end a write half-way.
 TEST(SaveAtomically, WriteThatEndsHalfWayLeavesTheOldFileWhole) {
     const TemporaryFolder folder;
-    std::ofstream(folder / "kept") << "old";
+    write_content(folder / "kept", "old");
     rlimit limit = {};
     ASSERT_EQ(::getrlimit(RLIMIT_FSIZE, &limit), 0);
     const rlimit lower{1000, limit.rlim_max};
@@ -108,7 +102,7 @@ TEST(FolderGuard, KeepsASecondProgramOutAndNobodyElse) {
 
 TEST(Files, AreReadIfRegularAndFoundWithoutRegardToCapitals) {
     const TemporaryFolder folder;
-    std::ofstream(folder / "hops.dat") << "0123456789";
+    write_content(folder / "hops.dat", "0123456789");
     EXPECT_EQ(read_file(folder / "hops.dat", 4), bytes_of("0123"));
     EXPECT_EQ(read_file(folder / "hops.dat", 10), bytes_of("0123456789"));
     ASSERT_EQ(::mkfifo((folder / "pipe").c_str(), 0600), 0); // whose writer is not waited for
@@ -116,7 +110,7 @@ TEST(Files, AreReadIfRegularAndFoundWithoutRegardToCapitals) {
         EXPECT_FALSE(read_file(path)) << path;
     EXPECT_EQ(find_data_file(folder.path(), "HOPS.DAT"), folder / "hops.dat");
     EXPECT_EQ(find_data_file(folder.path(), "HOPS.DA"), folder / "HOPS.DA") << "as asked where nothing fits";
-    std::ofstream(folder / "HOPS.DAT") << "";
+    write_content(folder / "HOPS.DAT", "");
     EXPECT_EQ(find_data_file(folder.path(), "HOPS.DAT"), folder / "HOPS.DAT") << "the exact name wins";
     EXPECT_EQ(find_data_file(folder / "absent/", "a"), folder / "absent/a");
     // clang-format off

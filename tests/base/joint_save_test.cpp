@@ -1,18 +1,11 @@
-#include "base/files.h"
 #include "base/joint_save.h"
+#include "support/file_content.h"
 #include "support/temporary_folder.h"
 
 #include <gtest/gtest.h>
 
-#include <fstream>
-
 namespace wortlex {
 namespace {
-
-Bytes content_bytes(std::string_view text) {
-    const auto view = std::as_bytes(std::span(text));
-    return {view.begin(), view.end()};
-}
 
 // Two files and one that is to go, all "old".
 struct JointDesk {
@@ -20,22 +13,17 @@ struct JointDesk {
     std::string journal = folder / "journal";
 
     JointDesk() {
-        for (const auto* const name : {"a", "b", "gone"})
-            save_atomically(folder / name, content_bytes("old"));
+        for (const auto* const name : {"a", "b", "gone"}) save_atomically(folder / name, bytes_of("old"));
     }
     std::string content() const {
         std::string all;
-        for (const auto* const name : {"a", "b", "gone"}) {
-            const auto file = read_file(folder / name);
-            for (const auto byte : file.value_or(content_bytes("none"))) all += static_cast<char>(byte);
-            all += ' ';
-        }
+        for (const auto* const name : {"a", "b", "gone"})
+            all += (std::filesystem::exists(folder / name) ? content_of(folder / name) : "none") + ' ';
         return all;
     }
     std::vector<FileChange> changes() const {
-        return {{folder / "a", content_bytes("new")},
-                {folder / "b", content_bytes("n")},
-                {folder / "gone", std::nullopt}};
+        return {
+            {folder / "a", bytes_of("new")}, {folder / "b", bytes_of("n")}, {folder / "gone", std::nullopt}};
     }
 };
 
@@ -60,8 +48,8 @@ TEST(JointSave, MakesAllChangesOrNone) {
 TEST(JointSave, AKilledOneIsFinished) {
     const JointDesk desk;
     EXPECT_EQ(finish_joint_save(desk.journal), LeftChanges::none);
-    save_atomically(desk.journal, content_bytes(left_journal));
-    EXPECT_EQ(read_journal(content_bytes(left_journal), desk.folder / ""), desk.changes());
+    save_atomically(desk.journal, bytes_of(left_journal));
+    EXPECT_EQ(read_journal(bytes_of(left_journal), desk.folder / ""), desk.changes());
     EXPECT_EQ(finish_joint_save(desk.journal), LeftChanges::made);
     EXPECT_EQ(desk.content(), "new n none ");
     EXPECT_FALSE(read_file(desk.journal));
@@ -71,10 +59,10 @@ TEST(JointSave, WhatCannotBeWrittenWaitsAlone) {
     const JointDesk desk;
     std::filesystem::remove(desk.folder / "b");
     std::filesystem::create_directory(desk.folder / "b");
-    save_atomically(desk.journal, content_bytes(left_journal));
+    save_atomically(desk.journal, bytes_of(left_journal));
     EXPECT_EQ(finish_joint_save(desk.journal), LeftChanges::wait);
     EXPECT_EQ(save_jointly(desk.journal, desk.changes()), JointSave::refused) << "nothing goes before it";
-    save_atomically(desk.folder / "a", content_bytes("newer"));
+    save_atomically(desk.folder / "a", bytes_of("newer"));
     std::filesystem::remove(desk.folder / "b");
     EXPECT_EQ(finish_joint_save(desk.journal), LeftChanges::made);
     EXPECT_EQ(desk.content(), "newer n none ") << "what was made is not made again";
@@ -83,8 +71,8 @@ TEST(JointSave, WhatCannotBeWrittenWaitsAlone) {
 TEST(JointSave, ACutJournalIsNone) {
     const JointDesk desk;
     for (std::size_t size = 0; size < left_journal.size(); ++size)
-        EXPECT_TRUE(read_journal(content_bytes(left_journal.substr(0, size)), "").empty()) << size;
-    save_atomically(desk.journal, content_bytes(left_journal.substr(0, 40)));
+        EXPECT_TRUE(read_journal(bytes_of(left_journal.substr(0, size)), "").empty()) << size;
+    save_atomically(desk.journal, bytes_of(left_journal.substr(0, 40)));
     EXPECT_EQ(finish_joint_save(desk.journal), LeftChanges::none);
     EXPECT_EQ(save_jointly(desk.journal, desk.changes()), JointSave::done);
 }

@@ -1,5 +1,6 @@
 #include "brewing/salt_proposal.h"
 #include "brewing/water_ph.h"
+#include "support/waters.h"
 #include "support/worked_figures.h"
 
 #include <gtest/gtest.h>
@@ -8,14 +9,6 @@
 
 namespace wortlex {
 namespace {
-
-using SixIons = std::array<float, ions.size()>;
-
-WaterRecord water_of(const SixIons& ppm) {
-    WaterRecord water;
-    for (std::size_t i = 0; i < ions.size(); ++i) water.*ions[i].ppm = ppm[i];
-    return water;
-}
 
 SixIons ions_of(const WaterRecord& water) {
     SixIons ppm{};

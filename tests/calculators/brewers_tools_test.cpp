@@ -1,8 +1,6 @@
 #include "calculators/calculator_states.h"
-#include "support/fixed_clock.h"
 #include "support/form_user.h"
 #include "support/recording_desk.h"
-#include "support/scripted_files.h"
 #include "support/scripted_prompts.h"
 #include "support/temporary_folder.h"
 
@@ -18,14 +16,6 @@ Settings tool_settings(SystemMode mode = SystemMode::home_brewer) {
     image.system_mode = mode;
     return settings_from(image);
 }
-
-constexpr std::string_view cannot_write =
-    "Wortlex has experienced an error in writing this file.\n\nPossible reasons include:\n\n"
-    "a) The file has somehow been tagged as read-only by the system.\n\n"
-    "b) The file has become corrupted by other means.\n\n"
-    "If the file has been transferred over a network and saved by a \n"
-    "different program, it is very likely it has been tagged as read-only.\n\n"
-    "It is suggested you try and save the file under a different name.";
 
 // A tool with its form.
 template <class Tool>
@@ -112,12 +102,10 @@ TEST(RefractometerTool, TemporaryCalibrationTellsEachChangeAndCancelRestoresIt) 
 
 TEST(RefractometerTool, AlcoholFromReadingAndHydrometer) {
     OpenedRefractometer user(RefractometerKind::alcohol);
-    const auto figures = {"by_weight", "by_volume", "original_plato", "residual_plato"};
     user.type("known_sg", "1.012");
     user.type("zeiss", "39"); // 24.5 net
-    std::string shown;
-    for (const auto* const key : figures) shown += user.shown(key) + " ";
-    EXPECT_EQ(shown, "3.59 4.59 11.664 4.697 ");
+    EXPECT_EQ(user.shown_all({"by_weight", "by_volume", "original_plato", "residual_plato"}),
+              "3.59|4.59|11.664|4.697");
     user.type("zeiss", "15");
     EXPECT_EQ(user.shown_all({"by_weight", "by_volume", "original_plato", "adf"}), "0.00|0.00|0.000|0.00");
     EXPECT_NE(user.shown("residual_plato"), "0.000");
@@ -236,7 +224,7 @@ TEST(CalculatorStates, SaveTheirDefaultsAndRefuseWhatIsNoNumber) {
     EXPECT_EQ(dilution.second_gravity.sg, 1);
 
     std::filesystem::create_directory(folder.path() + "dilute.wxs");
-    prompts.expect_tell(std::string(cannot_write), Icon::warning);
+    prompts.expect_write_error();
     EXPECT_FALSE(SaveDilution(folder.path(), dilution, prompts));
 }
 

@@ -1,11 +1,8 @@
-#include "base/files.h"
 #include "calculators/time_sheet.h"
 #include "support/fixed_clock.h"
 #include "support/form_user.h"
 #include "support/recording_desk.h"
-#include "support/scripted_files.h"
-#include "support/scripted_prompts.h"
-#include "support/temporary_folder.h"
+#include "support/scripted_user.h"
 
 #include <gmock/gmock.h>
 
@@ -18,15 +15,11 @@ namespace {
 
 constexpr std::int32_t start_of_day = 1700000000; // 22:13:20 UTC
 constexpr auto stop_question = "Are you sure you want to stop recording time increments and comments?";
-constexpr auto save_question = "The current time line has been modified!\nDo you want to save the changes?";
 constexpr auto kept_question = "A time line was left before it was saved.\nDo you want to go on with it? No "
                                "discards it, Cancel asks again the next time.";
 
 // A brew day: the sheet, its clock, and the comments that the brewer gives, in order.
-struct BrewDay {
-    TemporaryFolder folder;
-    ScriptedPrompts prompts;
-    ScriptedFiles files;
+struct BrewDay : ScriptedUser {
     FixedClock clock;
     std::deque<std::optional<std::string>> comments;
     std::function<void()> while_asked = [] {};
@@ -48,10 +41,8 @@ struct BrewDay {
         clock.seconds += seconds;
         sheet.tick();
     }
-    void expect_stop(Answer answer) { prompts.expect("yes/no", stop_question, answer, Icon::question); }
-    void expect_save(Answer answer) {
-        prompts.expect("yes/no/cancel", save_question, answer, Icon::question);
-    }
+    void expect_stop(Answer answer) { prompts.expect_yes_no(stop_question, answer); }
+    void expect_save(Answer answer) { prompts.expect_save("time line", answer); }
     bool is_kept() const { return is_time_line_kept(folder.path()); }
 };
 

@@ -3,9 +3,7 @@
 #include "mash/schedule_storing.h"
 #include "support/form_user.h"
 #include "support/recording_desk.h"
-#include "support/scripted_files.h"
-#include "support/scripted_prompts.h"
-#include "support/temporary_folder.h"
+#include "support/scripted_user.h"
 
 #include "base/number.h"
 
@@ -58,12 +56,7 @@ struct Designing : FormUser {
         add(name, heat);
         for (const auto& [key, text] : typed) type(key, text);
     }
-    std::string line(std::size_t step) const {
-        std::string all;
-        for (std::size_t column = 0; column < 9; ++column)
-            all += (column == 0 ? "" : "|") + row<ListRow>("steps").cell(step, column);
-        return all;
-    }
+    std::string line(std::size_t step) const { return cells("steps", step); }
     std::string title(std::size_t column) const { return row<ListRow>("steps").columns[column].caption(); }
     std::string greyed(std::string_view key) const { return content_of(form, key); }
     void select(std::int32_t step) { form.select(row<ListRow>("steps"), step); }
@@ -283,18 +276,8 @@ TEST(MashDesigner, PrintsInTheUnitsOfItsWindow) {
                                        "All Infusion amounts are in Gallons."}));
 }
 
-struct Shelf {
-    TemporaryFolder folder;
-    FolderSet folders;
-    ScriptedPrompts prompts;
-    ScriptedFiles files;
-
+struct Shelf : ScriptedUser {
     ScheduleDesk desk() { return {files, folders, prompts}; }
-    void expect_question(Answer answer) {
-        prompts.expect("yes/no/cancel",
-                       "The current mash schedule has been modified!\nDo you want to save the changes?",
-                       answer, Icon::question);
-    }
 };
 
 TEST(MashDesigner, AsksBeforeItDropsASchedule) {
@@ -303,9 +286,9 @@ TEST(MashDesigner, AsksBeforeItDropsASchedule) {
     EXPECT_TRUE(may_drop(brewer.designer, shelf.desk()));
     brewer.add("Dough In");
     brewer.type("mash_name", "Hell 1/2");
-    shelf.expect_question(Answer::cancel);
+    shelf.prompts.expect_save("mash schedule", Answer::cancel);
     load_schedule(brewer.designer, shelf.desk());
-    shelf.expect_question(Answer::yes);
+    shelf.prompts.expect_save("mash schedule", Answer::yes);
     shelf.files.add(std::nullopt);
     EXPECT_FALSE(may_drop(brewer.designer, shelf.desk())) << "not saved after all";
     shelf.files.add(shelf.folder / "a.msh");

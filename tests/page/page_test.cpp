@@ -1,11 +1,10 @@
 #include "page/page.h"
 #include "page/text_sink.h"
+#include "support/file_content.h"
 #include "support/recording_clipboard.h"
 #include "support/recording_desk.h"
 #include "support/scripted_prompts.h"
 #include "support/temporary_folder.h"
-
-#include "base/files.h"
 
 #include <gmock/gmock.h>
 
@@ -305,14 +304,9 @@ TEST(TextSink, GivesFileAndClipboardTheSameBytes) {
     const TemporaryFolder folder;
     ScriptedPrompts prompts;
     EXPECT_TRUE(save_text(folder / "report.txt", sink, prompts));
-    const auto file = read_file(folder / "report.txt").value_or(Bytes{});
-    EXPECT_TRUE(std::ranges::equal(file, std::as_bytes(std::span(text))));
-    struct AnyWords : ScriptedPrompts {
-        std::string told;
-        void tell(const Message& message) override { told = message.text; }
-    } any;
-    EXPECT_FALSE(save_text(folder / "missing/report.txt", sink, any));
-    EXPECT_THAT(any.told, HasSubstr("Wortlex has experienced an error in writing this file."));
+    EXPECT_EQ(content_of(folder / "report.txt"), text);
+    prompts.expect_write_error();
+    EXPECT_FALSE(save_text(folder / "missing/report.txt", sink, prompts));
 }
 
 TEST(TextSink, PadsAndCutsByCharacters) {

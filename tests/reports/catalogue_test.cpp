@@ -1,16 +1,12 @@
 #include "report_forms.h"
 #include "reported_recipe.h"
 
-#include "base/files.h"
-#include "base/ports/quiet_prompts.h"
 #include "reports/file_names.h"
 #include "reports/row_words.h"
 #include "support/recording_desk.h"
-#include "support/temporary_folder.h"
 
 #include <gmock/gmock.h>
 
-#include <fstream>
 #include <regex>
 
 namespace wortlex {
@@ -209,17 +205,20 @@ TEST(Catalogue, print_has_words_of_its_own) {
     EXPECT_THAT(pages, HasSubstr("\tDirect\t---\t-----\t----\n"));
 }
 
+PageJob printed(const DocumentReport& report) {
+    RecordingPageDesk desk;
+    desk.show({"", 1, [&](PageContext& page) { write_print(report, page); }});
+    return std::move(desk.jobs.front());
+}
+
 TEST(Print, leaves_no_heading_alone_on_a_sheet) {
     for (int lines = 30; lines < 90; ++lines) {
         std::string notes;
         for (int line = 0; line < lines; ++line) notes += "word\n";
         DocumentReport report;
         report.sections = {section_of("Notes", ReportText(notes)), section_of("Awards", ReportText(""))};
-        RecordingSurface measure;
-        measure.character = {8, 10};
-        const auto job = record_report({"", 1, [&](PageContext& page) { write_print(report, page); }},
-                                       plain_paper(), measure);
-        const auto last = texts_on(*job, job->pages.size() - 1);
+        const auto job = printed(report);
+        const auto last = texts_on(job, job.pages.size() - 1);
         EXPECT_THAT(last.back(), HasSubstr("Awards")) << lines;
         EXPECT_THAT(last, testing::Contains(HasSubstr("word"))) << lines;
     }
@@ -232,12 +231,9 @@ TEST(Print, parts_no_paragraph_and_leaves_no_row_of_a_list_alone) {
         list.rows.assign(static_cast<std::size_t>(rows), {"row\n", {}});
         const ReportLines paragraph{{}, {{"What follows:\n\n", {}}, {"line\n", {}}, {"line\n\n", {}}}};
         report.sections = {section_of("Steps", std::move(list), paragraph)};
-        RecordingSurface measure;
-        measure.character = {8, 10};
-        const auto job = record_report({"", 1, [&](PageContext& page) { write_print(report, page); }},
-                                       plain_paper(), measure);
-        for (std::size_t page = 0; page < job->pages.size(); ++page) {
-            const auto texts = texts_on(*job, page);
+        const auto job = printed(report);
+        for (std::size_t page = 0; page < job.pages.size(); ++page) {
+            const auto texts = texts_on(job, page);
             const auto count = [&](const char* word) {
                 return std::count_if(texts.begin(), texts.end(),
                                      [word](const auto& text) { return text.ends_with(word); });
@@ -298,23 +294,6 @@ TEST(Catalogue, hostile_documents_come_out_in_every_form) {
         EXPECT_THAT(recipe.print(), HasSubstr("Page 2"));
         EXPECT_THAT(recipe.html(), testing::EndsWith("</BODY>\n</HTML>\n"));
     }
-}
-
-TEST(Catalogue, clipboard_and_file_get_the_same_bytes_of_utf8) {
-    struct Kept : Clipboard {
-        std::string text;
-        void put_text(std::string_view utf8) override { text = utf8; }
-    } clipboard;
-    ReportedRecipe recipe(WriteDefaultSettings());
-    TextSink sink;
-    write_text(recipe.report(), sink);
-    copy_text(clipboard, sink);
-    TemporaryFolder folder;
-    QuietPrompts prompts;
-    ASSERT_TRUE(save_text(folder / "report.txt", sink, prompts));
-    std::ifstream file(folder / "report.txt", std::ios::binary);
-    EXPECT_EQ(std::string(std::istreambuf_iterator<char>(file), {}), clipboard.text);
-    EXPECT_THAT(clipboard.text, HasSubstr("Recipe:       K\u00F6lsch <b>& 100%%</b>\r\n\r\n"));
 }
 
 TEST(FileNames, are_safe_in_addresses_only_for_html) {

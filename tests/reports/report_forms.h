@@ -1,12 +1,10 @@
 // What the tests of reports share: settings to read them under, and the comparison with what was read.
 #pragma once
 
+#include "support/file_content.h"
 #include "support/measured_in.h"
 
 #include <gtest/gtest.h>
-
-#include <fstream>
-#include <string>
 
 namespace wortlex {
 
@@ -34,9 +32,8 @@ inline std::string plain_lines(const std::string& text) {
 }
 
 inline std::string golden(const std::string& name, const std::string& made) {
-    std::ifstream file(std::string(GOLDEN_FOLDER) + name, std::ios::binary);
-    std::string kept{std::istreambuf_iterator<char>(file), {}};
-    if (kept != made) std::ofstream(testing::TempDir() + name, std::ios::binary) << made;
+    auto kept = content_of(GOLDEN_FOLDER + name);
+    if (kept != made) write_content(testing::TempDir() + name, made);
     return kept;
 }
 

@@ -1,6 +1,7 @@
 // A recipe with something in every place of a report, worked out under any settings.
 #pragma once
 
+#include "documents/brewing.h"
 #include "documents/opening.h"
 #include "reports/catalogue.h"
 #include "reports/report_writers.h"
@@ -10,25 +11,16 @@ namespace wortlex {
 
 inline MaltUse reported_malt(std::string_view name, std::string_view origin, MaltType type, float amount,
                              float potential, float colour) {
-    MaltUse line;
+    auto line = malt(type, potential, amount, false, 78, colour);
     line.record.name.assign(name);
     line.record.origin.assign(origin);
-    line.record.malt_type = type;
-    line.record.potential = potential;
-    line.record.colour = colour;
-    line.record.moisture = 4;
-    line.record.coarse_yield = 78;
-    line.amount = amount;
     return line;
 }
 
 inline HopUse reported_hop(std::string_view name, HopForm form, float amount, int boil_time) {
-    HopUse line;
+    auto line = hop(5, amount, boil_time);
     line.record.name.assign(name);
     set_form(line.record, form);
-    line.alpha = 5;
-    line.amount = amount;
-    line.boil_time = static_cast<std::int16_t>(boil_time);
     return line;
 }
 

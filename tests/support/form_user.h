@@ -25,6 +25,10 @@ inline std::string spin(Form& form, std::string_view key, Spin direction) {
     return field.content;
 }
 
+inline void check(Form& form, std::string_view key, bool on) {
+    form.check(dynamic_cast<CheckRow&>(form.row(key)), on);
+}
+
 inline void press(const Form& form, std::string_view key) {
     dynamic_cast<ButtonRow&>(form.row(key)).press();
 }
@@ -49,7 +53,16 @@ struct FormUser {
     void type(std::string_view key, std::string text) { wortlex::type(form, key, std::move(text)); }
     std::string spin(std::string_view key, Spin direction) { return wortlex::spin(form, key, direction); }
     void choose(std::string_view key, std::size_t option) { form.choose(row<ChoiceRow>(key), option); }
+    void check(std::string_view key, bool on) { wortlex::check(form, key, on); }
     void press(std::string_view key) const { wortlex::press(form, key); }
+    std::string label(std::string_view key) const { return form.row(key).label_text(); }
+    /// The cells of a row of a list, with a bar between them.
+    std::string cells(std::string_view list, std::size_t line) const {
+        std::string all;
+        for (std::size_t i = 0; i < row<ListRow>(list).columns.size(); ++i)
+            all += (i == 0 ? "" : "|") + row<ListRow>(list).cell(line, i);
+        return all;
+    }
     bool can(std::string_view key) const { return form.row(key).is_enabled(); }
 };
 

@@ -53,14 +53,19 @@ struct RecordingPageDesk : PageDesk {
     }
 };
 
-/// The lines of the first page, without their places.
+/// The lines of a page, without how far down they are.
+inline std::vector<std::string> lines_on(const PageJob& job, std::size_t page) {
+    auto lines = texts_on(job, page);
+    for (auto& line : lines) line.erase(0, line.find(' ') + 1);
+    return lines;
+}
+
+/// The lines of the first page.
 inline std::vector<std::string> printed_lines(const PrintRequest& request, Extent character = {8, 10}) {
     RecordingPageDesk desk;
     desk.character = character;
     desk.show(request);
-    std::vector<std::string> lines;
-    for (const auto& text : texts_on(desk.jobs.front(), 0)) lines.push_back(text.substr(text.find(' ') + 1));
-    return lines;
+    return lines_on(desk.jobs.front(), 0);
 }
 
 } // namespace wortlex

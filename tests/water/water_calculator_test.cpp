@@ -1,9 +1,7 @@
-#include "base/files.h"
 #include "support/form_user.h"
 #include "support/recording_desk.h"
-#include "support/scripted_files.h"
-#include "support/scripted_prompts.h"
-#include "support/temporary_folder.h"
+#include "support/scripted_user.h"
+#include "support/waters.h"
 #include "water/salt_suggestion.h"
 #include "water/water_calculator.h"
 #include "water/water_calculator_form.h"
@@ -17,33 +15,15 @@ namespace wortlex {
 namespace {
 
 WaterRecord burton() {
-    return {.name = Text<27>("Burton"),
-            .calcium = 295,
-            .magnesium = 45,
-            .sodium = 55,
-            .sulfate = 725,
-            .chloride = 25,
-            .bicarbonate = 300,
-            .known_for = {}};
+    return water_of({295, 45, 55, 725, 25, 300}, "Burton");
 }
 
 WaterRecord pilsen() {
-    return {.name = Text<27>("Pilsen"),
-            .calcium = 7,
-            .magnesium = 2,
-            .sodium = 2,
-            .sulfate = 5,
-            .chloride = 5,
-            .bicarbonate = 15,
-            .known_for = {}};
+    return water_of({7, 2, 2, 5, 5, 15}, "Pilsen");
 }
 
 // The tool, and its brewer.
-struct Match : FormUser {
-    TemporaryFolder folder;
-    FolderSet folders;
-    ScriptedFiles files;
-    ScriptedPrompts prompts;
+struct Match : ScriptedUser, FormUser {
     WaterCalculator calculator{{folders, files, prompts}};
     WaterAnalysis& work = calculator.work;
     int changes = 0;
@@ -68,11 +48,6 @@ struct Match : FormUser {
         for (const auto& ion : ions)
             all += (all.empty() ? "" : "|") + shown(std::string(name) + '_' + ion.key);
         return all;
-    }
-    void expect_question(Answer answer) {
-        prompts.expect("yes/no/cancel",
-                       "The current water profile has been modified!\nDo you want to save the changes?",
-                       answer, Icon::question);
     }
 };
 
@@ -137,9 +112,9 @@ TEST(WaterCalculator, AsksOnlyOfWorkThatIsNotSaved) {
     match.press("pick_target");
     match.type("gypsum_rate", "1.5");
     match.work.mash_gallons = 5;
-    match.expect_question(Answer::cancel);
+    match.prompts.expect_save("water profile", Answer::cancel);
     EXPECT_FALSE(match.calculator.may_drop());
-    match.expect_question(Answer::yes);
+    match.prompts.expect_save("water profile", Answer::yes);
     match.files.add(std::nullopt);
     EXPECT_FALSE(match.calculator.may_drop()) << "who leaves the dialog stays";
     const auto path = match.folder / "burton.wtr";
@@ -151,9 +126,9 @@ TEST(WaterCalculator, AsksOnlyOfWorkThatIsNotSaved) {
     match.work.unit = SaltUnit::ounces;
     EXPECT_TRUE(match.calculator.may_drop()) << "what is worked out, and what reads the same";
     match.type("ph", "7.5");
-    match.expect_question(Answer::no);
+    match.prompts.expect_save("water profile", Answer::no);
     EXPECT_TRUE(match.calculator.may_drop());
-    match.expect_question(Answer::no);
+    match.prompts.expect_save("water profile", Answer::no);
     match.files.add(path);
     match.press("load");
     EXPECT_EQ(match.shown_all({"target_name", "gypsum_rate", "ph", "totals_sodium"}),

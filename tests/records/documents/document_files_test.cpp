@@ -174,14 +174,7 @@ TEST(DocumentFiles, FailedSaveIsToldAndChangesNothing) {
         Loaded live;
         live.document.file_efficiency_mode = 2;
         ScriptedPrompts prompts;
-        for (int i = 0; i < 2; ++i)
-            prompts.expect_tell(
-                "Wortlex has experienced an error in writing this file.\n\nPossible reasons include:\n\na) "
-                "The file has somehow been tagged as read-only by the system.\n\nb) The file has become "
-                "corrupted by other means.\n\nIf the file has been transferred over a network and saved by a "
-                "\ndifferent program, it is very likely it has been tagged as read-only.\n\nIt is suggested "
-                "you try and save the file under a different name.",
-                Icon::warning);
+        for (int i = 0; i < 2; ++i) prompts.expect_write_error();
         EXPECT_FALSE(save_recipe(folder / name, live.document, prompts)) << name;
         EXPECT_FALSE(save_session(folder / name, live.document, live.session, prompts)) << name;
         EXPECT_EQ(live.document.mash_flags, 0) << "the flags are packed by a success only";
