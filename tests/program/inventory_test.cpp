@@ -1,11 +1,9 @@
 #include "documents/work/stocks.h"
 #include "program/inventory.h"
 #include "program/recovery.h"
-#include "program/start.h"
 #include "records/documents/document_files.h"
-#include "support/scripted_files.h"
-#include "support/scripted_prompts.h"
-#include "support/temporary_folder.h"
+#include "support/database_of.h"
+#include "support/started_program.h"
 
 #include <gmock/gmock.h>
 
@@ -13,17 +11,11 @@ namespace wortlex {
 namespace {
 
 // A brewery with 20 pounds, 4 ounces, 2 spoons and 3 packs in stock, and a session that takes 10, 3, 1 and 1.
-struct StockedBrewery {
-    TemporaryFolder folder;
-    ScriptedPrompts prompts;
-    ScriptedFiles files{{}};
-    Program program;
+struct StockedBrewery : StartedProgram {
     RecipeEditor editor{view(), {}, {}};
     DocumentImage saved;
 
     StockedBrewery() {
-        SaveSystemFiles(folder.path(), {WriteDefaultSettings(), {}, true});
-        EXPECT_TRUE(start_core(program, folder.path(), prompts));
         new_session(program, {6, 12, 2026});
         editor.notices = &program.notices;
         stock(program.document.recipe);
@@ -47,10 +39,11 @@ struct StockedBrewery {
     }
     template <class Record>
     static Record put(Database<Record>& database, float stock) {
-        database.count = 1;
-        database.slots[0].name.assign("What is asked for");
-        database.slots[0].stock = stock;
-        return database.slots[0];
+        Record record;
+        record.name.assign("What is asked for");
+        record.stock = stock;
+        database = database_of(record);
+        return record;
     }
     std::string in_stock() const {
         Stocks stocks;
@@ -64,19 +57,6 @@ struct StockedBrewery {
         DocumentSaving saving{editor, program.document.file, saved, files, prompts, ""};
         return finalize_inventory(program, saving);
     }
-    void expect_really(Answer answer) {
-        prompts.expect("yes/no",
-                       "Do you really want to finalize inventory amounts at this time?\n\nThis will subtract "
-                       "the brewing session ingredient amounts from your current\ningredients database(s).",
-                       answer, Icon::question);
-    }
-    void expect_wait(Answer answer) {
-        prompts.expect("yes/no",
-                       "Some ingredients were not found or there is not enough in stock to complete the "
-                       "session.\n\nDo you want to wait until you have a chance to update inventories before "
-                       "finalizing this brewing session?",
-                       answer, Icon::question);
-    }
     void expect_updated() { prompts.expect_tell("Database(s) successfully updated!", Icon::information); }
     bool is_finalized() const { return program.document.session.inventory_finalized != 0; }
 };
@@ -86,13 +66,13 @@ TEST(FinalizeInventory, BooksOnceAndSavesTheSession) {
     const auto path = brewery.folder / "May.brw";
     brewery.program.document.file = {.path = path, .loaded_from_file = true};
     ASSERT_TRUE(KeepWork(brewery.folder.path(), image_of(brewery.editor.open), {})) << "of a minute ago";
-    brewery.expect_really(Answer::no);
+    brewery.prompts.expect_finalizing(Answer::no);
     EXPECT_FALSE(brewery.finalize());
     EXPECT_EQ(brewery.in_stock(), "20 4 2 3");
 
     std::vector<Change> told;
     const auto listening = brewery.program.notices.listen([&](Change change) { told.push_back(change); });
-    brewery.expect_really(Answer::yes);
+    brewery.prompts.expect_finalizing(Answer::yes);
     brewery.expect_updated();
     EXPECT_TRUE(brewery.finalize());
     EXPECT_EQ(brewery.in_stock(), "10 1 1 2");
@@ -114,12 +94,12 @@ TEST(FinalizeInventory, BooksOnceAndSavesTheSession) {
 TEST(FinalizeInventory, WhatIsMissingMayBeWaitedFor) {
     StockedBrewery brewery;
     brewery.editor.open.document.hops[0].record.name.assign("Another hop");
-    brewery.expect_really(Answer::yes);
-    brewery.expect_wait(Answer::yes);
+    brewery.prompts.expect_finalizing(Answer::yes);
+    brewery.prompts.expect_to_wait(Answer::yes);
     EXPECT_FALSE(brewery.finalize());
     EXPECT_EQ(brewery.in_stock(), "20 4 2 3");
-    brewery.expect_really(Answer::yes);
-    brewery.expect_wait(Answer::no);
+    brewery.prompts.expect_finalizing(Answer::yes);
+    brewery.prompts.expect_to_wait(Answer::no);
     brewery.expect_updated();
     brewery.finalize();
     EXPECT_EQ(brewery.in_stock(), "10 4 1 2");
@@ -128,7 +108,7 @@ TEST(FinalizeInventory, WhatIsMissingMayBeWaitedFor) {
 TEST(FinalizeInventory, ASessionWithoutAFileIsKeptAsFinalized) {
     StockedBrewery brewery;
     set_title(brewery.editor, "May");
-    brewery.expect_really(Answer::yes);
+    brewery.prompts.expect_finalizing(Answer::yes);
     brewery.expect_updated();
     EXPECT_FALSE(brewery.finalize()) << "it has still to be saved";
     LiveDocument found;
@@ -144,7 +124,7 @@ TEST(FinalizeInventory, AllIsBookedOrNothing) {
     StockedBrewery brewery;
     std::filesystem::remove(brewery.folder / "HOPS.DAT");
     save_atomically(brewery.folder / "YEAST.DAT", Bytes(1000));
-    brewery.expect_really(Answer::yes);
+    brewery.prompts.expect_finalizing(Answer::yes);
     brewery.prompts.expect_tell("The file HOPS.DAT was not found.\nThe file YEAST.DAT is damaged or too "
                                 "short.\n\nThe inventory was not finalized: nothing has been changed.",
                                 Icon::error);
@@ -152,7 +132,7 @@ TEST(FinalizeInventory, AllIsBookedOrNothing) {
 
     brewery.stock(brewery.editor.open.document);
     brewery.program.document.file = {.path = brewery.folder / "missing/May.brw", .loaded_from_file = true};
-    brewery.expect_really(Answer::yes);
+    brewery.prompts.expect_finalizing(Answer::yes);
     brewery.prompts.expect_tell(
         "The inventory was not finalized: its files could not be written. Is the disk "
         "full, or a file or folder read-only?\n\nNothing has been changed.",

@@ -58,8 +58,8 @@ TEST(Tools, AreOpenOnceAndKeepTheSettingsFromBeingEdited) {
         EXPECT_EQ(log, window->name + " forward ");
         prompts.expect_tell(
             "You cannot modify the System Defaults while other Wortlex windows are open. To modify the "
-            "System "
-            "Defaults, please close the current work (make sure to save your work if required), then choose "
+            "System Defaults, please close the current work (make sure to save your work if required), then "
+            "choose "
             "System Defaults again.",
             Icon::information);
         EXPECT_FALSE(may_edit_settings(tools, prompts));
@@ -81,9 +81,9 @@ TEST(Tools, OfTwoDocumentsOneIsOpen) {
         ScriptedPrompts prompts;
         opened(program.tools, command, window);
         EXPECT_EQ(want_document(program.tools, kind, prompts), Wanted::reactivated);
-        prompts.expect("yes/no", question, Answer::no, Icon::question);
+        prompts.expect_yes_no(question, Answer::no);
         EXPECT_EQ(want_document(program.tools, other, prompts), Wanted::refused);
-        prompts.expect("yes/no", question, Answer::yes, Icon::question);
+        prompts.expect_yes_no(question, Answer::yes);
         EXPECT_FALSE(open_document_file(program, other == recipe ? "dropped.rec" : "dropped.brw", prompts));
         EXPECT_EQ(log, "1 forward 1 forward ");
     }

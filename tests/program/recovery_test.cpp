@@ -1,35 +1,28 @@
 #include "base/open_file.h"
+#include "documents/brewing.h"
 #include "documents/opening.h"
 #include "documents/work/document_saving.h"
 #include "program/export_report.h"
 #include "program/recovery.h"
-#include "program/start.h"
 #include "reports/print_options.h"
+#include "support/file_content.h"
+#include "support/form_user.h"
 #include "support/recording_clipboard.h"
 #include "support/recording_desk.h"
 #include "support/recording_surface.h"
-#include "support/scripted_files.h"
-#include "support/scripted_prompts.h"
-#include "support/temporary_folder.h"
+#include "support/started_program.h"
 
 #include <gmock/gmock.h>
 
 #include <fcntl.h>
-#include <fstream>
 #include <sys/file.h>
 
 namespace wortlex {
 namespace {
 
 // A program whose live recipe is worth keeping.
-struct Kitchen {
-    TemporaryFolder folder;
-    ScriptedPrompts prompts;
-    Program program;
-
+struct Kitchen : StartedProgram {
     Kitchen() {
-        SaveSystemFiles(folder.path(), {WriteDefaultSettings(), {}, true});
-        EXPECT_TRUE(start_core(program, folder.path(), prompts));
         program.document.recipe.title.assign("Alt");
         program.document.recipe.file_efficiency_mode = 2;
         program.document.recipe.mash_flags = 1;
@@ -39,13 +32,9 @@ struct Kitchen {
     }
 };
 
-constexpr const char* question_about_file =
-    "Wortlex ended before your work on Alt.rec was saved.\nDo you want to open it as it was? No discards it, "
-    "Cancel asks again at the next start.";
-
 TEST(Recovery, BringsBackWhatABrokenRunLeft) {
     Kitchen run;
-    std::ofstream(run.folder / "Alt.rec") << "old";
+    write_content(run.folder / "Alt.rec", "old");
     run.program.document.file = {
         .path = run.folder / "Alt.rec", .loaded_from_file = true, .stamp = stamp_of(run.folder / "Alt.rec")};
     ASSERT_TRUE(run.keep());
@@ -53,7 +42,7 @@ TEST(Recovery, BringsBackWhatABrokenRunLeft) {
     const auto kept = run.program.document.file.stamp;
 
     new_recipe(run.program);
-    run.prompts.expect("yes/no/cancel", question_about_file, Answer::yes, Icon::question);
+    run.prompts.expect_unsaved_work("Alt.rec", Answer::yes);
     EXPECT_TRUE(offer_work(run.program, run.prompts));
     EXPECT_EQ(run.program.document.recipe.title.view(), "Alt");
     EXPECT_EQ(run.program.document.recipe.file_efficiency_mode, 2);
@@ -62,36 +51,29 @@ TEST(Recovery, BringsBackWhatABrokenRunLeft) {
     EXPECT_EQ(run.program.document.file.path, run.folder / "Alt.rec");
     EXPECT_EQ(run.program.document.file.stamp, kept);
 
-    run.prompts.expect("yes/no/cancel", question_about_file, Answer::cancel, Icon::question);
+    run.prompts.expect_unsaved_work("Alt.rec", Answer::cancel);
     EXPECT_FALSE(offer_work(run.program, run.prompts));
     run.keep();
     DropWork(run.folder.path()); // a recipe was opened and left meanwhile
-    run.prompts.expect("yes/no/cancel", question_about_file, Answer::no, Icon::question);
+    run.prompts.expect_unsaved_work("Alt.rec", Answer::no);
     EXPECT_FALSE(offer_work(run.program, run.prompts));
     EXPECT_FALSE(offer_work(run.program, run.prompts)) << "discarded: nothing more to ask";
 }
 
 TEST(Recovery, WorkThatIsPutAsideOutlivesTheNext) {
     Kitchen run;
-    const auto expect_offer = [&](const std::string& name, Answer answer) {
-        run.prompts.expect("yes/no/cancel",
-                           "Wortlex ended before your work on " + name +
-                               " was saved.\nDo you want to open it as it was? No discards it, Cancel asks "
-                               "again at the next start.",
-                           answer, Icon::question);
-    };
     for (const std::string name : {"Alt", "Bock"}) {
         run.program.document.recipe.title.assign(name);
         run.keep();
-        expect_offer(name, Answer::cancel);
-        if (name == "Bock") expect_offer("Alt", Answer::cancel);
+        run.prompts.expect_unsaved_work(name, Answer::cancel);
+        if (name == "Bock") run.prompts.expect_unsaved_work("Alt", Answer::cancel);
         EXPECT_FALSE(offer_work(run.program, run.prompts));
     }
-    expect_offer("Alt", Answer::yes);
+    run.prompts.expect_unsaved_work("Alt", Answer::yes);
     EXPECT_TRUE(offer_work(run.program, run.prompts));
     EXPECT_EQ(run.program.document.recipe.title.view(), "Alt");
     DropWork(run.folder.path()); // saved
-    expect_offer("Bock", Answer::no);
+    run.prompts.expect_unsaved_work("Bock", Answer::no);
     EXPECT_FALSE(offer_work(run.program, run.prompts));
 }
 
@@ -149,9 +131,7 @@ TEST(BrewDay, IsSavedAndRecoveredAsASession) {
     ScriptedFiles files({day.folder / "Copy.brw"});
     DocumentSaving saving{day.editor, day.live.file, day.saved, files, day.prompts, "sessions/"};
     day.name_brewer("Bo");
-    day.prompts.expect("yes/no/cancel",
-                       "The current brew session entry has been modified!\nDo you want to save the changes?",
-                       Answer::yes, Icon::question);
+    day.prompts.expect_save("brew session entry", Answer::yes);
     EXPECT_TRUE(may_leave(saving) && !day.is_modified());
     EXPECT_EQ(*read_file(day.path), session_bytes(day.live.recipe, day.live.session));
     EXPECT_TRUE(save(saving, SaveAs::yes));
@@ -162,10 +142,7 @@ TEST(BrewDay, IsSavedAndRecoveredAsASession) {
     ASSERT_TRUE(day.keep());
     new_recipe(day.program);
     day.live.session = {};
-    day.prompts.expect("yes/no/cancel",
-                       "Wortlex ended before your work on Copy.brw was saved.\nDo you want to open it as it "
-                       "was? No discards it, Cancel asks again at the next start.",
-                       Answer::yes, Icon::question);
+    day.prompts.expect_unsaved_work("Copy.brw", Answer::yes);
     EXPECT_TRUE(offer_work(day.program, day.prompts));
     EXPECT_EQ(live_document(day.program).session, &day.live.session);
     EXPECT_EQ(day.live.session.head_brewer.view(), "Cy");
@@ -174,10 +151,9 @@ TEST(BrewDay, IsSavedAndRecoveredAsASession) {
 
 TEST(Recovery, ClearsAwayOnlyWhatKilledSavesLeft) {
     Kitchen run;
-    std::ofstream(run.folder / ".wortlex-a1B2c3") << "half";
-    std::ofstream(run.folder / ".wortlex.lock") << "ours";
-    std::ofstream(run.folder / ".wortlex-notes.txt") << "the brewer's";
-    std::ofstream(run.folder / ".wortlex-d4E5f6") << "another program's, at it";
+    for (const auto* const file :
+         {".wortlex-a1B2c3", ".wortlex.lock", ".wortlex-notes.txt", ".wortlex-d4E5f6"})
+        write_content(run.folder / file, "half, ours, the brewer's, and another program's, at it");
     const OpenFile other(::open((run.folder / ".wortlex-d4E5f6").c_str(), O_RDONLY));
     ASSERT_EQ(::flock(other.get(), LOCK_EX), 0);
     const auto before = run.folder.entries();
@@ -195,7 +171,7 @@ TEST(Recovery, TrustsNoFile) {
         save_atomically(path, ByteView(whole).first(length));
         if (const auto work = ReadWork(path)) restore_work(run.program.document, *work, run.program.settings);
     }
-    std::ofstream(path) << "Wortlex unsaved recipe 1\nx.rec\n9 junk";
+    write_content(path, "Wortlex unsaved recipe 1\nx.rec\n9 junk");
     EXPECT_EQ(ReadWork(path), std::nullopt);
     for (const std::string number : {"1", "2"}) {
         save_atomically(path, Bytes(10000, std::byte{0xFF}));
@@ -218,14 +194,10 @@ struct Exports : Kitchen {
 
     std::vector<std::string> send(ReportForm form, std::deque<std::optional<std::string>> paths = {}) {
         set_report_form(program.recipe_print, form);
-        ScriptedFiles files(std::move(paths));
-        export_document({program, prompts, files, pages, clipboard, easel, pictures}, {},
+        ScriptedFiles chosen(std::move(paths));
+        export_document({program, prompts, chosen, pages, clipboard, easel, pictures}, {},
                         [](ReportOutput, ReportForm) { return true; });
-        return files.offers;
-    }
-    static std::string content(const std::string& path) {
-        std::ifstream file(path, std::ios::binary);
-        return {std::istreambuf_iterator<char>(file), {}};
+        return chosen.offers;
     }
 };
 
@@ -240,9 +212,8 @@ TEST(ExportReport, ReachesPaperFilesAndClipboard) {
                 testing::ElementsAre(testing::HasSubstr("What_is_it__1_2.html html")));
     exports.send(ReportForm::clipboard);
     exports.send(ReportForm::print);
-    EXPECT_EQ(exports.clipboard.texts, std::vector{exports.content(text)}) << "the same bytes";
-    EXPECT_THAT(exports.content(html),
-                testing::HasSubstr("<TITLE>A Wortlex Recipe - What is it? 1/2</TITLE>"));
+    EXPECT_EQ(exports.clipboard.texts, std::vector{content_of(text)}) << "the same bytes";
+    EXPECT_THAT(content_of(html), testing::HasSubstr("<TITLE>A Wortlex Recipe - What is it? 1/2</TITLE>"));
     ASSERT_EQ(exports.pages.jobs.size(), 1U);
     EXPECT_EQ(exports.pages.scales, std::vector{exports.program.settings.printer_scale});
     EXPECT_EQ(exports.send(ReportForm::text_file, {std::nullopt}).size(), 1U) << "left: nothing is written";
@@ -257,10 +228,7 @@ TEST(ExportReport, ReachesPaperFilesAndClipboard) {
 TEST(ExportReport, ThePictureOfTheMashStandsBesideItsPage) {
     Exports exports;
     auto& program = exports.program;
-    MaltUse grain;
-    grain.record.malt_type = MaltType::grain;
-    grain.amount = 10;
-    program.document.recipe.malts = {grain};
+    program.document.recipe.malts = {malt(MaltType::grain, 0, 10)};
     program.document.recipe.mash_flags = 0; // the simple schedule
     program.document.recipe.simple_mash.saccharification = {152, 60};
     program.recipe_print[PrintOption::solid_fill] = 1;
@@ -268,7 +236,7 @@ TEST(ExportReport, ThePictureOfTheMashStandsBesideItsPage) {
     program.reminders.mash_chart_name = 0;
     const auto html = exports.folder / "My bock.v2.html";
     exports.send(ReportForm::html_file, {html});
-    EXPECT_THAT(exports.content(html),
+    EXPECT_THAT(content_of(html),
                 testing::HasSubstr(R"(<IMG SRC="My%20bock_mash.jpg" ALT="Mash Schedule" BORDER="0">)"));
     const auto& picture = exports.pictures.files.at(exports.folder / "My bock_mash.jpg");
     EXPECT_EQ((Extent{picture.width, picture.height}), (Extent{401, 351}));
@@ -276,7 +244,7 @@ TEST(ExportReport, ThePictureOfTheMashStandsBesideItsPage) {
                 testing::Contains(testing::EndsWith(" - Saccharification Rest")));
     program.recipe_print[PrintSection::mash_graph] = 0;
     exports.send(ReportForm::html_file, {html});
-    EXPECT_THAT(exports.content(html), testing::Not(testing::HasSubstr("IMG")));
+    EXPECT_THAT(content_of(html), testing::Not(testing::HasSubstr("IMG")));
 }
 
 TEST(PrintOptions, ChartsAreForPaperAndPagesWithAMash) {
@@ -324,21 +292,16 @@ TEST(PrintOptions, OfferNothingThatTheSessionLacks) {
     EXPECT_EQ(disabled(), "mash: There is no grain to mash\n");
 }
 
-TEST(PrintOptions, KeepTheOutputInItsFlags) {
+TEST(PrintOptions, CanBecomeTheDefaults) {
     PrintSelection selection;
-    for (const auto form :
-         {ReportForm::html_file, ReportForm::clipboard, ReportForm::text_file, ReportForm::print}) {
-        set_report_form(selection, form);
-        EXPECT_EQ(report_form(selection), form);
-    }
     Form form;
     print_options_form(form, selection, {.has_mash = false}, {});
     EXPECT_FALSE(form.row("mash").is_enabled()) << "there is nothing to mash";
-    form.check(dynamic_cast<CheckRow&>(form.row("style")), true);
+    check(form, "style", true);
     EXPECT_EQ(selection[PrintSection::recipe_style_guidelines], 1);
     Kitchen run;
-    run.prompts.expect("yes/no", "Really save these settings as the recipe formulation print defaults?",
-                       Answer::yes, Icon::question);
+    run.prompts.expect_yes_no("Really save these settings as the recipe formulation print defaults?",
+                              Answer::yes);
     save_as_default(DocumentKind::recipe, selection, run.folder.path(), run.prompts);
     EXPECT_EQ(LoadPrintSelection(run.folder.path(), DocumentKind::recipe, 0.5F), selection);
 }

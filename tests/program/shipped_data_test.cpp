@@ -2,6 +2,7 @@
 #include "program/inventory.h"
 #include "program/program.h"
 #include "program/shipped_data.h"
+#include "support/database_of.h"
 #include "support/scripted_prompts.h"
 #include "support/temporary_folder.h"
 
@@ -12,10 +13,8 @@ namespace {
 
 TEST(ShippedData, IsOfferedOnceBookingsAreFinishedAndIsInMemoryAtOnce) {
     TemporaryFolder shipped, brewery;
-    Database<WaterRecord> waters;
-    SaveWater(brewery.path(), waters);
-    waters.count = 1;
-    waters.slots[0].name.assign("Pilsen");
+    const auto waters = database_of(WaterRecord{.name = Text<27>("Pilsen"), .known_for = {}});
+    SaveWater(brewery.path(), {});
     SaveWater(shipped.path(), waters);
     Program program;
     program.data_folder = brewery.path();

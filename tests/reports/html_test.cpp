@@ -2,11 +2,7 @@
 #include "reports/html_theme_form.h"
 #include "support/byte_probe.h"
 #include "support/form_user.h"
-#include "support/scripted_files.h"
-#include "support/scripted_prompts.h"
-#include "support/temporary_folder.h"
-
-#include "base/files.h"
+#include "support/scripted_user.h"
 
 #include <gmock/gmock.h>
 
@@ -179,34 +175,26 @@ TEST(HtmlWriter, WritesFreeTextAndLinksSoThatTheyRead) {
         HasSubstr("<IMG SRC=\"My%20Ale%20%231%20%26%20%C3%A9.jpg\" ALT=\"Mash Schedule\" BORDER=\"0\">\n"));
 }
 
-struct ThemeDialog {
-    TemporaryFolder folder;
-    FolderSet folders;
+struct ThemeDialog : ScriptedUser, FormUser {
     HtmlTheme live = built_in(BuiltInTheme::mint);
-    ScriptedPrompts prompts;
-    ScriptedFiles files;
     HtmlThemeEditor editor{live, {folders, folder.path(), files, prompts}};
-    Form form;
 
-    explicit ThemeDialog(std::deque<std::optional<std::string>> paths = {}) : files(std::move(paths)) {
-        html_theme_form(form, editor, live);
-    }
-    void press(std::string_view key) { dynamic_cast<ButtonRow&>(form.row(key)).press(); }
+    ThemeDialog() { html_theme_form(form, editor, live); }
 };
 
 TEST(HtmlThemeForm, EditsACopyUntilItIsAccepted) {
     ThemeDialog dialog;
     dialog.press("theme_5");
-    type(dialog.form, "name", "Cellar Night");
+    dialog.type("name", "Cellar Night");
     dialog.prompts.expect("colour", std::to_string(0xFFFFFF), ScriptedPrompts::Colour(0x123456), {}, "");
     dialog.press("body_background");
     dialog.editor.work.second_background = 1;
     dialog.prompts.expect("colour", "0", ScriptedPrompts::Colour(), {}, "");
     dialog.press("field_text");
-    EXPECT_TRUE(dialog.form.row("border_colour").is_enabled());
-    dialog.form.check(dynamic_cast<CheckRow&>(dialog.form.row("borders")), false);
-    EXPECT_FALSE(dialog.form.row("border_colour").is_enabled() || dialog.form.row("border").is_enabled());
-    dialog.form.check(dynamic_cast<CheckRow&>(dialog.form.row("large_font")), true);
+    EXPECT_TRUE(dialog.can("border_colour"));
+    dialog.check("borders", false);
+    EXPECT_FALSE(dialog.can("border_colour") || dialog.can("border"));
+    dialog.check("large_font", true);
     EXPECT_EQ(dialog.live, built_in(BuiltInTheme::mint));
     dialog.form.accept();
     auto expected = built_in(BuiltInTheme::black_and_white);
@@ -219,14 +207,17 @@ TEST(HtmlThemeForm, EditsACopyUntilItIsAccepted) {
 }
 
 TEST(HtmlThemeForm, KeepsThemesInFiles) {
-    ThemeDialog dialog({"/nowhere/theme.wxc", std::nullopt, "/nowhere/theme.wxc"});
+    ThemeDialog dialog;
+    dialog.files.add("/nowhere/theme.wxc");
+    dialog.files.add(std::nullopt);
+    dialog.files.add("/nowhere/theme.wxc");
     set_folder(dialog.folders, FolderKind::html_themes, "/themes/");
     const std::string question = "Really Save This Theme as the Wortlex Default?";
     dialog.press("theme_2");
-    dialog.prompts.expect("yes/no", question, Answer::no, Icon::question);
+    dialog.prompts.expect_yes_no(question, Answer::no);
     dialog.press("save_default");
     EXPECT_EQ(dialog.folder.entries(), 0);
-    dialog.prompts.expect("yes/no", question, Answer::yes, Icon::question);
+    dialog.prompts.expect_yes_no(question, Answer::yes);
     dialog.press("save_default");
     EXPECT_EQ(LoadDefaultTheme(dialog.folder.path()), built_in(BuiltInTheme::wheat));
 

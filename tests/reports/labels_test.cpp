@@ -100,9 +100,9 @@ TEST(LabelSheets, OwnOnesAreKeptByTheirNamesAndWithOk) {
     EXPECT_EQ(offered.at(7)(), "Mine | gloss");
     user.type("left", "4");
     user.type("across", "1.5");
-    prompts.expect("yes/no",
-                   "Mine | gloss\nThis sheet of labels already exists!\n\nDo you wish to replace this item?",
-                   Answer::no, Icon::question);
+    prompts.expect_yes_no(
+        "Mine | gloss\nThis sheet of labels already exists!\n\nDo you wish to replace this item?",
+        Answer::no);
     user.press("keep");
     EXPECT_EQ(offered.at(7)(), "Mine | gloss (changed)");
 
@@ -131,8 +131,7 @@ TEST(LabelSheets, OwnOnesAreRemovedAfterAQuestionAndShippedOnesNever) {
     user.choose("sheet", 7);
     for (const auto answer : {Answer::no, Answer::yes}) {
         EXPECT_EQ(desk.chosen(), 7);
-        prompts.expect("yes/no", "First\n\nDo you really want to remove this sheet of labels?", answer,
-                       Icon::question);
+        prompts.expect_yes_no("First\n\nDo you really want to remove this sheet of labels?", answer);
         user.press("remove");
     }
     EXPECT_EQ(desk.chosen(), 0);

@@ -41,6 +41,19 @@ public:
                    "next start.",
                answer, Icon::question);
     }
+    void expect_finalizing(Answer answer) {
+        expect_yes_no(
+            "Do you really want to finalize inventory amounts at this time?\n\nThis will subtract the "
+            "brewing session ingredient amounts from your current\ningredients database(s).",
+            answer);
+    }
+    /// Where ingredients are missing, before they are finalized.
+    void expect_to_wait(Answer answer) {
+        expect_yes_no("Some ingredients were not found or there is not enough in stock to complete the "
+                      "session.\n\nDo you want to wait until you have a chance to update inventories before "
+                      "finalizing this brewing session?",
+                      answer);
+    }
     void expect_write_error() {
         expect_tell("Wortlex has experienced an error in writing this file.\n\nPossible reasons include:\n\n"
                     "a) The file has somehow been tagged as read-only by the system.\n\n"

@@ -1,11 +1,6 @@
 #include "base/number.h"
 #include "program/settings_forms/settings_session.h"
-#include "support/field.h"
-#include "support/scripted_files.h"
-#include "support/scripted_prompts.h"
-#include "support/temporary_folder.h"
-
-#include "base/files.h"
+#include "support/scripted_user.h"
 
 #include <gtest/gtest.h>
 
@@ -31,6 +26,14 @@ struct Brewery {
     }
     SettingsDesk desk() { return {files, working, folders, folder.path(), notices}; }
     SystemSettings on_disk() const { return LoadSystemFiles(folder.path()).settings; }
+    void expect_note() {
+        prompts.expect_tell(
+            "Please note that these setting will only temporarily overwrite your current default settings "
+            "until the application is closed or until new settings are loaded.\n\nTo save these settings as "
+            "the permanent settings you must use the 'Save As Default' option before closing the "
+            "application.",
+            Icon::information);
+    }
     // What the three levels have of one setting.
     std::string batch_sizes() const {
         return fixed(files.settings.batch_size, 0) + " " + fixed(working.batch_size, 0) + " " +
@@ -38,7 +41,9 @@ struct Brewery {
     }
 };
 
-constexpr std::string_view overwrite = "Really Overwrite the Default Misc. System Settings?";
+constexpr auto overwrite = "Really Overwrite the Default Misc. System Settings?";
+constexpr auto overwrite_too =
+    "Do you also want to overwrite the Default System Settings with these settings?";
 
 TEST(SettingsSession, ImageWorkingValuesAndDiskDifferAsTold) {
     Brewery brewery;
@@ -60,11 +65,11 @@ TEST(SettingsSession, ImageWorkingValuesAndDiskDifferAsTold) {
         EXPECT_EQ(brewery.files.settings.foreground[2], 0x123456U);
     }
     SettingsSession session(brewery.desk());
-    brewery.prompts.expect("yes/no", std::string(overwrite), Answer::no, Icon::question);
+    brewery.prompts.expect_yes_no(overwrite, Answer::no);
     session.save_as_default(brewery.prompts);
     EXPECT_EQ(brewery.batch_sizes(), "8 8 5");
     set_folder(brewery.folders, FolderKind::recipes, "/elsewhere/");
-    brewery.prompts.expect("yes/no", std::string(overwrite), Answer::yes, Icon::question);
+    brewery.prompts.expect_yes_no(overwrite, Answer::yes);
     session.save_as_default(brewery.prompts);
     EXPECT_EQ(brewery.batch_sizes(), "8 8 8");
     EXPECT_EQ(folder_path(LoadFolders(brewery.folder.path()), FolderKind::recipes), "/elsewhere/");
@@ -95,12 +100,7 @@ TEST(SettingsSession, LoadedFilesWorkUntilTheEndAndKeepTheNamesOfTheDialog) {
     ASSERT_TRUE(SaveSettingsFile(path, other));
     SettingsSession session(brewery.desk());
     ScriptedFiles files({path});
-    brewery.prompts.expect_tell("Please note that these setting will only temporarily overwrite your current "
-                                "default settings until the "
-                                "application is closed or until new settings are loaded.\n\nTo save these "
-                                "settings as the permanent settings you "
-                                "must use the 'Save As Default' option before closing the application.",
-                                Icon::information);
+    brewery.expect_note();
     session.load(files, brewery.prompts);
     EXPECT_EQ(brewery.batch_sizes(), "11 11 5");
     EXPECT_EQ(brewery.working.foreground[0], 77U);
@@ -114,13 +114,7 @@ TEST(SettingsSession, LoadedFilesWorkUntilTheEndAndKeepTheNamesOfTheDialog) {
     ScriptedFiles again({path});
     brewery.prompts.expect_tell("The settings file ended early. What is missing stays as it is now.",
                                 Icon::warning);
-    brewery.prompts.expect(
-        "tell",
-        "Please note that these setting will only temporarily overwrite your current default settings "
-        "until the application is closed or until new settings are loaded.\n\nTo save these settings "
-        "as the permanent settings you must use the 'Save As Default' option before closing the "
-        "application.",
-        {}, Icon::information);
+    brewery.expect_note();
     session.load(again, brewery.prompts);
     EXPECT_EQ(brewery.files.settings.wort_size, 3.0F);
 }
@@ -133,9 +127,7 @@ TEST(SettingsSession, SavedFilesHoldWhatTheDialogShows) {
     brewery.working.background[1] = 42;
     const auto path = brewery.folder / "mine.wxt";
     ScriptedFiles files({path});
-    brewery.prompts.expect("yes/no",
-                           "Do you also want to overwrite the Default System Settings with these settings?",
-                           Answer::no, Icon::question);
+    brewery.prompts.expect_yes_no(overwrite_too, Answer::no);
     session.save(files, brewery.prompts);
     SystemSettings written;
     ASSERT_TRUE(LoadSettingsFile(path, written));
@@ -144,9 +136,7 @@ TEST(SettingsSession, SavedFilesHoldWhatTheDialogShows) {
     EXPECT_EQ(brewery.batch_sizes(), "9 5 5") << "neither working values nor disk are touched by a No";
     set_folder(brewery.folders, FolderKind::recipes, "/elsewhere/");
     ScriptedFiles again({path});
-    brewery.prompts.expect("yes/no",
-                           "Do you also want to overwrite the Default System Settings with these settings?",
-                           Answer::yes, Icon::question);
+    brewery.prompts.expect_yes_no(overwrite_too, Answer::yes);
     session.save(again, brewery.prompts);
     EXPECT_EQ(brewery.batch_sizes(), "9 9 9");
     EXPECT_NE(folder_path(LoadFolders(brewery.folder.path()), FolderKind::recipes), "/elsewhere/");

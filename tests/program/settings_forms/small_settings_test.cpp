@@ -16,10 +16,6 @@
 namespace wortlex {
 namespace {
 
-void check(Form& form, std::string_view key, bool on) {
-    form.check(dynamic_cast<CheckRow&>(form.row(key)), on);
-}
-
 TEST(GaugeSettings, LinkTheirTemperaturesAndKeepToTheirRanges) {
     auto image = WriteDefaultSettings();
     ScriptedPrompts prompts;
@@ -40,11 +36,11 @@ TEST(GaugeSettings, LinkTheirTemperaturesAndKeepToTheirRanges) {
     const std::string question =
         "Really reset the settings to the defaults shipped with Wortlex for refractometer "
         "water calibration values?";
-    prompts.expect("yes/no", question, Answer::no, Icon::question);
+    prompts.expect_yes_no(question, Answer::no);
     press(form, "reset");
     EXPECT_EQ(image.water_ri, -2.0F);
     image.batch_size = 9; // not of this dialog
-    prompts.expect("yes/no", question, Answer::yes, Icon::question);
+    prompts.expect_yes_no(question, Answer::yes);
     press(form, "reset");
     EXPECT_EQ(std::tuple(image.brix_correction, image.water_zeiss, image.water_brix, image.water_ri,
                          image.hydrometer_calibration, image.batch_size),
@@ -187,17 +183,17 @@ TEST(RemindersAndPositions, AreOnTheDiskAtOnce) {
     const TemporaryFolder folder;
     ScriptedPrompts prompts;
     ReminderFlags reminders{0, 0, 0};
-    prompts.expect("yes/no", "Really Reset All Reminder Messages?", Answer::no, Icon::question);
+    prompts.expect_yes_no("Really Reset All Reminder Messages?", Answer::no);
     show_all_reminders(reminders, folder.path(), prompts);
     EXPECT_EQ(reminders.folders, 0);
     SaveReminders(folder.path(), reminders);
-    prompts.expect("yes/no", "Really Reset All Reminder Messages?", Answer::yes, Icon::question);
+    prompts.expect_yes_no("Really Reset All Reminder Messages?", Answer::yes);
     show_all_reminders(reminders, folder.path(), prompts);
     EXPECT_TRUE(reminders == ReminderFlags() && LoadReminders(folder.path()) == ReminderFlags());
     ToolPositions positions;
     positions.slots[52] = {1, 2, 3, 4};
     SaveToolPositions(folder.path(), positions);
-    prompts.expect("yes/no", "Really Reset All Window Positions?", Answer::yes, Icon::question);
+    prompts.expect_yes_no("Really Reset All Window Positions?", Answer::yes);
     EXPECT_TRUE(reset_window_positions(positions, folder.path(), prompts));
     EXPECT_TRUE(LoadToolPositions(folder.path()) == ToolPositions());
 }

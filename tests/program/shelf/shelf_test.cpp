@@ -1,4 +1,4 @@
-#include "base/files.h"
+#include "documents/brewing.h"
 #include "program/shelf/shelf.h"
 #include "program/shelf/shelf_preview.h"
 #include "program/shelf/shelf_reading.h"
@@ -19,11 +19,8 @@ struct ShelfOf : testing::Test {
         auto recipe = new_document(settings, ScheduleKind::simple);
         recipe.title.assign(title);
         recipe.efficiency = 0.75F;
-        recipe.malts.resize(1);
+        recipe.malts = {malt(MaltType::grain, 1.036F, pounds)};
         recipe.malts[0].record.name.assign("M\xE4rzen malt");
-        recipe.malts[0].record.malt_type = MaltType::grain;
-        recipe.malts[0].record.potential = 1.036F;
-        recipe.malts[0].amount = pounds;
         recipe.hops.resize(1);
         recipe.hops[0].record.name.assign(hop);
         save_atomically(folder / (std::string(title) + ".rec"), recipe_bytes(recipe));
