@@ -1,9 +1,9 @@
-#include "base/files.h"
 #include "base/number.h"
 #include "calculators/color_sources.h"
 #include "calculators/color_swatch.h"
 #include "calculators/color_utility.h"
 #include "support/byte_probe.h"
+#include "support/file_content.h"
 #include "support/fixed_clock.h"
 #include "support/form_user.h"
 #include "support/recording_surface.h"
@@ -45,11 +45,6 @@ struct Desk {
     void fail(const char* text) { prompts.expect("tell", text, {}, Icon::error, "Wortlex Error"); }
     ColorUtilityDesk with(Files& files) {
         return {live, image, folder.path(), files, prompts, pictures, clock};
-    }
-    std::string save_text(const char* name, const std::string& text) const {
-        const auto bytes = std::as_bytes(std::span(text));
-        EXPECT_TRUE(save_atomically(folder / name, bytes));
-        return folder / name;
     }
 };
 
@@ -113,9 +108,9 @@ TEST(ColorUtility, LoadsTextAsFarAsItGoes) {
     for (int row = 0; row < 400; ++row)
         whole += fixed(row / 10.0, 1) + "\t" + std::to_string(row) + " 2 3 4\n" +
                  (row % 100 == 0 ? "\r\n \t\n" : "");
-    ScriptedFiles files({desk.save_text("whole.txt", whole),
-                         desk.save_text("cut.txt", after + "1.5 7 7,5 7 7\n" + after),
-                         desk.folder / "absent.txt"});
+    write_content(desk.folder / "whole.txt", whole);
+    write_content(desk.folder / "cut.txt", after + "1.5 7 7,5 7 7\n" + after);
+    ScriptedFiles files({desk.folder / "whole.txt", desk.folder / "cut.txt", desk.folder / "absent.txt"});
     ColorUtility utility(desk.with(files));
     desk.ask(about_text, Answer::no);
     utility.load_text();

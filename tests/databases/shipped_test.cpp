@@ -1,6 +1,8 @@
 #include "databases/shipped.h"
 
 #include "base/ports/quiet_prompts.h"
+#include "support/database_of.h"
+#include "support/form_user.h"
 #include "support/temporary_folder.h"
 
 #include <gtest/gtest.h>
@@ -16,13 +18,6 @@ HopRecord sold(std::string_view name, float alpha = 5, HopForm as = HopForm::pel
     return hop;
 }
 
-Database<HopRecord> hops_of(const std::vector<HopRecord>& entries) {
-    Database<HopRecord> hops;
-    hops.count = static_cast<std::int32_t>(entries.size());
-    std::copy(entries.begin(), entries.end(), hops.slots.begin());
-    return hops;
-}
-
 // A brewery, and the one that comes with the program.
 struct Upgrade {
     TemporaryFolder shipped, brewery;
@@ -30,11 +25,11 @@ struct Upgrade {
 
     void ship(const std::vector<HopRecord>& entries, const TemporaryFolder& to) const {
         ShippedNames names;
-        add_names(names, hop_catalogue(settings, ""), hops_of(entries));
-        SaveHops(to.path(), hops_of(entries));
+        add_names(names, hop_catalogue(settings, ""), database_of(entries));
+        SaveHops(to.path(), database_of(entries));
         save_atomically(to / "WlxShipped.txt", shipped_names_bytes(names));
     }
-    void keep(const std::vector<HopRecord>& entries) const { SaveHops(brewery.path(), hops_of(entries)); }
+    void keep(const std::vector<HopRecord>& entries) const { SaveHops(brewery.path(), database_of(entries)); }
     ShippedOffer offer() const { return find_offer(shipped.path(), brewery.path(), settings); }
     Bytes file(const char* name) const { return *read_file(brewery / name); }
 
@@ -61,8 +56,8 @@ TEST(ShippedEntries, AreOfferedOnceAndNeverInTheBrewersStead) {
     upgrade.ship({sold("Admiral"), sold("Cascade"), sold("Fuggle")}, upgrade.brewery);
     auto mine = sold("Cascade", 9.9F);
     mine.stock = 3;
-    mine.name.bytes.back() = 'x';                // behind the end of the text
-    auto filled = hops_of({mine, sold("Zeus")}); // Admiral and Fuggle are deleted
+    mine.name.bytes.back() = 'x';                               // behind the end of the text
+    auto filled = database_of(std::vector{mine, sold("Zeus")}); // Admiral and Fuggle are deleted
     filled.slots[7].name.assign("left over");
     SaveHops(upgrade.brewery.path(), filled);
 
@@ -154,7 +149,7 @@ TEST(OfferForm, TellsNamesAsTheyAreAndChecksAllOrNone) {
     auto& toggle = dynamic_cast<ButtonRow&>(form.row("toggle"));
     toggle.press();
     EXPECT_FALSE(wants_any(offer));
-    form.check(dynamic_cast<CheckRow&>(form.row("entry_3")), true);
+    check(form, "entry_3", true);
     EXPECT_EQ(toggle.label_text(), "Chec&k None");
 }
 

@@ -90,8 +90,7 @@ TEST(Store, AddsClonesAndDeletes) {
     entry->form.accept();
     EXPECT_EQ(std::pair(hops.database.slots[1].alpha, hops.database.slots[2].alpha), std::pair(0.0F, 4.5F))
         << "the copy was selected and is meant, though both read the same";
-    hops.prompts.expect("yes/no", "Do you really want to delete the\n\nAdmiral\n\nentry?", Answer::yes,
-                        Icon::question);
+    hops.prompts.expect_yes_no("Do you really want to delete the\n\nAdmiral\n\nentry?", Answer::yes);
     hops->delete_entry(hops.prompts);
     EXPECT_EQ(hops.column(0), "Saaz|Admiral|");
     EXPECT_EQ(hops->selected, 1);
@@ -136,8 +135,7 @@ TEST(Store, RowsStandAsTheyWereBehindTheClosingQuestion) {
 
 TEST(Store, EmptyDatabaseDoesNoHarm) {
     Hops hops({hop("Saaz", "CZ", 3)});
-    hops.prompts.expect("yes/no", "Do you really want to delete the\n\nSaaz\n\nentry?", Answer::yes,
-                        Icon::question);
+    hops.prompts.expect_yes_no("Do you really want to delete the\n\nSaaz\n\nentry?", Answer::yes);
     hops->delete_entry(hops.prompts);
     EXPECT_EQ(hops->selected, -1);
     hops->save(hops.prompts);
@@ -173,8 +171,8 @@ TEST(StoreInventory, SubtractsDownToNothing) {
     EXPECT_EQ(hops.database.slots[0].stock, 0.0F);
     hops.database.slots[0].stock = 3;
     entry = hops->inventory(hops.prompts);
-    hops.prompts.expect("yes/no", std::string(set_to_zero), Answer::yes, Icon::question);
-    dynamic_cast<ButtonRow&>(entry->form.row("set_to_zero")).press();
+    hops.prompts.expect_yes_no(std::string(set_to_zero), Answer::yes);
+    press(entry->form, "set_to_zero");
     EXPECT_EQ(hops.database.slots[0].stock, 3.0F) << "Cancel would leave it";
     entry->form.accept();
     EXPECT_EQ(hops.database.slots[0].stock, 0.0F);

@@ -1,7 +1,6 @@
 #include "databases/styles.h"
 #include "support/form_user.h"
-#include "support/scripted_prompts.h"
-#include "support/temporary_folder.h"
+#include "support/listed.h"
 
 #include <gtest/gtest.h>
 
@@ -31,10 +30,8 @@ struct Styles {
         write(true, {style(27, 'A', "Cider", "Common", BeerType::cider),
                      style(1, 'A', "Rice", "Junmai", BeerType::sake)});
     }
-    void write(bool bjcp, const std::vector<StyleRecord>& entries) {
-        database.count = static_cast<std::int32_t>(entries.size());
-        std::copy(entries.begin(), entries.end(), database.slots.begin());
-        EXPECT_TRUE(SaveStyles(folder.path(), bjcp, database));
+    void write(bool bjcp, const std::vector<StyleRecord>& entries) const {
+        EXPECT_TRUE(SaveStyles(folder.path(), bjcp, database_of(entries)));
     }
     std::unique_ptr<RecordList<StyleRecord>> open(ListSide side) {
         auto list = style_list({side, settings, folder.path()}, database);
@@ -52,12 +49,6 @@ struct Styles {
     }
 };
 
-std::string column_of(const IngredientList& list, std::size_t which) {
-    std::string cells;
-    for (std::size_t row = 0; row < list.shown_count(); ++row) cells += list.cell(row, which) + "|";
-    return cells;
-}
-
 void rename_first(IngredientList& list, Prompts& prompts) {
     list.selected = 0;
     const auto entry = list.edit_entry(prompts);
@@ -72,8 +63,8 @@ TEST(StyleList, NumbersAndSorts) {
     EXPECT_EQ(column_of(*list, 3), "N/A|Lager|Ale|");
     list->click(2);
     EXPECT_EQ(column_of(*list, 2), "Dry Stout|Helles|Other|");
-    styles.prompts.expect("yes/no", "Do you really want to delete the\n\nStout\nDry Stout\n\nentry?",
-                          Answer::no, Icon::question);
+    styles.prompts.expect_yes_no("Do you really want to delete the\n\nStout\nDry Stout\n\nentry?",
+                                 Answer::no);
     list->delete_entry(styles.prompts);
 }
 

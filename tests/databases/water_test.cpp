@@ -39,13 +39,13 @@ TEST(WaterEntry, TakesWhatItsConvertersBringAndClampsItOnAccept) {
     };
     Form form;
     water_entry_form(form, record, {nullptr, nullptr, convert});
-    dynamic_cast<ButtonRow&>(form.row("from_alkalinity")).press();
+    press(form, "from_alkalinity");
     EXPECT_NEAR(record.bicarbonate, 6099.4, 0.1) << "6100 but for a trace of carbonate; CaCO3 ends at 5000";
     form.accept();
     EXPECT_EQ(std::tuple(record.bicarbonate, record.ph, record.sodium, record.name.view().size()),
               std::tuple(2000.0F, 6.0F, 0.0F, 24U));
     type(form, "bicarbonate", "0");
-    dynamic_cast<ButtonRow&>(form.row("calculate_ph")).press();
+    press(form, "calculate_ph");
     EXPECT_EQ(record.ph, 7.0F);
 }
 

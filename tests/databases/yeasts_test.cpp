@@ -55,16 +55,13 @@ TEST(YeastEntry, HasOneTemperatureInTwoFields) {
     YeastRecord record;
     Form form;
     yeast_entry_form(form, record);
-    const auto field_of = [&](const char* key) { return &dynamic_cast<EntryRow&>(form.row(key)); };
     using Row = std::tuple<const char*, const char*, const char*, const char*, float>;
     for (const auto& [typed_in, text, other, follows, kept] :
          {Row{"fahrenheit", "400", "celsius", "100.00", 212.0F},
           {"celsius", "-10", "fahrenheit", "14.00", 14.0F},
           {"celsius", "300", "fahrenheit", "413.60", 212.0F}}) {
-        PlainField typed(text), shown;
-        form.type(*field_of(typed_in), typed);
-        field_of(other)->show(shown);
-        EXPECT_EQ(shown.content, follows) << text;
+        type(form, typed_in, text);
+        EXPECT_EQ(content_of(form, other), follows) << text;
         form.accept();
         EXPECT_EQ(record.optimum_temperature, kept) << text;
     }

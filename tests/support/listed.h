@@ -2,10 +2,18 @@
 #pragma once
 
 #include "databases/ingredient_list.h"
+#include "support/database_of.h"
 #include "support/scripted_prompts.h"
 #include "support/temporary_folder.h"
 
 namespace wortlex {
+
+/// The cells of a column, with a bar behind each.
+inline std::string column_of(const IngredientList& list, std::size_t which) {
+    std::string cells;
+    for (std::size_t row = 0; row < list.shown_count(); ++row) cells += list.cell(row, which) + '|';
+    return cells;
+}
 
 template <class Record>
 struct Listed {
@@ -20,21 +28,14 @@ struct Listed {
     Listed(Save save, ListMaker<Record> make, const std::vector<Record>& entries,
            const Settings& options = {})
         : settings(options) {
-        Database<Record> file;
-        file.count = static_cast<std::int32_t>(entries.size());
-        std::copy(entries.begin(), entries.end(), file.slots.begin());
-        EXPECT_TRUE(save(folder.path(), file));
+        EXPECT_TRUE(save(folder.path(), database_of(entries)));
         list = make({ListSide::maintenance, settings, folder.path()}, database);
         list->open(prompts);
     }
     RecordList<Record>* operator->() const { return list.get(); }
 
-    /// The cells of a column or a row, with a bar behind each.
-    std::string column(std::size_t which) const {
-        std::string cells;
-        for (std::size_t row = 0; row < list->shown_count(); ++row) cells += list->cell(row, which) + '|';
-        return cells;
-    }
+    std::string column(std::size_t which) const { return column_of(*list, which); }
+    /// The cells of a row, with a bar behind each.
     std::string row(std::size_t which) const {
         std::string cells;
         for (std::size_t i = 0; i < list->heads().size(); ++i) cells += list->cell(which, i) + '|';

@@ -97,8 +97,7 @@ TEST(WaterNeeds, SpeakTheUnitsOfTheirWindow) {
     const std::array cases = {
         Case{Units::american, SystemMode::home_brewer,
              "&Sparge Gallons|Total &Grain LBS|&Quarts Per LBS|&Mash Gallons|Gallons|(Gallons per "
-             "Hour)|Gallons of "
-             "Water",
+             "Hour)|Gallons of Water",
              " 10.00", "\t\tMash Gallons:\t0.00",
              "You will need 10.00 gallons of water for the complete brewing session."},
         Case{Units::metric, SystemMode::home_brewer,
@@ -108,8 +107,7 @@ TEST(WaterNeeds, SpeakTheUnitsOfTheirWindow) {
              "You will need 10.00 liters of water for the complete brewing session."},
         Case{Units::american, SystemMode::pro_brewer,
              "&Sparge Barrels|Total &Grain LBS|&Quarts Per LBS|&Mash Barrels|Barrels|(Barrels per "
-             "Hour)|Barrels of "
-             "Water",
+             "Hour)|Barrels of Water",
              "310.00", "\t\tMash Barrels:\t0.00",
              "You will need 10.00 barrels of water for the complete brewing session."},
         Case{Units::metric, SystemMode::pro_brewer,
@@ -138,17 +136,17 @@ TEST(WaterNeeds, ReadAndAskForTheUsualFigures) {
     needs.type("sparge", "6");
     ScriptedPrompts prompts;
     constexpr auto question = "Really Overwrite the Default Water Usage Data?";
-    prompts.expect("yes/no", question, Answer::no, Icon::question);
+    prompts.expect_yes_no(question, Answer::no);
     EXPECT_FALSE(save_usual_water(needs.tool.needs, needs.folder.path(), prompts));
     open_water_needs(needs.tool, needs.folder.path(), needs.settings);
     EXPECT_EQ(needs.tool.needs.sparge, 6) << "no file, and nothing changes";
-    prompts.expect("yes/no", question, Answer::yes, Icon::question);
+    prompts.expect_yes_no(question, Answer::yes);
     needs.tool.needs.hopback = std::nanf("");
     EXPECT_TRUE(save_usual_water(needs.tool.needs, needs.folder.path(), prompts));
     needs.type("sparge", "9");
     open_water_needs(needs.tool, needs.folder.path(), needs.settings);
     EXPECT_EQ(needs.shown_all({"sparge", "needed", "hopback"}), "  6.00|  6.00|  0.00");
-    prompts.expect("yes/no", question, Answer::yes, Icon::question);
+    prompts.expect_yes_no(question, Answer::yes);
     prompts.expect_tell(
         "The water usage data could not be written. Is the disk full, or the folder read-only?", Icon::error);
     EXPECT_FALSE(save_usual_water(needs.tool.needs, "/nonexistent/", prompts));
