@@ -114,9 +114,10 @@ TEST(PreBoilPrintout, TellsBothKettlesInTheUnitsShown) {
                             "Evaporation Rate:\t2.00\tGal Per Hour", "Raw Pre-Boil Wort Size:\t9.00\tGal",
                             "Raw Pre-Boil Gravity:\t1.0320\tSG\t8.0\tPlato"));
     const WaterNeeds planned{.mash_water = 8}; // 288 points in 8 gallons are 36 in each
-    EXPECT_THAT(
-        printed_lines(pre_boil_printout({recipe, boil.rate, settings, &planned})),
-        IsSupersetOf({"Pre-Boil Wort Size:\t8.00\tGal", "Pre-Boil Gravity:\t1.0360\tSG\t9.0\tPlato"}));
+    settings.volume_units = Units::metric;
+    EXPECT_THAT(printed_lines(pre_boil_printout({recipe, boil.rate, settings, &planned})),
+                IsSupersetOf({"Evaporation Rate:\t7.57\tL Per Hour", "Pre-Boil Wort Size:\t30.28\tL",
+                              "Pre-Boil Gravity:\t1.0360\tSG\t9.0\tPlato"}));
 }
 
 } // namespace

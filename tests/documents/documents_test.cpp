@@ -289,19 +289,6 @@ TEST(Change, OfEfficiency) {
     }
 }
 
-TEST(Change, OfAHopLineKeepsTheTotalsUpByDifference) {
-    Brewery b;
-    b.document.total_ibu = 100; // not the sum of the lines
-    b.figures.total_hop_ounces = 10;
-    b.document.og_points = 10; // Tinseth reads the boil's, which stands
-    change_hop(b.recipe(), 0, [](HopUse& line) { line.amount = 2; });
-    EXPECT_FLOAT_EQ(b.document.hops[0].ibu, 37.3868676F);
-    expect_figures(std::array{b.document.total_ibu, b.figures.total_hop_ounces}, {118.6934338F, 11},
-                   "changed");
-    hop_removed(b.recipe());
-    expect_figures(std::array{b.document.total_ibu, b.figures.total_hop_ounces}, {59.6486321F, 4}, "removed");
-}
-
 TEST(MashRefresh, FillsTheMashByTheScheduleInForce) {
     Brewery b;
     auto& mash = b.document.simple_mash;

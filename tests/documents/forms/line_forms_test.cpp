@@ -3,7 +3,6 @@
 #include "documents/forms/hop_amount.h"
 #include "documents/forms/malt_amount.h"
 #include "documents/forms/malt_contribution.h"
-#include "documents/forms/pre_boil_form.h"
 #include "mash/simple_mash_form.h"
 #include "support/form_user.h"
 #include "support/scripted_prompts.h"
@@ -110,10 +109,10 @@ TEST(HopAmount, WorksOutTheBitterness) {
     dialog.open();
     for (const auto answer : {Answer::no, Answer::yes}) {
         EXPECT_EQ(dialog.line.alpha, 5);
-        dialog.prompts.expect("yes/no",
-                              "This will undo any modification made to the hop's alpha value!\nReally revert "
-                              "to hop's original alpha value?",
-                              answer, Icon::question);
+        dialog.prompts.expect_yes_no(
+            "This will undo any modification made to the hop's alpha value!\nReally revert "
+            "to hop's original alpha value?",
+            answer);
         dialog.press("revert");
     }
     EXPECT_FALSE(dialog.can("revert"));
@@ -194,24 +193,6 @@ TEST(MaltContribution, IsAShareOfTheRecipe) {
     };
     EXPECT_EQ(told(0), "7.50|75.00|39.1|66.67|3.20|46.21|3.90|6.00(fixed value)") << "2.6 x 7.5 / 5 MCU";
     EXPECT_EQ(told(1), "2.50|25.00|0.0|0.00|0.00|46.21|60.20|92.62(fixed value)") << "not worked out yet";
-}
-
-TEST(PreBoil, IsWhatTheBoilLeaves) {
-    auto settings = american_settings();
-    settings.wort_equals_batch = 1;
-    auto document = empty_recipe();
-    document.og_points = 50;
-    document.boil_minutes = 90;
-    const auto told = [&](float rate) {
-        FormUser user;
-        pre_boil_form(user.form, {document, [rate] { return rate; }, settings}, {});
-        return user.shown_all({"end_volume", "end_sg", "boil_minutes", "rate", "raw_volume", "raw_sg"}) +
-               " " + user.row<EntryRow>("rate").unit_text();
-    };
-    EXPECT_EQ(told(20), "5.00|1.050|90|20.00|7.14|1.035 % Per Hour") << "5 / 0.7";
-    settings.evaporation_by_volume = 1;
-    settings.volume_units = Units::metric;
-    EXPECT_EQ(told(1), "18.93|1.050|90|3.79|24.60|1.038 L Per Hour") << "6.5 gallons";
 }
 
 SimpleMash mash_of(float quarts, MashKind kind = MashKind::multi_step) {

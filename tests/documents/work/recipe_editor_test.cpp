@@ -298,9 +298,7 @@ TEST(RecipePages, CancelPutsBackWhatThePageFound) {
     yeast_water_form(yeast, work.editor, {});
     work.document.yeast.record.name.assign("Kveik");
     work.document.yeast.record.optimum_temperature = 95;
-    PlainField celsius;
-    dynamic_cast<EntryRow&>(yeast.row("celsius")).show(celsius);
-    EXPECT_EQ(celsius.content, "35.0");
+    EXPECT_EQ(content_of(yeast, "celsius"), "35.0");
     yeast.cancel();
     EXPECT_TRUE(work.document.yeast.record.name.empty());
 }
