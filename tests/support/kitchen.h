@@ -1,22 +1,13 @@
 // A brewery whose brewer has nothing but a keyboard.
 #pragma once
 
-#include "support/qt_keys.h"
+#include "support/database_of.h"
 #include "support/started_brewery.h"
 
 #include <QDialog>
 #include <QMenuBar>
-#include <QTimer>
 
 namespace wortlex {
-
-template <class Record>
-Database<Record> database_of(const Record& record) {
-    Database<Record> database;
-    database.count = 1;
-    database.slots[0] = record;
-    return database;
-}
 
 // A brewery with one entry in each database, and a recipe begun from the keyboard.
 struct Kitchen : Brewery {
@@ -30,12 +21,9 @@ struct Kitchen : Brewery {
         style.min_ibu = 15;
         style.max_ibu = 28;
         for (const bool bjcp : {false, true}) SaveStyles(folder.path(), bjcp, database_of(style));
-        MaltRecord malt;
-        malt.name.assign("Pale Malt");
-        malt.malt_type = MaltType::grain;
-        malt.must_mash = 1;
-        malt.potential = 1.037F;
-        SaveMalts(folder.path(), database_of(malt));
+        auto pale = malt(MaltType::grain, 1.037F, 0, true).record;
+        pale.name.assign("Pale Malt");
+        SaveMalts(folder.path(), database_of(pale));
         HopRecord hop;
         hop.name.assign("Cascade");
         hop.alpha = 6;
@@ -88,15 +76,10 @@ struct Kitchen : Brewery {
     static void pick_by(Qt::Key key, Qt::KeyboardModifiers with = Qt::NoModifier) {
         auto* const window = QApplication::activeWindow();
         bool is_picked = false;
-        QTimer user;
-        QObject::connect(&user, &QTimer::timeout, window, [&] {
-            auto* const list = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-            if (list == nullptr) return;
-            user.stop();
-            QTest::keyClick(list->findChild<QWidget*>("list"), Qt::Key_Return);
+        in_next<QDialog>([&](QDialog& list) {
+            QTest::keyClick(list.findChild<QWidget*>("list"), Qt::Key_Return);
             is_picked = true;
         });
-        user.start(1);
         press(key, with);
         EXPECT_TRUE(QTest::qWaitFor([&] { return is_picked; }));
         activate(window);

@@ -2,28 +2,22 @@
 #pragma once
 
 #include "base/ports/quiet_prompts.h"
+#include "documents/brewing.h"
 #include "program/start.h"
+#include "support/qt_keys.h"
 #include "support/recording_clipboard.h"
 #include "support/recording_desk.h"
 #include "support/recording_surface.h"
-#include "support/scripted_files.h"
-#include "support/scripted_prompts.h"
-#include "support/temporary_folder.h"
+#include "support/scripted_user.h"
 #include "windows/documents/recipe_window.h"
 #include "windows/main/main_window.h"
+#include "windows/main/tools.h"
 
-#include <QApplication>
 #include <QImage>
-#include <QLineEdit>
-
-#include <filesystem>
 
 namespace wortlex {
 
-struct Brewery {
-    TemporaryFolder folder;
-    ScriptedPrompts prompts;
-    ScriptedFiles files;
+struct Brewery : ScriptedUser {
     RecordingPageDesk pages;
     RecordingClipboard clipboard;
     RecordingEasel easel;
@@ -53,11 +47,8 @@ struct Brewery {
     std::string save_sample(const char* name) {
         auto document = new_document(program.settings, ScheduleKind::simple);
         document.title.assign(name);
-        document.malts.resize(2);
+        document.malts = {malt(MaltType::grain, 1.037F, 10), {}};
         document.malts[0].record.name.assign("Maris Otter");
-        document.malts[0].record.malt_type = MaltType::grain;
-        document.malts[0].record.potential = 1.037F;
-        document.malts[0].amount = 10;
         document.efficiency = 0.76F;
         auto path = folder.path() + name + ".rec";
         QuietPrompts quiet;
@@ -66,16 +57,28 @@ struct Brewery {
     }
 };
 
-inline RecipeWindow* open_recipe_window() {
-    for (auto* const window : QApplication::topLevelWidgets())
-        if (auto* const recipe = dynamic_cast<RecipeWindow*>(window);
-            recipe != nullptr && recipe->isVisible())
-            return recipe;
-    return nullptr;
-}
+/// A brewery at its main window, and the tools that it opens.
+struct OpenBrewery : Brewery {
+    MainWindow main{ports()};
 
-inline QString text_in(const RecipeWindow& window, const char* key) {
-    return window.findChild<QLineEdit*>(QString::fromLatin1(key))->text();
+    OpenBrewery() { main.show(); }
+    /// The tool of a command, active.
+    QWidget& tool(int command) {
+        main.commands().start(command);
+        const auto name = QString::fromStdString(std::string(tool_of(command).window.template_name));
+        for (auto* const window : QApplication::topLevelWidgets())
+            if (window->isVisible() && window->objectName() == name) return at_work(*window);
+        throw std::logic_error("the tool did not open");
+    }
+    static QWidget& at_work(QWidget& window) {
+        bring_forward(window);
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
+        return window;
+    }
+};
+
+inline RecipeWindow* open_recipe_window() {
+    return seen_window<RecipeWindow>();
 }
 
 } // namespace wortlex

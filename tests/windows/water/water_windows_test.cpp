@@ -1,35 +1,10 @@
 #include "base/files.h"
-#include "support/qt_keys.h"
 #include "support/started_brewery.h"
 #include "water/water_chart.h"
-
-#include <gtest/gtest.h>
-
-#include <QPushButton>
+#include "windows/water/water_chart_window.h"
 
 namespace wortlex {
 namespace {
-
-// The main window of a brewery, and the tools that it opens.
-struct Tools {
-    Brewery brewery;
-    MainWindow main{brewery.ports()};
-
-    QWidget& open(int tool, const char* name) {
-        main.commands().start(tool);
-        return at_work(*shown(name));
-    }
-    static QWidget& at_work(QWidget& window) {
-        bring_forward(window);
-        EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
-        return window;
-    }
-    static QWidget* shown(const char* name) {
-        for (auto* const window : QApplication::topLevelWidgets())
-            if (window->objectName() == name && window->isVisible()) return window;
-        return nullptr;
-    }
-};
 
 // Whether a window is painted anew from here on.
 struct Painted : QObject {
@@ -43,55 +18,52 @@ struct Painted : QObject {
 };
 
 TEST(WaterCalculatorWindow, ItsChartFollowsEachKeyAndBecomesAPicture) {
-    Tools tools;
-    auto& window = tools.open(command::water_profile, "CHEMICALDIALOG");
+    OpenBrewery brewery;
+    auto& window = brewery.tool(command::water_profile);
     press(window, "show_graph");
-    auto* const chart = Tools::shown("WATERGRAPHDIALOG");
+    auto* const chart = seen_window<WaterChartWindow>();
     ASSERT_NE(chart, nullptr);
     ASSERT_TRUE(QTest::qWaitForWindowExposed(chart));
     press(window, "show_graph");
-    EXPECT_EQ(Tools::shown("WATERGRAPHDIALOG"), chart) << "once at most";
+    EXPECT_EQ(seen_window<WaterChartWindow>(), chart) << "once at most";
     QApplication::processEvents();
     Painted painted(*chart->findChild<QWidget*>("chart"));
-    type_over(*line_of(*window.findChild<QWidget*>("gypsum_rate")), "2");
+    type_into(window, "gypsum_rate", "2");
     QTRY_VERIFY(painted.is_painted);
     EXPECT_EQ(text_of(window, "totals_sulfate"), "294.8");
-    tools.brewery.files.add("burton.jpg");
+    brewery.files.add("burton.jpg");
     press(*chart, "jpg");
-    const auto& picture = tools.brewery.pictures.files.at("burton.jpg");
+    const auto& picture = brewery.pictures.files.at("burton.jpg");
     EXPECT_EQ(picture.height, water_chart_window.height - 30);
     press(*chart, "print");
-    EXPECT_EQ(tools.brewery.pages.jobs.size(), 1U);
+    EXPECT_EQ(brewery.pages.jobs.size(), 1U);
     QTest::keyClick(chart, Qt::Key_Escape);
-    Tools::at_work(window);
-    tools.brewery.prompts.expect(
-        "yes/no/cancel", "The current water profile has been modified!\nDo you want to save the changes?",
-        Answer::cancel, Icon::question);
+    OpenBrewery::at_work(window);
+    brewery.prompts.expect_save("water profile", Answer::cancel);
     QTest::keyClick(&window, Qt::Key_Escape);
     EXPECT_TRUE(window.isVisible());
-    const auto path = tools.brewery.folder / "burton.wtr";
-    tools.brewery.files.add(path);
+    const auto path = brewery.folder / "burton.wtr";
+    brewery.files.add(path);
     QTest::keyClick(&window, Qt::Key_S, Qt::ControlModifier);
     EXPECT_TRUE(stamp_of(path));
     QTest::keyClick(&window, Qt::Key_Escape);
-    EXPECT_FALSE(is_open(tools.brewery.program.tools, command::water_profile));
+    EXPECT_FALSE(is_open(brewery.program.tools, command::water_profile));
 }
 
 TEST(WaterNeedsWindow, ReadsItsFileAtEveryOpening) {
-    Tools tools;
-    auto& program = tools.brewery.program;
-    auto& window = tools.open(command::water_needed, "WATERNEEDSDIALOG");
-    type_over(*line_of(*window.findChild<QWidget*>("sparge")), "5");
-    tools.brewery.prompts.expect("yes/no", "Really Overwrite the Default Water Usage Data?", Answer::yes,
-                                 Icon::question);
+    OpenBrewery brewery;
+    auto& program = brewery.program;
+    auto& window = brewery.tool(command::water_needed);
+    type_into(window, "sparge", "5");
+    brewery.prompts.expect_yes_no("Really Overwrite the Default Water Usage Data?", Answer::yes);
     press(window, "save_default");
     EXPECT_EQ(program.water_usage.sparge, 5) << "a new session begins with it";
-    type_over(*line_of(*window.findChild<QWidget*>("sparge")), "7");
+    type_into(window, "sparge", "7");
     program.settings.cooling_shrink = 0.5F;
     program.notices.tell(Change::settings);
     EXPECT_EQ(text_of(window, "after_cooling"), "  3.50");
     QTest::keyClick(&window, Qt::Key_Escape);
-    auto& again = tools.open(command::water_needed, "WATERNEEDSDIALOG");
+    auto& again = brewery.tool(command::water_needed);
     EXPECT_EQ(text_of(again, "needed"), "  5.00");
     again.close();
 }
