@@ -1,3 +1,4 @@
+#include "base/files.h"
 #include "page/html_writer.h"
 #include "reports/html_theme_form.h"
 #include "support/byte_probe.h"

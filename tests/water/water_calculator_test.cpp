@@ -1,3 +1,4 @@
+#include "base/files.h"
 #include "support/form_user.h"
 #include "support/recording_desk.h"
 #include "support/scripted_user.h"

@@ -1,3 +1,4 @@
+#include "base/files.h"
 #include "base/number.h"
 #include "program/settings_forms/settings_session.h"
 #include "support/scripted_user.h"

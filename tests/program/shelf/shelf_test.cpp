@@ -1,3 +1,4 @@
+#include "base/files.h"
 #include "documents/brewing.h"
 #include "program/shelf/shelf.h"
 #include "program/shelf/shelf_preview.h"
