@@ -6,6 +6,7 @@
 #include "desktop/drawings.h"
 #include "desktop/fields.h"
 #include "desktop/help_keys.h"
+#include "desktop/list_keys.h"
 #include "desktop/list_view.h"
 #include "desktop/qt_text.h"
 #include "desktop/read_aloud.h"
@@ -472,6 +473,8 @@ void FormWidgets::visit(ButtonRow& row) {
         row.press = [this] { ask_for_help(parent_); };
         add_key(*button, QKeySequence::HelpContents);
     }
+    // Heard by the button itself, so in whatever window it stands, and only while it can be pressed.
+    if (row.key == "print") press_in_window(*button, QKeySequence::Print, *button);
     if (!row.press) row.enabled(false);
     QObject::connect(button, &QPushButton::clicked, &alive_, [this, &row] {
         const QPointer<QObject> still(&alive_); // what a button does may close the window

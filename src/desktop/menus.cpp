@@ -9,7 +9,11 @@ QAction& add_action(QMenu& menu, std::string_view caption, int command, const Me
     menu.setToolTipsVisible(true);
     auto* const action = menu.addAction(string_of(caption));
     action->setObjectName(QString::number(command));
-    action->setShortcuts(does.key);
+    if (does.key_is_of_button)
+        action->setText(action->text() + QLatin1Char('\t') +
+                        QKeySequence(does.key).toString(QKeySequence::NativeText));
+    else
+        action->setShortcuts(does.key);
     action->setEnabled(static_cast<bool>(does.action));
     if (!does.action) action->setToolTip(string_of(not_yet));
     if (does.action) QObject::connect(action, &QAction::triggered, action, does.action);

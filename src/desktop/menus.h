@@ -14,6 +14,7 @@ namespace wortlex {
 struct MenuAction {
     std::function<void()> action;
     QKeySequence::StandardKey key = QKeySequence::UnknownKey;
+    bool key_is_of_button = false; ///< a button of the window hears it: heard twice it would do nothing
 };
 
 /// `Entries` are rows with `caption`, `command` and `entries`; `action_of` is asked for each command.

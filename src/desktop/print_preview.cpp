@@ -1,6 +1,8 @@
 #include "desktop/print_preview.h"
 
 #include "base/files.h"
+#include "desktop/captions.h"
+#include "desktop/list_keys.h"
 #include "desktop/message_boxes.h"
 #include "desktop/qt_text.h"
 #include "desktop/tool_window.h"
@@ -13,7 +15,6 @@
 #include <QPushButton>
 #include <QScreen>
 #include <QScrollBar>
-#include <QShortcut>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -111,12 +112,13 @@ PrintPreview::PrintPreview(const PrintRequest& request, const PrintPorts& ports,
     setWindowFlag(Qt::WindowMaximizeButtonHint);
     lay_out_rows();
     pages_.changed = [this] { view_->refresh(); };
-    add_key(QKeySequence::MoveToStartOfLine, "first");
-    add_key(QKeySequence::MoveToPreviousPage, "previous");
-    add_key(QKeySequence::MoveToNextPage, "next");
-    add_key(QKeySequence::MoveToEndOfLine, "last");
-    add_key(QKeySequence::Print, "print");
-    add_key(QKeySequence::Save, "save");
+    for (const auto& [key, button] :
+         {std::pair(QKeySequence::MoveToStartOfLine, "first"),
+          std::pair(QKeySequence::MoveToPreviousPage, "previous"),
+          std::pair(QKeySequence::MoveToNextPage, "next"), std::pair(QKeySequence::MoveToEndOfLine, "last"),
+          std::pair(QKeySequence::Save, "save")})
+        press_in_window(*this, key, widgets_.field(button));
+    add_key(*qobject_cast<QPushButton*>(&widgets_.field("close")), QKeySequence::Cancel);
     view_->setFocus();
 }
 
@@ -155,11 +157,6 @@ void PrintPreview::lay_out_rows() {
     layout->addWidget(view_, 1);
     for (auto* const button : findChildren<QPushButton*>()) button->setAutoDefault(false);
     resize(sizeHint().expandedTo(screen()->availableSize() * 3 / 4));
-}
-
-void PrintPreview::add_key(const QKeySequence& keys, std::string_view button) {
-    connect(new QShortcut(keys, this), &QShortcut::activated,
-            qobject_cast<QPushButton*>(&widgets_.field(button)), &QPushButton::click);
 }
 
 void PrintPreview::print() {

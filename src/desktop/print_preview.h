@@ -45,7 +45,6 @@ public:
 private:
     Form made_form();
     void lay_out_rows();
-    void add_key(const QKeySequence& keys, std::string_view button);
     void print();
     void save();
 

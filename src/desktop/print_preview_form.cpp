@@ -8,15 +8,12 @@ namespace {
 void turning_rows(Rows& rows, PreviewPages& pages) {
     const auto is_behind_first = [&pages] { return pages.current() > 0; };
     const auto is_before_last = [&pages] { return pages.current() + 1 < pages.count(); };
-    rows.button("first", "&First", [&pages] { pages.go_to(0); }).enabled(is_behind_first).hint("Home");
-    rows.button("previous", "&Previous", [&pages] { pages.turn(-1); })
-        .enabled(is_behind_first)
-        .hint("Page Up");
+    rows.button("first", "&First", [&pages] { pages.go_to(0); }).enabled(is_behind_first);
+    rows.button("previous", "&Previous", [&pages] { pages.turn(-1); }).enabled(is_behind_first);
     rows.note("place", [&pages] { return pages.place(); });
-    rows.button("next", "&Next", [&pages] { pages.turn(1); }).enabled(is_before_last).hint("Page Down");
+    rows.button("next", "&Next", [&pages] { pages.turn(1); }).enabled(is_before_last);
     rows.button("last", "&Last", [&pages] { pages.go_to(static_cast<std::ptrdiff_t>(pages.count())); })
-        .enabled(is_before_last)
-        .hint("End");
+        .enabled(is_before_last);
 }
 
 // One half of the choice of paper.
@@ -105,10 +102,9 @@ void preview_form(Form& form, PreviewPages& pages, const PreviewButtons& buttons
         .disabled_because(told_by_sheet);
     rows.button("print", "Prin&t...", buttons.print)
         .enabled(buttons.has_printer)
-        .hint(buttons.has_printer ? "Ctrl+P"
-                                  : "No printer is installed. Save the pages as a PDF file instead.");
-    rows.button("save", "&Save as PDF...", buttons.save).hint("Ctrl+S");
-    rows.button("close", "&Close", buttons.close).hint("Esc");
+        .disabled_because("No printer is installed. Save the pages as a PDF file instead.");
+    rows.button("save", "&Save as PDF...", buttons.save);
+    rows.button("close", "&Close", buttons.close);
 }
 
 } // namespace wortlex

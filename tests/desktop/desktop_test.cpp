@@ -136,7 +136,7 @@ TEST(FormDialog, PrintBearsItsPictureWhereTheSettingsAskForIt) {
     const auto* const button = dialog.findChild<QPushButton*>("print");
     for (const auto* const caption : {"", "&Print"}) {
         EXPECT_EQ(button->text(), caption);
-        EXPECT_EQ(button->accessibleName() + ": " + button->toolTip(), "Print: Print (Alt+P)");
+        EXPECT_EQ(button->accessibleName() + ": " + button->toolTip(), "Print: Print (Alt+P, Ctrl+P)");
         EXPECT_NE(button->icon().isNull(), button->text().isEmpty());
         EXPECT_EQ(button->shortcut(), QKeySequence(QStringLiteral("Alt+P")));
         desk.settings.hide_print_help_bitmaps = 1;

@@ -75,7 +75,8 @@ void DocumentWindow::add_menu(std::function<void()> print_it) {
         {command::close, [this] { close(); }}};
     fill_menu(*menu, document_menu(), [&does](int command) -> MenuAction {
         const auto found = does.find(command);
-        return found == does.end() ? MenuAction{} : MenuAction{found->second, key_of(command)};
+        if (found == does.end()) return {};
+        return {found->second, key_of(command), command == command::print};
     });
     add_edit_menu(*menu);
 }

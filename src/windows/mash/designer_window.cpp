@@ -41,7 +41,6 @@ void DesignerWindow::begin(const std::function<void(Form& form)>& add, std::func
     press_by_key(steps, Qt::Key_Insert, widgets_->field("new_step"));
     press_by_key(steps, QKeySequence::Delete, widgets_->field("delete_step"));
     press_in_window(*this, QKeySequence::Open, widgets_->field("load"));
-    press_in_window(*this, QKeySequence::Print, widgets_->field("print"));
     add_undo_keys(
         *this, [this] { travel(Travel::undo); }, [this] { travel(Travel::redo); });
     close_by_escape();

@@ -73,7 +73,6 @@ WaterCalculatorWindow::WaterCalculatorWindow(const WindowPorts& ports, const Win
     close_by_escape();
     press_in_window(*this, QKeySequence::Open, widgets_.field("load"));
     press_in_window(*this, QKeySequence::Save, widgets_.field("save"));
-    press_in_window(*this, QKeySequence::Print, widgets_.field("print"));
     widgets_.field("pick_target").setFocus();
 }
 

@@ -145,6 +145,18 @@ void read(QWidget& window) {
     }
 }
 
+// Ctrl+P means one button alone.
+void press_print(QWidget& window, const QAbstractButton& button) {
+    int pressed = 0;
+    const QObject listening;
+    QObject::connect(&button, &QAbstractButton::clicked, &listening, [&pressed] { ++pressed; });
+    window.activateWindow(); // there is no window manager to do it
+    const auto name = window.objectName().toStdString();
+    EXPECT_TRUE(QTest::qWaitFor([&window] { return QApplication::activeWindow() == &window; })) << name;
+    QTest::keyClick(&window, Qt::Key_P, Qt::ControlModifier);
+    EXPECT_EQ(pressed, 1) << name;
+}
+
 // Presses whatever opens something, and what opens is read and treated alike.
 class Visitor {
 public:
@@ -183,15 +195,20 @@ private:
         for (auto* const button : window.findChildren<QAbstractButton*>())
             (button->objectName() == "pick" ? last : buttons).append(button);
         for (const auto& button : buttons + last)
-            if (!button.isNull() && opens_something(*button)) press([&] { button->click(); });
+            if (!button.isNull() && opens_something(*button))
+                press([&] {
+                    button->objectName() == "print" ? press_print(window, *button) : button->click();
+                });
     }
 
     static bool opens_something(const QAbstractButton& button) {
         const bool is_pressed = qobject_cast<const QPushButton*>(&button) != nullptr ||
                                 dynamic_cast<const SwatchButton*>(&button) != nullptr;
-        const bool closes = qobject_cast<QDialogButtonBox*>(button.parentWidget()) != nullptr ||
-                            button.objectName() == "ok" || button.objectName() == "cancel";
-        return is_pressed && button.isEnabled() && button.isVisible() && !closes;
+        const bool stands_beside_ok = qobject_cast<QDialogButtonBox*>(button.parentWidget()) != nullptr;
+        const bool may_close =
+            button.objectName() != "print" &&
+            (stands_beside_ok || button.objectName() == "ok" || button.objectName() == "cancel");
+        return is_pressed && button.isEnabled() && button.isVisible() && !may_close;
     }
 
     std::set<QWidget*> open_;
