@@ -280,7 +280,7 @@ std::unique_ptr<EntryForm> Store<Record>::form_on(std::shared_ptr<Record> copy, 
     buttons.button("help", "Help", nullptr);
     entry->form.accept_if([copy, &prompts] {
         const bool has_name = copy->name.view().find_first_not_of(' ') != std::string_view::npos;
-        if (!has_name) prompts.tell({.text = nameless, .icon = Icon::warning});
+        if (!has_name) prompts.tell({.text = nameless, .icon = Icon::warning, .is_advice = true});
         return has_name;
     });
     entry->form.on_accept([copy, store = std::move(store)] { store(*copy); });
@@ -318,7 +318,7 @@ PrintRequest Store<Record>::printout() const {
 template <class Record>
 bool Store<Record>::has_room(Prompts& prompts) const {
     if (database_.count < catalogue_.new_limit) return true;
-    prompts.tell({.text = no_room, .icon = Icon::warning});
+    prompts.tell({.text = no_room, .icon = Icon::warning, .is_advice = true});
     return false;
 }
 
@@ -487,7 +487,7 @@ template <class Record>
 void Store<Record>::finish_import(const Merge& merge, Prompts& prompts) {
     if (merge.left_out > 0) {
         const auto text = database_full(catalogue_.words.full, merge.left_out);
-        prompts.tell({.text = text, .icon = Icon::warning});
+        prompts.tell({.text = text, .icon = Icon::warning, .is_advice = true});
     }
     if (merge.changed > 0 && write(prompts)) prompts.tell({.text = data_imported, .icon = Icon::information});
     show_again();

@@ -100,7 +100,7 @@ bool open_document_file(Program& program, const std::string& path, Prompts& prom
     if (!kind) {
         const auto name = file_name(path);
         const auto text = name + " " + std::string(is_no_document) + ".";
-        prompts.tell({.text = text, .icon = Icon::error, .own = name});
+        prompts.tell({.text = text, .icon = Icon::error, .own = name, .is_advice = true});
         return false;
     }
     return makes_room(program, path, *kind) &&

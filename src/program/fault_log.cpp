@@ -95,7 +95,8 @@ FaultLog user_log() {
 }
 
 void NotedPrompts::tell(const Message& message) {
-    if (message.icon == Icon::error || message.icon == Icon::warning) log_.note(message.text, message.own);
+    const bool is_fault = message.icon == Icon::error || message.icon == Icon::warning;
+    if (is_fault && !message.is_advice) log_.note(message.text, message.own);
     prompts_.tell(message);
 }
 

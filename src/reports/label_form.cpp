@@ -168,8 +168,9 @@ void LabelDesk::set_shift(const PrintShift& shift) {
 
 bool LabelDesk::may_keep(const LabelSheet& sheet) const {
     if (sheet.name.empty() || find_sheet(sheet.name, common_label_sheets()) != nullptr) {
-        prompts.tell(
-            {.text = "A sheet of your own needs a name that no common sheet has.", .icon = Icon::warning});
+        prompts.tell({.text = "A sheet of your own needs a name that no common sheet has.",
+                      .icon = Icon::warning,
+                      .is_advice = true});
         return false;
     }
     const auto* const known = find_sheet(sheet.name, settings.own);
@@ -210,7 +211,8 @@ bool LabelDesk::is_sound() const {
     if (!choice.is_on_sheet() || is_usable(choice.run.sheet)) return true;
     prompts.tell({.text = "The labels do not lie on the paper: their sizes, margins and gaps are more than "
                           "it has.",
-                  .icon = Icon::warning});
+                  .icon = Icon::warning,
+                  .is_advice = true});
     return false;
 }
 

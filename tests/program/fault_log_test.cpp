@@ -48,9 +48,11 @@ TEST(FaultLog, NotesWhatIsToldOfFaultsAndPassesAllOn) {
     NotedPrompts prompts(user, log);
     user.expect_tell("All is well.", Icon::information);
     user.expect("yes/no", "Really?", Answer::yes, Icon::warning);
+    user.expect_tell("It needs a name.", Icon::warning);
     user.expect_tell("It failed.", Icon::error);
     prompts.tell({.text = "All is well.", .icon = Icon::information});
     EXPECT_EQ(prompts.ask_yes_no({.text = "Really?", .icon = Icon::warning}), Answer::yes);
+    prompts.tell({.text = "It needs a name.", .icon = Icon::warning, .is_advice = true});
     prompts.tell({.text = "It failed.", .icon = Icon::error});
     EXPECT_THAT(only_line(log), EndsWith("  It failed.\n"));
 }

@@ -20,6 +20,7 @@ struct Message {
     Icon icon = Icon::none;
     Answer safe = Answer::no;  ///< of a question: what Enter answers, the one by which nothing is lost
     std::string_view own = {}; ///< what is the brewer's own, as a file's name: the log leaves it out
+    bool is_advice = false;    ///< of a warning: it is about what the brewer does, no fault for the log
 };
 
 class Prompts {

@@ -23,7 +23,8 @@ bool has_file_title(const BrewDocument& document, Prompts& prompts) {
                           "filename!\nInvalid characters include  \\   /   :   |   *\n\nRecipe names "
                           "must not contain these characters.",
                   .caption = "Wortlex Warning",
-                  .icon = Icon::warning});
+                  .icon = Icon::warning,
+                  .is_advice = true});
     return false;
 }
 

@@ -47,7 +47,7 @@ void browse_folder(FolderSet& folders, FolderKind kind, Prompts& prompts) {
     const auto chosen = prompts.choose_folder(title(kind), folder_path(folders, kind));
     if (!chosen) return;
     if (chosen->size() >= decltype(FolderSet::recipes)::capacity)
-        return prompts.tell({.text = path_too_long, .icon = Icon::error});
+        return prompts.tell({.text = path_too_long, .icon = Icon::error, .is_advice = true});
     set_folder(folders, kind, *chosen);
 }
 

@@ -115,7 +115,7 @@ void DocumentWindow::reopen() {
 void DocumentWindow::tell_once_shown() {
     if (!document_.file.loaded_from_file) return;
     const auto warning = method_check_on_load(editor_.open.document, editor_.open.settings, document_.kind);
-    if (warning) ports_.prompts.tell({.text = *warning, .icon = Icon::warning});
+    if (warning) ports_.prompts.tell({.text = *warning, .icon = Icon::warning, .is_advice = true});
 }
 
 DocumentSaving DocumentWindow::saving() {

@@ -112,7 +112,7 @@ void SessionWindow::pick_recipe() {
     document().water_to_grain = 0;
     const auto& open = editor().open;
     if (const auto warning = method_check_on_pick(open.document, open.settings))
-        ports().prompts.tell({.text = *warning, .icon = Icon::warning});
+        ports().prompts.tell({.text = *warning, .icon = Icon::warning, .is_advice = true});
 }
 
 void SessionWindow::show_ingredients() {

@@ -22,11 +22,13 @@
 #include <QFile>
 #include <QIcon>
 #include <QLocale>
+#include <QThread>
 #include <QTimer>
 
 #include <exception>
 #include <filesystem>
 #include <future>
+#include <set>
 #include <utility>
 
 namespace wortlex {
@@ -50,12 +52,13 @@ void set_icon() {
     QApplication::setWindowIcon(icon);
 }
 
-// What nobody caught is noted before it ends the program.
+// What nobody caught is noted before it ends the program, and what the toolkit warns of.
 class NotedApplication : public QApplication {
 public:
     // The toolkit keeps a reference to the count.
     NotedApplication(int& count, char** arguments, const FaultLog& log)
-        : QApplication(count, arguments), log_(log) {}
+        : QApplication(count, arguments), log_(log), usual_(qInstallMessageHandler(&hear)) {}
+    ~NotedApplication() override { qInstallMessageHandler(usual_); }
 
     bool notify(QObject* receiver, QEvent* event) override {
         try {
@@ -67,7 +70,22 @@ public:
     }
 
 private:
+    static void hear(QtMsgType kind, const QMessageLogContext& context, const QString& words) {
+        const auto& application = dynamic_cast<const NotedApplication&>(*instance());
+        if (kind == QtWarningMsg || kind == QtCriticalMsg) application.note_warning(words);
+        application.usual_(kind, context, words);
+    }
+
+    // Once a run, up to what may be a file's name. A wrong use of a function names it; other warnings are of
+    // the desktop, and no fault of ours.
+    void note_warning(const QString& words) const {
+        if (QThread::currentThread() != thread() || !words.contains(QLatin1String("::"))) return;
+        if (warnings_.insert(words).second) log_.note(words.section(QLatin1Char('"'), 0, 0).toStdString());
+    }
+
     const FaultLog& log_;
+    QtMessageHandler usual_;
+    mutable std::set<QString> warnings_; ///< noted in this run
     bool is_noted_ = false;
 };
 
