@@ -36,6 +36,11 @@ int mark_percent(const QPalette& palette) {
     return palette.color(QPalette::Active, QPalette::Base).lightness() < 128 ? 36 : 27;
 }
 
+QString shown_caption(const ListRow& row, int column) {
+    auto caption = string_of(row.columns[static_cast<std::size_t>(column)].caption());
+    return row.has_stacked_captions ? caption.replace(QLatin1Char(' '), QLatin1Char('\n')) : caption;
+}
+
 } // namespace
 
 int ListModel::rowCount(const QModelIndex& parent) const {
@@ -104,7 +109,8 @@ QVariant ListModel::headerData(int section, Qt::Orientation orientation, int rol
         const auto hint = row_.columns[static_cast<std::size_t>(section)].hint();
         return hint.empty() ? string_of(meaning_of(caption)) : string_of(hint);
     }
-    return role == Qt::DisplayRole ? QString::fromStdString(caption) : QVariant();
+    if (role == Qt::AccessibleTextRole) return string_of(caption);
+    return role == Qt::DisplayRole ? shown_caption(row_, section) : QVariant();
 }
 
 Qt::ItemFlags ListModel::flags(const QModelIndex& index) const {
@@ -294,8 +300,7 @@ void ListView::size_columns() {
     const int digit = fontMetrics().horizontalAdvance(QLatin1Char('0'));
     for (int column = 0; column < model_->columnCount(); ++column) {
         const auto& told = row_.columns[static_cast<std::size_t>(column)];
-        const int caption =
-            fontMetrics().horizontalAdvance(QString::fromStdString(told.caption())) + 2 * digit;
+        const int caption = fontMetrics().size(0, shown_caption(row_, column)).width() + 2 * digit;
         header()->resizeSection(column, std::max(digit * (told.width + 2), caption));
         header()->setSectionResizeMode(column,
                                        told.stretches ? QHeaderView::Stretch : QHeaderView::Interactive);

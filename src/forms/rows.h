@@ -161,6 +161,11 @@ public:
         glass = std::move(colour);
         return *this;
     }
+    /// Each word of a caption on a line of its own: many columns fit beside each other.
+    ListRow& with_stacked_captions() {
+        has_stacked_captions = true;
+        return *this;
+    }
     /// What stands in its place while it is empty.
     ListRow& when_empty(const Live<std::string>& words) {
         empty_words = words;
@@ -186,6 +191,7 @@ public:
     std::function<bool(std::size_t row)> is_head;
     std::function<bool(std::size_t row)> is_dimmed;
     std::function<std::optional<std::uint32_t>(std::size_t row)> glass;
+    bool has_stacked_captions = false;
     Live<std::string> empty_words = "";
     std::function<void()> activate; ///< double click or Enter on a row
     CellTyping typing;

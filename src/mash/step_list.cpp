@@ -72,14 +72,14 @@ std::vector<ListColumn> step_columns(const MashDesigner& designer) {
         };
     };
     return {{.caption = "Step Name", .width = 20, .stretches = true},
-            {.caption = by_heat("Step Time", "Pull Time"), .is_number = true},
-            {.caption = "Rest Time", .is_number = true},
-            {.caption = "Start Temp", .is_number = true},
-            {.caption = "Stop Temp", .is_number = true},
-            {.caption = "Heat Type"},
-            {.caption = by_heat("Infuse Temp", "Decoc Temp"), .is_number = true},
-            {.caption = by_heat("Infuse Amount", "Decoc Amount"), .is_number = true, .width = 10},
-            {.caption = "Infuse Ratio", .is_number = true}};
+            {.caption = by_heat("Step Time", "Pull Time"), .is_number = true, .width = 4},
+            {.caption = "Rest Time", .is_number = true, .width = 4},
+            {.caption = "Start Temp", .is_number = true, .width = 4},
+            {.caption = "Stop Temp", .is_number = true, .width = 4},
+            {.caption = "Heat Type", .width = 6},
+            {.caption = by_heat("Infuse Temp", "Decoc Temp"), .is_number = true, .width = 4},
+            {.caption = by_heat("Infuse Amount", "Decoc Amount"), .is_number = true, .width = 7},
+            {.caption = "Infuse Ratio", .is_number = true, .width = 5}};
 }
 
 void ask_for_new(MashDesigner& designer, const DesignerActions& actions) {
@@ -107,6 +107,7 @@ void step_list_rows(Rows& rows, MashDesigner& designer, const DesignerActions& a
             end_edit(designer);
         })
         .activated([&designer, actions] { ask_to_rename(designer, actions); })
+        .with_stacked_captions()
         .when_empty("New Step begins the schedule with its dough-in.")
         .hint("Enter or a double click changes the name, the type and the colors of a step")
         .named("Steps");
