@@ -37,7 +37,6 @@ void apply_colours(QWidget& field, ColorArea area, const SystemSettings& setting
     for (const auto group : {QPalette::Active, QPalette::Inactive}) {
         palette.setColor(group, QPalette::Text, text);
         palette.setColor(group, QPalette::Base, ground);
-        palette.setColor(group, QPalette::PlaceholderText, text);
     }
     palette.setColor(QPalette::AlternateBase, toned_ground(palette, shade_percent));
     palette.setColor(QPalette::Disabled, QPalette::Base,

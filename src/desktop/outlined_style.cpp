@@ -61,7 +61,6 @@ QPalette with_faint_words(QPalette palette) {
     const auto faint = toned_ground(palette, faint_percent);
     for (const auto role : {QPalette::Text, QPalette::WindowText, QPalette::ButtonText})
         palette.setColor(QPalette::Disabled, role, faint);
-    palette.setColor(QPalette::PlaceholderText, faint);
     return palette;
 }
 
