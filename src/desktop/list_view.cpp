@@ -166,7 +166,9 @@ ListView::ListView(const ListRow& row, QWidget* parent)
 }
 
 void ListView::keyboardSearch(const QString& text) {
-    typed ? typed(text) : QTreeView::keyboardSearch(text);
+    if (typed) return typed(text);
+    setCurrentIndex(currentIndex().siblingAtColumn(0)); // the toolkit finds by the column that was clicked
+    QTreeView::keyboardSearch(text);
 }
 
 void ListView::keyPressEvent(QKeyEvent* event) {
@@ -319,7 +321,8 @@ void ListView::refresh() {
     model_->reload();
     size_columns();
     const int row = row_.selected == nullptr ? -1 : std::min(*row_.selected, model_->rowCount() - 1);
-    setCurrentIndex(row < 0 ? QModelIndex() : model_->index(row, 0));
+    // In its column: to leave the cell that is typed into would close its field before the list has taken it.
+    setCurrentIndex(model_->index(row, std::max(currentIndex().column(), 0)));
     if (row >= 0 && row_.is_marked && row_.is_marked(static_cast<std::size_t>(row)))
         scrollTo(currentIndex(), PositionAtCenter);
     show_sort_mark();

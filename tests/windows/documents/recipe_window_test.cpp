@@ -2,6 +2,7 @@
 #include "support/kitchen.h"
 
 #include <QDialogButtonBox>
+#include <QTreeView>
 
 namespace wortlex {
 namespace {
@@ -100,8 +101,16 @@ TEST(RecipeWindow, IsWrittenInItsListsWithoutADialog) {
     EXPECT_EQ(recipe.malts[0].amount, 10);
     kitchen.press(Qt::Key_Z, Qt::ControlModifier);
     EXPECT_EQ(recipe.malts[0].amount, 9) << "one step";
-    for (int i = 0; i < 2; ++i) kitchen.prompts.expect_save("recipe", Answer::no);
     Kitchen::activate(kitchen.recipe); // which the list of proposals was before
+    auto& list = *kitchen.recipe->findChild<QTreeView*>("malts");
+    const auto cell = list.visualRect(list.model()->index(0, 4)).center();
+    QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, cell);
+    QTest::mouseDClick(list.viewport(), Qt::LeftButton, {}, cell);
+    kitchen.type("8");
+    kitchen.press(Qt::Key_Tab);
+    EXPECT_EQ(recipe.malts[0].amount, 8);
+    kitchen.press(Qt::Key_Escape); // of the next cell
+    for (int i = 0; i < 2; ++i) kitchen.prompts.expect_save("recipe", Answer::no);
     kitchen.press(Qt::Key_N, Qt::ControlModifier);
     kitchen.type("Next");
     EXPECT_EQ(text_of(*kitchen.recipe, "title"), "Next") << "a new recipe begins with its name";
