@@ -95,7 +95,8 @@ QWidget* SessionPanel::style_part() {
     int column = 0;
     for (const auto* const key : {"min_sg", "max_sg", "min_ibu", "max_ibu", "min_colour", "max_colour"}) {
         auto& field = widgets_.field(key);
-        if (column > 2) field.setFixedWidth(field.minimumWidth() * 3 / 4); // fewer digits than an SG
+        const int digits = column > 2 ? 5 : 7; // of an IBU or a colour, of an SG, with room at both ends
+        field.setFixedWidth(field.fontMetrics().horizontalAdvance(QLatin1Char('0')) * digits);
         add_field(*ranges, widgets_, key, 0, column);
         column += 2;
     }
@@ -130,11 +131,14 @@ QWidget* SessionPanel::measured_part() {
     auto* const grid = new QGridLayout(frame);
     add_gravity(*grid, widgets_, "actual_og", 0);
     add_gravity(*grid, widgets_, "actual_fg", 1);
-    add_field(*grid, widgets_, "actual_efficiency", 2, 0);
-    add_field(*grid, widgets_, "alcohol_by_weight", 3, 0);
-    add_field(*grid, widgets_, "alcohol_by_volume", 4, 0);
-    add_field(*grid, widgets_, "adf", 5, 0);
-    add_field(*grid, widgets_, "rdf", 5, 2);
+    int row = 2;
+    // Their labels, one of them long, reach over the first of the two columns of figures.
+    for (const auto* const key : {"actual_efficiency", "alcohol_by_weight", "alcohol_by_volume"}) {
+        grid->addWidget(widgets_.label(key), row, 0, 1, 3, Qt::AlignRight | Qt::AlignVCenter);
+        grid->addWidget(&widgets_.field(key), row++, 3);
+    }
+    add_field(*grid, widgets_, "adf", row, 0);
+    add_field(*grid, widgets_, "rdf", row, 2);
     grid->setColumnStretch(4, 1);
     return frame;
 }
