@@ -8,6 +8,7 @@
 #include <QGroupBox>
 #include <QHBoxLayout>
 
+#include <algorithm>
 #include <set>
 #include <utility>
 
@@ -85,8 +86,18 @@ private:
                 const auto index = static_cast<std::size_t>(column) - 1;
                 field.setAccessibleName(distinct(cell_name(*label, grid, line, index), *cell));
             }
-            table.addWidget(&field, place, column++);
+            const int columns = columns_of(*cell, grid, line);
+            table.addWidget(&field, place, column++, 1, columns,
+                            columns > 1 ? Qt::AlignLeft : Qt::Alignment());
         }
+    }
+
+    // A button that ends a line early reaches over the columns behind it.
+    static int columns_of(const Row& cell, const GridRow& grid, const GridRow::Line& line) {
+        const auto cells = line.cells.rows();
+        if (&cell != cells.back().get() || dynamic_cast<const ButtonRow*>(&cell) == nullptr) return 1;
+        const auto columns = std::max(grid.captions.size(), cells.size());
+        return static_cast<int>(columns - cells.size()) + 1;
     }
 
     // Cells of lines that are called alike are told apart by their groups, or else by their keys.
