@@ -3,6 +3,7 @@
 #include "desktop/captions.h"
 #include "desktop/dragged_file.h"
 #include "desktop/form_dialog.h"
+#include "desktop/list_keys.h"
 #include "desktop/list_view.h"
 #include "desktop/qt_text.h"
 #include "desktop/scrolled.h"
@@ -237,6 +238,7 @@ void ListWindow::add_keys() {
     if (picked_) return;
     tell("new", Qt::Key_Insert);
     tell("delete", QKeySequence::Delete);
+    press_in_window(*this, QKeySequence::Save, widgets_->field("save"));
     auto& list = widgets_->field("list");
     connect(new QShortcut(QKeySequence::Delete, &list), &QShortcut::activated, this,
             [this] { change([this] { list_.delete_entry(ports_.prompts); }); });
