@@ -3,6 +3,8 @@
 #include "base/text.h"
 
 #include <algorithm>
+#include <array>
+#include <iterator>
 #include <utility>
 
 namespace wortlex {
@@ -18,34 +20,87 @@ std::string in_small_letters(std::string text) {
     return text;
 }
 
-std::vector<std::string> words_of(std::string_view text) {
-    std::vector<std::string> words;
-    for (text = trimmed(text); !text.empty(); text = trimmed(text)) {
-        const auto end = std::min(text.find(' '), text.size());
-        words.push_back(in_small_letters(std::string(text.substr(0, end))));
-        text.remove_prefix(end);
-    }
-    return words;
+// What a question has between its words; nobody looks for it.
+bool is_small_word(std::string_view word) {
+    constexpr std::array words = {"a",     "an",    "and",  "are",     "as",   "at",  "be",  "but",  "by",
+                                  "can",   "do",    "does", "for",     "from", "get", "has", "have", "how",
+                                  "i",     "if",    "in",   "instead", "into", "is",  "it",  "its",  "me",
+                                  "much",  "my",    "no",   "not",     "of",   "on",  "or",  "so",   "than",
+                                  "that",  "the",   "then", "this",    "to",   "too", "was", "what", "when",
+                                  "where", "which", "why",  "will",    "with", "you", "your"};
+    return std::find(words.begin(), words.end(), word) != words.end();
 }
 
-int count_in(std::string_view text, const std::vector<std::string>& words) {
-    return static_cast<int>(std::count_if(words.begin(), words.end(), [&](const std::string& word) {
-        return text.find(word) != std::string_view::npos;
-    }));
+bool is_letter(char letter) {
+    return (letter >= 'a' && letter <= 'z') || (letter >= '0' && letter <= '9') || letter < 0;
 }
-// A title is worth more than a heading, a heading more than words below it.
+
+// Who looks for malts looks for malt.
+std::string without_plural(std::string word) {
+    if (word.size() > 3 && word.back() == 's' && word[word.size() - 2] != 's') word.pop_back();
+    return word;
+}
+
+std::string without_marks(std::string_view word) {
+    constexpr std::string_view marks = "\"'`.,;:?!()";
+    const auto begin = std::min(word.find_first_not_of(marks), word.size());
+    return std::string(word.substr(begin, word.find_last_not_of(marks) + 1 - begin));
+}
+
+// How well a word is found: within another, at the beginning of one, or by itself.
+constexpr int within_word = 1, begins_word = 2, whole_word = 3;
+
+struct WordPlace {
+    std::size_t at = std::string_view::npos;
+    int grade = 0;
+};
+
+bool is_end_of_word(std::string_view rest) {
+    for (const std::string_view ending : {"", "s", "es"})
+        if (rest.starts_with(ending) && (rest.size() == ending.size() || !is_letter(rest[ending.size()])))
+            return true;
+    return false;
+}
+
+WordPlace place_of(std::string_view text, std::string_view word) {
+    WordPlace best;
+    for (auto at = text.find(word); at != text.npos && best.grade < whole_word;
+         at = text.find(word, at + 1)) {
+        const bool begins = at == 0 || !is_letter(text[at - 1]);
+        const int in_word = is_end_of_word(text.substr(at + word.size())) ? whole_word : begins_word;
+        const int grade = begins ? in_word : within_word;
+        if (grade > best.grade) best = {at, grade};
+    }
+    return best;
+}
+
+// A title is worth more than a heading or a keyword, these more than words below them.
 int worth_of(const Block& block) {
     constexpr int of_title = 100, of_heading = 20, of_field = 5;
     if (block.kind == BlockKind::heading) return block.level == 1 ? of_title : of_heading;
+    if (!block.keywords.empty()) return of_heading;
     return leads_of(block).empty() ? 1 : of_field;
 }
 
-// Cut at a blank, and never within a letter of more than one byte.
-std::string excerpt_of(const Block& block) {
-    auto text = plain_text(block.source);
+std::string shown_text(const Block& block) {
+    if (block.kind != BlockKind::table_row) return plain_text(block.source);
+    std::string text;
+    for (const auto& cell : cells_of(block)) text += (text.empty() ? "" : ": ") + cell;
+    return text;
+}
+
+// Of a long block what stands around the first word. Cut at blanks, never within a letter of more than one
+// byte.
+std::string excerpt_of(const Block& block, const std::vector<std::string>& words) {
+    auto text = shown_text(block);
     if (text.size() <= longest_excerpt) return text;
-    const auto blank = text.rfind(' ', longest_excerpt);
-    text.resize(blank == std::string::npos ? 0 : blank);
+    const auto small = in_small_letters(text);
+    auto first = text.size();
+    for (const auto& word : words) first = std::min(first, place_of(small, word).at);
+    if (first > longest_excerpt / 2 && first < text.size())
+        text = "... " + text.substr(text.find(' ', first - longest_excerpt / 3) + 1);
+    if (text.size() <= longest_excerpt) return text;
+    text.resize(text.rfind(' ', longest_excerpt));
     return text + " ...";
 }
 
@@ -81,50 +136,67 @@ const Topic* Handbook::topic(std::string_view page) const {
     return found == topics_.end() ? nullptr : &*found;
 }
 
+std::vector<std::string> Handbook::sought_words(std::string_view text) {
+    std::vector<std::string> all, sought;
+    for (text = trimmed(text); !text.empty(); text = trimmed(text)) {
+        const auto end = std::min(text.find(' '), text.size());
+        auto word = without_plural(in_small_letters(without_marks(text.substr(0, end))));
+        if (!word.empty()) all.push_back(std::move(word));
+        text.remove_prefix(end);
+    }
+    std::copy_if(all.begin(), all.end(), std::back_inserter(sought),
+                 [](const std::string& word) { return !is_small_word(word); });
+    return sought.empty() ? all : sought;
+}
+
 void Handbook::read_pages() {
     if (!pages_.empty()) return;
     for (const auto& topic : topics_) {
         if (topic.page.empty()) continue;
         Searched page{&topic, blocks_of(source_(topic.page)), {}};
         for (const auto& block : page.blocks)
-            page.texts.push_back(in_small_letters(plain_text(block.source)));
+            page.texts.push_back(in_small_letters(shown_text(block) + block.keywords));
         pages_.push_back(std::move(page));
     }
 }
 
-std::optional<Handbook::Hit> Handbook::hit_of(const Searched& page, const std::vector<std::string>& words) {
+Handbook::Hit Handbook::hit_of(const Searched& page, const std::vector<std::string>& words) {
     Hit hit;
-    int best_worth = 0;
-    const bool has_all = std::all_of(words.begin(), words.end(), [&](const std::string& word) {
-        return std::any_of(page.texts.begin(), page.texts.end(),
-                           [&](const std::string& text) { return text.find(word) != std::string::npos; });
-    });
-    if (!has_all) return std::nullopt;
+    std::vector<int> grades(words.size(), 0);
+    int most_found = 0;
     for (std::size_t i = 0; i < page.blocks.size(); ++i) {
         const auto& block = page.blocks[i];
-        const int found = count_in(page.texts[i], words);
-        const int worth = found * found * worth_of(block);
-        hit.worth += worth;
-        if (block.kind == BlockKind::heading || worth <= best_worth) continue;
-        best_worth = worth;
+        int found = 0;
+        for (std::size_t word = 0; word < words.size(); ++word) {
+            const int grade = place_of(page.texts[i], words[word]).grade;
+            grades[word] = std::max(grades[word], grade);
+            found += grade;
+        }
+        if (found == 0) continue;
+        hit.worth += found * found * worth_of(block);
+        if (block.kind == BlockKind::heading || block.kind == BlockKind::picture || found <= most_found)
+            continue;
+        most_found = found;
         hit.best = &block;
     }
+    hit.grade = *std::min_element(grades.begin(), grades.end());
     return hit;
 }
 
 std::vector<Found> Handbook::search(std::string_view text) {
-    const auto words = words_of(text);
+    const auto words = sought_words(text);
     if (words.empty()) return {};
     read_pages();
-    std::vector<std::pair<int, Found>> ranked;
+    std::vector<std::pair<Hit, const Topic*>> ranked;
     for (const auto& page : pages_)
-        if (const auto hit = hit_of(page, words))
-            ranked.push_back({hit->worth, {page.topic, hit->best == nullptr ? "" : excerpt_of(*hit->best)}});
-    std::stable_sort(ranked.begin(), ranked.end(),
-                     [](const auto& one, const auto& other) { return one.first > other.first; });
+        if (const auto hit = hit_of(page, words); hit.grade > 0) ranked.emplace_back(hit, page.topic);
+    std::stable_sort(ranked.begin(), ranked.end(), [](const auto& one, const auto& other) {
+        return std::pair(one.first.grade, one.first.worth) > std::pair(other.first.grade, other.first.worth);
+    });
     std::vector<Found> found;
     found.reserve(ranked.size());
-    for (auto& [worth, page] : ranked) found.push_back(std::move(page));
+    for (const auto& [hit, topic] : ranked)
+        found.push_back({topic, hit.best == nullptr ? "" : excerpt_of(*hit.best, words)});
     return found;
 }
 

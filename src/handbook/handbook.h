@@ -4,7 +4,6 @@
 #include "handbook/markdown.h"
 
 #include <functional>
-#include <optional>
 
 namespace wortlex {
 
@@ -40,8 +39,11 @@ public:
 
     /// Reads all pages for a search, once; the first search does so itself, which then takes longer.
     void read_pages();
-    /// Pages that hold every word, or its beginning or part, in any capitals, the best first.
+    /// Pages that hold every word, in any capitals: first where all stand by themselves, then where they
+    /// begin others, then where they are parts of others.
     std::vector<Found> search(std::string_view text);
+    /// What of a question is looked for, in small letters: not "how", "of", and the like, and no plurals.
+    static std::vector<std::string> sought_words(std::string_view text);
 
     /// What a page says of the field with this caption: the words of the list item that begins with it,
     /// or with the same in another unit.
@@ -51,15 +53,16 @@ private:
     struct Searched {
         const Topic* topic;
         std::vector<Block> blocks;
-        std::vector<std::string> texts; ///< of the blocks, plain and in small letters
+        std::vector<std::string> texts; ///< of the blocks with their keywords, plain and in small letters
     };
 
     struct Hit {
+        int grade = 0; ///< of the word that is found worst; 0 if one is missing
         int worth = 0;
         const Block* best = nullptr; ///< none where only headings hold the words
     };
 
-    static std::optional<Hit> hit_of(const Searched& page, const std::vector<std::string>& words);
+    static Hit hit_of(const Searched& page, const std::vector<std::string>& words);
 
     PageSource source_;
     std::vector<Topic> topics_;

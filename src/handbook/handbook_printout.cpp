@@ -52,7 +52,7 @@ bool parts(BlockKind above, BlockKind below) {
 } // namespace
 
 PrintRequest handbook_printout(const std::string& title, const std::string& markdown, float printer_scale) {
-    return {title, printer_scale, [title, blocks = blocks_of(markdown)](PageContext& page) {
+    return {title, printer_scale, [title, blocks = blocks_of(shown_markdown(markdown))](PageContext& page) {
                 page.SetHeader(0, "Wortlex Handbook, " + title);
                 std::optional<BlockKind> above;
                 for (const auto& block : blocks) {

@@ -17,6 +17,19 @@ std::string_view take_line(std::string_view& text) {
     return line;
 }
 
+// Takes the comment out of a line: "words <!-- keywords -->".
+std::string take_comment(std::string& line) {
+    constexpr std::string_view opening = "<!--", closing = "-->";
+    const auto begin = line.find(opening);
+    const auto end = line.find(closing, begin);
+    if (begin == std::string::npos || end == std::string::npos) return {};
+    const auto words = begin + opening.size();
+    const std::string comment(trimmed(std::string_view(line).substr(words, end - words)));
+    line.erase(begin, end + closing.size() - begin);
+    line.erase(line.find_last_not_of(' ') + 1);
+    return comment;
+}
+
 std::size_t indent_of(std::string_view line) {
     return std::min(line.find_first_not_of(' '), line.size());
 }
@@ -36,7 +49,17 @@ std::size_t item_mark(std::string_view words) {
 
 class Reader {
 public:
-    void read(std::string_view line) {
+    void read(std::string line) {
+        const auto keywords = take_comment(line);
+        if (keywords.empty()) return read_shown(line);
+        if (!line.empty()) read_shown(line);
+        if (!blocks.empty()) blocks.back().keywords.append(" ").append(keywords);
+    }
+
+    std::vector<Block> blocks;
+
+private:
+    void read_shown(std::string_view line) {
         const auto words = trimmed(line);
         if (words.substr(0, fence.size()) == fence) {
             is_fenced_ = !is_fenced_;
@@ -50,9 +73,6 @@ public:
         }
     }
 
-    std::vector<Block> blocks;
-
-private:
     void read_words(std::string_view words, int depth) {
         const auto marks = std::min(words.find_first_not_of('#'), words.size());
         if (marks > 0) return add(BlockKind::heading, static_cast<int>(marks), trimmed(words.substr(marks)));
@@ -106,8 +126,21 @@ private:
 
 std::vector<Block> blocks_of(std::string_view markdown) {
     Reader reader;
-    while (!markdown.empty()) reader.read(take_line(markdown));
+    while (!markdown.empty()) reader.read(std::string(take_line(markdown)));
     return std::move(reader.blocks);
+}
+
+std::string shown_markdown(std::string_view markdown) {
+    constexpr std::string_view arrow = "\u2192 ", bound_arrow = "\u2192\u00A0";
+    std::string shown;
+    while (!markdown.empty()) {
+        std::string line(take_line(markdown));
+        if (!take_comment(line).empty() && line.empty()) continue;
+        for (auto at = line.find(arrow); at != std::string::npos; at = line.find(arrow, at + 1))
+            line.replace(at, arrow.size(), bound_arrow);
+        shown.append(line).append("\n");
+    }
+    return shown;
 }
 
 std::vector<EmphasisRun> runs_of(std::string_view source) {

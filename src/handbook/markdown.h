@@ -13,9 +13,13 @@ enum class BlockKind { heading, paragraph, item, table_row, fenced, picture };
 
 struct Block {
     BlockKind kind = BlockKind::paragraph;
-    int level = 0;      ///< of a heading, from 1; of an item, how deep its list lies
-    std::string source; ///< without the mark that it begins with; cells of a table keep their bars
+    int level = 0;          ///< of a heading, from 1; of an item, how deep its list lies
+    std::string source;     ///< without the mark that it begins with; cells of a table keep their bars
+    std::string keywords{}; ///< by which brewers look for it; they stand in comments, and are never shown
 };
+
+/// As a page is shown: without its comments, and with what follows an arrow bound to it.
+std::string shown_markdown(std::string_view markdown);
 
 /// Lines that follow each other belong to one paragraph or item, but each fenced line is its own block. The
 /// line below a table's head is left out.

@@ -1,6 +1,7 @@
-// The worked examples of the handbook, each a line "... numbers ... -> ... numbers ..." in a fenced block
+// The worked examples of the handbook, each a line "... numbers ... → ... numbers ..." in a fenced block
 // with its name, are worked out anew by the functions that the windows use. A number is right to its last
-// decimal. The same in another unit may stand behind it: "5 gallons (18.9 L)".
+// decimal. The same in another unit may stand behind it: "5 gallons (18.9 L)"; what stands in metric units
+// alone is worked out in those of the files.
 #include "base/number.h"
 #include "brewing/calendar.h"
 #include "brewing/carbonation.h"
@@ -42,8 +43,23 @@ const Settings& plain_settings() {
 
 struct Told {
     float number;
-    int decimals;
+    double last_digit; ///< what one more in the last decimal is
 };
+
+// In the units of the files: what follows a number may be metric.
+Told told_in_units(const std::string& digits, const std::string& rest) {
+    static const std::regex metric(R"(^ (kg|L|g|C)\b)");
+    static const std::map<std::string, double> factors = {
+        {"kg", 1 / 0.45359237}, {"L", 1 / 3.785411784}, {"g", 1 / 28.349523}, {"C", 1.8}};
+    const auto point = digits.find('.');
+    const auto decimals = point == std::string::npos ? 0 : static_cast<int>(digits.size() - point - 1);
+    const double number = leading_number(digits);
+    const double last_digit = std::pow(10, -decimals);
+    std::smatch unit;
+    if (!std::regex_search(rest, unit, metric)) return {narrow(number), last_digit};
+    const double factor = factors.at(unit[1]);
+    return {narrow(number * factor + (unit[1] == "C" ? 32 : 0)), last_digit * factor};
+}
 
 // Digits that belong to a word, as in CaCO3, are none.
 std::vector<Told> numbers_in(const std::string& text) {
@@ -54,10 +70,7 @@ std::vector<Told> numbers_in(const std::string& text) {
         auto end = text.find_first_not_of("0123456789.", at);
         if (end == std::string::npos) end = text.size();
         if (at == 0 || std::isalpha(static_cast<unsigned char>(text[at - 1])) == 0) {
-            const auto word = text.substr(at, end - at);
-            const auto point = word.find('.');
-            numbers.push_back({narrow(leading_number(word)),
-                               point == std::string::npos ? 0 : static_cast<int>(word.size() - point - 1)});
+            numbers.push_back(told_in_units(text.substr(at, end - at), text.substr(end)));
         }
         at = end - 1;
     }
@@ -73,8 +86,7 @@ void check_units(const std::smatch& told, const std::string& page) {
         {"pounds kg", number * 0.453592}, {"ounces g", number * 28.3495},  {"ounce g", number * 28.3495},
         {"F C", (number - 32) / 1.8}};
     const auto metric = numbers_in(told[3]).at(0);
-    EXPECT_NEAR(converted.at(told[2].str() + ' ' + told[4].str()), metric.number,
-                0.52 * std::pow(10, -metric.decimals))
+    EXPECT_NEAR(converted.at(told[2].str() + ' ' + told[4].str()), metric.number, 0.52 * metric.last_digit)
         << page << ": " << told[0];
 }
 
@@ -134,8 +146,10 @@ Numbers ebc(const Numbers& in) {
 }
 
 Numbers efficiency(const Numbers& in) {
-    const auto document = document_of(in, 1, in.at(2), &MaltRecord::potential);
-    const auto figures = session_efficiency(document, {}, in.at(4), in.at(3), plain_settings());
+    const auto malts = (in.size() - 3) / 2;
+    const auto* const measured = &in.at(2 * malts);
+    const auto document = document_of(in, malts, measured[0], &MaltRecord::potential);
+    const auto figures = session_efficiency(document, {}, measured[2], measured[1], plain_settings());
     return {figures.achieved_points, figures.efficiency * 100};
 }
 
@@ -143,6 +157,13 @@ Numbers alcohol(const Numbers& in) {
     const auto by_weight = alcohol_by_weight(in[0], in[1]);
     return {by_weight, alcohol_by_volume(by_weight, in[1]), apparent_attenuation(in[0], in[1]),
             real_attenuation(in[0], in[1]), residual_extract(in[0], in[1])};
+}
+
+// A warm sample before fermentation, a cool one after it.
+Numbers brewed(const Numbers& in) {
+    auto figures = alcohol({corrected_gravity(in.at(0), in.at(1), hydrometer_error(in.at(2))), in.at(3)});
+    figures.pop_back(); // no window of a session shows the residual extract
+    return figures;
 }
 
 Numbers brix_wort(const Numbers& in) {
@@ -248,6 +269,7 @@ Numbers worked_out(const std::string& name, const Numbers& in) {
     if (name == "refractometer_alcohol") return brix_beer(in);
     if (name == "plato") return {sg_to_plato(in[0])};
     if (name == "alcohol") return alcohol(in);
+    if (name == "brewed") return brewed(in);
     if (name == "dilution") return {diluted_gravity(in[1], in[0], in[2])};
     if (name == "blend") return {blended_gravity({in[0], in[1]}, {in[2], in[3]})};
     if (name == "evaporation_rate") return boiled_away(in);
@@ -289,7 +311,7 @@ Numbers worked_out(const std::string& name, const Numbers& in) {
 
 void check(const std::string& name, const std::string& whole_line, const std::string& page) {
     const auto line = without_other_units(whole_line);
-    const auto arrow = line.find("->");
+    const auto arrow = line.find("\u2192");
     ASSERT_NE(arrow, std::string::npos) << page << ": " << line;
     Numbers given;
     for (const auto& number : numbers_in(line.substr(0, arrow))) given.push_back(number.number);
@@ -297,8 +319,7 @@ void check(const std::string& name, const std::string& whole_line, const std::st
     const auto told = numbers_in(line.substr(arrow));
     ASSERT_EQ(told.size(), result.size()) << page << ": " << line;
     for (std::size_t i = 0; i < told.size(); ++i)
-        EXPECT_NEAR(result[i], told[i].number, 0.52 * std::pow(10, -told[i].decimals))
-            << page << ": " << line;
+        EXPECT_NEAR(result[i], told[i].number, 0.52 * told[i].last_digit) << page << ": " << line;
 }
 
 TEST(Handbook, ItsExamplesAreWhatTheProgramWorksOut) {
