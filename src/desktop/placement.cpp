@@ -116,7 +116,7 @@ bool WindowPlace::is_to_be_remembered(const QEvent& event) const {
     return has_gone || (has_moved && window_.isVisible());
 }
 
-void WindowPlace::put() {
+void WindowPlace::put(const std::optional<Rectangle>& first) {
     if (std::exchange(is_put_, true)) return;
     if (!window_.testAttribute(Qt::WA_Resized)) window_.resize(fitting_size(window_));
     auto screens = screen_rectangles();
@@ -128,7 +128,7 @@ void WindowPlace::put() {
         const auto origin = origin_ != nullptr ? rectangle_of(*origin_->window())
                             : !screens.empty() ? screens.front()
                                                : Rectangle{0, 0, 640, 480};
-        place = centred_over(origin, window_.width(), window_.height());
+        place = first.value_or(centred_over(origin, window_.width(), window_.height()));
     }
     place = within_screens(place, screens);
     // What was smaller than the window can be would grow beyond the edge.

@@ -8,6 +8,7 @@
 #include <QPointer>
 #include <QWidget>
 
+#include <optional>
 #include <span>
 
 namespace wortlex {
@@ -34,8 +35,9 @@ class WindowPlace : public QObject {
 public:
     /// The window owns it. `slot` may be `no_place`.
     WindowPlace(QWidget& window, QWidget* origin, int slot, const Places& places);
-    /// To be called before the window is first shown; later calls do nothing.
-    void put();
+    /// To be called before the window is first shown; later calls do nothing. `first` is where it comes up
+    /// as long as no place is remembered.
+    void put(const std::optional<Rectangle>& first = {});
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:

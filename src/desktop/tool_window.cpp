@@ -53,7 +53,7 @@ ToolWindow::ToolWindow(const WindowInfo& info, std::size_t use, Opener opener, Q
 }
 
 void ToolWindow::setVisible(bool visible) {
-    if (visible) place_.put();
+    if (visible) place_.put(first_place());
     QWidget::setVisible(visible);
     if (!visible || focusWidget() == nullptr) return;
     QFocusEvent entered(QEvent::FocusIn, Qt::TabFocusReason); // as a dialog does: a field selects its text

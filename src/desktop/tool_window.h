@@ -6,6 +6,7 @@
 #include <QPushButton>
 
 #include <functional>
+#include <optional>
 
 namespace wortlex {
 
@@ -56,6 +57,8 @@ protected:
     /// Whether nothing stands against closing; asks the user where there is unsaved work.
     virtual bool may_close() { return true; }
     void closeEvent(QCloseEvent* event) override;
+    /// Where it comes up as long as no place is remembered; centred on its origin if it does not care.
+    virtual std::optional<Rectangle> first_place() const { return std::nullopt; }
 
     void close_by_escape();
     /// An OK that closes, as Esc does.
