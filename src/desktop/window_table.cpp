@@ -214,7 +214,7 @@ constexpr std::array windows = {
     WindowInfo{"HTMLDIALOG", {"HTML Theme Settings"}, no_places, "html_themes"},
     WindowInfo{"ABOUTDIALOG", {"About Wortlex"}, no_places, "main_window"},
     WindowInfo{"LOGDIALOG", {"Wortlex Log"}, no_places, "log"},
-    WindowInfo{"HANDBOOKWINDOW", {"Wortlex Help"}, no_places, "help"},
+    WindowInfo{"HANDBOOKWINDOW", {"Wortlex Help"}, from_main(103), "help"},
 };
 
 } // namespace

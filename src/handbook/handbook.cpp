@@ -89,16 +89,20 @@ std::string shown_text(const Block& block) {
     return text;
 }
 
-// Of a long block what stands around the first word. Cut at blanks, never within a letter of more than one
-// byte.
+// Of a long block the sentence of the first word, or what stands around it. Cut at blanks, never within a
+// letter of more than one byte.
 std::string excerpt_of(const Block& block, const std::vector<std::string>& words) {
     auto text = shown_text(block);
     if (text.size() <= longest_excerpt) return text;
     const auto small = in_small_letters(text);
     auto first = text.size();
     for (const auto& word : words) first = std::min(first, place_of(small, word).at);
-    if (first > longest_excerpt / 2 && first < text.size())
-        text = "... " + text.substr(text.find(' ', first - longest_excerpt / 3) + 1);
+    if (first > longest_excerpt / 2 && first < text.size()) {
+        const auto sentence = text.rfind(". ", first);
+        const bool is_near = sentence != std::string::npos && first - sentence < longest_excerpt / 2;
+        text = is_near ? text.substr(sentence + 2)
+                       : "... " + text.substr(text.find(' ', first - longest_excerpt / 3) + 1);
+    }
     if (text.size() <= longest_excerpt) return text;
     text.resize(text.rfind(' ', longest_excerpt));
     return text + " ...";

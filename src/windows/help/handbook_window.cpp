@@ -7,10 +7,10 @@
 
 #include <QHBoxLayout>
 #include <QKeyEvent>
+#include <QRegularExpression>
+#include <QScreen>
 #include <QScrollBar>
 #include <QShortcut>
-#include <QSplitter>
-#include <QTextBlock>
 #include <QTextCursor>
 #include <QTextTable>
 #include <QTimer>
@@ -24,6 +24,7 @@ namespace wortlex {
 namespace {
 
 constexpr int page_role = Qt::UserRole; // of an entry: the page that it opens
+constexpr int first_width_letters = 80, narrow_letters = 110, contents_letters = 40;
 
 QUrl url_of(std::string_view page) {
     return {QStringLiteral("qrc:/help/%1.md").arg(string_of(page))};
@@ -68,8 +69,15 @@ void dress_block(const QTextBlock& block, int room, const QBrush& ground) {
 
 } // namespace
 
+// Back and Forward go past `doSetSource`.
+PageReader::PageReader(QWidget* parent) : QTextBrowser(parent) {
+    connect(this, &QTextBrowser::sourceChanged, this, [this] { dress(); });
+}
+
 QVariant PageReader::loadResource(int type, const QUrl& name) {
     auto resource = QTextBrowser::loadResource(type, name);
+    if (type == QTextDocument::MarkdownResource)
+        return QByteArray::fromStdString(shown_markdown(resource.toByteArray().toStdString()));
     if (type != QTextDocument::ImageResource) return resource;
     QImage picture;
     if (!picture.loadFromData(resource.toByteArray())) return resource;
@@ -82,7 +90,21 @@ void PageReader::doSetSource(const QUrl& url, QTextDocument::ResourceType type) 
     const bool is_page = !page_at(url).empty() && (url.isRelative() || url.scheme() == QLatin1String("qrc"));
     if (!is_page) return; // no link leaves the handbook
     QTextBrowser::doSetSource(url, type);
-    dress();
+}
+
+void PageReader::resizeEvent(QResizeEvent* event) {
+    QTextBrowser::resizeEvent(event);
+    if (event->size().width() == event->oldSize().width()) return;
+    for (auto block = document()->begin(); block.isValid(); block = block.next())
+        for (auto part = block.begin(); !part.atEnd(); ++part)
+            if (part.fragment().charFormat().isImageFormat()) fit_picture(part.fragment());
+}
+
+void PageReader::fit_picture(const QTextFragment& picture) {
+    const auto name = document()->baseUrl().resolved(QUrl(picture.charFormat().toImageFormat().name()));
+    document()->addResource(QTextDocument::ImageResource, name,
+                            loadResource(QTextDocument::ImageResource, name));
+    document()->markContentsDirty(picture.position(), picture.length());
 }
 
 void PageReader::dress() {
@@ -101,34 +123,69 @@ void PageReader::changeEvent(QEvent* event) {
 
 HandbookWindow::HandbookWindow(Handbook& handbook, const Places& places, PageDesk& pages, QWidget* origin)
     : ToolWindow(window_info("HANDBOOKWINDOW"), 0, Opener::main, origin, places), handbook_(handbook),
-      settings_(places.settings), pages_(pages), find_line_(new FindLine(this)),
+      settings_(places.settings), pages_(pages), origin_(origin), find_line_(new FindLine(this)),
       found_count_(new QLabel(this)), side_(new QStackedWidget(this)), contents_(new QTreeWidget(side_)),
-      found_(new QListWidget(side_)), reader_(new PageReader(this)) {
+      found_(new QListWidget(side_)), reader_(new PageReader(this)), split_(new QSplitter(this)),
+      left_(new QWidget(split_)) {
+    setAttribute(Qt::WA_DeleteOnClose, false); // what was read is gone back to after it was closed, too
     make_contents();
     make_find_line();
-    auto* const left = new QWidget(this);
-    auto* const column = new QVBoxLayout(left);
+    auto* const column = new QVBoxLayout(left_);
     column->setContentsMargins(0, 0, 0, 0);
     column->addWidget(find_line_);
     column->addWidget(side_, 1);
     column->addWidget(found_count_);
     found_count_->hide();
-    auto* const split = new QSplitter(this);
-    split->addWidget(left);
-    split->addWidget(reader_);
-    split->setStretchFactor(1, 1);
-    split->setChildrenCollapsible(false);
+    split_->addWidget(reader_);
+    split_->setStretchFactor(1, 1);
+    split_->setChildrenCollapsible(false);
     auto* const layout = new QVBoxLayout(this);
     layout->addLayout(bar());
-    layout->addWidget(split, 1);
+    layout->addWidget(split_, 1);
     reader_->setAccessibleName(QStringLiteral("Page"));
     connect(reader_, &QTextBrowser::sourceChanged, this, [this](const QUrl& url) { follow_page(url); });
     add_keys();
-    const int letter = fontMetrics().averageCharWidth();
-    split->setSizes({40 * letter, 110 * letter});
-    resize(150 * letter, 48 * fontMetrics().height());
     reader_->setFocus();
     QTimer::singleShot(0, this, [this] { handbook_.read_pages(); }); // before anybody types
+}
+
+// At the edge of the screen, high and narrow, beside what is worked in.
+std::optional<Rectangle> HandbookWindow::first_place() const {
+    const auto area = (origin_ != nullptr ? origin_->screen() : screen())->availableGeometry();
+    const int right = area.left() + area.width();
+    const int width = first_width_letters * fontMetrics().averageCharWidth();
+    return Rectangle{right - width, area.top(), right, area.top() + area.height()};
+}
+
+void HandbookWindow::closeEvent(QCloseEvent* event) {
+    ToolWindow::closeEvent(event);
+    if (!event->isAccepted()) return;
+    find_line_->clear();
+    reader_->setFocus();
+}
+
+void HandbookWindow::resizeEvent(QResizeEvent* event) {
+    ToolWindow::resizeEvent(event);
+    divide();
+}
+
+// Where it is narrow, the contents leave their room to the page, and what is found stands above it.
+HandbookWindow::Division HandbookWindow::wanted_division() const {
+    if (width() >= narrow_letters * fontMetrics().averageCharWidth()) return Division::beside;
+    return side_->currentWidget() == found_ ? Division::found_above : Division::page_alone;
+}
+
+void HandbookWindow::divide() {
+    const auto wanted = wanted_division();
+    if (std::exchange(division_, wanted) == wanted) return;
+    split_->setOrientation(wanted == Division::beside ? Qt::Horizontal : Qt::Vertical);
+    side_->setVisible(wanted != Division::page_alone);
+    left_->setMaximumHeight(wanted == Division::page_alone ? find_line_->sizeHint().height()
+                                                           : QWIDGETSIZE_MAX);
+    const int side = contents_letters * fontMetrics().averageCharWidth();
+    if (wanted == Division::beside) return split_->setSizes({side, width() - side});
+    const int above = wanted == Division::found_above ? height() / 3 : left_->maximumHeight();
+    split_->setSizes({above, height() - above});
 }
 
 void HandbookWindow::make_contents() {
@@ -234,6 +291,7 @@ void HandbookWindow::search(const QString& words) {
     const bool is_blank = words.trimmed().isEmpty();
     found_count_->setVisible(!is_blank);
     side_->setCurrentWidget(is_blank ? static_cast<QWidget*>(contents_) : found_);
+    divide();
     found_count_->setText(all.empty()       ? QStringLiteral("Nothing found")
                           : all.size() == 1 ? QStringLiteral("1 page found")
                                             : QStringLiteral("%1 pages found").arg(all.size()));
@@ -245,16 +303,23 @@ void HandbookWindow::go_into_found() {
     found_->setCurrentRow(0);
 }
 
-// Every place of each word that was looked for; the page begins with the first.
+// Every place of each word that was looked for, within others only if it begins none; the page begins with
+// the first.
 void HandbookWindow::mark_words() {
     QTextEdit::ExtraSelection mark;
     mark.format.setBackground(palette().highlight());
     mark.format.setForeground(palette().highlightedText());
     QList<QTextEdit::ExtraSelection> marks;
-    for (const auto& word : find_line_->text().split(QLatin1Char(' '), Qt::SkipEmptyParts)) {
-        mark.cursor = reader_->document()->find(word);
-        for (; !mark.cursor.isNull(); mark.cursor = reader_->document()->find(word, mark.cursor))
-            marks << mark;
+    for (const auto& word : Handbook::sought_words(find_line_->text().toStdString())) {
+        const auto part = QRegularExpression::escape(string_of(word));
+        const auto before = marks.size();
+        for (const auto& way : {QStringLiteral("\\b") + part, part}) {
+            if (marks.size() > before) break;
+            const QRegularExpression sought(way, QRegularExpression::CaseInsensitiveOption);
+            mark.cursor = reader_->document()->find(sought);
+            for (; !mark.cursor.isNull(); mark.cursor = reader_->document()->find(sought, mark.cursor))
+                marks << mark;
+        }
     }
     reader_->setExtraSelections(marks);
     if (marks.isEmpty()) return;

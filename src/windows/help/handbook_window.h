@@ -8,25 +8,31 @@
 
 #include <QLabel>
 #include <QListWidget>
+#include <QPointer>
+#include <QSplitter>
 #include <QStackedWidget>
+#include <QTextBlock>
 #include <QTextBrowser>
 #include <QTreeWidget>
 
 namespace wortlex {
 
-/// A page of the handbook as it is read. Links lead to other pages and nowhere else.
+/// A page of the handbook as it is read, dressed alike however it is come to. Links lead to other pages and
+/// nowhere else.
 class PageReader : public QTextBrowser {
 public:
-    explicit PageReader(QWidget* parent) : QTextBrowser(parent) {}
-    /// Pictures are no wider than the page.
+    explicit PageReader(QWidget* parent);
+    /// Pictures are no wider than the page; its words as they are to be shown.
     QVariant loadResource(int type, const QUrl& name) override;
 
 protected:
     void changeEvent(QEvent* event) override;
     void doSetSource(const QUrl& url, QTextDocument::ResourceType type) override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
     void dress();
+    void fit_picture(const QTextFragment& picture);
 };
 
 class HandbookWindow : public ToolWindow {
@@ -34,7 +40,17 @@ public:
     HandbookWindow(Handbook& handbook, const Places& places, PageDesk& pages, QWidget* origin);
     void open(std::string_view page);
 
+protected:
+    std::optional<Rectangle> first_place() const override;
+    void closeEvent(QCloseEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+
 private:
+    /// How the window divides itself.
+    enum class Division { beside, page_alone, found_above };
+
+    Division wanted_division() const;
+    void divide();
     void make_contents();
     void make_find_line();
     QLayout* bar();
@@ -51,12 +67,16 @@ private:
     Handbook& handbook_;
     const SystemSettings& settings_;
     PageDesk& pages_;
+    QPointer<QWidget> origin_;
+    std::optional<Division> division_;
     FindLine* find_line_;
     QLabel* found_count_;
     QStackedWidget* side_;
     QTreeWidget* contents_;
     QListWidget* found_;
     PageReader* reader_;
+    QSplitter* split_;
+    QWidget* left_;
 };
 
 } // namespace wortlex

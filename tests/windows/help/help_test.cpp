@@ -58,12 +58,59 @@ TEST(Help, OpensThePageOfItsWindowInOneHandbook) {
     EXPECT_FALSE(any_open(program.program.tools)) << "the settings may be changed beside the handbook";
     QTest::keyClick(handbook, Qt::Key_Escape);
     EXPECT_FALSE(handbook->isVisible());
+    program.main.commands().start(command::tutorials);
+    use_handbook();
+    QTest::keyClick(open_handbook(), Qt::Key_Left, Qt::AltModifier);
+    EXPECT_EQ(title_of(*open_handbook()), "Hydrometer") << "what was read before it was closed";
+}
+
+// Blocks that are set in, as examples are.
+int dressed_blocks(const HandbookWindow& handbook) {
+    int dressed = 0;
+    const auto* const page = handbook.findChild<QTextBrowser*>()->document();
+    for (auto block = page->begin(); block.isValid(); block = block.next())
+        dressed += block.blockFormat().hasProperty(QTextFormat::BlockCodeFence) &&
+                   !block.blockFormat().nonBreakableLines();
+    return dressed;
+}
+
+TEST(Help, APageLooksTheSameHoweverItIsComeTo) {
+    Helped program;
+    program.tool(command::hydrometer).findChild<QPushButton*>("help")->click();
+    auto* const handbook = use_handbook();
+    const int dressed = dressed_blocks(*handbook);
+    EXPECT_GT(dressed, 0);
+    QTest::keyClick(&program.main, Qt::Key_F1);
+    const auto* const page = handbook->findChild<QTextBrowser*>()->document();
+    const auto wide = page->idealWidth();
+    handbook->resize(handbook->width() - 100, handbook->height());
+    EXPECT_LT(page->idealWidth(), wide) << "pictures fit the window";
+    use_handbook();
+    QTest::keyClick(handbook, Qt::Key_Left, Qt::AltModifier);
+    EXPECT_EQ(dressed_blocks(*handbook), dressed);
+}
+
+TEST(Help, StandsAtTheEdgeOfTheScreenAndThenWhereItWasPut) {
+    Helped program;
+    const auto right = program.main.screen()->availableGeometry().right() + 1;
+    program.main.commands().start(command::help_contents);
+    auto* const handbook = open_handbook();
+    EXPECT_EQ(handbook->pos().x() + handbook->width(), right);
+    EXPECT_GT(handbook->height(), handbook->width());
+    const QRect put(20, 30, 500, 300);
+    handbook->setGeometry(put);
+    handbook->close();
+    Help again(program.main, places(program.program), program.pages);
+    again.open(contents_page);
+    EXPECT_EQ(open_handbook()->geometry(), put);
 }
 
 TEST(Help, FindsAndMarksWordsAndLeavesTheHandbookByNoLink) {
     OpenBrewery program;
     program.main.commands().start(command::help_contents);
     auto* const handbook = use_handbook();
+    EXPECT_FALSE(handbook->findChild<QTreeWidget*>("contents")->isVisible()) << "the page has the room";
+    handbook->resize(150 * handbook->fontMetrics().averageCharWidth(), 500);
     auto* const find = handbook->findChild<QLineEdit*>("find");
     QTest::keyClick(handbook, Qt::Key_F, Qt::ControlModifier);
     QTest::keyClicks(find, "tinseth");
