@@ -56,10 +56,10 @@ struct WordPlace {
 };
 
 bool is_end_of_word(std::string_view rest) {
-    for (const std::string_view ending : {"", "s", "es"})
-        if (rest.starts_with(ending) && (rest.size() == ending.size() || !is_letter(rest[ending.size()])))
-            return true;
-    return false;
+    constexpr std::array<std::string_view, 3> endings = {"", "s", "es"};
+    return std::any_of(endings.begin(), endings.end(), [&](std::string_view ending) {
+        return rest.starts_with(ending) && (rest.size() == ending.size() || !is_letter(rest[ending.size()]));
+    });
 }
 
 WordPlace place_of(std::string_view text, std::string_view word) {

@@ -24,7 +24,7 @@ std::string take_comment(std::string& line) {
     const auto end = line.find(closing, begin);
     if (begin == std::string::npos || end == std::string::npos) return {};
     const auto words = begin + opening.size();
-    const std::string comment(trimmed(std::string_view(line).substr(words, end - words)));
+    std::string comment(trimmed(std::string_view(line).substr(words, end - words)));
     line.erase(begin, end + closing.size() - begin);
     line.erase(line.find_last_not_of(' ') + 1);
     return comment;
