@@ -122,6 +122,16 @@ private:
     bool is_code_ = false;
 };
 
+// What stands between an arrow and the figure that it leads to is not broken apart.
+void bind_figure(std::string& line) {
+    constexpr std::string_view arrow = "\u2192", bound_blank = "\u00A0";
+    const auto begin = line.find(arrow);
+    if (begin == std::string::npos) return;
+    const auto figure = std::min(line.find_first_of("0123456789", begin), line.size());
+    for (auto at = line.rfind(' ', figure); at != std::string::npos && at > begin; at = line.rfind(' ', at))
+        line.replace(at, 1, bound_blank);
+}
+
 } // namespace
 
 std::vector<Block> blocks_of(std::string_view markdown) {
@@ -131,13 +141,11 @@ std::vector<Block> blocks_of(std::string_view markdown) {
 }
 
 std::string shown_markdown(std::string_view markdown) {
-    constexpr std::string_view arrow = "\u2192 ", bound_arrow = "\u2192\u00A0";
     std::string shown;
     while (!markdown.empty()) {
         std::string line(take_line(markdown));
         if (!take_comment(line).empty() && line.empty()) continue;
-        for (auto at = line.find(arrow); at != std::string::npos; at = line.find(arrow, at + 1))
-            line.replace(at, arrow.size(), bound_arrow);
+        bind_figure(line);
         shown.append(line).append("\n");
     }
     return shown;

@@ -79,7 +79,8 @@ TEST(Handbook, FindsWholeWordsFirst) {
 }
 
 TEST(Handbook, IsShownWithoutItsKeywords) {
-    EXPECT_EQ(shown_markdown("a <!-- k -->\n<!-- l -->\n- b \u2192 2\n"), "a\n- b \u2192\u00A02\n");
+    EXPECT_EQ(shown_markdown("a <!-- k -->\n<!-- l -->\n- b \u2192 SG 2 L\n"),
+              "a\n- b \u2192\u00A0SG\u00A02 L\n");
 }
 
 // What brewers have looked for in vain.

@@ -289,6 +289,7 @@ void HandbookWindow::search(const QString& words) {
         entry->setData(page_role, string_of(topic->page));
     }
     const bool is_blank = words.trimmed().isEmpty();
+    if (is_blank) reader_->setExtraSelections({});
     found_count_->setVisible(!is_blank);
     side_->setCurrentWidget(is_blank ? static_cast<QWidget*>(contents_) : found_);
     divide();

@@ -59,9 +59,8 @@ TEST(Help, OpensThePageOfItsWindowInOneHandbook) {
     QTest::keyClick(handbook, Qt::Key_Escape);
     EXPECT_FALSE(handbook->isVisible());
     program.main.commands().start(command::tutorials);
-    use_handbook();
-    QTest::keyClick(open_handbook(), Qt::Key_Left, Qt::AltModifier);
-    EXPECT_EQ(title_of(*open_handbook()), "Hydrometer") << "what was read before it was closed";
+    QTest::keyClick(use_handbook(), Qt::Key_Left, Qt::AltModifier);
+    EXPECT_EQ(title_of(*seen_window<HandbookWindow>()), "Hydrometer") << "what was read before it was closed";
 }
 
 // Blocks that are set in, as examples are.
@@ -75,7 +74,7 @@ int dressed_blocks(const HandbookWindow& handbook) {
 }
 
 TEST(Help, APageLooksTheSameHoweverItIsComeTo) {
-    Helped program;
+    OpenBrewery program;
     program.tool(command::hydrometer).findChild<QPushButton*>("help")->click();
     auto* const handbook = use_handbook();
     const int dressed = dressed_blocks(*handbook);
@@ -91,10 +90,10 @@ TEST(Help, APageLooksTheSameHoweverItIsComeTo) {
 }
 
 TEST(Help, StandsAtTheEdgeOfTheScreenAndThenWhereItWasPut) {
-    Helped program;
+    OpenBrewery program;
     const auto right = program.main.screen()->availableGeometry().right() + 1;
     program.main.commands().start(command::help_contents);
-    auto* const handbook = open_handbook();
+    auto* const handbook = seen_window<HandbookWindow>();
     EXPECT_EQ(handbook->pos().x() + handbook->width(), right);
     EXPECT_GT(handbook->height(), handbook->width());
     const QRect put(20, 30, 500, 300);
@@ -102,7 +101,7 @@ TEST(Help, StandsAtTheEdgeOfTheScreenAndThenWhereItWasPut) {
     handbook->close();
     Help again(program.main, places(program.program), program.pages);
     again.open(contents_page);
-    EXPECT_EQ(open_handbook()->geometry(), put);
+    EXPECT_EQ(seen_window<HandbookWindow>()->geometry(), put);
 }
 
 TEST(Help, FindsAndMarksWordsAndLeavesTheHandbookByNoLink) {
