@@ -75,7 +75,9 @@ int dressed_blocks(const HandbookWindow& handbook) {
 
 TEST(Help, APageLooksTheSameHoweverItIsComeTo) {
     OpenBrewery program;
-    program.tool(command::hydrometer).findChild<QPushButton*>("help")->click();
+    auto& hydrometer = program.tool(command::hydrometer);
+    hydrometer.findChild<QPushButton*>("help")->click();
+    hydrometer.close();
     auto* const handbook = use_handbook();
     const int dressed = dressed_blocks(*handbook);
     EXPECT_GT(dressed, 0);
