@@ -4,6 +4,7 @@
 #include "desktop/colours.h"
 #include "desktop/glass.h"
 #include "desktop/qt_text.h"
+#include "desktop/read_aloud.h"
 #include "forms/glossary.h"
 
 #include <QHeaderView>
@@ -79,6 +80,19 @@ QVariant ListModel::mark(std::size_t row) const {
     return row_.is_marked && row_.is_marked(row) ? QStringLiteral("Marked") : QVariant();
 }
 
+// A number says what it is; the framed one also whose, for readers tell it alone.
+QString ListModel::words(const QModelIndex& index) const {
+    const auto text_at = [&](int column) {
+        return index.siblingAtColumn(column).data().toString().trimmed();
+    };
+    auto text = text_at(index.column());
+    if (index.column() == 0 || text.isEmpty()) return text;
+    const auto caption =
+        headerData(index.column(), Qt::Horizontal, Qt::DisplayRole).toString().simplified(); // of one line
+    const auto words = caption + QLatin1Char(' ') + text;
+    return index == view().cell_to_type() ? text_at(0) + QLatin1String(", ") + words : words;
+}
+
 QVariant ListModel::glass(const QModelIndex& index) const {
     if (!row_.glass || index.column() != 0) return {};
     return glass_icon(row_.glass(static_cast<std::size_t>(index.row())), view());
@@ -97,6 +111,7 @@ QVariant ListModel::data(const QModelIndex& index, int role) const {
     if (role == Qt::ForegroundRole) return ink(row);
     if (role == Qt::DecorationRole) return glass(index);
     if (role == Qt::AccessibleDescriptionRole) return mark(row);
+    if (role == Qt::AccessibleTextRole) return words(index);
     if (role != Qt::DisplayRole) return {};
     return QString::fromStdString(row_.cell(row, static_cast<std::size_t>(index.column())));
 }
@@ -123,6 +138,11 @@ bool ListModel::setData(const QModelIndex& index, const QVariant& text, int role
     const auto row = static_cast<std::size_t>(index.row()), column = static_cast<std::size_t>(index.column());
     view().changed([&] { row_.typing.take(row, column, text.toString().toStdString()); });
     return true;
+}
+
+QModelIndexList ListModel::match(const QModelIndex& start, int role, const QVariant& value, int hits,
+                                 Qt::MatchFlags flags) const {
+    return QAbstractTableModel::match(start.siblingAtColumn(0), role, value, hits, flags);
 }
 
 void ListModel::reload() {
@@ -162,13 +182,12 @@ ListView::ListView(const ListRow& row, QWidget* parent)
     setItemDelegate(row.typing.columns.empty() ? itemDelegate() : new CellEditor(row, this));
     setEditTriggers(row.typing.columns.empty() ? NoEditTriggers : DoubleClicked);
     header()->setSortIndicatorShown(static_cast<bool>(row.sort_mark));
+    tell_current_cell(*this);
     size_columns();
 }
 
 void ListView::keyboardSearch(const QString& text) {
-    if (typed) return typed(text);
-    setCurrentIndex(currentIndex().siblingAtColumn(0)); // the toolkit finds by the column that was clicked
-    QTreeView::keyboardSearch(text);
+    typed ? typed(text) : QTreeView::keyboardSearch(text);
 }
 
 void ListView::keyPressEvent(QKeyEvent* event) {
@@ -190,7 +209,12 @@ bool ListView::is_typed_into(const QModelIndex& index) const {
 QModelIndex ListView::cell_to_type() const {
     const auto& columns = row_.typing.columns;
     if (columns.empty() || !currentIndex().isValid()) return {};
-    return currentIndex().siblingAtColumn(static_cast<int>(columns[cell_]));
+    return currentIndex().siblingAtColumn(current_column());
+}
+
+int ListView::current_column() const {
+    const auto& columns = row_.typing.columns;
+    return columns.empty() ? 0 : static_cast<int>(columns[cell_]);
 }
 
 // A digit does, and what the cell would take as it is: a D of a dry hop. Other letters find.
@@ -235,6 +259,7 @@ void ListView::go_to_cell(int steps) {
     const auto wanted = columns[static_cast<std::size_t>(std::clamp<std::ptrdiff_t>(place + steps, 0, last))];
     const auto& all = row_.typing.columns;
     cell_ = static_cast<std::size_t>(std::find(all.begin(), all.end(), wanted) - all.begin());
+    setCurrentIndex(cell_to_type());
     viewport()->update();
 }
 
@@ -322,7 +347,8 @@ void ListView::refresh() {
     size_columns();
     const int row = row_.selected == nullptr ? -1 : std::min(*row_.selected, model_->rowCount() - 1);
     // In its column: to leave the cell that is typed into would close its field before the list has taken it.
-    setCurrentIndex(model_->index(row, std::max(currentIndex().column(), 0)));
+    const int column = currentIndex().isValid() ? currentIndex().column() : current_column();
+    setCurrentIndex(model_->index(row, column));
     if (row >= 0 && row_.is_marked && row_.is_marked(static_cast<std::size_t>(row)))
         scrollTo(currentIndex(), PositionAtCenter);
     show_sort_mark();

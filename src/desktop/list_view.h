@@ -20,6 +20,9 @@ public:
     Qt::ItemFlags flags(const QModelIndex& index) const override;
     /// A text typed into a cell.
     bool setData(const QModelIndex& index, const QVariant& text, int role) override;
+    /// Whatever cell typing begins in, letters find by the first column.
+    QModelIndexList match(const QModelIndex& start, int role, const QVariant& value, int hits,
+                          Qt::MatchFlags flags) const override;
     /// Everything may have changed.
     void reload();
 
@@ -30,6 +33,7 @@ private:
     QVariant ink(std::size_t row) const;
     QVariant glass(const QModelIndex& index) const;
     QVariant mark(std::size_t row) const;
+    QString words(const QModelIndex& index) const;
     const ListView& view() const;
 
     const ListRow& row_;
@@ -37,8 +41,9 @@ private:
 };
 
 /// Selects whole rows, one at a time. A double click or Enter acts on one, never a single click, by which
-/// some desktops activate. Where cells can be typed into, a frame shows the one that a digit or F2 opens;
-/// Enter goes on to the next row, Tab to the next cell, and a double click opens the cell that it meets.
+/// some desktops activate. Where cells can be typed into, a frame shows the one that a digit or F2 opens,
+/// which is the current one, so that readers tell it; Enter goes on to the next row, Tab to the next cell,
+/// and a double click opens the cell that it meets.
 class ListView : public QTreeView {
 public:
     ListView(const ListRow& row, QWidget* parent);
@@ -66,6 +71,7 @@ private:
 
     void act(const std::function<void()>& action);
     QModelIndex cell_to_type() const;
+    int current_column() const;
     bool is_typed_into(const QModelIndex& index) const;
     bool begins_typing(const QKeyEvent& event, const QModelIndex& cell) const;
     bool take_cell_key(QKeyEvent& event);

@@ -1,6 +1,10 @@
 #include "desktop/read_aloud.h"
 
 #include <QAccessibleWidget>
+#include <QEvent>
+#include <QTimer>
+
+#include <utility>
 
 namespace wortlex {
 namespace {
@@ -14,23 +18,47 @@ QAccessibleInterface* interface_with_role(const QString&, QObject* object) {
     return new QAccessibleWidget(widget, static_cast<QAccessible::Role>(role.toInt())); // the toolkit owns it
 }
 
-// As long as a reader is at work.
-class FigureReach : public QObject, public QAccessible::ActivationObserver {
+class ReaderWatch : public QObject, public QAccessible::ActivationObserver {
 public:
-    explicit FigureReach(QWidget& figure) : QObject(&figure), figure_(figure), usual_(figure.focusPolicy()) {
+    ReaderWatch(QObject& owner, std::function<void(bool)> follow)
+        : QObject(&owner), follow_(std::move(follow)) {
         QAccessible::installActivationObserver(this);
-        if (QAccessible::isActive()) accessibilityActiveChanged(true);
+        if (QAccessible::isActive()) follow_(true);
     }
-    Q_DISABLE_COPY_MOVE(FigureReach)
-    ~FigureReach() override { QAccessible::removeActivationObserver(this); }
+    Q_DISABLE_COPY_MOVE(ReaderWatch)
+    ~ReaderWatch() override { QAccessible::removeActivationObserver(this); }
 
-    void accessibilityActiveChanged(bool active) override {
-        figure_.setFocusPolicy(active ? Qt::StrongFocus : usual_);
+    void accessibilityActiveChanged(bool active) override { follow_(active); }
+
+private:
+    std::function<void(bool)> follow_;
+};
+
+class FocusedCell : public QObject {
+public:
+    explicit FocusedCell(QAbstractItemView& list) : QObject(&list), list_(list) {
+        list.installEventFilter(this);
+    }
+
+    // The toolkit tells of the list when the list has heard of its focus; the cell is to be the last word.
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (event->type() == QEvent::FocusIn && QAccessible::isActive())
+            QTimer::singleShot(0, &list_, [this] { tell(); });
+        return QObject::eventFilter(watched, event);
     }
 
 private:
-    QWidget& figure_;
-    Qt::FocusPolicy usual_;
+    void tell() const {
+        const auto current = list_.currentIndex();
+        if (!list_.hasFocus() || !current.isValid()) return;
+        auto* const table = QAccessible::queryAccessibleInterface(&list_)->tableInterface();
+        auto* const cell = table == nullptr ? nullptr : table->cellAt(current.row(), current.column());
+        if (cell == nullptr) return;
+        QAccessibleEvent event(cell, QAccessible::Focus);
+        QAccessible::updateAccessibility(&event);
+    }
+
+    QAbstractItemView& list_;
 };
 
 } // namespace
@@ -41,7 +69,17 @@ void give_role(QWidget& widget, QAccessible::Role role) {
 }
 
 void let_reader_reach(QWidget& figure) {
-    new FigureReach(figure); // the figure owns it
+    follow_reader(figure, [&figure, usual = figure.focusPolicy()](bool is_at_work) {
+        figure.setFocusPolicy(is_at_work ? Qt::StrongFocus : usual);
+    });
+}
+
+void follow_reader(QObject& owner, std::function<void(bool is_at_work)> follow) {
+    new ReaderWatch(owner, std::move(follow)); // the owner owns it
+}
+
+void tell_current_cell(QAbstractItemView& list) {
+    new FocusedCell(list); // the list owns it
 }
 
 void tell_name(QWidget& widget, const QString& name) {
