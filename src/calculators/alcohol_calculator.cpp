@@ -33,8 +33,10 @@ AlcoholResults results_of(const AlcoholCalculator& calculator) {
 
 void alcohol_form(Form& form, AlcoholCalculator& calculator, const Settings& settings,
                   AlcoholActions actions) {
-    const auto figure = [&calculator](const char* key, float AlcoholResults::*part) -> TwinLines::Figure {
-        return {key, [&calculator, part] { return results_of(calculator).*part; }};
+    const auto figure = [&calculator](const char* key, float AlcoholResults::*part,
+                                      const char* name = "") -> TwinLines::Figure {
+        return {
+            .key = key, .value = [&calculator, part] { return results_of(calculator).*part; }, .name = name};
     };
     TwinLines gravities(form.group("Gravity"), "gravities", settings);
     gravity_line(gravities, "og", "&OG", calculator.og);
@@ -42,9 +44,9 @@ void alcohol_form(Form& form, AlcoholCalculator& calculator, const Settings& set
     auto& results = form.group("Results");
     TwinLines lines(results, "results", settings);
     lines.shown("% Alcohol By Weight", figure("by_weight", &AlcoholResults::by_weight), "By Volume",
-                figure("by_volume", &AlcoholResults::by_volume));
+                figure("by_volume", &AlcoholResults::by_volume, "% Alcohol By Volume"));
     lines.shown("Attenuation % ADF", figure("adf", &AlcoholResults::apparent_attenuation), "% RDF",
-                figure("rdf", &AlcoholResults::real_attenuation));
+                figure("rdf", &AlcoholResults::real_attenuation, "Attenuation % RDF"));
     lines.shown_gravity("residual", "Residual Extract SG",
                         [&calculator] { return results_of(calculator).residual; });
     results.button("refractometer", "&Refractometer", std::move(actions.refractometer));

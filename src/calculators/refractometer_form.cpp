@@ -71,21 +71,26 @@ public:
     }
 
     template <class Read>
-    TwinLines::Figure figure(const char* key, Read read) const {
-        return {key,
-                [&tool = tool_, &settings = settings_, read] { return read(results_of(tool, settings)); }};
+    TwinLines::Figure figure(const char* key, Read read, const char* name = "") const {
+        return {.key = key,
+                .value = [&tool = tool_, &settings = settings_,
+                          read] { return read(results_of(tool, settings)); },
+                .name = name};
     }
 
     void alcohol() {
         using Results = RefractometerResults;
-        lines_.shown("% Alcohol Weight",
-                     figure("by_weight", [](const Results& r) { return r.alcohol.by_weight; }), "Volume",
-                     figure("by_volume", [](const Results& r) { return r.alcohol.by_volume; }));
+        lines_.shown(
+            "% Alcohol Weight", figure("by_weight", [](const Results& r) { return r.alcohol.by_weight; }),
+            "Volume",
+            figure(
+                "by_volume", [](const Results& r) { return r.alcohol.by_volume; }, "% Alcohol Volume"));
         gravity("original", "Original Gravity SG", &Results::original);
         gravity("residual", "Residual Extract SG", &Results::residual);
         lines_.shown("Attenuation % ADF",
                      figure("adf", [](const Results& r) { return r.apparent_attenuation; }), "% RDF",
-                     figure("rdf", [](const Results& r) { return r.real_attenuation; }));
+                     figure(
+                         "rdf", [](const Results& r) { return r.real_attenuation; }, "Attenuation % RDF"));
     }
 
 private:

@@ -138,7 +138,7 @@ void TwinLines::shown(const std::string& label, const Figure& first, const Live<
     auto& line = table_.line(label);
     line.shown_number(first.key, first.value, first.pattern);
     line.note(first.key + "_word", word);
-    line.shown_number(second.key, second.value, second.pattern);
+    line.shown_number(second.key, second.value, second.pattern).named(second.name);
 }
 
 void TwinLines::shown_degrees(const std::string& key, const std::string& label,

@@ -78,6 +78,7 @@ public:
         std::string key;
         std::function<float()> value;
         Live<std::string> pattern = "%0.2f";
+        std::string name = {}; ///< of a second one whose label and word do not make it
     };
     void shown(const std::string& label, const Figure& only);
     void shown(const std::string& label, const Figure& first, const Live<std::string>& word,

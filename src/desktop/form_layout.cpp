@@ -7,6 +7,7 @@
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
+#include <QKeySequence>
 
 #include <algorithm>
 #include <set>
@@ -77,7 +78,7 @@ private:
         int column = 1;
         for (const auto& cell : line.cells.rows()) {
             auto& field = widgets_.field(*cell);
-            if (column == 1) make_buddies(*label, field);
+            if (column == 1 && !QKeySequence::mnemonic(label->text()).isEmpty()) make_buddies(*label, field);
             if (auto* const words = qobject_cast<QLabel*>(&field)) {
                 words->setAlignment(Qt::AlignCenter);
                 words->setWordWrap(false);

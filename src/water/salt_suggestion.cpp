@@ -5,15 +5,10 @@
 namespace wortlex {
 namespace {
 
-std::string without_mnemonic(std::string label) {
-    std::erase(label, '&');
-    return label;
-}
-
 void rate_lines(Rows& rows, const WaterAnalysis& analysis, const SaltProposal& proposal) {
     auto& grid = rows.grid("rates", {"Now", "Proposed"});
     for (std::size_t i = 0; i < salt_effects.size(); ++i) {
-        auto& line = grid.line(without_mnemonic(salt_words[i].label));
+        auto& line = grid.line(plain_label(salt_words[i]));
         const std::string key = salt_words[i].key;
         line.shown_number(
             key + "_now", [&analysis, i] { return analysis.rate(salt_effects[i].salt); }, "%4.2f");

@@ -4,6 +4,8 @@
 
 #include "brewing/salts.h"
 
+#include <string>
+
 namespace wortlex {
 
 struct SaltWords {
@@ -30,6 +32,13 @@ inline constexpr std::array salt_words = {
               "Calcium Chloride (CaCl)"},
     SaltWords{"chalk", "Chal&k (CaCO3)", "Chalk (CaCO3)", "Chalk\tCaCO3.",
               "Chalk:", "Chalk:\tCaCO3\t(Calcium   + Carbonate)", "Chalk (CaCO3)"}};
+/// As the calculator shows it, without the mnemonic.
+inline std::string plain_label(const SaltWords& salt) {
+    std::string label = salt.label;
+    std::erase(label, '&');
+    return label;
+}
+
 static_assert(salt_words.size() == salt_effects.size());
 
 } // namespace wortlex

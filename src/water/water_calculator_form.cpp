@@ -22,7 +22,7 @@ void ion_cell(Rows& rows, const std::string& line, const std::string& words, con
               std::function<float()> ppm) {
     rows.shown_number(line + '_' + ion.key, std::move(ppm), "%4.1f")
         .width(ion_width)
-        .named(words + ' ' + ion.symbol);
+        .named(words + ' ' + ion.symbol + " ppm");
 }
 
 std::function<void()> pressing(std::function<void()> action, const std::function<void()>& pressed) {
@@ -114,13 +114,14 @@ void salt_rows(Rows& rows, WaterAnalysis& analysis) {
         rows.number(key + "_rate", {[&analysis, &salt] { return analysis.rate(salt.salt); },
                                     [&analysis, &salt](float rate) { set_salt_rate(analysis, salt, rate); }})
             .label(salt_words[i].label)
+            .hint("Grams in each gallon")
             .range(0, most_salt_rate)
             .step(0.1F)
             .format("%4.2f")
             .width(ion_width);
         for (const auto& ion : ions)
             if (ion.ppm == salt.cation || ion.ppm == salt.anion)
-                ion_cell(rows, key, salt_words[i].totals_label, ion,
+                ion_cell(rows, key, plain_label(salt_words[i]), ion,
                          [&] { return analysis.added(salt.salt).*ion.ppm; });
     }
 }
