@@ -98,6 +98,10 @@ private:
     QAbstractButton& button_;
 };
 
+// By these the toolkit tells readers of a field with arrows.
+constexpr auto value_property = "value", low_property = "minimum", high_property = "maximum",
+               step_property = "stepSize";
+
 QSize few_lines(const QPlainTextEdit& page) {
     constexpr int lines = 3, digits = 26;
     const auto metrics = page.fontMetrics();
@@ -137,6 +141,27 @@ QSize Page::sizeHint() const {
 ArrowField::ArrowField(QWidget* parent) : QAbstractSpinBox(parent) {
     setAccelerated(true);
     setFocusPolicy(Qt::StrongFocus);
+    connect(lineEdit(), &QLineEdit::textChanged, this,
+            [this](const QString& text) { setProperty(value_property, text.toDouble()); });
+}
+
+void ArrowField::tell_range(const SpinRange& range) {
+    setProperty(low_property, double{range.low});
+    setProperty(high_property, double{range.high});
+    setProperty(step_property, double{range.step});
+}
+
+bool ArrowField::event(QEvent* event) {
+    if (const auto* const change = dynamic_cast<QDynamicPropertyChangeEvent*>(event);
+        change != nullptr && change->propertyName() == value_property)
+        take_number(property(value_property).toDouble());
+    return QAbstractSpinBox::event(event);
+}
+
+void ArrowField::take_number(double number) {
+    if (!std::isfinite(number) || number == lineEdit()->text().toDouble()) return;
+    lineEdit()->selectAll();
+    lineEdit()->insert(QString::number(number)); // which is told as an edit
 }
 
 void ArrowField::stepBy(int steps) {

@@ -52,15 +52,22 @@ public:
     explicit ArrowField(QWidget* parent);
     QLineEdit& line() const { return *lineEdit(); }
     void stepBy(int steps) override;
+    /// To readers, which know the number from the text.
+    void tell_range(const SpinRange& range);
 
     std::function<void(Spin)> stepped;
 
 protected:
     StepEnabled stepEnabled() const override;
+    /// A number that a reader sets counts as typed.
+    bool event(QEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     /// Only the focused field turns with the wheel: scrolling past one must not change a recipe.
     void wheelEvent(QWheelEvent* event) override;
+
+private:
+    void take_number(double number);
 };
 
 /// The text is selected whole as the field is entered, however it is entered.

@@ -65,6 +65,14 @@ QString drawn_in(const Row& row) {
     return list == nullptr || list->count() > 0 ? QString() : string_of(list->empty_words());
 }
 
+// What stands behind the field, but for what its name says already.
+QString unit_to_say(const EntryRow& row, const QString& name) {
+    auto unit = string_of(row.unit_text());
+    if (unit.isEmpty()) return unit;
+    if (unit.startsWith(QLatin1Char('(')) && unit.endsWith(QLatin1Char(')'))) unit = unit.mid(1).chopped(1);
+    return name.split(QLatin1Char(' ')).contains(unit, Qt::CaseInsensitive) ? QString() : unit;
+}
+
 bool is_to_fill_in(const Row& row) {
     if (!row.is_enabled() || !row.is_visible()) return false;
     if (const auto* const entry = dynamic_cast<const EntryRow*>(&row)) return !entry->is_read_only();
@@ -208,19 +216,28 @@ void FormWidgets::add_label(Shown& shown, const Row& row) {
 void FormWidgets::add_unit(Shown& shown, const EntryRow& row) {
     if (row.unit_text().empty()) return;
     shown.unit = new QLabel(&parent_);
-    shown.refresh = [show = std::move(shown.refresh), unit = shown.unit, &row] {
+    shown.refresh = [this, show = std::move(shown.refresh), unit = shown.unit, field = shown.field, &row] {
         show();
         unit->setText(string_of(row.unit_text()));
         unit->setVisible(row.is_visible());
+        auto* const buddy = unit_to_say(row, own_name(row)).isEmpty() ? nullptr : field;
+        if (unit->buddy() != buddy) unit->setBuddy(buddy); // so it labels the field, too
     };
 }
 
 // A row without words of its own goes by the heading of its group; in a grid the layout names it.
-QString FormWidgets::plain_name(const Row& row) const {
+QString FormWidgets::own_name(const Row& row) const {
     auto words = row.name_text().empty() ? row.label_text() : row.name_text();
     if (words.empty() && dynamic_cast<const SwatchRow*>(&row) != nullptr) words = row.hint_text();
     if (words.empty() && dynamic_cast<const EntryRow*>(&row) == nullptr) words = form_.heading_of(row);
     return spoken(string_of(words));
+}
+
+QString FormWidgets::plain_name(const Row& row) const {
+    const auto words = own_name(row);
+    const auto* const entry = dynamic_cast<const EntryRow*>(&row);
+    const auto unit = entry == nullptr ? QString() : unit_to_say(*entry, words);
+    return words.isEmpty() || unit.isEmpty() ? words : words + QLatin1String(", ") + unit;
 }
 
 // Fields of one label in two groups are told apart by the headings.
@@ -313,6 +330,11 @@ void FormWidgets::make_line(EntryRow& row) {
     });
     add_label(shown, row);
     add_unit(shown, row);
+    if (line.arrows != nullptr)
+        shown.refresh = [show = std::move(shown.refresh), arrows = line.arrows, &row] {
+            show();
+            if (const auto range = row.arrow_range()) arrows->tell_range(*range);
+        };
     follow_typing(row, line);
     follow_leaving(row, line);
 }

@@ -75,7 +75,8 @@ private:
     Shown& keep(Row& row, QWidget& field, std::function<void()> refresh);
     void add_label(Shown& shown, const Row& row);
     void add_unit(Shown& shown, const EntryRow& row);
-    QString plain_name(const Row& row) const;
+    QString own_name(const Row& row) const;
+    QString plain_name(const Row& row) const; ///< with its unit
     void name(const Row& row, QWidget& field) const;
     void count_names();
     void show_value(const Shown& shown);

@@ -18,6 +18,8 @@ public:
     virtual bool spun(TextField& /*field*/, Spin /*direction*/) { return false; }
     virtual bool is_read_only() const { return false; }
     virtual bool has_arrows() const { return false; }
+    /// Where arrows go; nothing where there are none, or they turn no plain number.
+    virtual std::optional<SpinRange> arrow_range() const { return std::nullopt; }
     virtual bool is_number() const { return true; }
     virtual bool is_multi_line() const { return false; }
 
@@ -87,6 +89,7 @@ public:
     bool typed(TextField& field) override;
     bool spun(TextField& field, Spin direction) override;
     bool has_arrows() const override { return step_.has_value(); }
+    std::optional<SpinRange> arrow_range() const override;
     std::string range_words() const override;
     bool is_outside(const std::string& text) const override;
     void hold() const override;
@@ -127,6 +130,7 @@ public:
     bool typed(TextField& field) override;
     bool spun(TextField& field, Spin direction) override;
     bool has_arrows() const override { return step_ > 0; }
+    std::optional<SpinRange> arrow_range() const override;
     std::string range_words() const override;
     bool is_outside(const std::string& text) const override;
     void hold() const override;

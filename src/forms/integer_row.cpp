@@ -77,6 +77,13 @@ bool IntegerRow::typed(TextField& field) {
     return has_changed;
 }
 
+std::optional<SpinRange> IntegerRow::arrow_range() const {
+    if (step_ <= 0) return std::nullopt;
+    const auto step = static_cast<float>(step_);
+    if (units_) return SpinRange{0, static_cast<float>(highest_temperature((*units_)())), step};
+    return SpinRange{static_cast<float>(spun_low_()), static_cast<float>(spun_high_()), step};
+}
+
 bool IntegerRow::spun(TextField& field, Spin direction) {
     if (step_ <= 0) return false;
     const auto before = value_.get();
@@ -85,9 +92,7 @@ bool IntegerRow::spun(TextField& field, Spin direction) {
         const bool has_changed = spin_temperature((*units_)(), field, value, number_length, direction);
         return store(value, has_changed);
     }
-    const SpinRange range{static_cast<float>(spun_low_()), static_cast<float>(spun_high_()),
-                          static_cast<float>(step_)};
-    spin_int(field, value, range, number_length, direction, pattern_);
+    spin_int(field, value, *arrow_range(), number_length, direction, pattern_);
     const auto held = std::clamp(value, std::min(spun_low_(), before), std::max(spun_high_(), before));
     const bool is_stored = store(held, held != before);
     if (held != value) show(field);

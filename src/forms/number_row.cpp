@@ -129,9 +129,14 @@ bool NumberRow::step(TextField& field, float& value, const SpinRange& range, Spi
     }
 }
 
+std::optional<SpinRange> NumberRow::arrow_range() const {
+    if (!step_) return std::nullopt;
+    return SpinRange{spun_low_(), spun_high_(), (*step_)()};
+}
+
 bool NumberRow::spun(TextField& field, Spin direction) {
     if (!step_) return false;
-    const SpinRange range{spun_low_(), spun_high_(), (*step_)()};
+    const auto range = *arrow_range();
     const float before = shown();
     float value = std::isfinite(before) ? before : range.low;
     if (!step(field, value, range, direction)) return false;

@@ -1,6 +1,7 @@
 #include "base/ports/prompts.h"
 #include "mash/designer_rows.h"
 #include "measures/degrees.h"
+#include "measures/unit_words.h"
 
 #include <utility>
 
@@ -24,7 +25,9 @@ IntegerRow& temperature_row(Rows& rows, const char* key, MashDesigner& designer,
             return step == nullptr ? 0 : shown_degrees(degrees(*step), designer.settings.temperature_units);
         },
         [&designer, set](std::int32_t shown) { set(designer, typed_degrees(designer, shown)); }};
-    return rows.temperature(key, value, [&designer] { return designer.settings.temperature_units; })
+    const auto& settings = designer.settings;
+    return rows.temperature(key, value, [&settings] { return settings.temperature_units; })
+        .hint([&settings] { return std::string("Degrees ") + temperature_unit(settings).usual; })
         .enabled([&designer] { return has_step(designer); });
 }
 
@@ -35,7 +38,7 @@ IntegerRow& minutes_row(Rows& rows, const char* key, MashDesigner& designer, std
                                           return step == nullptr ? 0 : step->*field;
                                       },
                                       [&designer, set](std::int32_t minutes) { set(designer, minutes); }};
-    return rows.integer(key, value).range(0, most_minutes_typed).step(1).enabled([&designer] {
+    return rows.integer(key, value).range(0, most_minutes_typed).step(1).hint("Minutes").enabled([&designer] {
         return has_step(designer);
     });
 }

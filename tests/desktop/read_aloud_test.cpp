@@ -58,5 +58,22 @@ TEST(ReadAloud, TheFramedCellTellsWhoseItIsAndWhatAndLettersFindByName) {
     EXPECT_EQ(cells->cellAt(0, 1)->text(QAccessible::Name), "Origin UK");
 }
 
+TEST(ReadAloud, AFieldWithArrowsIsANumberWithItsUnit) {
+    float size = 5;
+    Form form;
+    form.rows().number("size", size).label("&Size").unit("(Liters)").range(1, 100).step(0.5F);
+    Bench desk;
+    FormDialog dialog(form, {"ABOUTDIALOG"}, desk.places, nullptr);
+    auto* const field = QAccessible::queryAccessibleInterface(&dialog.widgets().field("size"));
+    EXPECT_EQ(field->text(QAccessible::Name), "Size, Liters");
+    EXPECT_EQ(field->relations(QAccessible::Label).size(), 2) << "words before it and behind";
+    auto* const number = field->valueInterface();
+    EXPECT_EQ(number->currentValue().toDouble(), 5);
+    EXPECT_EQ(std::pair(number->minimumValue().toDouble(), number->maximumValue().toDouble()),
+              std::pair(1.0, 100.0));
+    number->setCurrentValue(7);
+    EXPECT_EQ(size, 7) << "as if it were typed";
+}
+
 } // namespace
 } // namespace wortlex
