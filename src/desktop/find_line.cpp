@@ -2,6 +2,7 @@
 
 #include "desktop/fields.h"
 #include "desktop/list_view.h"
+#include "desktop/read_aloud.h"
 
 #include <QShortcut>
 
@@ -21,6 +22,10 @@ FindLine::FindLine(QWidget* window) : QLineEdit(window) {
 void FindLine::describe(const QString& example, const QString& tip) {
     setPlaceholderText(example);
     setToolTip(tip);
+}
+
+void FindLine::tell_found(const QString& words) {
+    tell_description(*this, words);
 }
 
 void FindLine::take_typing_in(ListView& list) {

@@ -15,6 +15,8 @@ class FindLine : public QLineEdit {
 public:
     explicit FindLine(QWidget* window);
     void describe(const QString& example, const QString& tip);
+    /// How much was found, to readers.
+    void tell_found(const QString& words);
     /// Letters typed in that list begin a search.
     void take_typing_in(ListView& list);
 

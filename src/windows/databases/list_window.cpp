@@ -121,6 +121,11 @@ std::string ListWindow::found_text() const {
            (added.empty() ? "" : ", " + added);
 }
 
+void ListWindow::show_found() {
+    widgets_->refresh();
+    find_line_.tell_found(string_of(found_text()));
+}
+
 std::string ListWindow::empty_text() const {
     if (list_.only_in_stock) return "Nothing is in stock";
     return picked_ ? "There is no entry yet; the database adds them" : "Insert adds an entry";
@@ -146,7 +151,7 @@ void ListWindow::make_find_line() {
     connect(&find_line_, &QLineEdit::textChanged, this, [this](const QString& text) {
         query_ = make_query(text.toStdString(), ports_.other_names);
         seek();
-        widgets_->refresh();
+        show_found();
     });
     find_line_.stepped = [this](QKeyEvent& event) { step_in_list(event); };
     // Takes what is found.
@@ -278,7 +283,7 @@ void ListWindow::pick_and_close() {
 void ListWindow::pick_and_stay() {
     if (pick()) ++added_;
     find_line_.selectAll();
-    widgets_->refresh();
+    show_found();
 }
 
 void ListWindow::leave(int result) {

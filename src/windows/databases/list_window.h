@@ -50,6 +50,7 @@ private:
     void make_find_line();
     void step_in_list(const QKeyEvent& event);
     std::string found_text() const;
+    void show_found();
     std::string empty_text() const;
     /// Selects what is found best; nothing where nothing is found.
     void seek();

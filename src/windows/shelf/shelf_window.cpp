@@ -99,6 +99,7 @@ void ShelfWindow::make_find_line() {
     connect(&find_line_, &QLineEdit::textChanged, this, [this](const QString& text) {
         shelf_.find(text.toStdString());
         widgets_->refresh();
+        find_line_.tell_found(string_of(count_text()));
         show_selected();
     });
     // Arrows go through the list while the line keeps the focus.
