@@ -3,6 +3,7 @@
 #include "desktop/captions.h"
 #include "desktop/list_keys.h"
 #include "desktop/qt_text.h"
+#include "desktop/read_aloud.h"
 #include "handbook/handbook_printout.h"
 
 #include <QHBoxLayout>
@@ -69,9 +70,13 @@ void dress_block(const QTextBlock& block, int room, const QBrush& ground) {
 
 } // namespace
 
-// Back and Forward go past `doSetSource`.
+// Back and Forward go past `doSetSource`. Arrows scroll, but where a reader is at work they go from line to
+// line: what the caret meets is read.
 PageReader::PageReader(QWidget* parent) : QTextBrowser(parent) {
     connect(this, &QTextBrowser::sourceChanged, this, [this] { dress(); });
+    follow_reader(*this, [this](bool is_at_work) {
+        setTextInteractionFlags(textInteractionFlags().setFlag(Qt::TextSelectableByKeyboard, is_at_work));
+    });
 }
 
 QVariant PageReader::loadResource(int type, const QUrl& name) {
@@ -143,7 +148,7 @@ HandbookWindow::HandbookWindow(Handbook& handbook, const Places& places, PageDes
     layout->addLayout(bar());
     layout->addWidget(split_, 1);
     reader_->setAccessibleName(QStringLiteral("Page"));
-    connect(reader_, &QTextBrowser::sourceChanged, this, [this](const QUrl& url) { follow_page(url); });
+    connect(reader_, &QTextBrowser::sourceChanged, this, [this] { follow_page(); });
     add_keys();
     reader_->setFocus();
     QTimer::singleShot(0, this, [this] { handbook_.read_pages(); }); // before anybody types
@@ -211,6 +216,7 @@ void HandbookWindow::make_contents() {
     found_->setAccessibleName(QStringLiteral("Pages found"));
     found_->setWordWrap(true);
     found_->setAlternatingRowColors(true);
+    tell_current_cell(*found_);
     connect(found_, &QListWidget::currentItemChanged, this, [this](const QListWidgetItem* entry) {
         if (entry == nullptr) return;
         open(entry->data(page_role).toString().toStdString());
@@ -274,8 +280,18 @@ std::string HandbookWindow::shown_page() const {
     return page_at(reader_->source());
 }
 
-void HandbookWindow::follow_page(const QUrl& url) {
-    const auto page = string_of(page_at(url));
+std::string HandbookWindow::shown_title() const {
+    const auto* const topic = handbook_.topic(shown_page());
+    return topic == nullptr ? "Contents" : topic->title;
+}
+
+void HandbookWindow::follow_page() {
+    tell_name(*reader_, string_of(shown_title()));
+    if (side_->currentWidget() == contents_) show_in_contents(); // a hidden one would be read all the same
+}
+
+void HandbookWindow::show_in_contents() {
+    const auto page = string_of(shown_page());
     for (QTreeWidgetItemIterator at(contents_); *at != nullptr; ++at)
         if ((*at)->data(0, page_role).toString() == page) contents_->setCurrentItem(*at);
     if (page == string_of(contents_page)) contents_->setCurrentItem(nullptr);
@@ -293,9 +309,12 @@ void HandbookWindow::search(const QString& words) {
     found_count_->setVisible(!is_blank);
     side_->setCurrentWidget(is_blank ? static_cast<QWidget*>(contents_) : found_);
     divide();
-    found_count_->setText(all.empty()       ? QStringLiteral("Nothing found")
-                          : all.size() == 1 ? QStringLiteral("1 page found")
-                                            : QStringLiteral("%1 pages found").arg(all.size()));
+    if (is_blank) show_in_contents();
+    const auto count = all.empty()       ? QStringLiteral("Nothing found")
+                       : all.size() == 1 ? QStringLiteral("1 page found")
+                                         : QStringLiteral("%1 pages found").arg(all.size());
+    found_count_->setText(count);
+    find_line_->tell_found(is_blank ? QString() : count);
 }
 
 void HandbookWindow::go_into_found() {
@@ -333,10 +352,7 @@ void HandbookWindow::mark_words() {
 }
 
 void HandbookWindow::print() {
-    const auto page = shown_page();
-    const auto* const topic = handbook_.topic(page);
-    pages_.show(handbook_printout(topic == nullptr ? "Contents" : topic->title, handbook_.page(page),
-                                  settings_.printer_scale));
+    pages_.show(handbook_printout(shown_title(), handbook_.page(shown_page()), settings_.printer_scale));
 }
 
 } // namespace wortlex

@@ -58,11 +58,13 @@ private:
     QPushButton* button(const char* name, const QString& caption, const QKeySequence& key,
                         const std::function<void()>& action);
     void search(const QString& words);
-    void follow_page(const QUrl& url);
+    void follow_page();
+    void show_in_contents();
     void mark_words();
     void go_into_found();
     void print();
     std::string shown_page() const;
+    std::string shown_title() const;
 
     Handbook& handbook_;
     const SystemSettings& settings_;

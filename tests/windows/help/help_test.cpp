@@ -53,6 +53,7 @@ TEST(Help, OpensThePageOfItsWindowInOneHandbook) {
     QTest::keyClick(handbook, Qt::Key_Left, Qt::AltModifier);
     QTest::keyClick(handbook, Qt::Key_Left, Qt::AltModifier);
     EXPECT_EQ(title_of(*handbook), "Hydrometer");
+    EXPECT_EQ(handbook->findChild<QTextBrowser*>()->accessibleName(), "Hydrometer");
     hydrometer.close();
     use_handbook();
     EXPECT_FALSE(any_open(program.program.tools)) << "the settings may be changed beside the handbook";
