@@ -46,7 +46,7 @@ void mash_to_paint(benchmark::State& state, BrewDay& day) {
         return *windows.emplace_back(std::move(window));
     };
     const auto page = [&](RecipePageUse use) -> QWidget& {
-        return show(std::make_unique<RecipePage>(day.editor, std::move(use), places(day.program), nullptr));
+        return show(std::make_unique<RecipePage>(day.editor, std::move(use), ports, nullptr));
     };
     show(std::make_unique<SessionWindow>(ports, session_info, nullptr));
     page(fermentation_page(day.editor, ports));

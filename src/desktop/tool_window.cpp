@@ -73,6 +73,12 @@ QPushButton* ToolWindow::closing_ok(const QString& caption, const QString& meani
     return ok;
 }
 
+void ToolWindow::keyPressEvent(QKeyEvent* event) {
+    const bool is_enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    auto* const button = is_enter ? qobject_cast<QPushButton*>(focusWidget()) : nullptr;
+    button != nullptr ? button->click() : QWidget::keyPressEvent(event);
+}
+
 void ToolWindow::closeEvent(QCloseEvent* event) {
     if (show_modal_child(*this) || !may_close()) {
         event->ignore();

@@ -59,6 +59,8 @@ protected:
     void closeEvent(QCloseEvent* event) override;
     /// Where it comes up as long as no place is remembered; centred on its origin if it does not care.
     virtual std::optional<Rectangle> first_place() const { return std::nullopt; }
+    /// Enter presses the button that has the focus; a field keeps it to itself.
+    void keyPressEvent(QKeyEvent* event) override;
 
     void close_by_escape();
     /// An OK that closes, as Esc does.

@@ -3,6 +3,7 @@
 #include "base/number.h"
 #include "measures/rounding.h"
 
+#include <algorithm>
 #include <cassert>
 
 namespace wortlex {
@@ -172,8 +173,18 @@ void Form::cancel() const {
     for (const auto& hook : cancel_hooks_) hook();
 }
 
+void Form::begin() const {
+    for (const auto& hook : begin_hooks_) hook();
+}
+
+bool Form::is_changed() const {
+    return std::any_of(change_checks_.begin(), change_checks_.end(),
+                       [](const auto& check) { return check(); });
+}
+
 void Form::keep() const {
     for (const auto& hook : keep_hooks_) hook();
+    begin();
 }
 
 void Form::for_each(const std::function<void(Row&)>& action) const {

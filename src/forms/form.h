@@ -131,6 +131,9 @@ public:
         const auto saved = std::make_shared<Record>(live);
         on_cancel([&live, saved] { live = *saved; });
         keep_hooks_.push_back([&live, saved] { *saved = live; });
+        const auto begun = std::make_shared<Record>(live);
+        change_checks_.push_back([&live, begun] { return !(live == *begun); });
+        begin_hooks_.push_back([&live, begun] { *begun = live; });
     }
 
     /// The same for a dialog that edits some fields of a record, while the dialogs that it opens edit others.
@@ -150,6 +153,10 @@ public:
     /// False: it was refused, and nothing has happened.
     bool accept() const;
     void cancel() const;
+    /// What was repaired as the form was made is no change; nor is what was kept.
+    void begin() const;
+    /// Whether anything that Cancel puts back has changed since.
+    bool is_changed() const;
     /// What stands now was saved: Cancel no longer goes behind it.
     void keep() const;
 
@@ -177,6 +184,8 @@ private:
     std::vector<std::function<void()>> accept_hooks_;
     std::vector<std::function<void()>> cancel_hooks_;
     std::vector<std::function<void()>> keep_hooks_;
+    std::vector<std::function<void()>> begin_hooks_;
+    std::vector<std::function<bool()>> change_checks_;
 };
 
 } // namespace wortlex

@@ -12,6 +12,8 @@ struct SessionMash {
     InfusionExtras infusions;
     float wort_ph = 5.5F;
     TwinGravity runnings; ///< where they were stopped
+
+    bool operator==(const SessionMash&) const = default;
 };
 
 /// The working copy of a simple schedule. The document takes it over with OK.
@@ -21,6 +23,8 @@ struct SimpleMashWork {
     float grain = 0; ///< pounds to mash
     SessionMash session{};
     float quarts = 0; ///< in a session's mash after the last infusion, worked out
+
+    bool operator==(const SimpleMashWork&) const = default;
 };
 
 /// A copy of `record` for `grain` pounds. A ratio above 0 (quarts per pound) gives the water; otherwise the

@@ -11,6 +11,8 @@ struct TwinDegrees {
 struct TwinGravity {
     float sg = 1;
     float plato = 0;
+
+    bool operator==(const TwinGravity&) const = default;
 };
 
 struct TwinGallons {

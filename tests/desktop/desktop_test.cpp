@@ -185,6 +185,7 @@ TEST(FormDialog, OkCommitsAndEscRestores) {
     Desk desk;
     struct Record {
         float value = 1;
+        bool operator==(const Record&) const = default;
     } record;
     for (const bool ok : {true, false}) {
         Form form;

@@ -204,6 +204,7 @@ TEST(Form, TellsOfEditsAndOfNothingElse) {
 TEST(Form, CommitsAndRestores) {
     struct Record {
         float a = 1;
+        bool operator==(const Record&) const = default;
     } live, copy, original;
     Form form;
     auto& grid = form.rows().grid("grid", {"Value"});
@@ -211,14 +212,19 @@ TEST(Form, CommitsAndRestores) {
     grid.line("copy").number("copy", copy.a).range(0, 9);
     form.restore_on_cancel(live);
     form.commit_copy(copy, original);
+    live.a = 0; // repaired as the form is made
+    form.begin();
+    EXPECT_FALSE(form.is_changed());
     PlainField field;
     type(form, "live", field, "2");
+    EXPECT_TRUE(form.is_changed());
     type(form, "copy", field, "3");
     EXPECT_EQ(original.a, 1);
     form.cancel();
     EXPECT_EQ(std::pair(live.a, original.a), std::pair(1.0F, 1.0F));
     type(form, "live", field, "4");
     form.keep();
+    EXPECT_FALSE(form.is_changed());
     type(form, "live", field, "5");
     form.cancel();
     EXPECT_EQ(live.a, 4) << "what was saved meanwhile stays";

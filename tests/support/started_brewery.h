@@ -35,6 +35,14 @@ struct Brewery : ScriptedUser {
         EXPECT_TRUE(start(program, folder.path(), prompts));
     }
 
+    // What a page asks that is left with changes by Esc or its closing button.
+    void answer_page(Answer answer) {
+        prompts.expect("yes/no/cancel",
+                       "What you have changed on this page is not in your work yet.\nDo you want to take it "
+                       "over, as with OK?",
+                       answer, Icon::question);
+    }
+
     void draw_art() const {
         const QImage picture(65, 65, QImage::Format_RGB888);
         std::filesystem::create_directory(folder.path() + "art");

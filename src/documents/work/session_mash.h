@@ -11,6 +11,8 @@ struct MashLog {
     float wort_ph = 0;
     float runnings_sg = 0;
     RefractometerPair runnings_reading;
+
+    bool operator==(const MashLog&) const = default;
 };
 MashLog mash_log(const SessionDocument& session);
 

@@ -33,6 +33,18 @@ DocumentDesignerWindow::Backup backup_of(const OpenDocument& open, const LiveDoc
             open.session == nullptr ? MashLog{} : mash_log(*open.session)};
 }
 
+void put_back(const DocumentDesignerWindow::Backup& backup, const OpenDocument& open, LiveDocument& live) {
+    open.document.mash = backup.mash;
+    open.document.simple_mash.dough_in_water = backup.dough_in_water;
+    live.water_to_grain = backup.water_to_grain;
+    if (open.session != nullptr) {
+        open.session->wort_ph = backup.log.wort_ph;
+        open.session->runnings_sg = backup.log.runnings_sg;
+        open.session->tail.runnings_reading = backup.log.runnings_reading;
+    }
+    mash_refresh(open);
+}
+
 // The document has what the designer has, from one keystroke to the next.
 MashOwner owner_of(RecipeEditor& editor, LiveDocument& live) {
     const auto side =
@@ -55,16 +67,17 @@ DocumentDesignerWindow::DocumentDesignerWindow(const WindowPorts& ports, RecipeE
                                                MashDesigner designer, Backup backup,
                                                DocumentDesignerCalls calls, QWidget* origin)
     : DesignerWindow(ports, info_of(editor.open), opener_of(editor.open), origin, std::move(designer)),
-      editor_(editor), backup_(backup), calls_(std::move(calls)), steps_seen_(editor.history.taken()) {
+      editor_(editor), backup_(backup), calls_(std::move(calls)), steps_seen_(editor.history.taken()),
+      ending_(*this, ports.prompts) {
     take_wort();
     begin([this](Form& form) { add_wort(form); }, [this] { revert(); });
     add_save_key(*this, [this] { calls_.save(); });
     auto* const ok = end_button("ok", tr("&OK"), tr("Keeps the schedule"));
     add_ok_keys(*this, *ok);
-    connect(ok, &QPushButton::clicked, this, [this] { accept(); });
+    connect(ok, &QPushButton::clicked, this, [this] { ending_.close_by(PageEnd::ok); });
     auto* const cancel = end_button("cancel", tr("Cancel"), tr("Puts back the schedule as it was"));
-    add_key(*cancel, QKeySequence::Cancel);
-    connect(cancel, &QPushButton::clicked, this, &QWidget::close);
+    connect(cancel, &QPushButton::clicked, this, [this] { ending_.close_by(PageEnd::cancel); });
+    opened_ = backup_of(editor.open, ports.program.document);
 }
 
 QPushButton* DocumentDesignerWindow::end_button(const char* name, const QString& caption,
@@ -163,47 +176,34 @@ PrintRequest DocumentDesignerWindow::printout() const {
 }
 
 void DocumentDesignerWindow::keep() {
-    backup_ = backup_of(editor_.open, ports().program.document);
-}
-
-void DocumentDesignerWindow::accept() {
-    is_accepted_ = true;
-    close();
+    backup_ = opened_ = backup_of(editor_.open, ports().program.document);
 }
 
 void DocumentDesignerWindow::revert() {
     const auto revert = calls_.revert; // a copy: closing may end this window
-    accept();
+    ending_.close_by(PageEnd::ok);
     revert();
 }
 
-void DocumentDesignerWindow::dismiss() {
-    is_dismissed_ = true;
-    close();
+// On a copy that has what there was, worked out for the grain of now: that is no change of this page.
+bool DocumentDesignerWindow::has_changes() const {
+    auto copy = ports().program.document;
+    const auto open = view_of(copy, ports().program.settings);
+    put_back(opened_, open, copy);
+    return backup_of(open, copy) != backup_of(editor_.open, ports().program.document);
 }
 
 bool DocumentDesignerWindow::may_close() {
+    const auto end = ending_.settle(has_changes());
+    if (end == PageEnd::stays) return false;
     is_closing_ = true;
-    if (is_dismissed_) return true;
+    if (end == PageEnd::gone) return true;
     end_page(editor_, step_name);
-    if (!is_accepted_) { // noted first: who cancels by mistake can undo it
-        put_back();
+    if (end == PageEnd::cancel) { // noted first: who cancels by mistake can undo it
+        put_back(backup_, editor_.open, ports().program.document);
         end_page(editor_, "Cancel " + std::string(step_name));
     }
     return true;
-}
-
-void DocumentDesignerWindow::put_back() {
-    auto& open = editor_.open;
-    open.document.mash = backup_.mash;
-    open.document.simple_mash.dough_in_water = backup_.dough_in_water;
-    ports().program.document.water_to_grain = backup_.water_to_grain;
-    if (open.session != nullptr) {
-        open.session->wort_ph = backup_.log.wort_ph;
-        open.session->runnings_sg = backup_.log.runnings_sg;
-        open.session->tail.runnings_reading = backup_.log.runnings_reading;
-    }
-    mash_refresh(open);
 }
 
 DocumentDesignerWindow* make_document_designer(const WindowPorts& ports, RecipeEditor& editor,

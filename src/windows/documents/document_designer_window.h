@@ -1,9 +1,11 @@
 // The designer of the live document's complex schedule, of a recipe or a session. It works on the document:
-// OK makes one step of all that it changed, Cancel, Esc and the closing button put everything back.
+// OK makes one step of all that it changed, Cancel puts everything back, Esc and the closing button ask
+// which.
 #pragma once
 
 #include "documents/work/session_mash.h"
 #include "mash/simple_mash_form.h"
+#include "windows/documents/page_ending.h"
 #include "windows/mash/designer_window.h"
 
 namespace wortlex {
@@ -22,13 +24,15 @@ public:
         float dough_in_water = 0; ///< quarts
         float water_to_grain = 0; ///< quarts per pound
         MashLog log;              ///< of a session
+
+        bool operator==(const Backup&) const = default;
     };
 
     DocumentDesignerWindow(const WindowPorts& ports, RecipeEditor& editor, MashDesigner designer,
                            Backup backup, DocumentDesignerCalls calls, QWidget* origin);
 
     void travel(Travel travel) override;
-    void dismiss() override;
+    void dismiss() override { ending_.close_by(PageEnd::gone); }
     void keep() override;
 
 protected:
@@ -42,17 +46,16 @@ private:
     void add_wort(Form& form);
     void take_wort();
     void follow_document();
-    void accept();
     void revert();
-    void put_back();
+    bool has_changes() const;
 
     RecipeEditor& editor_;
     Backup backup_;
+    Backup opened_; ///< as the page began with it
     DocumentDesignerCalls calls_;
     SessionMash wort_;       ///< of a session
     std::size_t steps_seen_; ///< of the document's history
-    bool is_accepted_ = false;
-    bool is_dismissed_ = false;
+    PageEnding ending_;
     bool is_closing_ = false;
 };
 

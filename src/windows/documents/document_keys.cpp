@@ -3,6 +3,7 @@
 #include "desktop/captions.h"
 #include "desktop/undo_keys.h"
 
+#include <QEvent>
 #include <QLabel>
 #include <QShortcut>
 
@@ -20,6 +21,20 @@ bool is_taken(const QKeySequence& letter, const QWidget& page, const QPushButton
            std::any_of(labels.begin(), labels.end(),
                        [&](const auto* label) { return QKeySequence::mnemonic(label->text()) == letter; });
 }
+
+// The box of a window that is no dialog marks its OK as what Enter presses, each time it is shown.
+class PlainOk : public QObject {
+public:
+    explicit PlainOk(QPushButton& ok) : QObject(&ok), ok_(ok) { ok.installEventFilter(this); }
+
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (event->type() == QEvent::Paint && ok_.isDefault()) ok_.setDefault(false);
+        return QObject::eventFilter(watched, event);
+    }
+
+private:
+    QPushButton& ok_;
+};
 
 } // namespace
 
@@ -43,6 +58,20 @@ void add_ok_keys(QWidget& page, QPushButton& ok) {
     for (const auto key : {Qt::Key_Return, Qt::Key_Enter})
         QObject::connect(new QShortcut(Qt::CTRL | key, &page), &QShortcut::activated, &ok,
                          &QPushButton::click);
+}
+
+void add_page_buttons(QWidget& page, const QDialogButtonBox& buttons, PageEnding& ending) {
+    auto* const ok = buttons.button(QDialogButtonBox::Ok);
+    auto* const cancel = buttons.button(QDialogButtonBox::Cancel);
+    set_tip(*ok, QPushButton::tr("Keeps what was changed here"));
+    set_tip(*cancel, QPushButton::tr("Puts back what was changed here"));
+    add_ok_keys(page, *ok);
+    for (auto* const button : {ok, cancel}) button->setAutoDefault(false);
+    new PlainOk(*ok); // which owns it
+    QObject::connect(&buttons, &QDialogButtonBox::accepted, &page,
+                     [&ending] { ending.close_by(PageEnd::ok); });
+    QObject::connect(&buttons, &QDialogButtonBox::rejected, &page,
+                     [&ending] { ending.close_by(PageEnd::cancel); });
 }
 
 } // namespace wortlex

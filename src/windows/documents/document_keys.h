@@ -2,7 +2,9 @@
 #pragma once
 
 #include "documents/work/recipe_editor.h"
+#include "windows/documents/page_ending.h"
 
+#include <QDialogButtonBox>
 #include <QPushButton>
 
 #include <functional>
@@ -17,5 +19,8 @@ void add_save_key(QWidget& window, const std::function<void()>& save);
 
 /// The OK of a page that stays open: a letter that is free on it, and Ctrl+Enter, which ends long texts too.
 void add_ok_keys(QWidget& page, QPushButton& ok);
+
+/// OK and Cancel end the page. Neither is for Enter, which ends the field that one is in.
+void add_page_buttons(QWidget& page, const QDialogButtonBox& buttons, PageEnding& ending);
 
 } // namespace wortlex

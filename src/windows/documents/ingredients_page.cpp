@@ -4,6 +4,7 @@
 #include "desktop/list_keys.h"
 #include "desktop/scrolled.h"
 #include "desktop/undo_keys.h"
+#include "documents/snapshot.h"
 #include "documents/work/document_saving.h"
 #include "program/documents.h"
 #include "program/program.h"
@@ -31,9 +32,9 @@ Ingredients begun(RecipeEditor& editor) {
 IngredientsPage::IngredientsPage(RecipeEditor& editor, const WindowPorts& ports, OpenPages& pages,
                                  const std::function<void()>& save, QWidget* origin)
     : ToolWindow(window_info("BATCHRECIPEDIALOG"), 0, Opener::session, origin, places(ports.program)),
-      editor_(editor), ports_(ports), pages_(pages),
-      before_(begun(editor)), subject_{editor, ports.program.color_table, actions(save)},
-      panel_(subject_, ports, this) {
+      editor_(editor), ports_(ports), pages_(pages), before_(begun(editor)),
+      opened_(editor.open.document), subject_{editor, ports.program.color_table, actions(save)},
+      panel_(subject_, ports, this), ending_(*this, ports.prompts) {
     auto* const layout = new QVBoxLayout(this);
     layout->addWidget(new Scrolled(panel_, this), 1);
     layout->addLayout(page_part());
@@ -56,13 +57,7 @@ QLayout* IngredientsPage::page_part() {
     line->addStretch();
     for (const auto* const key : {"save_as", "print", "help"}) line->addWidget(&widgets.field(key));
     auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
-    for (auto* const button : buttons->buttons()) // Enter is for the fields
-        qobject_cast<QPushButton*>(button)->setAutoDefault(false);
-    buttons->button(QDialogButtonBox::Ok)->setDefault(false);
-    set_tips(*buttons, false);
-    add_ok_keys(*this, *buttons->button(QDialogButtonBox::Ok));
-    connect(buttons, &QDialogButtonBox::accepted, this, &IngredientsPage::accept);
-    connect(buttons, &QDialogButtonBox::rejected, this, &QWidget::close);
+    add_page_buttons(*this, *buttons, ending_);
     line->addWidget(buttons);
     return line;
 }
@@ -88,27 +83,29 @@ void IngredientsPage::save_recipe_as() {
     remember_document(program, *path);
 }
 
-void IngredientsPage::accept() {
-    is_done_ = true;
-    if (!close()) is_done_ = false;
+void IngredientsPage::keep() {
+    before_ = ingredients_of(editor_.open);
+    opened_ = before_.recipe;
 }
 
-void IngredientsPage::dismiss() {
-    is_done_ = true;
-    close();
+// The log is no business of this page.
+bool IngredientsPage::has_changes() const {
+    auto image = image_of(editor_.open);
+    image.recipe = opened_;
+    return document_changed(editor_.open, image);
 }
 
 bool IngredientsPage::may_close() {
+    const auto end = ending_.settle(has_changes());
+    if (end == PageEnd::stays) return false;
     for (const auto name : {yeast_water_template(Opener::session), extras_template(Opener::session)})
         pages_.dismiss(name);
-    if (!is_done_) put_back(editor_, before_);
-    is_done_ = true;
+    if (end == PageEnd::cancel) put_back(editor_, before_);
     return true;
 }
 
 void IngredientsPage::keyPressEvent(QKeyEvent* event) {
-    if (event->matches(QKeySequence::Cancel)) return void(close());
-    ToolWindow::keyPressEvent(event);
+    event->matches(QKeySequence::Cancel) ? void(close()) : ToolWindow::keyPressEvent(event);
 }
 
 } // namespace wortlex

@@ -2,21 +2,22 @@
 #pragma once
 
 #include "documents/work/session_editor.h"
+#include "windows/documents/page_ending.h"
 #include "windows/documents/recipe_actions.h"
 #include "windows/documents/recipe_panel.h"
 
 namespace wortlex {
 
-/// Works on the live recipe. Cancel, Esc and the closing button put back what was there as it opened; that is
-/// a step, to be undone in the session's window.
+/// Works on the live recipe. Cancel puts back what was there as it opened; that is a step, to be undone in
+/// the session's window. Esc and the closing button ask which.
 class IngredientsPage : public ToolWindow {
 public:
     /// `save` is the session's. The pages beside this one are among `pages`.
     IngredientsPage(RecipeEditor& editor, const WindowPorts& ports, OpenPages& pages,
                     const std::function<void()>& save, QWidget* origin);
 
-    void dismiss() override;
-    void keep() override { before_ = ingredients_of(editor_.open); }
+    void dismiss() override { ending_.close_by(PageEnd::gone); }
+    void keep() override;
 
 protected:
     bool may_close() override;
@@ -27,15 +28,16 @@ private:
     QLayout* page_part();
     QPushButton* set_to_button();
     void save_recipe_as();
-    void accept();
+    bool has_changes() const;
 
     RecipeEditor& editor_;
     WindowPorts ports_;
     OpenPages& pages_;
     Ingredients before_;
+    BrewDocument opened_; ///< the recipe as the page began with it
     RecipeSubject subject_;
     RecipePanel panel_;
-    bool is_done_ = false; ///< there is nothing to be put back
+    PageEnding ending_;
 };
 
 } // namespace wortlex

@@ -1,14 +1,10 @@
 #include "windows/documents/open_pages.h"
 
+#include "windows/documents/page_ending.h"
+
 #include <algorithm>
 
 namespace wortlex {
-namespace {
-
-constexpr std::string_view not_handed_over =
-    "What you have changed on this page is not in your work yet.\nDo you want to take it over, as with OK?";
-
-} // namespace
 
 void OpenPages::show(std::string_view name, const std::function<ToolWindow*()>& make) {
     auto& page = pages_[name];
@@ -26,10 +22,9 @@ bool OpenPages::may_leave(Prompts& prompts) const {
     for (const auto& [name, page] : pages_) {
         if (page.isNull() || !page->holds_changes()) continue;
         bring_forward(*page);
-        const auto answer =
-            prompts.ask_yes_no_cancel({.text = not_handed_over, .icon = Icon::question, .safe = Answer::yes});
-        if (answer == Answer::cancel) return false;
-        if (answer == Answer::yes) page->hand_over();
+        const auto end = ask_page_end(prompts);
+        if (end == PageEnd::stays) return false;
+        if (end == PageEnd::ok) page->hand_over();
     }
     return true;
 }

@@ -122,7 +122,7 @@ RecipePageUse extras_page(const RecipeSide& side) {
 void show_page(const RecipeSide& side, OpenPages& pages, const RecipePageUse& use,
                const std::function<void()>& save) {
     pages.show(use.template_name, [&] {
-        auto* const page = new RecipePage(side.editor, use, places(side.ports.program), side.owner);
+        auto* const page = new RecipePage(side.editor, use, side.ports, side.owner);
         add_document_keys(*page, side.editor, save);
         return page;
     });

@@ -3,6 +3,7 @@
 #include "desktop/captions.h"
 #include "desktop/list_keys.h"
 #include "desktop/scrolled.h"
+#include "program/program.h"
 #include "windows/documents/document_keys.h"
 
 #include <QDialogButtonBox>
@@ -71,10 +72,12 @@ QLayout* extras_texts(const FormWidgets& widgets) {
 
 } // namespace
 
-RecipePage::RecipePage(RecipeEditor& editor, RecipePageUse use, const Places& places, QWidget* origin)
-    : ToolWindow(window_info(use.template_name), 0, use.opener, origin, places), editor_(editor),
-      use_(std::move(use)), form_(made_form()), widgets_(form_, places, *this) {
+RecipePage::RecipePage(RecipeEditor& editor, RecipePageUse use, const WindowPorts& ports, QWidget* origin)
+    : ToolWindow(window_info(use.template_name), 0, use.opener, origin, places(ports.program)),
+      editor_(editor), use_(std::move(use)), form_(made_form()),
+      widgets_(form_, places(ports.program), *this), ending_(*this, ports.prompts) {
     lay_out_rows();
+    form_.begin();
 }
 
 Form RecipePage::made_form() {
@@ -94,25 +97,9 @@ void RecipePage::lay_out_rows() {
     bottom->addStretch();
     bottom->addWidget(buttons);
     layout->addLayout(bottom);
-    set_tips(*buttons, true);
-    auto* const ok = buttons->button(QDialogButtonBox::Ok);
-    add_ok_keys(*this, *ok);
-    ok->setDefault(true);
+    add_page_buttons(*this, *buttons, ending_);
     auto* const first = widgets_.first_field();
-    (first != nullptr ? first : ok)->setFocus();
-    connect(buttons, &QDialogButtonBox::accepted, this, [this] { accept(); });
-    connect(buttons, &QDialogButtonBox::rejected, this, &QWidget::close);
-}
-
-void RecipePage::accept() {
-    form_.accept();
-    is_accepted_ = true;
-    close();
-}
-
-void RecipePage::dismiss() {
-    is_dismissed_ = true;
-    close();
+    (first != nullptr ? first : buttons->button(QDialogButtonBox::Ok))->setFocus();
 }
 
 void RecipePage::follow(Change change) {
@@ -120,9 +107,11 @@ void RecipePage::follow(Change change) {
 }
 
 bool RecipePage::may_close() {
-    if (is_dismissed_) return true;
+    const auto end = ending_.settle(form_.is_changed());
+    if (end == PageEnd::stays || end == PageEnd::gone) return end == PageEnd::gone;
+    if (end == PageEnd::ok) form_.accept();
     end_page(editor_, use_.step);
-    if (!is_accepted_) { // noted first: who cancels by mistake can undo it
+    if (end == PageEnd::cancel) { // noted first: who cancels by mistake can undo it
         form_.cancel();
         end_page(editor_, "Cancel " + use_.step);
     }
@@ -130,20 +119,7 @@ bool RecipePage::may_close() {
 }
 
 void RecipePage::keyPressEvent(QKeyEvent* event) {
-    if (event->matches(QKeySequence::Cancel)) {
-        close();
-    } else if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
-        press_enter();
-    } else {
-        ToolWindow::keyPressEvent(event);
-    }
-}
-
-// A button that has the focus is pressed. What was typed is taken over already, so elsewhere it is OK, as in
-// a dialog; a text of several lines keeps Enter to itself.
-void RecipePage::press_enter() {
-    if (auto* const button = qobject_cast<QPushButton*>(focusWidget())) return button->click();
-    accept();
+    event->matches(QKeySequence::Cancel) ? void(close()) : ToolWindow::keyPressEvent(event);
 }
 
 QLayout* arrange_extras(const FormWidgets& widgets) {

@@ -1,10 +1,12 @@
 // A page beside the recipe window, for what does not fit on it. It works on the live recipe: OK makes one
-// step of all that it changed, Cancel, Esc and the closing button put everything back.
+// step of all that it changed, Cancel puts everything back, Esc and the closing button ask which.
 #pragma once
 
 #include "desktop/form_widgets.h"
 #include "desktop/tool_window.h"
 #include "documents/work/recipe_editor.h"
+#include "program/window_ports.h"
+#include "windows/documents/page_ending.h"
 
 namespace wortlex {
 
@@ -20,9 +22,9 @@ struct RecipePageUse {
 
 class RecipePage : public ToolWindow {
 public:
-    RecipePage(RecipeEditor& editor, RecipePageUse use, const Places& places, QWidget* origin);
+    RecipePage(RecipeEditor& editor, RecipePageUse use, const WindowPorts& ports, QWidget* origin);
 
-    void dismiss() override;
+    void dismiss() override { ending_.close_by(PageEnd::gone); }
     void keep() override { form_.keep(); }
 
 protected:
@@ -33,15 +35,12 @@ protected:
 private:
     Form made_form();
     void lay_out_rows();
-    void accept();
-    void press_enter();
 
     RecipeEditor& editor_;
     RecipePageUse use_;
     Form form_;
     FormWidgets widgets_;
-    bool is_accepted_ = false;
-    bool is_dismissed_ = false;
+    PageEnding ending_;
 };
 
 /// The arrangement of the extras page: its list takes the room.

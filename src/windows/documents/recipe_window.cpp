@@ -92,7 +92,7 @@ void RecipeWindow::show_simple_mash() {
                  [this](const SimpleMashWork& planned) {
                      ports().pages.show(simple_mash_printout(editor().open, program().color_table, planned));
                  }},
-            places(program()), this);
+            ports().prompts, places(program()), this);
     });
 }
 

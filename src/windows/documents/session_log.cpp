@@ -102,11 +102,14 @@ BottlingActions bottling_actions(const Bench& bench, RecipeEditor& editor) {
                 }};
 }
 
-// Cancel puts the entries back; what the mash gives stays as it is by then.
+// Cancel puts back what the brewer has entered; what the mash gives stays as it is by then.
 void water_needed_form(Form& form, const Bench& bench) {
     const auto& open = bench.open;
     auto& needs = open.session->water_needs;
-    form.restore_on_cancel(needs);
+    using Needs = WaterNeeds;
+    form.restore_on_cancel(needs, &Needs::sparge, &Needs::sparge_deadspace, &Needs::top_up,
+                           &Needs::lauter_loss, &Needs::evaporation_rate, &Needs::kettle_deadspace,
+                           &Needs::hopback, &Needs::chiller, &Needs::other);
     form.on_cancel([&open] { refresh_water(open); });
     const auto save_default = [bench, &needs] {
         auto& program = bench.ports.program;

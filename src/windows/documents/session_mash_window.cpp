@@ -82,7 +82,7 @@ SimpleMashWindow* make_session_mash_window(const WindowPorts& ports, RecipeEdito
                                                         planned.session.runnings.sg, *reading, printed()));
              },
          .heat_chosen = [&editor](SimpleHeat heat) { set_heat_type(editor, heat); }},
-        places(ports.program), origin);
+        ports.prompts, places(ports.program), origin);
 }
 
 } // namespace wortlex

@@ -28,43 +28,42 @@ const WindowInfo& info_of(MashSide side) {
 } // namespace
 
 SimpleMashWindow::SimpleMashWindow(const SimpleMashWork& work, const Settings& settings, MashSide side,
-                                   SimpleMashCalls calls, const Places& places, QWidget* origin)
+                                   SimpleMashCalls calls, Prompts& prompts, const Places& places,
+                                   QWidget* origin)
     : ToolWindow(info_of(side), 0, side == MashSide::session ? Opener::session : Opener::recipe, origin,
                  places),
       notices_(places.notices), calls_(std::move(calls)), work_(work),
-      form_(made_form(work_, settings, side, actions())), widgets_(form_, places, *this) {
+      form_(made_form(work_, settings, side, actions())), widgets_(form_, places, *this), in_document_(work_),
+      ending_(*this, prompts) {
     auto* const layout = new QVBoxLayout(this);
     auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
-    set_tips(*buttons, true);
     layout->addWidget(new Scrolled(lay_out(form_, widgets_, buttons), this), 1);
     layout->addWidget(buttons);
-    add_ok_keys(*this, *buttons->button(QDialogButtonBox::Ok));
-    connect(buttons, &QDialogButtonBox::accepted, this, &SimpleMashWindow::accept);
-    connect(buttons, &QDialogButtonBox::rejected, this, &QWidget::close);
-    connect(new QShortcut(QKeySequence::Cancel, this), &QShortcut::activated, this, &QWidget::close);
-    for (const auto key : {Qt::Key_Return, Qt::Key_Enter})
-        connect(new QShortcut(key, this), &QShortcut::activated, this, &SimpleMashWindow::accept);
+    add_page_buttons(*this, *buttons, ending_);
+    close_by_escape();
     for (const auto& sequence : QKeySequence::keyBindings(QKeySequence::Save))
         connect(new QShortcut(sequence, this), &QShortcut::activated, this, &SimpleMashWindow::save);
-    form_.after_edit([this](const Row& row) {
-        if (row.key == "heat_type" && calls_.heat_chosen)
-            calls_.heat_chosen(work_.session.infusions.heat_type);
-        changed();
-    });
+    form_.after_edit([this](const Row& row) { edited(row); });
     widgets_.field("saccharification_temperature").setFocus();
 }
 
 void SimpleMashWindow::follow(Change) {
     const float grain = calls_.mash_grain();
     if (grain == work_.grain) return;
-    set_mash_grain(work_, grain);
-    work_out_infusions(work_);
+    for (auto* const work : {&work_, &in_document_}) {
+        set_mash_grain(*work, grain);
+        work_out_infusions(*work);
+    }
 }
 
-// Its chart follows.
-void SimpleMashWindow::changed() {
-    is_changed_ = true;
-    notices_.tell(Change::mash);
+void SimpleMashWindow::edited(const Row& row) {
+    if (row.key == "heat_type" && calls_.heat_chosen) {
+        const auto heat = work_.session.infusions.heat_type;
+        in_document_.session.infusions.heat_type = heat;
+        work_out_infusions(in_document_);
+        calls_.heat_chosen(heat);
+    }
+    tell_chart();
 }
 
 SimpleMashActions SimpleMashWindow::actions() {
@@ -81,7 +80,7 @@ std::function<void()> SimpleMashWindow::revert_action() {
     if (!calls_.revert_to_complex) return nullptr;
     return [this] {
         const auto revert = calls_.revert_to_complex; // a copy: closing may end this window
-        accept();
+        ending_.close_by(PageEnd::ok);
         revert();
     };
 }
@@ -101,19 +100,20 @@ std::function<void()> SimpleMashWindow::work_action(const SimpleMashCalls::Work&
     return [this, change] {
         change(work_, this);
         work_out_infusions(work_);
-        changed();
+        tell_chart();
     };
 }
 
 void SimpleMashWindow::save() {
     calls_.accepted(work_);
-    is_changed_ = false;
+    in_document_ = work_;
     calls_.save();
 }
 
-void SimpleMashWindow::accept() {
-    calls_.accepted(work_);
-    close();
+bool SimpleMashWindow::may_close() {
+    const auto end = ending_.settle(holds_changes());
+    if (end == PageEnd::ok) calls_.accepted(work_);
+    return end != PageEnd::stays;
 }
 
 } // namespace wortlex

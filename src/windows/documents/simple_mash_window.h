@@ -4,6 +4,7 @@
 #include "desktop/form_widgets.h"
 #include "desktop/tool_window.h"
 #include "mash/simple_mash_form.h"
+#include "windows/documents/page_ending.h"
 
 #include <functional>
 
@@ -30,24 +31,26 @@ struct SimpleMashCalls {
     std::function<void(SimpleHeat heat)> heat_chosen = nullptr;
 };
 
-/// A page of a document window: modeless, on a working copy. Closing it in any other way than with OK leaves
-/// the document as it was.
+/// A page of a document window: modeless, on a working copy. Cancel leaves the document as it was; Esc and
+/// the closing button ask.
 class SimpleMashWindow : public ToolWindow {
 public:
     SimpleMashWindow(const SimpleMashWork& work, const Settings& settings, MashSide side,
-                     SimpleMashCalls calls, const Places& places, QWidget* origin);
+                     SimpleMashCalls calls, Prompts& prompts, const Places& places, QWidget* origin);
 
-    bool holds_changes() const override { return is_changed_; }
-    void hand_over() override { accept(); }
+    bool holds_changes() const override { return work_ != in_document_; }
+    void hand_over() override { ending_.close_by(PageEnd::ok); }
+    void dismiss() override { ending_.close_by(PageEnd::gone); }
 
 protected:
     /// With another grain bill it takes the new weight, and the water by the ratio.
     void follow(Change change) override;
+    bool may_close() override;
 
 private:
-    void accept();
     void save();
-    void changed();
+    void edited(const Row& row);
+    void tell_chart() const { notices_.tell(Change::mash); }
     SimpleMashActions actions();
     std::function<void()> revert_action();
     std::function<void()> graph_action();
@@ -59,7 +62,8 @@ private:
     SimpleMashWork work_;
     Form form_;
     FormWidgets widgets_;
-    bool is_changed_ = false; ///< since it was opened or taken over
+    SimpleMashWork in_document_; ///< what was opened, or taken over since
+    PageEnding ending_;
 };
 
 } // namespace wortlex

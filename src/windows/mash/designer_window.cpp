@@ -163,11 +163,4 @@ void DesignerWindow::travel(Travel travel) {
     widgets_->refresh();
 }
 
-// A button that has the focus is pressed, a field keeps Enter to itself.
-void DesignerWindow::keyPressEvent(QKeyEvent* event) {
-    const bool is_enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    auto* const button = is_enter ? qobject_cast<QPushButton*>(focusWidget()) : nullptr;
-    button != nullptr ? button->click() : ToolWindow::keyPressEvent(event);
-}
-
 } // namespace wortlex

@@ -37,7 +37,6 @@ protected:
     FormWidgets& widgets() { return *widgets_; }
     Form& form() { return form_; }
     QHBoxLayout& buttons() { return *buttons_; }
-    void keyPressEvent(QKeyEvent* event) override;
 
 private:
     DesignerActions actions(std::function<void()> revert);

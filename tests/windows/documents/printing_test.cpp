@@ -42,6 +42,7 @@ TEST(ListWindowPrint, ShowsListAndEntry) {
 
 TEST(SimpleMashPrint, TellsTheScheduleUnderWork) {
     Program program;
+    ScriptedPrompts prompts;
     auto& settings = program.settings;
     measure_in(settings, Units::american);
     settings.grain_water_volume = 1.32F;
@@ -62,7 +63,7 @@ TEST(SimpleMashPrint, TellsTheScheduleUnderWork) {
                              .save = nullptr,
                              .revert_to_complex = nullptr,
                              .print = print},
-                            places(program), nullptr);
+                            prompts, places(program), nullptr);
     print_button(window).click();
     EXPECT_THAT(
         lines_on(desk.jobs.front(), 0),

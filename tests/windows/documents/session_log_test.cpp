@@ -42,7 +42,7 @@ struct Brewhouse : Brewery {
         session.water_needs.evaporation_rate = 10;
     }
     std::unique_ptr<RecipePage> open(RecipePageUse use) {
-        auto page = std::make_unique<RecipePage>(editor, std::move(use), places(program), nullptr);
+        auto page = std::make_unique<RecipePage>(editor, std::move(use), ports(), nullptr);
         page->setAttribute(Qt::WA_DeleteOnClose, false);
         page->show();
         EXPECT_TRUE(QTest::qWaitForWindowActive(page.get()));
@@ -108,6 +108,10 @@ TEST(SessionLog, AnInstrumentMeasuresForItsField) {
     });
     EXPECT_EQ(text_of(*page, "recorded_og_plato"), "10.0") << "13 Brix over 1.3";
     EXPECT_FLOAT_EQ(b.session.tail.recorded_og_reading.plato, 10);
+    b.answer_page(Answer::cancel);
+    QTest::keyClick(page.get(), Qt::Key_Escape);
+    EXPECT_TRUE(page->isVisible());
+    b.answer_page(Answer::no);
     QTest::keyClick(page.get(), Qt::Key_Escape);
     EXPECT_EQ(b.session.tail.recorded_og_reading, RefractometerPair{});
     EXPECT_EQ(b.editor.history.to_undo(), "Cancel Efficiency") << "who left by mistake can undo it";
@@ -137,8 +141,11 @@ TEST(SessionLog, TheBottlingDateFollowsTheFermentation) {
     });
     EXPECT_EQ(text_of(*page, "bottling_date"), "02-04-2001") << "ten days after 25 January";
     type_into(*page, "co2_volumes", "2.5");
-    QTest::keyClick(line_of(*page->findChild<QWidget*>("co2_volumes")), Qt::Key_Return);
-    EXPECT_FALSE(page->isVisible()) << "Enter is OK";
+    auto* const line = line_of(*page->findChild<QWidget*>("co2_volumes"));
+    QTest::keyClick(line, Qt::Key_Return);
+    EXPECT_TRUE(page->isVisible()) << "Enter ends the field";
+    page->findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok)->click();
+    EXPECT_FALSE(page->isVisible());
     EXPECT_EQ(b.session.bottling.co2_volumes, 2.5F);
 }
 
@@ -167,6 +174,7 @@ TEST(SessionWater, FollowsTheSessionAndIsPutBackByCancel) {
     type_into(*page, "dilution_rate", "0.5");
     press(*page, "calculate_ph");
     EXPECT_EQ(b.session.tail.calculated_ph, 7);
+    b.answer_page(Answer::no);
     QTest::keyClick(page.get(), Qt::Key_Escape);
     EXPECT_EQ(b.session, before);
 }

@@ -88,6 +88,7 @@ TEST(SessionMashWindow, OnlyTheHeatTypeSurvivesCancel) {
     auto& left = desk.mash();
     left.findChild<QWidget*>("heat_type")->findChildren<QAbstractButton*>().back()->click();
     type_into(left, "wort_ph", "5.2");
+    desk.answer_page(Answer::no);
     QTest::keyClick(&left, Qt::Key_Escape);
     EXPECT_EQ(session.infusions.heat_type, SimpleHeat::infusion);
     EXPECT_FLOAT_EQ(session.wort_ph, 5.5F);
@@ -99,6 +100,9 @@ TEST(SessionMashWindow, OnlyTheHeatTypeSurvivesCancel) {
     type_into(kept, "mash_out_minutes", "10");
     type_into(kept, "mash_out_infusion", "210");
     QTest::keyClick(&kept, Qt::Key_Return);
+    EXPECT_TRUE(kept.isVisible()) << "Enter ends the field";
+    desk.answer_page(Answer::yes);
+    kept.close();
     EXPECT_FLOAT_EQ(session.wort_ph, 5.2F);
     EXPECT_FLOAT_EQ(session.infusions.mash_out.amount, 16.0F * 12 / 42);
     EXPECT_FLOAT_EQ(session.water_needs.mash_water, (10 + 16.0F * 12 / 42) / 4) << "the water follows";
@@ -118,6 +122,7 @@ TEST(SessionMashWindow, TakesItsDoughInFromTheStrikeWater) {
     press(window, "calculate_strike");
     EXPECT_EQ(text_of(window, "dough_in_temperature"), "168") << "0.2 / 1 x 80 + 152";
     EXPECT_EQ(desk.program.document.recipe.mash.grain_temperature, 72);
+    desk.answer_page(Answer::no);
     window.close();
 }
 

@@ -27,7 +27,7 @@ TEST(MashChartWindow, FollowsTheScheduleBesideItAndClosesWithIt) {
     };
     auto* const window = new SimpleMashWindow(open_simple_mash(mash, 0, 10, brewery.program.settings),
                                               brewery.program.settings, MashSide::recipe, calls,
-                                              places(brewery.program), nullptr);
+                                              brewery.prompts, places(brewery.program), nullptr);
     bring_forward(*window);
     press(*window, "graph");
     press(*window, "graph");
@@ -49,6 +49,7 @@ TEST(MashChartWindow, FollowsTheScheduleBesideItAndClosesWithIt) {
     brewery.program.settings.save_window_positions = 1;
     chart->move(40, 50);
     EXPECT_EQ(brewery.program.tool_positions.slots[32].top, 50) << "the place of a recipe's chart";
+    brewery.answer_page(Answer::no);
     window->close();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     EXPECT_TRUE(chart.isNull());

@@ -180,11 +180,18 @@ TEST(DocumentDesigner, CancelPutsBackAndRevertLosesNothing) {
     const auto water = document.simple_mash.dough_in_water;
     type_over(*line_of(*kitchen.designer->findChild<QWidget*>("dough_in")), "25");
     EXPECT_EQ(document.simple_mash.dough_in_water, 25);
+    kitchen.answer_page(Answer::cancel);
+    Kitchen::press(Qt::Key_Escape);
+    EXPECT_EQ(document.mash.step_count, 1);
+    kitchen.answer_page(Answer::no);
     Kitchen::press(Qt::Key_Escape);
     EXPECT_EQ(document.mash.step_count, 0);
     EXPECT_EQ(document.simple_mash.dough_in_water, water);
     kitchen.undo_in_recipe();
     EXPECT_EQ(document.mash.step_count, 1) << "cancelled by mistake";
+    kitchen.open(false);
+    Kitchen::press(Qt::Key_Escape);
+    EXPECT_EQ(open_window<DocumentDesignerWindow>(), nullptr) << "nothing was changed, nothing is asked";
     kitchen.open(false);
     press(*kitchen.designer, "revert");
     EXPECT_FALSE(has_complex_schedule(document));

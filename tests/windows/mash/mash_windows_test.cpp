@@ -20,6 +20,7 @@ namespace {
 // What a document window hears from its page.
 struct Page {
     Program program;
+    ScriptedPrompts prompts;
     float grain = 10;
     std::vector<std::string> heard;
 
@@ -37,7 +38,7 @@ struct Page {
         if (has_complex) calls.revert_to_complex = [this] { heard.emplace_back("complex"); };
         auto* const window =
             new SimpleMashWindow(open_simple_mash(mash, 0, grain, program.settings), program.settings,
-                                 MashSide::recipe, calls, places(program), nullptr);
+                                 MashSide::recipe, calls, prompts, places(program), nullptr);
         window->closed = [this] { heard.emplace_back("closed"); };
         bring_forward(*window);
         EXPECT_TRUE(QTest::qWaitForWindowActive(window));
