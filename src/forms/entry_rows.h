@@ -21,6 +21,8 @@ public:
     /// Where arrows go; nothing where there are none, or they turn no plain number.
     virtual std::optional<SpinRange> arrow_range() const { return std::nullopt; }
     virtual bool is_number() const { return true; }
+    /// A specific gravity, which brewers write without its point, too.
+    virtual bool is_gravity() const { return false; }
     virtual bool is_multi_line() const { return false; }
 
     /// What may be typed, in the unit shown: "1 to 100"; empty where anything may.
@@ -62,7 +64,7 @@ enum class Outside {
 
 /// Makes a decimal comma in a number's field a point, before the rule of the field sees it. A second mark is
 /// thrown out as it is typed; a text that comes with several is refused as a whole, for it is not guessed
-/// which of them marks the thousands. Whether the text can be read.
+/// which of them marks the thousands. A gravity in thousandths gets its point. Whether the text can be read.
 bool read_decimal_mark(const EntryRow& row, TextField& field);
 
 /// A number, edited in the unit in which it is shown. Ranges and steps are in that unit.
@@ -79,6 +81,7 @@ public:
     NumberRow& step(Live<float> by);
     NumberRow& format(Live<std::string> pattern); ///< of `show_float`; not for SG and Plato
     NumberRow& outside(Outside rule);
+    NumberRow& gravity(); ///< a specific gravity in a format of its own
     /// What a change by typing alone, or by the arrows alone, brings with it; both values as shown.
     NumberRow& when_typed(std::function<void(float before, float after)> then);
     NumberRow& when_spun(std::function<void(float before, float after)> then);
@@ -90,6 +93,7 @@ public:
     bool spun(TextField& field, Spin direction) override;
     bool has_arrows() const override { return step_.has_value(); }
     std::optional<SpinRange> arrow_range() const override;
+    bool is_gravity() const override { return is_gravity_; }
     std::string range_words() const override;
     bool is_outside(const std::string& text) const override;
     void hold() const override;
@@ -103,6 +107,7 @@ private:
 
     Binding<float> value_;
     Scale scale_;
+    bool is_gravity_;
     const Settings* settings_; ///< of SG and Plato, whose decimals it tells
     Live<float> typed_low_, typed_high_;
     Live<float> spun_low_, spun_high_;

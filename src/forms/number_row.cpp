@@ -18,8 +18,8 @@ float held_step(float stepped, float before, const SpinRange& range) {
 
 NumberRow::NumberRow(std::string row_key, Binding<float> value, Scale scale, const Settings* settings)
     : EntryOptions(std::move(row_key), ColorArea::entries), value_(std::move(value)), scale_(scale),
-      settings_(settings), typed_low_(-anything), typed_high_(anything), spun_low_(-anything),
-      spun_high_(anything) {}
+      is_gravity_(scale == Scale::sg), settings_(settings), typed_low_(-anything), typed_high_(anything),
+      spun_low_(-anything), spun_high_(anything) {}
 
 NumberRow& NumberRow::typed(Live<float> low, Live<float> high) {
     typed_low_ = std::move(low);
@@ -52,6 +52,11 @@ NumberRow& NumberRow::format(Live<std::string> pattern) {
 
 NumberRow& NumberRow::outside(Outside rule) {
     outside_ = rule;
+    return *this;
+}
+
+NumberRow& NumberRow::gravity() {
+    is_gravity_ = true;
     return *this;
 }
 
@@ -152,7 +157,8 @@ std::string NumberRow::range_words() const {
 }
 
 bool NumberRow::is_outside(const std::string& text) const {
-    return limit_beyond(text, typed_low_(), typed_high_()).has_value();
+    const auto& number = is_gravity_ ? with_gravity_point(text) : text;
+    return limit_beyond(number, typed_low_(), typed_high_()).has_value();
 }
 
 void NumberRow::hold() const {

@@ -31,6 +31,16 @@ std::optional<double> limit_beyond(std::string text, double low, double high) {
     return number > high ? std::optional(high) : std::nullopt;
 }
 
+std::string with_gravity_point(const std::string& text) {
+    const auto first = text.find_first_not_of(' '), last = text.find_last_not_of(' ');
+    if (first == std::string::npos) return text;
+    const auto digits = text.substr(first, last - first + 1);
+    const bool is_whole = digits.find_first_not_of("0123456789") == std::string::npos;
+    if (is_whole && digits.size() == 3 && digits.front() == '9') return "0." + digits;
+    if (is_whole && digits.size() == 4 && digits.front() == '1') return "1." + digits.substr(1);
+    return text;
+}
+
 bool read_decimal_mark(const EntryRow& row, TextField& field) {
     const auto typed = field.text();
     auto text = typed;
@@ -41,10 +51,12 @@ bool read_decimal_mark(const EntryRow& row, TextField& field) {
         return false;
     }
     if (marks == 2) text.pop_back();
+    if (row.is_gravity()) text = with_gravity_point(text);
     if (text == typed) return true;
-    const int caret = field.caret();
+    const auto size = static_cast<int>(text.size()), grown = size - static_cast<int>(typed.size());
+    const int caret = field.caret() + std::max(grown, 0);
     field.set_text(text);
-    field.set_caret(std::min(caret, static_cast<int>(text.size())));
+    field.set_caret(std::min(caret, size));
     return true;
 }
 

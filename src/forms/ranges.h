@@ -19,4 +19,8 @@ std::string range_in_words(double low, double high, double everything);
 /// The limit beyond which `text` lies, be it ever so far; nothing where it lies within, or is no number yet.
 std::optional<double> limit_beyond(std::string text, double low, double high);
 
+/// "1044", as brewers say it, with its point, as 1.044: whole numbers from 900 to 1999. Else the text as it
+/// is.
+std::string with_gravity_point(const std::string& text);
+
 } // namespace wortlex

@@ -92,7 +92,7 @@ void wort_rows(Rows& rows, SessionMash& session, std::function<void()> correct_g
             .format("%0.6f")
             .outside(Outside::clamp);
     };
-    scale("runnings_sg", &TwinGravity::sg, of_sg).range(1.0F, 2.0F).step(0.001F);
+    scale("runnings_sg", &TwinGravity::sg, of_sg).gravity().range(1.0F, 2.0F).step(0.001F);
     scale("runnings_plato", &TwinGravity::plato, of_plato).range(1.0F, 100.0F).step(0.1F);
     rows.button("correct_gravity", "H&ydro Calc", std::move(correct_gravity))
         .hint("Corrects a hydrometer reading for its temperature");

@@ -65,6 +65,38 @@ TEST(NumberRow, OutsideItsRangeFollowsItsRule) {
     }
 }
 
+TEST(NumberRow, AGravityIsReadWithoutItsPoint) {
+    struct Case {
+        const char* text;
+        const char* left; ///< in the field
+        float sg;
+        bool is_told;
+    };
+    const Settings settings;
+    for (const auto& c :
+         {Case{"1044", "1.044", 1.044F, false}, Case{" 1999", "1.999", 1.999F, false},
+          Case{"998", "0.998", 1, true}, Case{"104", "104", 2, true}, Case{"2000", "2000", 2, true},
+          Case{"1044.", "1044.", 2, true}, Case{"1,05", "1.05", 1.05F, false}}) {
+        float sg = 1.01F, plain = 1.01F, sugar = 1.01F;
+        Form form;
+        form.rows().sg("sg", sg, settings).range(1, 2).outside(Outside::clamp);
+        form.rows().number("plain", plain).gravity().range(1, 2).outside(Outside::clamp);
+        form.rows().number("sugar", sugar).range(1, 5000);
+        for (const auto* const key : {"sg", "plain"}) {
+            PlainField field;
+            type(form, key, field, c.text);
+            EXPECT_EQ(field.content, c.left) << key;
+            EXPECT_EQ(field.position, static_cast<int>(field.content.size())) << "goes on behind it";
+            EXPECT_EQ(dynamic_cast<EntryRow&>(form.row(key)).is_outside(c.text), c.is_told) << c.text;
+        }
+        EXPECT_FLOAT_EQ(sg, c.sg) << c.text;
+        EXPECT_FLOAT_EQ(plain, c.sg) << c.text;
+        PlainField field;
+        EXPECT_TRUE(type(form, "sugar", field, "1044"));
+        EXPECT_EQ(sugar, 1044) << "no gravity";
+    }
+}
+
 TEST(NumberRow, AStepNeverLeavesTheRange) {
     const auto no_number = std::numeric_limits<float>::quiet_NaN();
     struct Case {
