@@ -364,8 +364,10 @@ void FormWidgets::follow_typing(EntryRow& row, const Line& line) {
 
 void FormWidgets::follow_leaving(EntryRow& row, const Line& line) {
     const auto leave = [this, &row, line] {
-        show_value(shown_.at(&row));
-        show_state(row, shown_.at(&row)); // it may have been told out of range
+        const auto& shown = shown_.at(&row);
+        if (shown.refresh) shown.refresh();
+        show_state(row, shown); // it may have been told out of range
+        if (!hint_.isNull()) hint_->leave(*shown.field);
         const QPointer<QObject> still(&alive_);
         form_.leave();
         if (!still.isNull() && line.widget->hasFocus())

@@ -9,24 +9,29 @@
 #include <QPainter>
 
 #include <algorithm>
+#include <chrono>
 #include <limits>
 
 namespace wortlex {
 namespace {
 
 constexpr int thickness = 2;
+constexpr std::chrono::seconds time_to_read{3};
 
 } // namespace
 
 RangeHint::RangeHint(QWidget* window) : QWidget(window) {
     setObjectName(QStringLiteral("range_hint"));
     setAttribute(Qt::WA_TransparentForMouseEvents);
+    moment_.setSingleShot(true);
+    connect(&moment_, &QTimer::timeout, this, &QWidget::hide);
     hide();
 }
 
 void RangeHint::tell(QWidget& field, const QString& range) {
     if (!field_.isNull()) field_->removeEventFilter(this);
     field_ = &field;
+    moment_.stop();
     field.installEventFilter(this);
     range_ = range;
     setAccessibleName(range);
@@ -43,9 +48,15 @@ void RangeHint::forget(const QWidget& field) {
     if (field_ == &field) hide();
 }
 
+void RangeHint::leave(const QWidget& field) {
+    if (field_ == &field) moment_.start(time_to_read);
+}
+
 bool RangeHint::eventFilter(QObject* watched, QEvent* event) {
     switch (event->type()) {
     case QEvent::FocusOut:
+        leave(*field_);
+        break;
     case QEvent::Hide:
         hide();
         break;
