@@ -90,7 +90,7 @@ void DocumentWindow::add_edit_menu(QMenuBar& bar) {
     undo_->setShortcuts(QKeySequence::Undo);
     redo_ = menu->addAction(tr("&Redo"), this, [this] { travel(Travel::redo); });
     redo_->setObjectName(QStringLiteral("redo"));
-    redo_->setShortcuts(QKeySequence::Redo);
+    redo_->setShortcuts(redo_keys());
 }
 
 QPushButton* DocumentWindow::ok_button(const char* meaning) {

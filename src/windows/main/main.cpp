@@ -9,6 +9,7 @@
 #include "desktop/print_preview.h"
 #include "desktop/second_start.h"
 #include "desktop/system_ports.h"
+#include "desktop/undo_keys.h"
 #include "jpeg/jpeg_pictures.h"
 #include "program/brewery_folder.h"
 #include "program/fault_log.h"
@@ -116,6 +117,7 @@ int show(Program& program, const std::string& folder, Prompts& prompts, const Re
     JpegPictures pictures;
     MainWindow window({program, prompts, files, pages, clipboard, easel, pictures});
     window.show();
+    const RedoKey redo_key;
     const EndOfSession end_of_session([&program] { keep_work(program.tools); });
     const SecondStarts second_starts(folder, [&window](const std::string& path) { window.take_over(path); });
     QTimer::singleShot(0, &window, [&window, &asked] { once_shown(window, asked); });

@@ -166,7 +166,7 @@ TEST(RecipeWindow, UndoIsTheRecipesInEveryField) {
     EXPECT_FALSE(undo->isEnabled());
     EXPECT_EQ(kitchen.recipe->windowTitle(), "Untitled - Wortlex Recipe Formulation")
         << "as if nothing had been";
-    kitchen.recipe->findChild<QAction*>("redo")->trigger();
+    kitchen.press(Qt::Key_Y, Qt::ControlModifier);
     EXPECT_EQ(title.text(), "Stout");
     kitchen.prompts.expect_save("recipe", Answer::cancel);
     EXPECT_FALSE(kitchen.recipe->close());
