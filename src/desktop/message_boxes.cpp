@@ -40,11 +40,18 @@ void keep_lines_whole(const QMessageBox& box) {
     if (width <= widest) words->setMinimumWidth(width);
 }
 
+void tell_details(QMessageBox& box, const QString& details) {
+    box.setInformativeText(details);
+    if (auto* const words = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_informativelabel")))
+        words->setTextFormat(Qt::PlainText);
+}
+
 void prepare(QMessageBox& box, const Message& message, QMessageBox::StandardButtons buttons) {
     box.setWindowModality(Qt::WindowModal);
     box.setWindowTitle(string_of(message.caption));
     box.setTextFormat(Qt::PlainText);
     box.setText(string_of(message.text));
+    if (!message.details.empty()) tell_details(box, string_of(message.details));
     box.setIcon(icon_of(message.icon));
     box.setStandardButtons(buttons);
     box.setDefaultButton(message.safe == Answer::yes ? QMessageBox::Yes : QMessageBox::No);

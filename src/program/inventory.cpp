@@ -1,6 +1,6 @@
 #include "program/inventory.h"
 
-#include "documents/work/stocks.h"
+#include "documents/work/inventory_analysis.h"
 #include "program/program.h"
 #include "program/recovery.h"
 
@@ -16,6 +16,8 @@ constexpr std::string_view wait_for_more =
     "Some ingredients were not found or there is not enough in stock to complete the session.\n\nDo you want "
     "to wait until you have a chance to update inventories before finalizing this brewing session?";
 constexpr std::string_view updated = "Database(s) successfully updated!";
+constexpr std::string_view nothing_taken =
+    "Nothing was subtracted: no ingredient of the session is in stock.";
 constexpr std::string_view not_booked =
     "The inventory was not finalized: its files could not be written. Is the disk full, or a file or folder "
     "read-only?\n\nNothing has been changed.";
@@ -53,13 +55,23 @@ std::optional<std::pair<Stocks, Booking>> booked_stocks(const std::string& data_
     return std::pair(std::move(stocks), booking);
 }
 
-bool may_book(const std::string& data_folder, const BrewDocument& document, Prompts& prompts) {
-    if (prompts.ask_yes_no({.text = really_finalize, .icon = Icon::question}) != Answer::yes) return false;
-    const auto booked = booked_stocks(data_folder, document, prompts);
-    if (!booked) return false;
-    return booked->second.is_complete ||
-           prompts.ask_yes_no({.text = wait_for_more, .icon = Icon::question, .safe = Answer::yes}) ==
-               Answer::no;
+// What of the session is taken in part only or not at all. A database that is not whole is told of later.
+std::string shortages_now(const std::string& data_folder, const OpenDocument& open) {
+    Stocks stocks;
+    if (!LoadStocks(data_folder, stocks).empty()) return {};
+    const auto words = shortages_in_words(analyze_inventory(open.document, stocks, open.settings));
+    return words.empty() ? words : "Of these only what is there will be subtracted:\n" + words;
+}
+
+bool may_book(const std::string& data_folder, const OpenDocument& open, Prompts& prompts) {
+    const auto shortages = shortages_now(data_folder, open);
+    const Message really{.text = really_finalize, .icon = Icon::question, .details = shortages};
+    if (prompts.ask_yes_no(really) != Answer::yes) return false;
+    const auto booked = booked_stocks(data_folder, open.document, prompts);
+    if (!booked || booked->second.is_complete) return booked.has_value();
+    const Message wait{
+        .text = wait_for_more, .icon = Icon::question, .safe = Answer::yes, .details = shortages};
+    return prompts.ask_yes_no(wait) == Answer::no;
 }
 
 // One that was cut short or never saved is left to the user to name.
@@ -77,11 +89,20 @@ void add_session(std::vector<FileChange>& changes, const std::string& data_folde
         {work_path(data_folder), is_saved ? std::nullopt : std::optional(kept_work(image, saving.file))});
 }
 
+struct Booked {
+    JointSave save = JointSave::refused;
+    bool has_taken = false; ///< anything from the stocks
+};
+
+bool has_taken(const Booking& booking) {
+    return booking.malts || booking.hops || booking.extras || booking.yeasts;
+}
+
 // Reads the stocks again: while a question stood, the user may have worked on them.
-JointSave book(const std::string& data_folder, DocumentSaving& saving) {
+Booked book(const std::string& data_folder, DocumentSaving& saving) {
     auto& open = saving.editor.open;
     const auto booked = booked_stocks(data_folder, open.document, saving.prompts);
-    if (!booked) return JointSave::refused;
+    if (!booked) return {};
     auto changes = changed_files(data_folder, booked->first, booked->second);
     open.session->inventory_finalized = 1;
     add_session(changes, data_folder, saving);
@@ -90,16 +111,17 @@ JointSave book(const std::string& data_folder, DocumentSaving& saving) {
         open.session->inventory_finalized = 0;
         saving.prompts.tell({.text = not_booked, .icon = Icon::error});
     }
-    return result;
+    return {result, has_taken(booked->second)};
 }
 
-void tell_booked(Program& program, DocumentSaving& saving, JointSave result) {
+void tell_booked(Program& program, DocumentSaving& saving, const Booked& booked) {
     program.notices.tell(Change::databases);
     tell_change(saving.editor);
-    if (result == JointSave::put_off)
-        saving.prompts.tell({.text = booked_in_part, .icon = Icon::warning});
-    else
-        saving.prompts.tell({.text = updated, .icon = Icon::information});
+    if (booked.save == JointSave::put_off)
+        return saving.prompts.tell({.text = booked_in_part, .icon = Icon::warning});
+    saving.prompts.tell({.text = updated,
+                         .icon = Icon::information,
+                         .details = booked.has_taken ? std::string_view() : nothing_taken});
 }
 
 } // namespace
@@ -111,14 +133,14 @@ bool finalize_inventory(Program& program, DocumentSaving& saving) {
         prompts.tell({.text = finalized_already, .icon = Icon::information});
         return false;
     }
-    if (!may_book(program.data_folder, open.document, prompts)) return false;
+    if (!may_book(program.data_folder, open, prompts)) return false;
     const bool is_saved = has_own_file(saving.file);
     if (is_saved && !may_overwrite(saving, saving.file.path)) return false;
     if (open.session->inventory_finalized != 0) return false; // by another press while a question stood
-    const auto result = book(program.data_folder, saving);
-    if (result == JointSave::refused) return false;
+    const auto booked = book(program.data_folder, saving);
+    if (booked.save == JointSave::refused) return false;
     if (is_saved) count_as_saved(saving, saving.file.path);
-    tell_booked(program, saving, result);
+    tell_booked(program, saving, booked);
     return is_saved;
 }
 

@@ -69,6 +69,7 @@ TEST(FinalizeInventory, BooksOnceAndSavesTheSession) {
     brewery.prompts.expect_finalizing(Answer::no);
     EXPECT_FALSE(brewery.finalize());
     EXPECT_EQ(brewery.in_stock(), "20 4 2 3");
+    EXPECT_TRUE(brewery.prompts.details.empty()) << "there is enough";
 
     std::vector<Change> told;
     const auto listening = brewery.program.notices.listen([&](Change change) { told.push_back(change); });
@@ -103,6 +104,24 @@ TEST(FinalizeInventory, WhatIsMissingMayBeWaitedFor) {
     brewery.expect_updated();
     brewery.finalize();
     EXPECT_EQ(brewery.in_stock(), "10 4 1 2");
+    const auto shortages =
+        "Of these only what is there will be subtracted:\nAnother hop - Whole: in no database";
+    EXPECT_THAT(brewery.prompts.details, testing::ElementsAre(shortages, shortages, shortages, shortages));
+}
+
+TEST(FinalizeInventory, NothingTakenIsTold) {
+    StockedBrewery brewery;
+    auto& recipe = brewery.editor.open.document;
+    recipe.hops.clear();
+    recipe.extras.clear();
+    recipe.yeast = {};
+    recipe.malts[0].record.name.assign("Another malt");
+    brewery.prompts.expect_finalizing(Answer::yes);
+    brewery.prompts.expect_to_wait(Answer::no);
+    brewery.expect_updated();
+    brewery.finalize();
+    EXPECT_EQ(brewery.prompts.details.back(),
+              "Nothing was subtracted: no ingredient of the session is in stock.");
 }
 
 TEST(FinalizeInventory, ASessionWithoutAFileIsKeptAsFinalized) {

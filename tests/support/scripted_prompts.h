@@ -64,6 +64,8 @@ public:
                     Icon::warning);
     }
 
+    std::vector<std::string> details; ///< that were told below a text, in turn
+
     void tell(const Message& message) override { take("tell", message, std::monostate()); }
     Answer ask_yes_no(const Message& m) override { return take("yes/no", m, Answer::no); }
     Answer ask_yes_no_or_stay(const Message& m) override { return take("yes/no or stay", m, Answer::cancel); }
@@ -90,6 +92,7 @@ private:
     Answered take(const std::string& what, const Message& message, Answered otherwise) {
         const auto step = script_.empty() ? Step{"nothing", "", "", {}, {}} : script_.front();
         if (!script_.empty()) script_.pop_front();
+        if (!message.details.empty()) details.emplace_back(message.details);
         EXPECT_EQ((std::tuple{step.what, step.text, step.caption, step.icon}),
                   (std::tuple{what, message.text, message.caption, message.icon}));
         // Whatever is asked, Enter loses nothing.

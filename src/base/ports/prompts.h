@@ -18,9 +18,10 @@ struct Message {
     std::string_view text;
     std::string_view caption = "Wortlex";
     Icon icon = Icon::none;
-    Answer safe = Answer::no;  ///< of a question: what Enter answers, the one by which nothing is lost
-    std::string_view own = {}; ///< what is the brewer's own, as a file's name: the log leaves it out
-    bool is_advice = false;    ///< of a warning: it is about what the brewer does, no fault for the log
+    Answer safe = Answer::no;      ///< of a question: what Enter answers, the one by which nothing is lost
+    std::string_view own = {};     ///< what is the brewer's own, as a file's name: the log leaves it out
+    bool is_advice = false;        ///< of a warning: it is about what the brewer does, no fault for the log
+    std::string_view details = {}; ///< what there is to know besides, below the text
 };
 
 class Prompts {

@@ -6,6 +6,8 @@
 #include "measures/units.h"
 
 #include <algorithm>
+#include <functional>
+#include <optional>
 
 namespace wortlex {
 namespace {
@@ -26,23 +28,27 @@ std::array<std::string, 4> weighed_heads(const std::string& name, const std::str
     return {name, "Recipe " + unit, unit + " In Stock", unit + " Needed"};
 }
 
-StockLine stock_line(std::string name, std::string origin, float wanted, float in_stock) {
-    const float needed = wanted >= in_stock ? narrow(double{wanted} - in_stock) : 0.0F;
-    return {std::move(name), std::move(origin), wanted, in_stock, needed};
+// Nothing in stock: it was not found.
+StockLine stock_line(std::string name, std::string origin, float wanted, std::optional<float> in_stock) {
+    const float there = in_stock.value_or(0.0F);
+    const float needed = wanted >= there ? narrow(double{wanted} - there) : 0.0F;
+    return {std::move(name), std::move(origin), wanted, there, needed, in_stock.has_value()};
 }
 
 template <class Record, class Line>
-float stock_of(const Database<Record>& database, const Line& line) {
+std::optional<float> stock_of(
+    const Database<Record>& database, const Line& line,
+    const std::function<float(float)>& shown = [](float stock) { return stock; }) {
     const auto* const entry = find_stock(database, line);
-    return entry == nullptr ? 0.0F : entry->stock;
+    return entry == nullptr ? std::nullopt : std::optional(shown(entry->stock));
 }
 
 StockList malt_stock(const BrewDocument& document, const Stocks& stocks, const Settings& settings) {
+    const auto shown = [&settings](float pounds) { return grain_to_shown(pounds, settings); };
     StockList list{weighed_heads("Grain/Malt", grain_unit(settings).usual), {}};
     for (const auto& line : document.malts)
         list.lines.push_back(stock_line(plain_text(line.record.name), plain_text(line.record.origin),
-                                        grain_to_shown(line.amount, settings),
-                                        grain_to_shown(stock_of(stocks.malts, line), settings)));
+                                        shown(line.amount), stock_of(stocks.malts, line, shown)));
     return list;
 }
 
@@ -51,11 +57,11 @@ std::string name_with_form(const HopRecord& hop) {
 }
 
 StockList hop_stock(const BrewDocument& document, const Stocks& stocks, const Settings& settings) {
+    const auto shown = [&settings](float ounces) { return hop_to_shown(ounces, settings); };
     StockList list{weighed_heads("Hops", hop_unit(settings).usual), {}};
     for (const auto& line : document.hops)
         list.lines.push_back(stock_line(name_with_form(line.record), plain_text(line.record.origin),
-                                        hop_to_shown(line.amount, settings),
-                                        hop_to_shown(stock_of(stocks.hops, line), settings)));
+                                        shown(line.amount), stock_of(stocks.hops, line, shown)));
     return list;
 }
 
@@ -67,9 +73,9 @@ StockList bitterness_stock(const BrewDocument& document, const Stocks& stocks, c
     StockList list{{std::string("Hop ") + word + "'s", "In Recipe", "In Stock", "Needed"}, {}, true};
     for (const auto& line : document.hops) {
         const auto* const entry = find_stock(stocks.hops, line);
-        list.lines.push_back(stock_line(name_with_form(line.record), plain_text(line.record.origin),
-                                        units(line.amount, line.alpha),
-                                        entry == nullptr ? 0.0F : units(entry->stock, entry->alpha)));
+        list.lines.push_back(stock_line(
+            name_with_form(line.record), plain_text(line.record.origin), units(line.amount, line.alpha),
+            entry == nullptr ? std::nullopt : std::optional(units(entry->stock, entry->alpha))));
     }
     return list;
 }
@@ -99,6 +105,12 @@ InventoryRow row_of(const StockLine& line) {
             line.is_short()};
 }
 
+std::string shortage_in_words(const StockLine& line) {
+    if (!line.is_known) return line.name + ": in no database";
+    return line.name + formatted(": %0.2f wanted,", line.wanted) +
+           formatted(" %0.2f in stock", line.in_stock);
+}
+
 } // namespace
 
 InventoryAnalysis analyze_inventory(const BrewDocument& document, const Stocks& stocks,
@@ -117,6 +129,17 @@ std::size_t count_short(const InventoryAnalysis& analysis) {
             count += static_cast<std::size_t>(std::count_if(
                 list.lines.begin(), list.lines.end(), [](const StockLine& line) { return line.is_short(); }));
     return count;
+}
+
+std::string shortages_in_words(const InventoryAnalysis& analysis) {
+    constexpr std::size_t most = 8;
+    std::size_t count = 0;
+    std::string words;
+    for (const auto& list : analysis)
+        for (const auto& line : list.lines)
+            if (!list.is_told_again && line.is_short() && count++ < most)
+                words += (words.empty() ? "" : "\n") + shortage_in_words(line);
+    return count > most ? words + "\nand " + std::to_string(count - most) + " more" : words;
 }
 
 std::vector<InventoryRow> inventory_rows(const InventoryAnalysis& analysis) {

@@ -13,8 +13,9 @@ struct StockLine {
     std::string name;   ///< of a hop with its form
     std::string origin; ///< of a yeast its lab; extras have none
     float wanted = 0;
-    float in_stock = 0; ///< 0 too where nothing was found
-    float needed = 0;   ///< to be bought
+    float in_stock = 0;    ///< 0 too where nothing was found
+    float needed = 0;      ///< to be bought
+    bool is_known = false; ///< found in its database
 
     /// A shortage that its two decimals do not show is none.
     bool is_short() const { return needed >= 0.005F; }
@@ -36,6 +37,9 @@ InventoryAnalysis analyze_inventory(const BrewDocument& document, const Stocks& 
 
 /// How many ingredients are short; bitterness units count for nothing.
 std::size_t count_short(const InventoryAnalysis& analysis);
+
+/// What is short, a line each, long lists cut; empty where nothing is.
+std::string shortages_in_words(const InventoryAnalysis& analysis);
 
 inline constexpr std::string_view inventory_heading = "Inventory Analysis For Brewing Session";
 
