@@ -2,6 +2,7 @@
 
 #include "base/files.h"
 #include "base/windows1252.h"
+#include "brewing/calendar.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -159,13 +160,26 @@ void TimeSheet::stop() {
     selected = static_cast<std::int32_t>(line_.entries.size()) - 1;
 }
 
+FileChoice TimeSheet::choice(std::string suggested_name) const {
+    return {.filter = time_line_filter,
+            .folder = folder_path(desk_.folders, FolderKind::sessions),
+            .suggested_name = std::move(suggested_name),
+            .extension = "tml"};
+}
+
+// One that was saved keeps its name.
+std::string TimeSheet::suggested_name() const {
+    if (!line_.path.empty()) return file_name(std::string(line_.path.view()));
+    const auto title = desk_.title();
+    const auto name = (title.empty() ? "Time Line" : title) + " " +
+                      short_date(desk_.clock.today(), DateFormat::year_month_day);
+    return tame_file_name(name) + ".tml";
+}
+
 bool TimeSheet::store() {
-    const std::string_view last = line_.path.view();
-    const auto path = desk_.files.choose_to_save({.filter = time_line_filter,
-                                                  .folder = desk_.data_folder,
-                                                  .suggested_name = file_name(std::string(last)),
-                                                  .extension = "tml"});
+    const auto path = desk_.files.choose_to_save(choice(suggested_name()));
     if (!path) return false;
+    follow_user(desk_.folders, FolderKind::sessions, *path);
     auto saved = line_;
     saved.path.assign(*path);
     if (!save_or_tell(*path, time_line_bytes(saved), desk_.prompts)) return false;
@@ -186,8 +200,9 @@ bool TimeSheet::may_drop() {
 
 void TimeSheet::load() {
     if (is_running_ || !may_drop()) return;
-    const auto path = desk_.files.choose_to_open({time_line_filter, desk_.data_folder, {}, "tml"});
+    const auto path = desk_.files.choose_to_open(choice({}));
     if (!path) return;
+    follow_user(desk_.folders, FolderKind::sessions, *path);
     const auto file = read_file(*path, time_line_size);
     if (!file) return desk_.prompts.tell({.text = file_not_found, .icon = Icon::error, .own = *path});
     auto line = read_time_line(*file);
@@ -203,9 +218,11 @@ void TimeSheet::load() {
     selected = static_cast<std::int32_t>(line_.entries.size()) - 1;
 }
 
+// A sheet that stays open after all runs on.
 bool TimeSheet::may_close() {
-    stop();
-    if (is_running_ || !may_drop()) return false;
+    if (is_running_ && desk_.prompts.ask_yes_no(stop_question) != Answer::yes) return false;
+    if (!may_drop()) return false;
+    is_running_ = false;
     if (is_modified_) forget_kept();
     return true;
 }

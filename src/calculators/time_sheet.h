@@ -8,17 +8,21 @@
 #include "calculators/time_line.h"
 #include "forms/form.h"
 #include "page/page.h"
+#include "settings/system_files.h"
 
 namespace wortlex {
 
 /// What the sheet asks and tells. All must outlive it.
 struct TimeSheetDesk {
     std::string data_folder; ///< where an unsaved time line is kept
+    FolderSet& folders;
     Files& files;
     Prompts& prompts;
     const Clock& clock;
     /// Asks for a comment (Windows-1252), given the one that there is; nothing if the user leaves it.
     std::function<std::optional<std::string>(std::string_view comment)> ask_comment;
+    /// Of the open document, UTF-8; empty where there is none.
+    std::function<std::string()> title;
 };
 
 /// Whether a time line was left that was never saved.
@@ -64,6 +68,8 @@ private:
     void add_event(std::int32_t moment, std::string_view comment);
     void changed();
     void forget_kept();
+    FileChoice choice(std::string suggested_name) const;
+    std::string suggested_name() const;
     bool store();
     /// Asks about an unsaved time line; true if it is saved, or may be dropped: the caller forgets it then.
     bool may_drop();

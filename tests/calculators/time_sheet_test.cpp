@@ -20,6 +20,7 @@ constexpr auto kept_question = "A time line was left before it was saved.\nDo yo
 
 // A brew day: the sheet, its clock, and the comments that the brewer gives, in order.
 struct BrewDay : ScriptedUser {
+    std::string title;
     FixedClock clock;
     std::deque<std::optional<std::string>> comments;
     std::function<void()> while_asked = [] {};
@@ -30,12 +31,13 @@ struct BrewDay : ScriptedUser {
         clock.seconds = start_of_day;
     }
     TimeSheet sheet() {
-        return TimeSheet({folder.path(), files, prompts, clock, [this](std::string_view) {
-                              while_asked();
-                              auto comment = comments.front();
-                              comments.pop_front();
-                              return comment;
-                          }});
+        const auto comment = [this](std::string_view) {
+            while_asked();
+            auto next = comments.front();
+            comments.pop_front();
+            return next;
+        };
+        return TimeSheet({folder.path(), folders, files, prompts, clock, comment, [this] { return title; }});
     }
     void after(int seconds, TimeSheet& sheet) {
         clock.seconds += seconds;
@@ -110,10 +112,16 @@ TEST(TimeSheet, ClosingLosesNothing) {
     day.expect_stop(Answer::yes);
     day.expect_save(Answer::cancel);
     EXPECT_FALSE(sheet.may_close());
+    EXPECT_TRUE(sheet.is_running()) << "as it was";
+    day.title = "Porch 1/2 Ale";
+    day.clock.date = {22, 11, 2026};
+    day.expect_stop(Answer::yes);
     day.expect_save(Answer::yes);
     day.files.add(std::nullopt);
     EXPECT_FALSE(sheet.may_close()) << "the file dialog was left";
-    EXPECT_TRUE(day.is_kept());
+    EXPECT_TRUE(day.is_kept() && sheet.is_running());
+    EXPECT_THAT(day.files.offers.back(), testing::HasSubstr("Porch 1_2 Ale 2026-11-22.tml"));
+    day.expect_stop(Answer::yes);
     day.expect_save(Answer::yes);
     day.files.add(day.folder.path() + "day.tml");
     EXPECT_TRUE(sheet.may_close());

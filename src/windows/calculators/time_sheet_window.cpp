@@ -1,5 +1,6 @@
 #include "windows/calculators/time_sheet_window.h"
 
+#include "base/windows1252.h"
 #include "desktop/captions.h"
 #include "desktop/form_dialog.h"
 #include "desktop/list_keys.h"
@@ -13,12 +14,19 @@ namespace {
 
 constexpr int face_size = 5; // times the height of the usual letters: to be read from the kettle
 
+std::string title_of_open_document(const Program& program) {
+    const bool is_any =
+        is_open(program.tools, command::open_recipe) || is_open(program.tools, command::open_session);
+    return is_any ? utf8_from_windows1252(program.document.recipe.title.view()) : std::string();
+}
+
 } // namespace
 
 TimeSheetWindow::TimeSheetWindow(const WindowPorts& ports, const WindowInfo& info, QWidget* origin)
     : ToolWindow(info, 0, Opener::main, origin, places(ports.program)), ports_(ports),
-      sheet_({ports.program.data_folder, ports.files, ports.prompts, clock_,
-              [this](std::string_view comment) { return ask_comment(comment); }}),
+      sheet_({ports.program.data_folder, ports.program.folders, ports.files, ports.prompts, clock_,
+              [this](std::string_view comment) { return ask_comment(comment); },
+              [&program = ports.program] { return title_of_open_document(program); }}),
       form_(made_form()), widgets_(form_, places(ports.program), *this) {
     lay_out_rows();
     press_by_key(widgets_.field("lines"), QKeySequence::Delete, widgets_.field("erase"));
