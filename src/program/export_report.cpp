@@ -92,10 +92,15 @@ std::string proposed_name(const Program& program, ReportOutput output) {
 }
 
 // A report of a document that was saved goes by its file.
-std::string pages_name(const Program& program, ReportOutput output) {
-    auto stem = file_stem(program);
-    if (output == ReportOutput::report && !stem.empty()) return stem;
-    return std::filesystem::path(proposed_file(proposed_name(program, output), "pdf")).stem().string();
+std::string pages_name(const Program& program, const Exported& exported) {
+    const bool is_session =
+        program.document.kind == DocumentKind::session && exported.part != ReportPart::recipe;
+    auto name = file_stem(program);
+    if (is_session && name.empty()) name = line_text(program.document.recipe.title);
+    if (exported.output == ReportOutput::report && !name.empty())
+        return is_session ? session_pages_name(name, program.document.session) : name;
+    name = proposed_name(program, exported.output);
+    return std::filesystem::path(proposed_file(name, "pdf")).stem().string();
 }
 
 PrintRequest label_sheets_of(const Exported& exported, const LabelRun& run, const LabelSettings& settings) {
@@ -131,7 +136,7 @@ void print(const WindowPorts& ports, const Exported& exported) {
     auto request = pages_of(exported, program);
     request.document_name =
         title.empty() ? std::string(document_traits(program.document.kind).printed_name) : title;
-    request.file_name = pages_name(program, exported.output);
+    request.file_name = pages_name(program, exported);
     ports.pages.show(request);
 }
 

@@ -42,6 +42,15 @@ std::string session_file_name(std::string_view title, const SessionDocument& ses
     return std::string(name_prefix(output)) + (name_first ? name + "_" + date : date + "_" + name);
 }
 
+std::string session_pages_name(const std::string& name, const SessionDocument& session) {
+    const auto day = brew_date(session);
+    return name + " - session" + (is_day(day) ? " " + short_date(day, DateFormat::year_month_day) : "");
+}
+
+std::string part_pages_name(const std::string& title, std::string_view part) {
+    return title.empty() ? title : title + " - " + std::string(part);
+}
+
 std::string html_file_name(std::string name) {
     return tame_file_name(std::move(name), " ?*");
 }

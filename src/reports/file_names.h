@@ -9,6 +9,9 @@
 
 namespace wortlex {
 
+/// What the pages of a mash schedule are called in the name of their file.
+inline constexpr std::string_view mash_pages_name = "Mash Schedule";
+
 enum class ReportOutput { report, competition_form, competition_labels };
 
 /// The name of a recipe's text file, without an ending: "Comp_" stands before that of a form, "CompL_" before
@@ -19,6 +22,13 @@ std::string recipe_file_name(std::string_view title, ReportOutput output);
 /// calendar has is left out.
 std::string session_file_name(std::string_view title, const SessionDocument& session, ReportOutput output,
                               const Settings& settings);
+
+/// That of the pages of a session's report, which a recipe of that `name` has not: "Ale - session
+/// 2026-11-22".
+std::string session_pages_name(const std::string& name, const SessionDocument& session);
+
+/// That of the pages of one part of a document: "Ale - Notes". Empty without a title.
+std::string part_pages_name(const std::string& title, std::string_view part);
 
 /// The same for a page of HTML: what an address had better not hold becomes "_".
 std::string html_file_name(std::string name);

@@ -122,6 +122,7 @@ TEST(FileNames, OfSessionsHoldTheDayThatThereWas) {
     };
     EXPECT_EQ(name("Ale", ReportOutput::report), "03-05-2001_Ale");
     EXPECT_EQ(name("", ReportOutput::competition_form), "03-05-2001");
+    EXPECT_EQ(session_pages_name("Ale", session), "Ale - session 2001-03-05");
     settings.session_name_before_date = 1;
     settings.date_format = DateFormat::day_name_year;
     EXPECT_EQ(name("Ale", ReportOutput::competition_labels), "CompL_Ale_05-Mar-2001");

@@ -3,6 +3,8 @@
 #include "desktop/captions.h"
 #include "desktop/list_view.h"
 #include "program/program.h"
+#include "reports/file_names.h"
+#include "reports/row_parts.h"
 #include "windows/documents/document_keys.h"
 
 #include <QDialogButtonBox>
@@ -55,13 +57,17 @@ InventoryView InventoryWindow::current_view() const {
 
 Form InventoryWindow::made_form() {
     Form form;
-    analysis_form(
-        form, view_,
-        {.copy = [this] { ports_.clipboard.put_text(inventory_text(view_)); },
-         .print =
-             [this] { ports_.pages.show(inventory_printout(view_, ports_.program.settings.printer_scale)); },
-         .help = nullptr});
+    analysis_form(form, view_,
+                  {.copy = [this] { ports_.clipboard.put_text(inventory_text(view_)); },
+                   .print = [this] { print(); },
+                   .help = nullptr});
     return form;
+}
+
+void InventoryWindow::print() const {
+    auto request = inventory_printout(view_, ports_.program.settings.printer_scale);
+    request.file_name = part_pages_name(line_text(ports_.program.document.recipe.title), "Inventory");
+    ports_.pages.show(request);
 }
 
 void InventoryWindow::follow(Change change) {

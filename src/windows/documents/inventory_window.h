@@ -24,6 +24,7 @@ private:
     InventoryView fresh_view();
     InventoryView current_view() const;
     Form made_form();
+    void print() const;
     void fit_list(const ListView& list);
 
     WindowPorts ports_;

@@ -1,10 +1,33 @@
 #include "windows/documents/session_printouts.h"
 
 #include "program/program.h"
+#include "reports/file_names.h"
 #include "reports/report_writers.h"
 
 namespace wortlex {
 namespace {
+
+std::string_view part_name(SessionPrint print) {
+    switch (print) {
+    case SessionPrint::mash:
+        return mash_pages_name;
+    case SessionPrint::efficiency:
+        return "Efficiency";
+    case SessionPrint::water_needed:
+        return "Water Needed";
+    case SessionPrint::water_match:
+        return "Water Profile";
+    case SessionPrint::water_adjustment:
+        return "Water Adjustment";
+    case SessionPrint::fermentation:
+        return "Fermentation";
+    case SessionPrint::bottling:
+        return "Bottling";
+    case SessionPrint::notes:
+        break;
+    }
+    return "Notes";
+}
 
 void show(const WindowPorts& ports, const OpenDocument& open, SessionPrint print) {
     const auto& program = ports.program;
@@ -13,7 +36,8 @@ void show(const WindowPorts& ports, const OpenDocument& open, SessionPrint print
     const auto title = report.page_title;
     ports.pages.show({.document_name = title,
                       .printer_scale = program.settings.printer_scale,
-                      .run = [report = std::move(report)](PageContext& page) { write_print(report, page); }});
+                      .run = [report = std::move(report)](PageContext& page) { write_print(report, page); },
+                      .file_name = part_pages_name(line_text(open.document.title), part_name(print))});
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 
 #include "brewing/mash_water.h"
 #include "reports/catalogue.h"
+#include "reports/file_names.h"
 #include "reports/mash_rows.h"
 #include "reports/report_writers.h"
 #include "reports/sections.h"
@@ -12,12 +13,13 @@ namespace {
 constexpr const char* recipe_title = "Wortlex Recipe - Mash Details Printout";
 constexpr const char* session_title = "Wortlex Brewing Session - Mash Details Printout";
 
-PrintRequest mash_page(const char* title, std::vector<ReportSection> sections, const Settings& settings) {
+PrintRequest mash_page(const char* title, std::vector<ReportSection> sections, const OpenDocument& open) {
     DocumentReport report;
     report.page_title = title;
     report.sections = std::move(sections);
-    return {title, settings.printer_scale,
-            [report = std::move(report)](PageContext& page) { write_print(report, page); }};
+    return {title, open.settings.printer_scale,
+            [report = std::move(report)](PageContext& page) { write_print(report, page); },
+            part_pages_name(line_text(open.document.title), mash_pages_name)};
 }
 
 } // namespace
@@ -34,13 +36,13 @@ PrintRequest simple_mash_printout(const OpenDocument& open, const ColorTable& co
     const auto view = default_report_view(settings);
     const OpenDocument planned{document, figures, settings};
     const ReportSource source{planned, view, colours};
-    return mash_page(recipe_title, {heading_section(source), {"", simple_schedule(source)}}, settings);
+    return mash_page(recipe_title, {heading_section(source), {"", simple_schedule(source)}}, open);
 }
 
 PrintRequest complex_mash_printout(const OpenDocument& open, const ColorTable& colours) {
     const auto view = default_report_view(open.settings);
     const char* const title = open.session == nullptr ? recipe_title : session_title;
-    return mash_page(title, {{"", complex_schedule({open, view, colours})}}, open.settings);
+    return mash_page(title, {{"", complex_schedule({open, view, colours})}}, open);
 }
 
 } // namespace wortlex
