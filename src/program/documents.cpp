@@ -8,6 +8,12 @@
 namespace wortlex {
 namespace {
 
+constexpr std::string_view recipe_is_open = "A recipe is open already, and only one can be.\nTo begin or "
+                                            "open another, use the File menu of its window.";
+constexpr std::string_view session_is_open =
+    "A brewing session is open already, and only one can be.\nTo begin or open another, use the File menu of "
+    "its window.";
+
 DocumentKind other(DocumentKind kind) {
     return kind == DocumentKind::recipe ? DocumentKind::session : DocumentKind::recipe;
 }
@@ -46,6 +52,14 @@ Wanted want_document(const OpenTools& tools, DocumentKind kind, Prompts& prompts
     if (prompts.ask_yes_no(question) != Answer::yes) return Wanted::refused;
     activate_if_open(tools, other_command);
     return Wanted::reactivated;
+}
+
+// Told first: behind the box its owner would come forward again.
+bool may_begin_document(const OpenTools& tools, DocumentKind kind, Prompts& prompts) {
+    if (is_open(tools, open_command(kind)))
+        prompts.tell({.text = kind == DocumentKind::recipe ? recipe_is_open : session_is_open,
+                      .icon = Icon::information});
+    return want_document(tools, kind, prompts) == Wanted::go_on;
 }
 
 void new_recipe(Program& program) {

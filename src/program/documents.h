@@ -22,6 +22,10 @@ enum class Wanted {
 /// To be asked before a document is made or opened from outside its own window.
 Wanted want_document(const OpenTools& tools, DocumentKind kind, Prompts& prompts);
 
+/// The same for a command of the main window; whether to go on. Where one of its kind is open already, that
+/// is told, and it comes forward.
+bool may_begin_document(const OpenTools& tools, DocumentKind kind, Prompts& prompts);
+
 /// Makes the live document an empty one without a file.
 void new_recipe(Program& program);
 void new_session(Program& program, const CalendarDate& today);

@@ -49,8 +49,9 @@ void MainWindow::carry_out_commands() {
 void MainWindow::start(const Tool& tool) {
     if (!tool.help_page.empty()) return help_.open(tool.help_page);
     if (tool.run != nullptr) return tool.run(ports_, this);
-    if (activate_if_open(program_.tools, tool.command)) return;
-    if (tool.prepare == nullptr || tool.prepare(ports_, this)) show_window(tool);
+    const bool is_new = tool.prepare != nullptr ? tool.prepare(ports_, this)
+                                                : !activate_if_open(program_.tools, tool.command);
+    if (is_new) show_window(tool);
 }
 
 void MainWindow::add_menu() {

@@ -34,15 +34,13 @@ ToolWindow* made(const WindowPorts& ports, const WindowInfo& info, QWidget* orig
 }
 
 bool begin_recipe(const WindowPorts& ports, QWidget*) {
-    if (want_document(ports.program.tools, DocumentKind::recipe, ports.prompts) != Wanted::go_on)
-        return false;
+    if (!may_begin_document(ports.program.tools, DocumentKind::recipe, ports.prompts)) return false;
     new_recipe(ports.program);
     return true;
 }
 
 bool begin_session(const WindowPorts& ports, QWidget*) {
-    if (want_document(ports.program.tools, DocumentKind::session, ports.prompts) != Wanted::go_on)
-        return false;
+    if (!may_begin_document(ports.program.tools, DocumentKind::session, ports.prompts)) return false;
     const SystemClock clock;
     new_session(ports.program, clock.today());
     return true;
@@ -51,7 +49,7 @@ bool begin_session(const WindowPorts& ports, QWidget*) {
 // While the shelf stands open a second start may open a document.
 bool choose_from_shelf(const WindowPorts& ports, QWidget* main) {
     const auto may_open = [&ports] {
-        return want_document(ports.program.tools, DocumentKind::recipe, ports.prompts) == Wanted::go_on;
+        return may_begin_document(ports.program.tools, DocumentKind::recipe, ports.prompts);
     };
     if (!may_open()) return false;
     const auto path = choose_recipe(ports, Opener::main, main);
@@ -59,7 +57,7 @@ bool choose_from_shelf(const WindowPorts& ports, QWidget* main) {
 }
 
 bool choose_session(const WindowPorts& ports, QWidget*) {
-    return want_document(ports.program.tools, DocumentKind::session, ports.prompts) == Wanted::go_on &&
+    return may_begin_document(ports.program.tools, DocumentKind::session, ports.prompts) &&
            choose_and_open(ports.program, DocumentKind::session, ports.files, ports.prompts);
 }
 

@@ -46,6 +46,10 @@ TEST(MainWindow, OpensARecipeOnceAndShowsItsFigures) {
     QTest::keyClick(recipe, Qt::Key_Escape);
     QTest::keyClick(recipe->findChild<QLineEdit*>("title"), Qt::Key_Return);
     EXPECT_TRUE(recipe->isVisible()) << "neither Esc nor Enter closes a document";
+    brewery.prompts.expect_tell(
+        "A recipe is open already, and only one can be.\nTo begin or open another, use "
+        "the File menu of its window.",
+        Icon::information);
     window.commands().start(command::new_recipe); // a second request only brings it forward
     EXPECT_EQ(brewery.program.document.recipe.title.view(), "Mild");
     EXPECT_EQ(brewery.program.recent_documents, RecentDocuments{path});
