@@ -83,6 +83,7 @@ RecipePage::RecipePage(RecipeEditor& editor, RecipePageUse use, const WindowPort
 Form RecipePage::made_form() {
     Form form;
     use_.fill(form, this);
+    if (!form.has("help")) form.rows().button("help", "Help", nullptr); // its letter may be taken
     form.after_edit([this](Row&) { tell_change(editor_); });
     return form;
 }

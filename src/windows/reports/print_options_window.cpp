@@ -43,6 +43,10 @@ void show_ruler(const WindowPorts& ports, const LabelDesk& desk) {
                       .shift = shift_by_printer(desk.settings)});
 }
 
+void add_help(Form& form) {
+    form.rows().button("help", "Help", nullptr);
+}
+
 // What is printed asks for its sheet, too.
 bool ask_labels(const WindowPorts& ports, ReportForm to, QWidget* owner) {
     auto& program = ports.program;
@@ -51,6 +55,7 @@ bool ask_labels(const WindowPorts& ports, ReportForm to, QWidget* owner) {
     Form form;
     competition_texts_form(form, program.document.competition, ReportOutput::competition_labels);
     if (to == ReportForm::print) label_form(form, desk, [&] { show_ruler(ports, desk); });
+    add_help(form);
     form.commit_copy(labels, program.labels);
     return run_dialog(form, {.template_name = "COMP_PREPRINTDIALOG2"}, places(program), owner);
 }
@@ -60,6 +65,7 @@ bool ask_competition(const WindowPorts& ports, ReportOutput output, ReportForm t
     auto& program = ports.program;
     Form form;
     competition_texts_form(form, program.document.competition, output);
+    add_help(form);
     return run_dialog(form, {.template_name = "COMP_PREPRINTDIALOG"}, places(program), owner);
 }
 
