@@ -25,7 +25,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         write(folder + name, data, size);
 
     auto files = LoadSystemFiles(folder);
-    promise(files.loaded == (size >= 1580));
+    promise(!files.loaded || size >= 1580);
     Settings settings;
     ApplySettings(files.settings, settings, true);
     promise(!(settings.batch_size <= 0) && !(settings.wort_size <= 0) && settings.jpg_quality >= 20);

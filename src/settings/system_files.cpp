@@ -1,6 +1,7 @@
 #include "settings/system_files.h"
 
 #include "base/files.h"
+#include "settings/setting_ranges.h"
 
 #include <cmath>
 #include <string_view>
@@ -39,17 +40,12 @@ enum class Found { missing, short_file, whole };
 
 // Lays the file over `record`, which holds the value of a missing one.
 template <class Record, class RecordLayout>
-Found load(const std::string& path, Record& record, const RecordLayout& format) {
-    const auto file = read_file(path, RecordLayout::size);
+Found load(const std::string& folder, std::string_view name, Record& record, const RecordLayout& format) {
+    const auto file = read_file(find_data_file(folder, name), RecordLayout::size);
     if (!file) return Found::missing;
     ByteReader reader(*file);
     reader.read(record, format);
     return reader.complete() ? Found::whole : Found::short_file;
-}
-
-template <class Record, class RecordLayout>
-Found load(const std::string& folder, std::string_view name, Record& record, const RecordLayout& format) {
-    return load(find_data_file(folder, name), record, format);
 }
 
 template <class Record, class RecordLayout>
@@ -92,8 +88,8 @@ PrintSelection whole_print(DocumentKind kind, float printer_scale) {
 SystemFiles LoadSystemFiles(const std::string& data_folder) {
     SystemFiles files;
     const auto found = load(data_folder, "WlxMSys.DAT", files.settings, system_settings_layout);
-    files.loaded = found == Found::whole;
-    if (found == Found::missing) files.settings = WriteDefaultSettings();
+    files.loaded = found == Found::whole && is_plausible(files.settings);
+    if (!files.loaded && found != Found::short_file) files.settings = WriteDefaultSettings();
     load(data_folder, "WlxCSys.DAT", files.competition, competition_layout);
     return files;
 }
@@ -104,8 +100,15 @@ bool SaveSystemFiles(const std::string& data_folder, const SystemFiles& files) {
     return save(data_folder, "WlxCSys.DAT", files.competition, competition_layout) && settings_saved;
 }
 
-bool LoadSettingsFile(const std::string& path, SystemSettings& image) {
-    return load(path, image, system_settings_layout) != Found::missing;
+SettingsLoad LoadSettingsFile(const std::string& path, SystemSettings& image) {
+    const auto file = read_file(path, system_settings_layout.size);
+    if (!file) return SettingsLoad::not_found;
+    auto found = image;
+    ByteReader reader(*file);
+    reader.read(found, system_settings_layout);
+    if (file->empty() || !is_plausible(found)) return SettingsLoad::damaged;
+    image = found;
+    return reader.complete() ? SettingsLoad::loaded : SettingsLoad::incomplete;
 }
 
 bool SaveSettingsFile(const std::string& path, const SystemSettings& image) {

@@ -29,8 +29,9 @@ struct SystemFiles {
     bool loaded = false;
 };
 
-/// Reads both. A settings file that is missing gives the built-in defaults, a short one what it holds
-/// over zeros; in both cases `loaded` stays false, and the program tells and ends.
+/// Reads both. A settings file that is missing or no such file gives the built-in defaults, a short one what
+/// it holds over zeros; in all cases `loaded` stays false, and the program tells and ends. Who then writes
+/// leaves the file as it was.
 SystemFiles LoadSystemFiles(const std::string& data_folder);
 
 /// Writes the settings only if they were loaded, the competition block always.
@@ -38,8 +39,16 @@ bool SaveSystemFiles(const std::string& data_folder, const SystemFiles& files);
 
 inline constexpr std::string_view bad_system_file = "Bad Or Missing System File!";
 
-/// Reads a saved settings file over `image`; false, and `image` untouched, if it cannot be opened.
-bool LoadSettingsFile(const std::string& path, SystemSettings& image);
+/// What a saved settings file came to. Nothing is changed by `not_found` and `damaged`.
+enum class SettingsLoad {
+    loaded,
+    incomplete, ///< the file ended early; what is missing stays as it was
+    not_found,
+    damaged ///< it is empty, or holds what no settings can be
+};
+
+/// Reads a saved settings file over `image`.
+SettingsLoad LoadSettingsFile(const std::string& path, SystemSettings& image);
 bool SaveSettingsFile(const std::string& path, const SystemSettings& image);
 
 /// The folders of a user, in the order of the file.

@@ -22,37 +22,6 @@ void if_unknown(Code& code, Code first, Code last, Code usual) {
     if (code < first || code > last) code = usual;
 }
 
-void repair_codes(SystemSettings& image, const SystemSettings& usual) {
-    // clang-format off
-    const auto known = [&](auto SystemSettings::*code, auto last) {
-        if_unknown(image.*code, decltype(last){}, last, usual.*code);
-    };
-    // clang-format on
-    known(&SystemSettings::HopFormula, HopFormulaCode::Generic);
-    known(&SystemSettings::color_formula, ColorFormula::Daniels);
-    known(&SystemSettings::default_schedule, ScheduleKind::complex);
-    known(&SystemSettings::new_session_date, NewSessionDate::tomorrow);
-    for (const auto units : {&SystemSettings::volume_units, &SystemSettings::hop_weight_units,
-                             &SystemSettings::weight_units, &SystemSettings::pressure_units})
-        known(units, Units::american);
-    known(&SystemSettings::system_mode, SystemMode::pro_brewer);
-    known(&SystemSettings::style_book, StyleBook::bjcp);
-    known(&SystemSettings::date_format, DateFormat::day_name_year);
-    known(&SystemSettings::color_units, ColorUnits::ebc_traditional);
-    known(&SystemSettings::potential_display, PotentialDisplay::percent_yield);
-    known(&SystemSettings::temperature_units, TemperatureUnits::fahrenheit);
-    known(&SystemSettings::bittering_unit, BitteringUnit::hbu);
-    known(&SystemSettings::efficiency_method_setting, EfficiencyMethod::method_2);
-    known(&SystemSettings::extract_display, ExtractDisplay::percent);
-    known(&SystemSettings::gravity_base, GravityBase::mass);
-    known(&SystemSettings::yield_type, YieldType::coarse_as_is);
-    known(&SystemSettings::spike_line, SpikeLine::solid);
-    if_unknown(image.spike_thickness, SpikeThickness::thin, SpikeThickness::thick, usual.spike_thickness);
-    if_unknown<std::uint8_t>(image.art_scheme, 0, 4, usual.art_scheme);
-    for (const auto precision : {&SystemSettings::sg_precision, &SystemSettings::plato_precision})
-        known(precision, std::uint32_t{2});
-}
-
 // The figures that may be zero or less.
 void repair_figures(SystemSettings& image, const SystemSettings& usual) {
     for (const auto figure :
@@ -111,9 +80,41 @@ SystemSettings WriteDefaultSettings() {
     return image;
 }
 
+void repair_codes(SystemSettings& image) {
+    const auto usual = WriteDefaultSettings();
+    // clang-format off
+    const auto known = [&](auto SystemSettings::*code, auto last) {
+        if_unknown(image.*code, decltype(last){}, last, usual.*code);
+    };
+    // clang-format on
+    known(&SystemSettings::HopFormula, HopFormulaCode::Generic);
+    known(&SystemSettings::color_formula, ColorFormula::Daniels);
+    known(&SystemSettings::default_schedule, ScheduleKind::complex);
+    known(&SystemSettings::new_session_date, NewSessionDate::tomorrow);
+    for (const auto units : {&SystemSettings::volume_units, &SystemSettings::hop_weight_units,
+                             &SystemSettings::weight_units, &SystemSettings::pressure_units})
+        known(units, Units::american);
+    known(&SystemSettings::system_mode, SystemMode::pro_brewer);
+    known(&SystemSettings::style_book, StyleBook::bjcp);
+    known(&SystemSettings::date_format, DateFormat::day_name_year);
+    known(&SystemSettings::color_units, ColorUnits::ebc_traditional);
+    known(&SystemSettings::potential_display, PotentialDisplay::percent_yield);
+    known(&SystemSettings::temperature_units, TemperatureUnits::fahrenheit);
+    known(&SystemSettings::bittering_unit, BitteringUnit::hbu);
+    known(&SystemSettings::efficiency_method_setting, EfficiencyMethod::method_2);
+    known(&SystemSettings::extract_display, ExtractDisplay::percent);
+    known(&SystemSettings::gravity_base, GravityBase::mass);
+    known(&SystemSettings::yield_type, YieldType::coarse_as_is);
+    known(&SystemSettings::spike_line, SpikeLine::solid);
+    if_unknown(image.spike_thickness, SpikeThickness::thin, SpikeThickness::thick, usual.spike_thickness);
+    if_unknown<std::uint8_t>(image.art_scheme, 0, 4, usual.art_scheme);
+    for (const auto precision : {&SystemSettings::sg_precision, &SystemSettings::plato_precision})
+        known(precision, std::uint32_t{2});
+}
+
 void repair(SystemSettings& image) {
     const auto usual = WriteDefaultSettings();
-    repair_codes(image, usual);
+    repair_codes(image);
     repair_figures(image, usual);
     if_zero(image.cooling_shrink, 0.04F);
     if_not_positive(image.sucrose_value, 46.21F);

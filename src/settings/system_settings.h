@@ -157,6 +157,9 @@ inline bool is_pro(const SystemSettings& image) {
 /// The built-in defaults.
 SystemSettings WriteDefaultSettings();
 
+/// Puts those of the built-in defaults in place of codes that are none.
+void repair_codes(SystemSettings& image);
+
 /// Puts usable values in place of those that a damaged or older file may hold: zero or negative sizes,
 /// factors and ratios, codes that are none, figures that are no number.
 void repair(SystemSettings& image);

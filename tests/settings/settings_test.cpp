@@ -174,7 +174,8 @@ TEST(SystemFiles, LoadWholeShortMissingAndOversized) {
          {std::pair{1580U, true}, {1700U, true}, {1579U, false}, {1426U, false}, {0U, false}}) {
         SCOPED_TRACE(size);
         const TemporaryFolder folder;
-        auto content = distinct_bytes(size);
+        auto content = default_file();
+        content.resize(size);
         ASSERT_TRUE(save_atomically(folder / "WlxMSys.DAT", content));
         auto files = LoadSystemFiles(folder.path());
         EXPECT_EQ(files.loaded, loaded);
@@ -187,15 +188,64 @@ TEST(SystemFiles, LoadWholeShortMissingAndOversized) {
     }
     const TemporaryFolder empty;
     SystemSettings image;
-    EXPECT_FALSE(LoadSettingsFile(empty / "absent.wxt", image));
+    EXPECT_EQ(LoadSettingsFile(empty / "absent.wxt", image), SettingsLoad::not_found);
     EXPECT_TRUE(image == SystemSettings());
     const auto files = LoadSystemFiles(empty.path());
     EXPECT_FALSE(files.loaded);
     EXPECT_TRUE(files.settings == WriteDefaultSettings());
     ASSERT_TRUE(SaveSettingsFile(empty / "a.wxt", files.settings));
     EXPECT_EQ(read_file(empty / "a.wxt"), default_file());
-    EXPECT_TRUE(LoadSettingsFile(empty / "a.wxt", image));
+    EXPECT_EQ(LoadSettingsFile(empty / "a.wxt", image), SettingsLoad::loaded);
     EXPECT_TRUE(image == files.settings);
+}
+
+// What the bytes of a settings file come to with a value at one of its places.
+template <class Value>
+SettingsLoad load_with(std::size_t at, Value value) {
+    const TemporaryFolder folder;
+    auto file = default_file();
+    poke(file, at, value);
+    EXPECT_TRUE(save_atomically(folder / "a.wxt", file) && save_atomically(folder / "WlxMSys.DAT", file));
+    auto image = WriteDefaultSettings();
+    const auto load = LoadSettingsFile(folder / "a.wxt", image);
+    const auto start = LoadSystemFiles(folder.path());
+    EXPECT_EQ(start.loaded, load == SettingsLoad::loaded);
+    EXPECT_TRUE(start.loaded || (image == WriteDefaultSettings() && start.settings == image)) << at;
+    return load;
+}
+
+TEST(SystemFiles, AForeignFileIsNoSettings) {
+    for (const float barrels_of_others : {-7.0F, 0.0F, no_figure, 5.0F, 310000.0F})
+        EXPECT_EQ(load_with(1424, barrels_of_others), SettingsLoad::loaded) << "as older ones are repaired";
+    for (const auto& [at, fits, foreign] :
+         {std::tuple<std::size_t, float, float>{1412, 22050.0F, 3974571520.0F},
+          {1400, 1.0F, 1.1F},
+          {1440, -22.0F, -40.0F},
+          {1496, 5.28F, 6.0F},
+          {1408, 0.0F, 20.0F},
+          {1476, 100.0F, 101.0F}}) {
+        EXPECT_EQ(load_with(at, fits), SettingsLoad::loaded) << at;
+        EXPECT_EQ(load_with(at, foreign), SettingsLoad::damaged) << at;
+    }
+    for (const auto& [at, fits, foreign] : {std::tuple{1300U, -100, 101},
+                                            {1396U, static_cast<int>(0xFFFFFF80), 0x6500},
+                                            {1372U, 1000, -5},
+                                            {1348U, 0, 3},
+                                            {1304U, 2, 3},
+                                            {1520U, static_cast<int>(0xFF000000), 0x7F000000}}) {
+        EXPECT_EQ(load_with(at, fits), SettingsLoad::loaded) << at;
+        EXPECT_EQ(load_with(at, foreign), SettingsLoad::damaged) << at;
+    }
+    for (const std::size_t code : {1275U, 1280U, 1297U, 0U})
+        EXPECT_EQ(load_with(code, std::uint8_t{9}), SettingsLoad::damaged) << code;
+    auto unended = default_file();
+    std::fill_n(unended.begin(), 255, std::byte{'A'});
+    const TemporaryFolder folder;
+    SystemSettings image;
+    for (const auto& file : {unended, Bytes()}) {
+        ASSERT_TRUE(save_atomically(folder / "a.wxt", file));
+        EXPECT_EQ(LoadSettingsFile(folder / "a.wxt", image), SettingsLoad::damaged);
+    }
 }
 
 // A folder file with a path of its own in each of the first `fields` fields.

@@ -54,7 +54,8 @@ void sample_rows(Rows& rows, const SystemSettings& image, const ColorTable& tabl
 
 // Whole numbers that may be negative.
 NumberRow& adjustment_row(Rows& rows, const char* key, const char* label, Binding<float> value) {
-    return held_within(rows.signed_number(key, std::move(value)), {-100, 100, 1, "%0.0f"}).label(label);
+    return held_within(rows.signed_number(key, std::move(value)), {setting_range::calibration, 1, "%0.0f"})
+        .label(label);
 }
 
 void calibration_rows(Rows& rows, SystemSettings& image) {

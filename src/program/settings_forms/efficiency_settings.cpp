@@ -65,7 +65,7 @@ void sucrose_rows(Rows& rows, SystemSettings& image) {
     };
     rows.number("sucrose_value", {[&image] { return image.sucrose_value; }, set})
         .label("Hard S&ucrose Value")
-        .range(1.0F, 50.0F)
+        .range(setting_range::sucrose_value.low, setting_range::sucrose_value.high)
         .step(0.1F)
         .format("%0.4f")
         .outside(Outside::clamp)
@@ -98,7 +98,7 @@ void setup_buttons(Rows& rows, SystemSettings& image) {
 } // namespace
 
 void efficiency_settings_form(Form& form, SystemSettings& image, const EfficiencyButtons& buttons) {
-    percent_row(form.group(), "efficiency", image.efficiency, 0, 100).label("Default &Brewhouse Efficiency:");
+    percent_row(form.group(), "efficiency", image.efficiency).label("Default &Brewhouse Efficiency:");
     potential_row(form.group("Show Extract Potential As:"), image);
     form.next_column();
     contribution_row(form.group("Show Actual Extract Contribution As:"), image);

@@ -12,8 +12,10 @@ constexpr std::string_view really_reset = "Really reset the settings to the defa
 // One temperature in two fields, each in its own unit.
 void temperature_rows(Rows& rows, SystemSettings& image) {
     rows.note("calibration_note", "Hydrometer Calibration Temperature:");
-    held_within(rows.number("fahrenheit", image.hydrometer_calibration), {32, 212, 1, "%6.2f"}).label("&F");
-    held_within(rows.number("celsius", image.hydrometer_calibration), {0, 100, 1, "%6.2f"})
+    held_within(rows.number("fahrenheit", image.hydrometer_calibration),
+                {setting_range::hydrometer_fahrenheit, 1, "%6.2f"})
+        .label("&F");
+    held_within(rows.number("celsius", image.hydrometer_calibration), {{0, 100}, 1, "%6.2f"})
         .label("&C")
         .shown_as(celsius_from_fahrenheit, fahrenheit_from_celsius);
 }
@@ -22,20 +24,22 @@ struct WaterField {
     const char* key;
     const char* label;
     float SystemSettings::*value;
-    float most; ///< either side of zero
+    SettingRange range;
     float step;
     const char* format;
 };
 
-constexpr std::array water_fields = {
-    WaterField{"zeiss", "&Zeiss Refractometer", &SystemSettings::water_zeiss, 1000, 0.05F, "%0.2f"},
-    WaterField{"brix", "&Brix Refractometer", &SystemSettings::water_brix, 200, 0.05F, "%0.2f"},
-    WaterField{"ri", "R&I Refractometer", &SystemSettings::water_ri, 2, 0.0001F, "%0.5f"}};
+constexpr std::array water_fields = {WaterField{"zeiss", "&Zeiss Refractometer", &SystemSettings::water_zeiss,
+                                                setting_range::water_zeiss, 0.05F, "%0.2f"},
+                                     WaterField{"brix", "&Brix Refractometer", &SystemSettings::water_brix,
+                                                setting_range::water_brix, 0.05F, "%0.2f"},
+                                     WaterField{"ri", "R&I Refractometer", &SystemSettings::water_ri,
+                                                setting_range::water_ri, 0.0001F, "%0.5f"}};
 
 void water_rows(Rows& rows, SystemSettings& image) {
     for (const auto& field : water_fields)
         held_within(rows.signed_number(field.key, image.*field.value),
-                    {-field.most, field.most, field.step, field.format})
+                    {field.range, field.step, field.format})
             .label(field.label);
 }
 
@@ -54,7 +58,7 @@ void reset_gauges(SystemSettings& image, Prompts& prompts) {
 void gauge_settings_form(Form& form, SystemSettings& image, Prompts& prompts, std::function<void()> help) {
     temperature_rows(form.group("Hydrometer"), image);
     held_within(form.group("Refractometers").number("brix_correction", image.brix_correction),
-                {1, 2, 0.005F, "%0.3f"})
+                {setting_range::brix_correction, 0.005F, "%0.3f"})
         .label("Bri&x Correction Factor");
     water_rows(form.group("Water Calibration"), image);
     auto& buttons = form.group();

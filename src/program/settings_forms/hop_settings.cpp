@@ -20,7 +20,7 @@ void utilization_rows(Rows& rows, SystemSettings& image) {
         .label("% Utilization Increase or Decrease for &Mash Hopping:");
     rows.number("kettle_factor", image.kettle_factor)
         .label("&Kettle Size Hop Utilization Scale Factor:")
-        .range(0.5F, 100.0F)
+        .range(setting_range::kettle_factor.low, setting_range::kettle_factor.high)
         .step(0.25F)
         .outside(Outside::clamp);
     rows.note("kettle_note", [&image] {
@@ -32,10 +32,10 @@ void increase_rows(Rows& rows, SystemSettings& image) {
     const auto in_use = [&image] { return image.use_additional_utilization != 0; };
     rows.check("use_additional", image.use_additional_utilization)
         .label("Use &Additional Utlilization For Plug and Pellet Hops in IBU Calculations?");
-    percent_row(rows, "plug_increase", image.plug_increase, 0, 100)
+    percent_row(rows, "plug_increase", image.plug_increase)
         .label("%Utilization Increase for &Plug Type Hops:")
         .enabled(in_use);
-    percent_row(rows, "pellet_increase", image.pellet_increase, 0, 100)
+    percent_row(rows, "pellet_increase", image.pellet_increase)
         .label("%Utilization Increase for Pe&llet Type Hops:")
         .enabled(in_use);
 }
@@ -70,7 +70,7 @@ void tinseth_form(Form& form, SystemSettings& image) {
     form.rows()
         .number("tinseth_factor", image.tinseth_factor)
         .label("&Concentration Factor ( > = 1.0)")
-        .range(1.0F, 2.0F)
+        .range(setting_range::tinseth_factor.low, setting_range::tinseth_factor.high)
         .step(0.05F)
         .outside(Outside::clamp);
     form.restore_on_cancel(image);

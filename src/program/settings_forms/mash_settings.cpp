@@ -50,7 +50,7 @@ NumberRow& scaled_row(Rows& rows, const char* key, float& value, double factor, 
 
 NumberRow& ratio_row(Rows& rows, const char* key, float& ratio, const SystemSettings& image) {
     return scaled_row(rows, key, ratio, litres_per_kilogram, image)
-        .range(0.0F, 100.0F)
+        .range(setting_range::mash_ratio.low, setting_range::mash_ratio.high)
         .step(0.05F)
         .format("%2.2f");
 }
@@ -65,23 +65,27 @@ void mash_water_rows(Rows& rows, SystemSettings& image) {
         .label(by_volume(image, "&QTS Water / LBS Grain Ratio:", "&L Water / KG Grain Ratio:"));
     scaled_row(rows, "grain_absorption", image.grain_absorption, absorption_per_kilogram, image)
         .label("Grain &Absorption Rate:")
-        .typed(0.0F, 2.0F)
-        .spun(0.05F, 2.0F, 0.05F)
+        .typed(setting_range::absorption.low, setting_range::absorption.high)
+        .spun(0.05F, setting_range::absorption.high, 0.05F)
         .format("%6.2f")
         .unit(by_volume(image, "Gallons Per LBS", "Liters Per kg"));
     scaled_row(rows, "grain_water_volume", image.grain_water_volume, litres_per_quart, image)
         .label(by_volume(image, "&1 Qt Water + 1 LBS Grain:", "&0.95 L Water + 0.45 kg Grain:"))
-        .typed(1.0F, 5.0F)
-        .spun([&image] { return has_metric_volumes(image) ? 0.75F : 1.0F; }, 5.0F, 0.0025F)
+        .typed(setting_range::grain_water_volume.low, setting_range::grain_water_volume.high)
+        .spun([&image] { return has_metric_volumes(image) ? 0.75F : 1.0F; },
+              setting_range::grain_water_volume.high, 0.0025F)
         .format("%6.4f")
         .unit(by_volume(image, "Volume (Qts)", "Volume (L)"));
-    percent_row(rows, "cooling_shrink", image.cooling_shrink, 1, 100).label("Wort &Cooling Shrinkage:");
+    percent_row(rows, "cooling_shrink", image.cooling_shrink, setting_range::cooling_percent)
+        .label("Wort &Cooling Shrinkage:");
 }
 
 void heat_rows(Rows& rows, SystemSettings& image, Ratios& ratios) {
-    held_within(rows.number("tun_thermal_mass", image.tun_thermal_mass), {0, 10, 0.025F, "%0.3f"})
+    held_within(rows.number("tun_thermal_mass", image.tun_thermal_mass),
+                {setting_range::thermal_mass, 0.025F, "%0.3f"})
         .label("Mash Tun Thermal &Mass:");
-    held_within(rows.number("heat_capacity", ratios.heat_capacity), {0.1F, 1, 0.005F, "%6.3f"})
+    held_within(rows.number("heat_capacity", ratios.heat_capacity),
+                {setting_range::heat_capacity, 0.005F, "%6.3f"})
         .label("Malt &Heat Capacity:");
     degrees_row(rows, "grain_temperature", image.grain_temperature, image).label("Default &Grain Temp:");
 }

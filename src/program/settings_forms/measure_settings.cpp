@@ -10,7 +10,6 @@
 namespace wortlex {
 namespace {
 
-constexpr float most = 10000.0F;
 constexpr float least_equal_size = 0.5F; // gallons
 constexpr double grams_per_entered_ounce = 28.3495;
 
@@ -56,7 +55,7 @@ NumberRow& size_row(Rows& rows, const char* key, float& gallons, float& twin, co
         .shown_as(
             [&image](float stored) { return to_shown_volume(stored, image.volume_units, image.system_mode); },
             [&image](float shown) { return from_shown_volume(shown, image.volume_units, image.system_mode); })
-        .range(0.0F, most)
+        .range(setting_range::size.low, setting_range::size.high)
         .step(1.0F)
         .outside(Outside::clamp)
         .unit([&image] { return volume_unit(image).full; });
@@ -69,7 +68,10 @@ void equalise_sizes(SystemSettings& image) {
 }
 
 NumberRow& increment_row(Rows& rows, const char* key, float& increment) {
-    return rows.number(key, increment).range(0.05F, most).step(0.05F).outside(Outside::clamp);
+    return rows.number(key, increment)
+        .range(setting_range::increment.low, setting_range::increment.high)
+        .step(0.05F)
+        .outside(Outside::clamp);
 }
 
 void size_rows(Rows& rows, SystemSettings& image) {

@@ -1,6 +1,7 @@
 #include "program/settings_forms/printer_settings.h"
 
 #include "forms/print_scale.h"
+#include "settings/setting_ranges.h"
 
 namespace wortlex {
 namespace {
@@ -42,12 +43,13 @@ void printer_settings_form(Form& form, SystemSettings& image, const PrinterSetti
     auto& other = form.group("Other");
     other.integer("jpg_quality", image.jpg_quality)
         .label("&JPG Image Quality:")
-        .range(20, 100)
+        .range(static_cast<std::int32_t>(setting_range::jpg_quality.low),
+               static_cast<std::int32_t>(setting_range::jpg_quality.high))
         .step(1)
         .outside(Outside::clamp);
     other.number("dme_scalar", image.dme_scalar)
         .label("DME &Scalar:")
-        .range(0.25F, 4)
+        .range(setting_range::dme_scalar.low, setting_range::dme_scalar.high)
         .step(0.05F)
         .outside(Outside::clamp);
     form.group().button("help", "&Help", buttons.help);

@@ -7,21 +7,26 @@
 namespace wortlex {
 
 NumberRow& held_within(NumberRow& row, const HeldWithin& limits) {
-    return row.range(limits.low, limits.high).step(limits.step).format(limits.format).outside(Outside::clamp);
+    return row.range(limits.range.low, limits.range.high)
+        .step(limits.step)
+        .format(limits.format)
+        .outside(Outside::clamp);
 }
 
-IntegerRow& percent_row(Rows& rows, std::string key, float& fraction, std::int32_t low, std::int32_t high) {
+IntegerRow& percent_row(Rows& rows, std::string key, float& fraction, const SettingRange& range) {
     return rows
         .integer(std::move(key), {[&fraction] { return whole_percent(fraction); },
                                   [&fraction](std::int32_t percent) { fraction = narrow(percent / 100.0); }})
-        .range(low, high)
+        .range(static_cast<std::int32_t>(range.low), static_cast<std::int32_t>(range.high))
         .step(1)
         .outside(Outside::clamp)
         .unit("%");
 }
 
 NumberRow& change_row(Rows& rows, std::string key, std::int32_t& percent) {
-    return held_within(rows.signed_number(std::move(key), percent), {-100, 100, 5, "%0.0f"}).unit("%");
+    return held_within(rows.signed_number(std::move(key), percent),
+                       {setting_range::utilization_change, 5, "%0.0f"})
+        .unit("%");
 }
 
 NumberRow& degrees_row(Rows& rows, std::string key, float& fahrenheit, const SystemSettings& image) {
@@ -29,8 +34,8 @@ NumberRow& degrees_row(Rows& rows, std::string key, float& fahrenheit, const Sys
     return rows.signed_number(std::move(key), fahrenheit)
         .shown_as([celsius](float stored) { return celsius() ? celsius_from_fahrenheit(stored) : stored; },
                   [celsius](float shown) { return celsius() ? fahrenheit_from_celsius(shown) : shown; })
-        .range([celsius] { return celsius() ? -30.0F : -21.0F; },
-               [celsius] { return celsius() ? 100.0F : 212.0F; })
+        .range([celsius] { return (celsius() ? setting_range::celsius : setting_range::fahrenheit).low; },
+               [celsius] { return (celsius() ? setting_range::celsius : setting_range::fahrenheit).high; })
         .step(1.0F)
         .format("%6.2f")
         .outside(Outside::clamp)

@@ -2,18 +2,21 @@
 #pragma once
 
 #include "forms/form.h"
+#include "settings/setting_ranges.h"
 
 namespace wortlex {
 
 /// What a number is held within at once, and how it looks.
 struct HeldWithin {
-    float low, high, step;
+    SettingRange range;
+    float step;
     const char* format;
 };
 NumberRow& held_within(NumberRow& row, const HeldWithin& limits);
 
 /// A fraction, edited in whole percents. The range is in percent.
-IntegerRow& percent_row(Rows& rows, std::string key, float& fraction, std::int32_t low, std::int32_t high);
+IntegerRow& percent_row(Rows& rows, std::string key, float& fraction,
+                        const SettingRange& range = setting_range::percent);
 
 /// A percentage that is kept as a whole number and may be a decrease: -100 to 100.
 NumberRow& change_row(Rows& rows, std::string key, std::int32_t& percent);

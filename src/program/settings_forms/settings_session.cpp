@@ -16,6 +16,9 @@ constexpr std::string_view only_for_now = "Please note that these setting will o
                                           "is closed or until new settings are loaded.\n\nTo save these "
                                           "settings as the permanent settings you must use the "
                                           "'Save As Default' option before closing the application.";
+constexpr std::string_view no_settings = " is damaged and cannot be loaded. The settings stay as they "
+                                         "are.\nChoose a file that was saved by Save To "
+                                         "File.";
 constexpr std::string_view short_settings =
     "The settings file ended early. What is missing stays as it is now.";
 
@@ -59,12 +62,17 @@ void SettingsSession::save_as_default(Prompts& prompts) {
 void SettingsSession::load(Files& files, Prompts& prompts) {
     const auto path = files.choose_to_open({settings_filter, desk_.data_folder, {}, "wxt"});
     if (!path) return;
-    if (!LoadSettingsFile(*path, image()))
+    const auto load = LoadSettingsFile(*path, image());
+    if (load == SettingsLoad::not_found)
         return prompts.tell({.text = file_not_found, .icon = Icon::error, .own = *path});
+    if (load == SettingsLoad::damaged) {
+        const auto name = file_name(*path);
+        const auto text = name + std::string(no_settings);
+        return prompts.tell({.text = text, .icon = Icon::error, .own = name});
+    }
     ApplySettings(image(), desk_.working, true);
     desk_.notices.tell(Change::settings);
-    const auto file = read_file(*path);
-    if (!file || file->size() < system_settings_layout.size)
+    if (load == SettingsLoad::incomplete)
         prompts.tell({.text = short_settings, .icon = Icon::warning, .own = *path});
     prompts.tell({.text = only_for_now, .icon = Icon::information});
 }

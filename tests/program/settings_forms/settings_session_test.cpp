@@ -118,6 +118,14 @@ TEST(SettingsSession, LoadedFilesWorkUntilTheEndAndKeepTheNamesOfTheDialog) {
     brewery.expect_note();
     session.load(again, brewery.prompts);
     EXPECT_EQ(brewery.files.settings.wort_size, 3.0F);
+
+    ASSERT_TRUE(save_atomically(path, Bytes(12794, std::byte{0x4D}))); // a picture
+    ScriptedFiles picture({path});
+    brewery.prompts.expect_tell("other.wxt is damaged and cannot be loaded. The settings stay as they "
+                                "are.\nChoose a file that was saved by Save To File.",
+                                Icon::error);
+    session.load(picture, brewery.prompts);
+    EXPECT_EQ(brewery.files.settings.wort_size, 3.0F);
 }
 
 TEST(SettingsSession, SavedFilesHoldWhatTheDialogShows) {
@@ -131,7 +139,7 @@ TEST(SettingsSession, SavedFilesHoldWhatTheDialogShows) {
     brewery.prompts.expect_yes_no(overwrite_too, Answer::no);
     session.save(files, brewery.prompts);
     SystemSettings written;
-    ASSERT_TRUE(LoadSettingsFile(path, written));
+    ASSERT_EQ(LoadSettingsFile(path, written), SettingsLoad::loaded);
     EXPECT_EQ(std::tuple(written.batch_size, written.brewer_name.view(), written.background[1]),
               std::tuple(9.0F, std::string_view("Grace"), 42U));
     EXPECT_EQ(brewery.batch_sizes(), "9 5 5") << "neither working values nor disk are touched by a No";
