@@ -6,7 +6,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     auto program = default_program();
     const auto before = program.document.recipe;
     const auto load = read_recipe(fuzz_bytes(data, size), program.document.recipe, program.settings);
-    if (load == LoadResult::damaged) {
+    if (!is_sound(load)) {
         promise(program.document.recipe == before);
         return 0;
     }

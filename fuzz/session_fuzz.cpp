@@ -7,7 +7,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     auto& document = program.document.recipe;
     const auto load =
         read_session(fuzz_bytes(data, size), document, program.document.session, program.settings);
-    if (load == LoadResult::damaged) return 0;
+    if (!is_sound(load)) return 0;
     const auto file = session_bytes(document, program.document.session);
     promise(file.size() ==
             53454 + 635 * document.hops.size() + 529 * document.malts.size() + 589 * document.extras.size());

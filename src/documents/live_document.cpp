@@ -56,8 +56,4 @@ LoadResult read_into(LiveDocument& live, DocumentKind kind, ByteView file, const
     return result;
 }
 
-bool is_sound(LoadResult result) {
-    return result == LoadResult::loaded || result == LoadResult::incomplete;
-}
-
 } // namespace wortlex

@@ -12,7 +12,7 @@ namespace wortlex {
 struct DocumentFile {
     std::string path; ///< empty for a new one
     bool loaded_from_file = false;
-    bool incomplete = false; ///< the file had ended early: a save asks for a name first
+    bool incomplete = false; ///< the file had ended early or held more: a save asks for a name first
     bool recovered = false;  ///< unsaved work of a run that broke off: to be saved, whatever it looks like
     std::optional<FileStamp> stamp = std::nullopt; ///< of the file as it was read or written last
 };
@@ -51,8 +51,5 @@ void start_session(LiveDocument& live, const WaterNeeds& usual, const Settings& 
 
 /// Reads a file's bytes into it. A damaged file leaves everything as it was.
 LoadResult read_into(LiveDocument& live, DocumentKind kind, ByteView file, const Settings& settings);
-
-/// Whether there is a document after a load, however incomplete.
-bool is_sound(LoadResult result);
 
 } // namespace wortlex

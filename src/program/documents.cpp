@@ -81,7 +81,7 @@ bool open_document(Program& program, const std::string& path, DocumentKind kind,
     if (!is_sound(result)) return false;
     program.document.file = {.path = path,
                              .loaded_from_file = true,
-                             .incomplete = result == LoadResult::incomplete,
+                             .incomplete = result != LoadResult::loaded,
                              .stamp = stamp_of(path)};
     remember_document(program, path);
     return true;

@@ -171,7 +171,7 @@ bool restore_work(LiveDocument& live, const RecoveredWork& work, const Settings&
     if (work.path.empty()) live.session.has_recipe = holds_anything(live.recipe) ? 1 : 0;
     live.file = {.path = work.path,
                  .loaded_from_file = !work.path.empty(),
-                 .incomplete = result == LoadResult::incomplete,
+                 .incomplete = result != LoadResult::loaded,
                  .recovered = true,
                  .stamp = work.stamp};
     return true;

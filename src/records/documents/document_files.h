@@ -9,13 +9,19 @@
 
 namespace wortlex {
 
-/// What a load came to. Nothing is changed by `not_found` and `damaged`: the live document stays whole.
+/// What a load came to. Nothing is changed by `not_found`, `damaged` and `misnamed`: the live document stays
+/// whole.
 enum class LoadResult {
     loaded,
     incomplete, ///< the file ended early; what is missing is as in a new document
+    longer,     ///< something follows the document, which is not part of it
     not_found,
-    damaged ///< a list longer than the file, or of negative length
+    damaged, ///< ends before its lists are told; a list longer than the file, or of negative length
+    misnamed ///< a session, read as a recipe
 };
+
+/// Whether there is a document after a load, though it may not be all of the file.
+bool is_sound(LoadResult result);
 
 /// What is wrong with a file that did not load in full, to follow its name.
 std::string_view load_fault(LoadResult result);

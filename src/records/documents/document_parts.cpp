@@ -87,13 +87,18 @@ bool read_opening(ByteReader& reader, BrewDocument& document) {
     ListCounts counts;
     reader.read(document, title_layout);
     reader.read(counts, counts_layout);
-    if (!fits(counts, file_size)) return false;
+    if (!reader.complete() || !fits(counts, file_size)) return false;
     reader.read(document, figures_layout);
     read_lines(reader, counts.hops, document.hops, hop_use_layout);
     read_lines(reader, counts.malts, document.malts, malt_use_layout);
     read_lines(reader, counts.extras, document.extras, extra_use_layout);
     reader.read(document, choices_layout);
     return true;
+}
+
+LoadResult end_of(const ByteReader& reader) {
+    if (!reader.complete()) return LoadResult::incomplete;
+    return reader.rest().empty() ? LoadResult::loaded : LoadResult::longer;
 }
 
 void append_opening(Bytes& file, const BrewDocument& document) {

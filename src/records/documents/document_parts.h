@@ -3,15 +3,22 @@
 
 #include "base/ports/prompts.h"
 #include "records/documents/brew_document.h"
+#include "records/documents/document_files.h"
 
 #include <string>
 
 namespace wortlex {
 
-/// All up to the simple mash, lists included. Reading answers false for a damaged file: a list of negative
-/// length, or longer than the file.
+/// All up to the simple mash, lists included. Reading answers false for a damaged file: one that ends
+/// before it tells the lengths of its lists, a list of negative length, or longer than the file.
 bool read_opening(ByteReader& reader, BrewDocument& document);
 void append_opening(Bytes& file, const BrewDocument& document);
+
+/// The bytes that a session has beside those of its recipe.
+std::size_t size_of_session_parts();
+
+/// What a load came to that has read all parts.
+LoadResult end_of(const ByteReader& reader);
 
 /// Notes, awards and the text that nothing shows.
 void read_texts(ByteReader& reader, BrewDocument& document);

@@ -10,14 +10,14 @@ namespace {
 
 LoadResult read_recipe_image(ByteView file, DocumentImage& image, const Settings& settings) {
     const auto result = read_recipe(file, image.recipe, settings);
-    if (result != LoadResult::damaged) image.session.reset();
+    if (is_sound(result)) image.session.reset();
     return result;
 }
 
 LoadResult read_session_image(ByteView file, DocumentImage& image, const Settings& settings) {
     SessionDocument session;
     const auto result = read_session(file, image.recipe, session, settings);
-    if (result != LoadResult::damaged) image.session = session;
+    if (is_sound(result)) image.session = session;
     return result;
 }
 

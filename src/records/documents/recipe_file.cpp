@@ -4,6 +4,10 @@
 
 namespace wortlex {
 
+bool is_sound(LoadResult result) {
+    return result == LoadResult::loaded || result == LoadResult::incomplete || result == LoadResult::longer;
+}
+
 std::string_view load_fault(LoadResult result) {
     switch (result) {
     case LoadResult::not_found:
@@ -12,6 +16,10 @@ std::string_view load_fault(LoadResult result) {
         return "is damaged or is no Wortlex document; it was not opened";
     case LoadResult::incomplete:
         return "ended early; what is missing was left empty";
+    case LoadResult::longer:
+        return "holds more than it should; what follows the document was left out";
+    case LoadResult::misnamed:
+        return "is a brewing session; give its file the ending .brw to open it";
     case LoadResult::loaded:
         break;
     }
@@ -33,9 +41,11 @@ LoadResult read_recipe(ByteView file, BrewDocument& document, const Settings& se
     if (!read_opening(reader, fresh)) return LoadResult::damaged;
     read_texts(reader, fresh);
     read_schedule(reader, fresh);
+    // A session begins as its recipe does, and is longer by its own parts.
+    if (reader.rest().size() == size_of_session_parts()) return LoadResult::misnamed;
     bring_up_to_date(fresh);
     document = std::move(fresh);
-    return reader.complete() ? LoadResult::loaded : LoadResult::incomplete;
+    return end_of(reader);
 }
 
 Bytes recipe_bytes(const BrewDocument& document) {

@@ -57,6 +57,10 @@ constexpr auto tail_layout = layout<SessionTail, 5496>(
 
 } // namespace
 
+std::size_t size_of_session_parts() {
+    return fermentation_layout.size + log_layout.size + tail_layout.size;
+}
+
 void repair_recording(SessionDocument& session, const BrewDocument& document) {
     auto& tail = session.tail;
     if (tail.recorded_volume == 0) tail.recorded_volume = document.batch_size;
@@ -95,7 +99,7 @@ LoadResult read_session(ByteView file, BrewDocument& document, SessionDocument& 
     log.has_recipe = 1;
     document = std::move(fresh);
     session = log;
-    return reader.complete() ? LoadResult::loaded : LoadResult::incomplete;
+    return end_of(reader);
 }
 
 Bytes session_bytes(const BrewDocument& document, const SessionDocument& session) {
