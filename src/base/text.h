@@ -45,4 +45,18 @@ struct Text {
     bool operator==(const Text& other) const { return view() == other.view(); }
 };
 
+/// Whether it ends before its field does.
+template <std::size_t N>
+bool ends(const Text<N>& text) {
+    return text.view().size() < N;
+}
+
+/// The same of a text of one line, which holds no control characters.
+template <std::size_t N>
+bool is_line(const Text<N>& text) {
+    const auto line = text.view();
+    return ends(text) && std::none_of(line.begin(), line.end(),
+                                      [](char c) { return static_cast<unsigned char>(c) < 0x20; });
+}
+
 } // namespace wortlex

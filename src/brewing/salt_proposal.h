@@ -5,7 +5,6 @@
 
 namespace wortlex {
 
-inline constexpr float most_salt_rate = 200; ///< grams per gallon
 inline constexpr double proposed_step = 0.05;
 
 /// Rates in the order of `salt_effects`, and what they leave of the difference, in the order of `ions`.

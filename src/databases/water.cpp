@@ -11,8 +11,6 @@
 namespace wortlex {
 namespace {
 
-constexpr float most_ppm = 2000.0F;
-constexpr float most_ph = 20.0F;
 constexpr std::size_t most_of_name = 24;
 
 constexpr CatalogueWords water_words = {

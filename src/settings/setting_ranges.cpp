@@ -60,13 +60,6 @@ bool is_within(std::int32_t value, const SettingRange& range) {
     return is_within(static_cast<float>(value), range);
 }
 
-bool is_name(const Text<255>& text) {
-    const auto name = text.view();
-    return name.size() < text.capacity && std::none_of(name.begin(), name.end(), [](char c) {
-               return static_cast<unsigned char>(c) < 0x20;
-           });
-}
-
 bool has_plausible_codes(const SystemSettings& image) {
     auto known = image;
     repair_codes(known);
@@ -117,7 +110,7 @@ bool has_plausible_colours(const SystemSettings& image) {
 bool is_plausible(const SystemSettings& image) {
     auto repaired = image;
     repair(repaired);
-    return is_name(image.brewer_name) && is_name(image.assistant_name) && has_plausible_codes(image) &&
+    return is_line(image.brewer_name) && is_line(image.assistant_name) && has_plausible_codes(image) &&
            has_plausible_whole_numbers(repaired) && has_plausible_figures(repaired) &&
            has_plausible_colours(image);
 }

@@ -59,6 +59,11 @@ bool load_water_analysis(WaterAnalysis& analysis, std::string& path, const Water
         return false;
     }
     const auto read = read_water_analysis(*file);
+    if (!is_plausible(read.analysis)) {
+        const auto damage = name + " is damaged and cannot be loaded.";
+        desk.prompts.tell({.text = damage, .icon = Icon::warning, .own = name});
+        return false;
+    }
     const auto fault = name + " is incomplete; what is missing was left empty.";
     if (!read.is_complete) desk.prompts.tell({.text = fault, .icon = Icon::warning, .own = name});
     analysis = read.analysis;

@@ -21,7 +21,7 @@ struct WaterDesk {
 bool is_same_work(const WaterAnalysis& a, const WaterAnalysis& b);
 
 /// Asks for a file and reads it over `analysis`, with what is worked out brought into line. A file that is
-/// not found or incomplete is told. Whether one was read; `path` is then where it is.
+/// not found, damaged or incomplete is told. Whether one was read; `path` is then where it is.
 bool load_water_analysis(WaterAnalysis& analysis, std::string& path, const WaterDesk& desk);
 
 /// Asks where to save, beginning with `path`, which follows; whether it is saved.

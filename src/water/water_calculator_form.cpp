@@ -13,7 +13,6 @@
 namespace wortlex {
 namespace {
 
-constexpr float most_ph_of_salts = 14;
 constexpr double met_ppm = 5, met_part = 0.1;
 constexpr int ion_width = 6;
 

@@ -10,7 +10,6 @@
 namespace wortlex {
 namespace {
 
-constexpr float most_water = 5000;
 constexpr double quarts_per_gallon = 128.0 / 32.0;
 
 // A water's volume in gallons and in quarts, which always belong together.

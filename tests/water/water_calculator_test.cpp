@@ -155,6 +155,20 @@ TEST(WaterCalculator, TellsOfFilesThatEndEarlyOrAreNot) {
     match.files.add(match.folder / "short.wtr");
     match.prompts.expect_tell("short.wtr is incomplete; what is missing was left empty.", Icon::warning);
     match.press("load");
+    const auto loaded = match.line("totals");
+    auto sodium = WaterAnalysis(), name = sodium, quarts = sodium;
+    sodium.source.sodium = 2001;
+    name.target.name.bytes.fill('A');
+    quarts.mash_quarts = -1;
+    for (const auto& foreign :
+         {water_analysis_bytes(sodium), water_analysis_bytes(name), water_analysis_bytes(quarts),
+          Bytes(12794, std::byte{0x4D}), Bytes(85, std::byte{0x4D})}) {
+        ASSERT_TRUE(save_atomically(match.folder / "picture.wtr", foreign));
+        match.files.add(match.folder / "picture.wtr");
+        match.prompts.expect_tell("picture.wtr is damaged and cannot be loaded.", Icon::warning);
+        match.press("load");
+        EXPECT_EQ(match.line("totals"), loaded);
+    }
     EXPECT_EQ(match.line("totals"), "211.6| 0.0| 0.0| 0.0| 0.0|316.8") << "follow the rates";
     EXPECT_TRUE(match.calculator.may_drop());
 }

@@ -148,6 +148,9 @@ struct WaterRecord {
     bool operator==(const WaterRecord&) const = default;
 };
 
+/// Within what a water's ions and its pH are held.
+inline constexpr float most_ppm = 2000, most_ph = 20;
+
 inline constexpr auto water_layout = layout<WaterRecord, 222>(
     at(0, &WaterRecord::name), at(27, &WaterRecord::calcium), at(31, &WaterRecord::magnesium),
     at(35, &WaterRecord::sodium), at(39, &WaterRecord::reserved_39), at(43, &WaterRecord::sulfate),

@@ -1,5 +1,6 @@
 #include "records/water/water_analysis.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace wortlex {
@@ -26,7 +27,28 @@ void make_numbers(WaterAnalysis& analysis) {
         make_numbers(*water);
 }
 
+bool is_up_to(float figure, float most) {
+    return figure >= 0 && figure <= most;
+}
+
+bool is_plausible(const WaterRecord& water) {
+    return is_line(water.name) && ends(water.known_for) && is_up_to(water.ph, most_ph) &&
+           is_up_to(water.reserved_39, most_ppm) &&
+           std::all_of(ions.begin(), ions.end(),
+                       [&](const Ion& ion) { return is_up_to(water.*ion.ppm, most_ppm); });
+}
+
 } // namespace
+
+bool is_plausible(const WaterAnalysis& analysis) {
+    constexpr float most_gallons = 31 * most_water, most_quarts = 4 * most_gallons;
+    return std::all_of(analysis.rates.begin(), analysis.rates.end(),
+                       [](float rate) { return is_up_to(rate, most_salt_rate); }) &&
+           is_up_to(analysis.mash_gallons, most_gallons) && is_up_to(analysis.mash_quarts, most_quarts) &&
+           is_up_to(analysis.sparge_gallons, most_gallons) && is_up_to(analysis.sparge_quarts, most_quarts) &&
+           is_plausible(analysis.target) && is_plausible(analysis.source) &&
+           is_up_to(analysis.totals.ph, most_ph_of_salts) && is_up_to(analysis.dilution_rate, 1);
+}
 
 ReadWaterAnalysis read_water_analysis(ByteView file) {
     ReadWaterAnalysis read;

@@ -19,6 +19,10 @@ inline constexpr std::size_t salt_slots = 7;
 
 enum class SaltUnit : std::uint8_t { ounces = 0, grams = 1 };
 
+inline constexpr float most_salt_rate = 200; ///< grams per gallon
+inline constexpr float most_water = 5000;    ///< in the units of its fields, barrels for the largest
+inline constexpr float most_ph_of_salts = 14;
+
 /// Ions are ppm.
 struct WaterAnalysis {
     std::array<float, salt_slots> rates{}; ///< of the salts, grams per gallon
@@ -54,6 +58,10 @@ struct ReadWaterAnalysis {
     WaterAnalysis analysis;
     bool is_complete = true;
 };
+
+/// Whether what was read can be a water analysis: names end, and what is entered lies within its fields.
+/// What is worked out from it does not count.
+bool is_plausible(const WaterAnalysis& analysis);
 
 ReadWaterAnalysis read_water_analysis(ByteView file);
 Bytes water_analysis_bytes(const WaterAnalysis& analysis);
