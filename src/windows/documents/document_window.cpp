@@ -20,6 +20,7 @@ namespace wortlex {
 namespace {
 
 constexpr std::chrono::seconds between_keeps{30};
+constexpr std::chrono::seconds before_first_keep{3}; // of what a save, or the last copy, had not
 
 QKeySequence::StandardKey key_of(int command) {
     switch (command) {
@@ -60,6 +61,8 @@ void DocumentWindow::begin(std::function<void()> print_it) {
     new WindowUndo(*this);
     connect(&keeper_, &QTimer::timeout, this, [this] { keep_or_tell(); });
     keeper_.start(between_keeps);
+    first_keep_.setSingleShot(true);
+    connect(&first_keep_, &QTimer::timeout, this, [this] { keep_or_tell(); });
     reopen();
 }
 
@@ -206,6 +209,7 @@ bool DocumentWindow::may_close() {
     if (!may_leave_document()) return false;
     pages_.dismiss();
     keeper_.stop();
+    first_keep_.stop();
     DropWork(program().data_folder);
     return true;
 }
@@ -227,13 +231,14 @@ void DocumentWindow::follow(Change) {
 
 void DocumentWindow::show_name() {
     const bool modified = is_modified(editor_.open, saved_, document_.file);
+    if (modified && !has_copy_ && !first_keep_.isActive()) first_keep_.start(before_first_keep);
     const auto mark = modified ? QStringLiteral("*") : QString();
     setWindowTitle(name_in_caption(document_) + mark + state_words() + QStringLiteral(" - ") + caption_);
 }
 
 bool DocumentWindow::keep_work() {
-    if (is_modified(editor_.open, saved_, document_.file))
-        return KeepWork(program().data_folder, image_of(editor_.open), document_.file);
+    has_copy_ = is_modified(editor_.open, saved_, document_.file);
+    if (has_copy_) return KeepWork(program().data_folder, image_of(editor_.open), document_.file);
     DropWork(program().data_folder);
     return true;
 }

@@ -88,6 +88,8 @@ private:
     QAction* undo_ = nullptr;
     QAction* redo_ = nullptr;
     QTimer keeper_;          ///< of unsaved work
+    QTimer first_keep_;      ///< of what has no copy yet
+    bool has_copy_ = false;  ///< of its unsaved work, however old
     bool is_asking_ = false; ///< whether to save; while it is open the document stays
 };
 
