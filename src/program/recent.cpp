@@ -20,6 +20,16 @@ bool is_usable(std::string_view path) {
     return !path.empty() && std::none_of(path.begin(), path.end(), is_no_text);
 }
 
+// A brewery that is moved takes its own documents along: they are told from its folder.
+std::string line_of(std::string_view path, const std::string& data_folder) {
+    if (path.starts_with(data_folder)) path.remove_prefix(data_folder.size());
+    return std::string(path) + '\n';
+}
+
+std::string path_of(const std::string& line, const std::string& data_folder) {
+    return line.empty() || line.front() == '/' ? line : data_folder + line;
+}
+
 // A brewer of many recipes still finds his sessions.
 bool has_room(const RecentDocuments& recent, std::string_view path) {
     const auto is_alike = [kind = document_kind(path)](const auto& other) {
@@ -46,16 +56,16 @@ RecentDocuments LoadRecent(const std::string& data_folder) {
             line += c;
             continue;
         }
-        add_last(recent, line);
+        add_last(recent, path_of(line, data_folder));
         line.clear();
     }
-    add_last(recent, line);
+    add_last(recent, path_of(line, data_folder));
     return recent;
 }
 
 bool SaveRecent(const std::string& data_folder, const RecentDocuments& recent) {
     std::string lines;
-    for (const auto& path : recent) lines += path + '\n';
+    for (const auto& path : recent) lines += line_of(path, data_folder);
     return save_atomically(find_data_file(data_folder, recent_file), std::as_bytes(std::span(lines)));
 }
 

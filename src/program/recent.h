@@ -11,8 +11,8 @@ using RecentDocuments = std::vector<std::string>;
 
 inline constexpr std::size_t recent_limit = 9;
 
-/// Reads the list, a path a line. What is no path is left out; a missing or overlong file gives an empty
-/// list.
+/// Reads the list, a path a line, from the data folder where it is not a whole one. What is no path is left
+/// out; a missing or overlong file gives an empty list.
 RecentDocuments LoadRecent(const std::string& data_folder);
 bool SaveRecent(const std::string& data_folder, const RecentDocuments& recent);
 

@@ -4,6 +4,7 @@
 #include "settings/setting_ranges.h"
 
 #include <cmath>
+#include <filesystem>
 #include <string_view>
 
 namespace wortlex {
@@ -83,6 +84,17 @@ PrintSelection whole_print(DocumentKind kind, float printer_scale) {
     return selection;
 }
 
+// A brewery that was moved, or copied to another system, still names its standard folders where it was: they
+// are looked for where it is.
+void follow_move(FolderSet& folders, FolderKind kind, const std::string& data_folder) {
+    const auto path = folder_path(folders, kind);
+    const auto place = path.rfind('/' + std::string(default_sub_folder(kind)));
+    std::error_code error;
+    if (place == std::string::npos || std::filesystem::exists(path, error)) return;
+    const auto moved = data_folder + path.substr(place + 1);
+    if (std::filesystem::is_directory(moved, error)) set_folder(folders, kind, moved);
+}
+
 } // namespace
 
 SystemFiles LoadSystemFiles(const std::string& data_folder) {
@@ -157,6 +169,7 @@ FolderSet LoadFolders(const std::string& data_folder) {
         const auto kind = static_cast<FolderKind>(i);
         if (folder_path(folders, kind).empty())
             set_folder(folders, kind, data_folder + std::string(default_sub_folder(kind)));
+        follow_move(folders, kind, data_folder);
     }
     return folders;
 }

@@ -74,7 +74,8 @@ struct FolderSet {
 };
 
 /// Reads the folder file. Fields that an older, shorter file lacks become the data folder; what is
-/// empty then gets its place below the data folder.
+/// empty then gets its place below the data folder, and so does a standard folder of a brewery that is gone
+/// from where it was.
 FolderSet LoadFolders(const std::string& data_folder);
 bool SaveFolders(const std::string& data_folder, const FolderSet& folders);
 /// Writes the folders if they are to follow the user; true if nothing was to be written.

@@ -274,5 +274,12 @@ TEST_F(Documents, AreRememberedNewestFirst) {
     EXPECT_TRUE(LoadRecent(folder.path()).empty());
 }
 
+TEST_F(Documents, OfABreweryMoveWithIt) {
+    SaveRecent(folder.path(), {folder / "Recipes/Pale.rec", "/usb/Stout.rec"});
+    const TemporaryFolder moved;
+    std::filesystem::copy(folder / "WlxRecent.txt", moved / "WlxRecent.txt");
+    EXPECT_THAT(LoadRecent(moved.path()), ElementsAre(moved / "Recipes/Pale.rec", "/usb/Stout.rec"));
+}
+
 } // namespace
 } // namespace wortlex

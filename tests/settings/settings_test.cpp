@@ -282,6 +282,13 @@ TEST(Folders, MissingAndEmptyOnesGetTheirPlace) {
     EXPECT_EQ(loaded_folders(folder, folder_file(8)), "/a/ /b/ /c/ /d/ /e/ /f/ /g/ /h/ ");
     EXPECT_EQ(loaded_folders(folder, folder_file(6)), "/a/ /b/ /c/ /d/ /e/ /f/ data/ data/ ");
     EXPECT_EQ(loaded_folders(folder, folder_file(4)), "/a/ /b/ /c/ /d/ data/ data/ data/ data/ ");
+    FolderSet elsewhere;
+    set_folder(elsewhere, FolderKind::recipes, "/usb/brewery/Recipes/2020/");
+    set_folder(elsewhere, FolderKind::sessions, "/usb/brewery/Sessions/");
+    std::filesystem::create_directories(folder / "Recipes/2020");
+    ASSERT_TRUE(SaveFolders(folder.path(), elsewhere));
+    EXPECT_EQ(loaded_folders(folder, {}).substr(0, 47), "data/Recipes/2020/ /usb/brewery/Sessions/ data/")
+        << "moved along, or on a disk that is away";
 }
 
 TEST(Folders, AutomaticFlagIsTheLastByteOfTheFirstField) {

@@ -1,5 +1,6 @@
 #include "windows/main/main_window.h"
 
+#include "base/files.h"
 #include "calculators/time_sheet.h"
 #include "desktop/menus.h"
 #include "desktop/qt_text.h"
@@ -86,6 +87,7 @@ void MainWindow::add_recent(QMenu& menu, DocumentKind kind, char letter) {
         auto* const action =
             menu.addAction(QLatin1String("&") + QLatin1Char(letter++) + QLatin1Char(' ') + name);
         action->setToolTip(QFile::decodeName(QByteArray::fromStdString(recent[i])));
+        action->setEnabled(stamp_of(recent[i]).has_value());
         connect(action, &QAction::triggered, this, [this, path = recent[i]] { open_file(path); });
     }
 }
