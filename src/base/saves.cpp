@@ -81,6 +81,9 @@ bool is_abandoned(const std::string& path) {
     return file.is_open() && ::flock(file.get(), LOCK_EX | LOCK_NB) == 0;
 }
 
+constexpr std::string_view no_room = " could not be written: there is no room for it on the disk.\nNothing "
+                                     "is changed. Make room, or save it on "
+                                     "another disk.";
 constexpr std::string_view write_error =
     "Wortlex has experienced an error in writing this file.\n\nPossible reasons include:\n\n"
     "a) The file has somehow been tagged as read-only by the system.\n\n"
@@ -134,7 +137,14 @@ bool save_atomically(const std::string& path, ByteView content) {
 }
 
 bool save_or_tell(const std::string& path, ByteView content, Prompts& prompts) {
+    errno = 0;
     if (save_atomically(path, content)) return true;
+    if (errno == ENOSPC || errno == EDQUOT || errno == EFBIG) {
+        const auto name = file_name(path);
+        const auto text = name + std::string(no_room);
+        prompts.tell({.text = text, .icon = Icon::warning, .own = name});
+        return false;
+    }
     prompts.tell({.text = write_error, .icon = Icon::warning, .own = path});
     return false;
 }

@@ -3,6 +3,7 @@
 #include "base/text.h"
 #include "base/windows1252.h"
 #include "support/file_content.h"
+#include "support/scripted_prompts.h"
 #include "support/temporary_folder.h"
 
 #include <gtest/gtest.h>
@@ -77,7 +78,12 @@ TEST(SaveAtomically, WriteThatEndsHalfWayLeavesTheOldFileWhole) {
     const rlimit lower{1000, limit.rlim_max};
     const auto old_handler = std::signal(SIGXFSZ, SIG_IGN);
     ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &lower), 0);
-    const bool saved = save_atomically(folder / "kept", Bytes(5000));
+    ScriptedPrompts prompts;
+    prompts.expect_tell(
+        "kept could not be written: there is no room for it on the disk.\nNothing is changed. Make "
+        "room, or save it on another disk.",
+        Icon::warning);
+    const bool saved = save_or_tell(folder / "kept", Bytes(5000), prompts);
     ::setrlimit(RLIMIT_FSIZE, &limit);
     std::signal(SIGXFSZ, old_handler);
     EXPECT_FALSE(saved);
