@@ -3,6 +3,9 @@
 #include "desktop/form_dialog.h"
 #include "program/fault_log.h"
 
+#include <QCoreApplication>
+#include <QScreen>
+
 namespace wortlex {
 
 void show_log(Clipboard& clipboard, const Places& places, QWidget* owner) {
@@ -11,7 +14,10 @@ void show_log(Clipboard& clipboard, const Places& places, QWidget* owner) {
     log_form(form, log, clipboard);
     FormDialog dialog(form, {.template_name = "LOGDIALOG", .has_cancel = false}, places, owner);
     auto& text = dialog.widgets().field("log");
-    text.setMinimumSize(text.fontMetrics().averageCharWidth() * 90, text.fontMetrics().lineSpacing() * 16);
+    const auto room = dialog.screen()->availableSize();
+    const QSize wished(text.fontMetrics().averageCharWidth() * 90, text.fontMetrics().lineSpacing() * 16);
+    text.setMinimumSize(wished.boundedTo({room.width() * 3 / 5, room.height() / 2}));
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest); // or it grows once it has its place
     dialog.exec();
     form.show_again = nullptr;
 }
