@@ -68,8 +68,10 @@ void EntryLine::propose() {
 void EntryLine::show_proposals() {
     QStringList texts;
     for (const auto row : found_) texts << proposal_text(list(), row, use_.columns);
+    // A shown list keeps its corner on some desktops: of another height it is placed anew.
+    if (proposals_.rowCount() != texts.size()) completer_.popup()->hide();
     proposals_.setStringList(texts);
-    if (found_.empty()) return completer_.popup()->hide();
+    if (found_.empty()) return;
     completer_.complete(proposal_place(texts));
     completer_.popup()->setCurrentIndex(completer_.completionModel()->index(0, 0));
 }
