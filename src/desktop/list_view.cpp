@@ -332,6 +332,27 @@ void ListView::size_columns() {
         header()->setSectionResizeMode(column,
                                        told.stretches ? QHeaderView::Stretch : QHeaderView::Interactive);
     }
+    keep_stretched_readable();
+}
+
+// A column that takes what the others leave is no narrower than three fifths of its wish: a list that has
+// less room is scrolled.
+void ListView::keep_stretched_readable() {
+    const int digit = fontMetrics().horizontalAdvance(QLatin1Char('0'));
+    for (int column = 0; column < model_->columnCount(); ++column) {
+        const auto& told = row_.columns[static_cast<std::size_t>(column)];
+        if (!told.stretches) continue;
+        const int least = digit * (told.width * 3 / 5 + 2);
+        const int left = viewport()->width() - header()->length() + header()->sectionSize(column);
+        header()->setSectionResizeMode(column,
+                                       left < least ? QHeaderView::Interactive : QHeaderView::Stretch);
+        if (left < least) header()->resizeSection(column, least);
+    }
+}
+
+void ListView::resizeEvent(QResizeEvent* event) {
+    QTreeView::resizeEvent(event);
+    keep_stretched_readable();
 }
 
 QSize ListView::sizeHint() const {

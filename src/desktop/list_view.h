@@ -62,6 +62,7 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
     void closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) override;
     void drawRow(QPainter* painter, const QStyleOptionViewItem& option,
                  const QModelIndex& index) const override;
@@ -80,6 +81,7 @@ private:
     void frame_cell();
     void show_sort_mark();
     void size_columns();
+    void keep_stretched_readable();
     void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
 
     const ListRow& row_;
