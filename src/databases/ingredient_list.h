@@ -76,6 +76,8 @@ public:
     /// The same from a file that is known.
     virtual void import_file(const std::string& path, Prompts& prompts) = 0;
     virtual void save(Prompts& prompts) = 0;
+    /// How many entries differ from the file, for which nobody was asked; none of a pick list.
+    virtual std::size_t unsaved_count() = 0;
     /// The file has been written elsewhere: takes the stocks that have changed there since it was read or
     /// written here, and keeps all other work. What was added to a stock meanwhile stays added.
     virtual void follow_stocks() = 0;

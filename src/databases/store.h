@@ -69,6 +69,7 @@ public:
     void import(Files& files, Prompts& prompts) override;
     void import_file(const std::string& path, Prompts& prompts) override;
     void save(Prompts& prompts) override;
+    std::size_t unsaved_count() override;
     void follow_stocks() override;
     bool close(Prompts& prompts) override;
     PrintRequest printout() const override;
@@ -506,6 +507,18 @@ template <class Record>
 bool Store<Record>::is_changed() {
     sort_for_file();
     return !holds_the_same(database_, saved_);
+}
+
+template <class Record>
+std::size_t Store<Record>::unsaved_count() {
+    if (side() != ListSide::maintenance) return 0;
+    const auto missing = [](const Database<Record>& from, const Database<Record>& in) {
+        return std::count_if(from.slots.begin(), from.slots.begin() + from.count, [&](const Record& entry) {
+            return std::none_of(in.slots.begin(), in.slots.begin() + in.count,
+                                [&](const Record& other) { return is_identical(entry, other); });
+        });
+    };
+    return static_cast<std::size_t>(std::max(missing(database_, saved_), missing(saved_, database_)));
 }
 
 template <class Record>

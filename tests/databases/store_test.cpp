@@ -100,11 +100,13 @@ TEST(Store, AddsClonesAndDeletes) {
     hops.prompts.expect_tell(std::string(no_room), Icon::warning);
     EXPECT_EQ(hops->new_entry(hops.prompts), nullptr);
     hops.database.count = 2;
+    EXPECT_EQ(hops->unsaved_count(), 1U);
     hops.prompts.expect("yes/no or stay",
                         "The hop database has been modified!\nDo you want to save the changes?", Answer::no,
                         Icon::warning);
     EXPECT_TRUE(hops->close(hops.prompts));
     EXPECT_EQ(hops.database.count, 1) << "No reloads the file";
+    EXPECT_EQ(hops->unsaved_count(), 0U);
 }
 
 TEST(Store, SavingLeavesTheSelectionWhereItIs) {

@@ -9,6 +9,7 @@
 #include "databases/water_hardness.h"
 #include "databases/yeasts.h"
 #include "desktop/form_dialog.h"
+#include "program/fault_log.h"
 
 #include <QApplication>
 
@@ -35,6 +36,10 @@ ListSource source(ListSide side, const WindowPorts& ports) {
 void keep(IngredientList& list, const WindowPorts& ports, QWidget* owner) {
     open(list, ports);
     ListWindow(list, list_ports(ports), Opener::main, nullptr, owner).exec();
+    // Who closes it is asked; a signal that ends the program is not.
+    if (const auto lost = list.unsaved_count(); lost > 0)
+        user_log().note("The program was ended before " + std::to_string(lost) + " changed entries of " +
+                        list.caption() + " were saved.");
     ports.program.notices.tell(Change::databases);
 }
 
