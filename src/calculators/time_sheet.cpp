@@ -1,11 +1,10 @@
 #include "calculators/time_sheet.h"
 
-#include "base/files.h"
+#include "base/kept_work.h"
 #include "base/windows1252.h"
 #include "brewing/calendar.h"
 
 #include <algorithm>
-#include <filesystem>
 #include <utility>
 
 namespace wortlex {
@@ -36,17 +35,10 @@ constexpr Message cannot_be_kept = {
             "you stop.",
     .icon = Icon::warning};
 
-// Where it waits while another time line is begun.
-std::string aside_path(const std::string& data_folder) {
-    return kept_path(data_folder) + ".later";
-}
-
 } // namespace
 
 bool is_time_line_kept(const std::string& data_folder) {
-    std::error_code error;
-    return std::filesystem::exists(kept_path(data_folder), error) ||
-           std::filesystem::exists(aside_path(data_folder), error);
+    return is_work_kept(kept_path(data_folder));
 }
 
 std::int32_t TimeSheet::now() const {
@@ -108,8 +100,7 @@ void TimeSheet::changed() {
 
 void TimeSheet::forget_kept() {
     is_modified_ = false;
-    std::error_code error;
-    std::filesystem::remove(kept_path(desk_.data_folder), error);
+    forget_kept_work(kept_path(desk_.data_folder));
 }
 
 void TimeSheet::start() {
@@ -228,16 +219,14 @@ bool TimeSheet::may_close() {
 }
 
 void TimeSheet::offer_kept() {
-    const auto path = kept_path(desk_.data_folder), aside = aside_path(desk_.data_folder);
-    std::error_code error;
-    if (!std::filesystem::exists(path, error)) std::filesystem::rename(aside, path, error);
-    const auto file = read_file(path, time_line_size);
+    const auto path = kept_path(desk_.data_folder);
+    const auto file = take_up_kept_work(path, time_line_size);
     if (!file) return;
     auto line = read_time_line(*file);
     if (!line || line->entries.empty()) return forget_kept();
     const auto answer = desk_.prompts.ask_yes_no_cancel(kept_question);
     if (answer == Answer::no) return forget_kept();
-    if (answer == Answer::cancel) return std::filesystem::rename(path, aside, error);
+    if (answer == Answer::cancel) return put_off_kept_work(path);
     line_ = std::move(*line);
     is_modified_ = true;
     selected = static_cast<std::int32_t>(line_.entries.size()) - 1;

@@ -1,6 +1,6 @@
 #include "mash/schedule_storing.h"
 
-#include "base/files.h"
+#include "base/kept_work.h"
 #include "base/windows1252.h"
 
 #include <algorithm>
@@ -15,6 +15,17 @@ constexpr Message unsaved_question = {
     .text = "The current mash schedule has been modified!\nDo you want to save the changes?",
     .icon = Icon::question,
     .safe = Answer::yes};
+
+constexpr Message kept_question = {
+    .text =
+        "A mash schedule was left before it was saved.\nDo you want to go on with it? No discards it, Cancel "
+        "asks again the next time.",
+    .icon = Icon::question,
+    .safe = Answer::yes};
+
+std::string kept_path(const std::string& data_folder) {
+    return data_folder + "WlxMash.rcv";
+}
 
 bool same_step(const MashStep& a, const MashStep& b) {
     const auto counted = [](const MashStep& s) {
@@ -72,6 +83,34 @@ bool may_drop(MashDesigner& designer, const ScheduleDesk& desk) {
     if (!is_modified(designer)) return true;
     const auto answer = desk.prompts.ask_yes_no_cancel(unsaved_question);
     return answer == Answer::yes ? save_schedule(designer, desk) : answer == Answer::no;
+}
+
+bool keep_schedule(const MashDesigner& designer, const std::string& data_folder) {
+    if (is_modified(designer))
+        return save_atomically(kept_path(data_folder), mash_schedule_bytes(designer.design));
+    forget_kept_schedule(data_folder);
+    return true;
+}
+
+void forget_kept_schedule(const std::string& data_folder) {
+    forget_kept_work(kept_path(data_folder));
+}
+
+bool is_schedule_kept(const std::string& data_folder) {
+    return is_work_kept(kept_path(data_folder));
+}
+
+void offer_kept_schedule(MashDesigner& designer, const std::string& data_folder, Prompts& prompts) {
+    const auto path = kept_path(data_folder);
+    const auto file = take_up_kept_work(path, largest_file);
+    if (!file) return;
+    auto kept = designer.design;
+    if (read_mash_schedule(*file, kept, designer.settings) != ScheduleLoad::loaded)
+        return forget_kept_work(path);
+    const auto answer = prompts.ask_yes_no_cancel(kept_question);
+    if (answer == Answer::cancel) return put_off_kept_work(path);
+    if (answer == Answer::yes) edit(designer, {}, [&] { take(designer, kept); });
+    forget_kept_work(path);
 }
 
 void load_schedule(MashDesigner& designer, const ScheduleDesk& desk) {

@@ -280,6 +280,28 @@ struct Shelf : ScriptedUser {
     ScheduleDesk desk() { return {files, folders, prompts}; }
 };
 
+TEST(MashDesigner, OffersWhatARunLeftUnsaved) {
+    Shelf shelf;
+    const auto& folder = shelf.folder.path();
+    constexpr const char* question =
+        "A mash schedule was left before it was saved.\nDo you want to go on with "
+        "it? No discards it, Cancel asks again the next time.";
+    Designing brewer(mash_kitchen());
+    EXPECT_TRUE(keep_schedule(brewer.designer, folder) && !is_schedule_kept(folder));
+    brewer.add("Dough In");
+    EXPECT_TRUE(keep_schedule(brewer.designer, folder));
+    Designing next(mash_kitchen());
+    shelf.prompts.expect("yes/no/cancel", question, Answer::cancel, Icon::question);
+    offer_kept_schedule(next.designer, folder, shelf.prompts);
+    EXPECT_TRUE(is_schedule_kept(folder) && !is_modified(next.designer));
+    EXPECT_TRUE(keep_schedule(next.designer, folder)) << "what waits is left alone";
+    shelf.prompts.expect("yes/no/cancel", question, Answer::yes, Icon::question);
+    offer_kept_schedule(next.designer, folder, shelf.prompts);
+    EXPECT_TRUE(is_modified(next.designer));
+    EXPECT_EQ(mash_schedule_bytes(next.designer.design), mash_schedule_bytes(brewer.designer.design));
+    EXPECT_FALSE(is_schedule_kept(folder));
+}
+
 TEST(MashDesigner, AsksBeforeItDropsASchedule) {
     Shelf shelf;
     Designing brewer(mash_kitchen());

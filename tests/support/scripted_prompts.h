@@ -100,7 +100,8 @@ private:
                            message.text.ends_with("before finalizing this brewing session?") ||
                            message.text.ends_with("take it over, as with OK?") ||
                            message.text.starts_with("Wortlex ended before") ||
-                           message.text.starts_with("A time line was left");
+                           message.text.starts_with("A time line was left") ||
+                           message.text.starts_with("A mash schedule was left");
         EXPECT_EQ(message.safe, keeps ? Answer::yes : Answer::no) << message.text;
         const auto* const given = std::get_if<Answered>(&step.reply);
         return given ? *given : otherwise;

@@ -4,6 +4,7 @@
 #include "calculators/time_sheet.h"
 #include "desktop/menus.h"
 #include "desktop/qt_text.h"
+#include "mash/schedule_storing.h"
 #include "program/exit.h"
 #include "program/recovery.h"
 #include "windows/databases/offer_window.h"
@@ -103,7 +104,8 @@ void MainWindow::put() {
 
 void MainWindow::offer_unsaved_work() {
     if (offer_work(program_, prompts_)) show_document(program_.document.kind);
-    // Its window offers it.
+    // Their windows offer them.
+    if (is_schedule_kept(program_.data_folder)) commands_.start(command::mash_designer);
     if (is_time_line_kept(program_.data_folder)) commands_.start(command::time_line);
 }
 

@@ -20,6 +20,21 @@ void MashDesignerWindow::follow(Change change) {
     if (change == Change::settings) follow_settings(designer(), ports().program.settings);
 }
 
+void MashDesignerWindow::tell_once_shown() {
+    offer_kept_schedule(designer(), ports().program.data_folder, ports().prompts);
+    widgets().refresh();
+}
+
+bool MashDesignerWindow::may_close() {
+    if (!may_drop(designer(), desk())) return false;
+    forget_kept_schedule(ports().program.data_folder);
+    return true;
+}
+
+bool MashDesignerWindow::keep_work() {
+    return keep_schedule(designer(), ports().program.data_folder);
+}
+
 PrintRequest MashDesignerWindow::printout() const {
     return mash_designer_printout(designer());
 }

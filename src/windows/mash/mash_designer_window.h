@@ -10,8 +10,12 @@ class MashDesignerWindow : public DesignerWindow {
 public:
     MashDesignerWindow(const WindowPorts& ports, const WindowInfo& info, QWidget* origin);
 
+    /// Offers what an earlier run left.
+    void tell_once_shown() override;
+    bool keep_work() override;
+
 protected:
-    bool may_close() override { return may_drop(designer(), desk()); }
+    bool may_close() override;
     void follow(Change change) override;
     PrintRequest printout() const override;
 };
