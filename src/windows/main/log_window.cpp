@@ -3,7 +3,6 @@
 #include "desktop/form_dialog.h"
 #include "program/fault_log.h"
 
-#include <QCoreApplication>
 #include <QScreen>
 
 namespace wortlex {
@@ -17,7 +16,9 @@ void show_log(Clipboard& clipboard, const Places& places, QWidget* owner) {
     const auto room = dialog.screen()->availableSize();
     const QSize wished(text.fontMetrics().averageCharWidth() * 90, text.fontMetrics().lineSpacing() * 16);
     text.setMinimumSize(wished.boundedTo({room.width() * 3 / 5, room.height() / 2}));
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest); // or it grows once it has its place
+    // Told before it has its place, or it would grow there beyond the screen's edge.
+    const auto letters = dialog.fontMetrics();
+    dialog.resize(text.minimumSize() + QSize(letters.averageCharWidth() * 20, letters.height() * 6));
     dialog.exec();
     form.show_again = nullptr;
 }
