@@ -107,12 +107,13 @@ bool has_plausible_colours(const SystemSettings& image) {
 
 } // namespace
 
-bool is_plausible(const SystemSettings& image) {
+int count_implausible(const SystemSettings& image) {
     auto repaired = image;
     repair(repaired);
-    return is_line(image.brewer_name) && is_line(image.assistant_name) && has_plausible_codes(image) &&
-           has_plausible_whole_numbers(repaired) && has_plausible_figures(repaired) &&
-           has_plausible_colours(image);
+    const std::array kinds = {is_name(image.brewer_name) && is_name(image.assistant_name),
+                              has_plausible_codes(image), has_plausible_whole_numbers(repaired),
+                              has_plausible_figures(repaired), has_plausible_colours(image)};
+    return static_cast<int>(std::count(kinds.begin(), kinds.end(), false));
 }
 
 } // namespace wortlex

@@ -37,9 +37,9 @@ inline constexpr SettingRange dme_scalar{0.25F, 4};
 inline constexpr SettingRange grain_water_volume{1, 5};
 } // namespace setting_range
 
-/// Whether an image can be what this program or an older one wrote: names that end, codes that are there and,
-/// once it is repaired, figures that the windows could have given. What is left at zero never counts against
-/// it.
-bool is_plausible(const SystemSettings& image);
+/// How many of its five kinds of fields an image has with what no window gives: names that do not end, codes
+/// that are not there and, once it is repaired, whole numbers, figures and colours out of their ranges. What
+/// is left at zero never counts against it.
+int count_implausible(const SystemSettings& image);
 
 } // namespace wortlex

@@ -39,6 +39,9 @@ constexpr std::size_t folder_field = 1024;
 
 enum class Found { missing, short_file, whole };
 
+// One odd value is repaired, or is the brewer's affair: without its settings the program does not start.
+constexpr int foreign_kinds = 2;
+
 // Lays the file over `record`, which holds the value of a missing one.
 template <class Record, class RecordLayout>
 Found load(const std::string& folder, std::string_view name, Record& record, const RecordLayout& format) {
@@ -100,7 +103,7 @@ void follow_move(FolderSet& folders, FolderKind kind, const std::string& data_fo
 SystemFiles LoadSystemFiles(const std::string& data_folder) {
     SystemFiles files;
     const auto found = load(data_folder, "WlxMSys.DAT", files.settings, system_settings_layout);
-    files.loaded = found == Found::whole && is_plausible(files.settings);
+    files.loaded = found == Found::whole && count_implausible(files.settings) < foreign_kinds;
     if (!files.loaded && found != Found::short_file) files.settings = WriteDefaultSettings();
     load(data_folder, "WlxCSys.DAT", files.competition, competition_layout);
     return files;
@@ -118,7 +121,7 @@ SettingsLoad LoadSettingsFile(const std::string& path, SystemSettings& image) {
     auto found = image;
     ByteReader reader(*file);
     reader.read(found, system_settings_layout);
-    if (file->empty() || !is_plausible(found)) return SettingsLoad::damaged;
+    if (file->empty() || count_implausible(found) > 0) return SettingsLoad::damaged;
     image = found;
     return reader.complete() ? SettingsLoad::loaded : SettingsLoad::incomplete;
 }
