@@ -110,7 +110,7 @@ bool has_plausible_colours(const SystemSettings& image) {
 int count_implausible(const SystemSettings& image) {
     auto repaired = image;
     repair(repaired);
-    const std::array kinds = {is_name(image.brewer_name) && is_name(image.assistant_name),
+    const std::array kinds = {is_line(image.brewer_name) && is_line(image.assistant_name),
                               has_plausible_codes(image), has_plausible_whole_numbers(repaired),
                               has_plausible_figures(repaired), has_plausible_colours(image)};
     return static_cast<int>(std::count(kinds.begin(), kinds.end(), false));
