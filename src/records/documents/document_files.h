@@ -16,7 +16,7 @@ enum class LoadResult {
     incomplete, ///< the file ended early; what is missing is as in a new document
     longer,     ///< something follows the document, which is not part of it
     not_found,
-    damaged, ///< ends before its lists are told; a list longer than the file, or of negative length
+    damaged, ///< empty; a list longer than the file, or of negative length
     misnamed ///< a session, read as a recipe
 };
 

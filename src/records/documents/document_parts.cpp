@@ -87,7 +87,7 @@ bool read_opening(ByteReader& reader, BrewDocument& document) {
     ListCounts counts;
     reader.read(document, title_layout);
     reader.read(counts, counts_layout);
-    if (!reader.complete() || !fits(counts, file_size)) return false;
+    if (file_size == 0 || !fits(counts, file_size)) return false;
     reader.read(document, figures_layout);
     read_lines(reader, counts.hops, document.hops, hop_use_layout);
     read_lines(reader, counts.malts, document.malts, malt_use_layout);

@@ -9,8 +9,8 @@
 
 namespace wortlex {
 
-/// All up to the simple mash, lists included. Reading answers false for a damaged file: one that ends
-/// before it tells the lengths of its lists, a list of negative length, or longer than the file.
+/// All up to the simple mash, lists included. Reading answers false for a damaged file: an empty one,
+/// a list of negative length, or longer than the file.
 bool read_opening(ByteReader& reader, BrewDocument& document);
 void append_opening(Bytes& file, const BrewDocument& document);
 

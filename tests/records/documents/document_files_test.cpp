@@ -16,8 +16,9 @@ void expect_cut(ByteView cut, const Lines& lines, bool is_session) {
     loaded.document.title.assign("live");
     const auto before = loaded;
     const auto result = loaded.read(cut);
-    if (cut.size() < 97 || lines.hops * 635 > cut.size() || lines.malts * 529 > cut.size() ||
-        lines.extras * 589 > cut.size()) {
+    if (cut.empty() || (cut.size() > 85 && lines.hops * 635 > cut.size()) ||
+        (cut.size() > 89 && lines.malts * 529 > cut.size()) ||
+        (cut.size() > 93 && lines.extras * 589 > cut.size())) {
         ASSERT_TRUE(result == LoadResult::damaged && loaded == before);
         return;
     }
@@ -28,9 +29,9 @@ void expect_cut(ByteView cut, const Lines& lines, bool is_session) {
         expected.session = new_session(fresh);
         expected.session.has_recipe = 1;
     }
-    fresh.hops.resize(lines.hops);
-    fresh.malts.resize(lines.malts);
-    fresh.extras.resize(lines.extras);
+    if (cut.size() > 85) fresh.hops.resize(lines.hops);
+    if (cut.size() > 89) fresh.malts.resize(lines.malts);
+    if (cut.size() > 93) fresh.extras.resize(lines.extras);
     auto whole = expected.bytes();
     std::copy(cut.begin(), cut.end(), whole.begin());
     ASSERT_EQ(expected.read(whole), LoadResult::loaded);
