@@ -100,8 +100,8 @@ struct Request {
     StartPlaces places;
 };
 
-// The window need not wait for its icon; questions wait until the program runs, and can end. What was asked for
-// comes last, so that it lies on top.
+// The window need not wait for its icon; questions wait until the program runs, and can end. What was asked
+// for comes last, so that it lies on top.
 void once_shown(MainWindow& window, const Request& asked) {
     set_icon();
     window.offer_unsaved_work();
