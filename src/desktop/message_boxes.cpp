@@ -54,7 +54,9 @@ void prepare(QMessageBox& box, const Message& message, QMessageBox::StandardButt
     if (!message.details.empty()) tell_details(box, string_of(message.details));
     box.setIcon(icon_of(message.icon));
     box.setStandardButtons(buttons);
-    box.setDefaultButton(message.safe == Answer::yes ? QMessageBox::Yes : QMessageBox::No);
+    const auto safe = message.safe == Answer::yes ? QMessageBox::Yes : QMessageBox::No;
+    box.setDefaultButton(safe);
+    if (buttons == (QMessageBox::Yes | QMessageBox::No)) box.setEscapeButton(safe);
     box.setTextInteractionFlags(Qt::TextSelectableByMouse);
     keep_lines_whole(box);
 }
@@ -88,7 +90,7 @@ void MessageBoxes::tell(const Message& message) {
     show(message, QMessageBox::Ok);
 }
 
-// Closing a yes/no box without a word is the careful answer.
+// Closing a yes/no box without a word is the safe answer.
 Answer MessageBoxes::ask_yes_no(const Message& question) {
     return show(question, QMessageBox::Yes | QMessageBox::No) == QMessageBox::Yes ? Answer::yes : Answer::no;
 }
