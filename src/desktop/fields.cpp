@@ -6,6 +6,7 @@
 #include <QWheelEvent>
 
 #include <cmath>
+#include <utility>
 
 namespace wortlex {
 namespace {
@@ -141,8 +142,14 @@ QSize Page::sizeHint() const {
 ArrowField::ArrowField(QWidget* parent) : QAbstractSpinBox(parent) {
     setAccelerated(true);
     setFocusPolicy(Qt::StrongFocus);
-    connect(lineEdit(), &QLineEdit::textChanged, this,
-            [this](const QString& text) { setProperty(value_property, text.toDouble()); });
+    connect(lineEdit(), &QLineEdit::textChanged, this, &ArrowField::tell_number);
+}
+
+// Of the text as it is: another listener may have changed it since the signal was sent.
+void ArrowField::tell_number() {
+    const bool was_telling = std::exchange(is_telling_, true);
+    setProperty(value_property, lineEdit()->text().toDouble());
+    is_telling_ = was_telling;
 }
 
 void ArrowField::tell_range(const SpinRange& range) {
@@ -153,7 +160,7 @@ void ArrowField::tell_range(const SpinRange& range) {
 
 bool ArrowField::event(QEvent* event) {
     if (const auto* const change = dynamic_cast<QDynamicPropertyChangeEvent*>(event);
-        change != nullptr && change->propertyName() == value_property)
+        change != nullptr && change->propertyName() == value_property && !is_telling_)
         take_number(property(value_property).toDouble());
     return QAbstractSpinBox::event(event);
 }

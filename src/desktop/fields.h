@@ -67,7 +67,10 @@ protected:
     void wheelEvent(QWheelEvent* event) override;
 
 private:
+    void tell_number();
     void take_number(double number);
+
+    bool is_telling_ = false; ///< to a reader, which is no edit
 };
 
 /// The text is selected whole as the field is entered, however it is entered.

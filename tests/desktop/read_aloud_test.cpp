@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <QAccessible>
+#include <QLineEdit>
 
 #include <array>
 
@@ -73,6 +74,19 @@ TEST(ReadAloud, AFieldWithArrowsIsANumberWithItsUnit) {
               std::pair(1.0, 100.0));
     number->setCurrentValue(7);
     EXPECT_EQ(size, 7) << "as if it were typed";
+}
+
+TEST(ReadAloud, WhatIsRewrittenAsItIsTypedEndsThere) {
+    float gravity = 1;
+    Form form;
+    form.rows().number("gravity", gravity).label("&SG").gravity().range(1, 5).step(0.001F);
+    Bench desk;
+    FormDialog dialog(form, {"ABOUTDIALOG"}, desk.places, nullptr);
+    auto& field = dialog.widgets().field("gravity");
+    auto* const line = field.findChild<QLineEdit*>();
+    line->selectAll();
+    QTest::keyClicks(line, QStringLiteral("1044"));
+    EXPECT_EQ(std::pair(line->text().toStdString(), gravity), std::pair(std::string("1.044"), 1.044F));
 }
 
 } // namespace

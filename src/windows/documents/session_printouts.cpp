@@ -3,6 +3,7 @@
 #include "program/program.h"
 #include "reports/file_names.h"
 #include "reports/report_writers.h"
+#include "reports/row_parts.h"
 
 namespace wortlex {
 namespace {

@@ -5,6 +5,7 @@
 #include "reports/file_names.h"
 #include "reports/mash_rows.h"
 #include "reports/report_writers.h"
+#include "reports/row_parts.h"
 #include "reports/sections.h"
 
 namespace wortlex {
