@@ -31,7 +31,7 @@ bool is_small_word(std::string_view word) {
     return std::find(words.begin(), words.end(), word) != words.end();
 }
 
-bool is_letter(char letter) {
+bool is_word_letter(char letter) {
     return (letter >= 'a' && letter <= 'z') || (letter >= '0' && letter <= '9') || letter < 0;
 }
 
@@ -58,7 +58,8 @@ struct WordPlace {
 bool is_end_of_word(std::string_view rest) {
     constexpr std::array<std::string_view, 3> endings = {"", "s", "es"};
     return std::any_of(endings.begin(), endings.end(), [&](std::string_view ending) {
-        return rest.starts_with(ending) && (rest.size() == ending.size() || !is_letter(rest[ending.size()]));
+        return rest.starts_with(ending) &&
+               (rest.size() == ending.size() || !is_word_letter(rest[ending.size()]));
     });
 }
 
@@ -66,7 +67,7 @@ WordPlace place_of(std::string_view text, std::string_view word) {
     WordPlace best;
     for (auto at = text.find(word); at != text.npos && best.grade < whole_word;
          at = text.find(word, at + 1)) {
-        const bool begins = at == 0 || !is_letter(text[at - 1]);
+        const bool begins = at == 0 || !is_word_letter(text[at - 1]);
         const int in_word = is_end_of_word(text.substr(at + word.size())) ? whole_word : begins_word;
         const int grade = begins ? in_word : within_word;
         if (grade > best.grade) best = {at, grade};

@@ -5,7 +5,7 @@
 namespace wortlex {
 namespace {
 
-constexpr int page_units = 620, item_indent = 14; // logical units
+constexpr int column_units = 620, item_indent = 14; // logical units
 
 std::vector<PageRun> page_runs(const std::string& source) {
     std::vector<PageRun> runs;
@@ -20,7 +20,7 @@ void print_row(PageContext& page, const Block& row) {
     const auto cells = cells_of(row);
     std::vector<PageColumn> columns;
     for (std::size_t i = 0; i < cells.size(); ++i)
-        columns.push_back({.tab = static_cast<int>(i) * page_units / static_cast<int>(cells.size())});
+        columns.push_back({.tab = static_cast<int>(i) * column_units / static_cast<int>(cells.size())});
     page.TableLine(columns, cells);
 }
 

@@ -10,7 +10,7 @@ namespace {
 
 // The fields are of the user's unit, the file is not: a barrel's gallons, a pound's ounces and the metric
 // units lie between, and a field's figure is rounded.
-constexpr float gallons_per_barrel = 31, ounces_per_pound = 16, pounds_per_kilogram = 2.3F;
+constexpr float gallons_in_barrel = 31, ounces_per_pound = 16, pounds_per_kilogram = 2.3F;
 constexpr float metric_rest = 1.1F; // a quart is 0.95 l, the coldest -30 C are -22 F
 constexpr float rounding = 0.001F;
 
@@ -37,8 +37,8 @@ constexpr std::array figure_ranges = {
     FigureRange{&SystemSettings::grain_increment, up_to(setting_range::increment.high* pounds_per_kilogram)},
     FigureRange{&SystemSettings::hop_increment,
                 up_to(setting_range::increment.high* pounds_per_kilogram* ounces_per_pound)},
-    FigureRange{&SystemSettings::batch_size, up_to(setting_range::size.high* gallons_per_barrel)},
-    FigureRange{&SystemSettings::wort_size, up_to(setting_range::size.high* gallons_per_barrel)},
+    FigureRange{&SystemSettings::batch_size, up_to(setting_range::size.high* gallons_in_barrel)},
+    FigureRange{&SystemSettings::wort_size, up_to(setting_range::size.high* gallons_in_barrel)},
     FigureRange{&SystemSettings::kettle_factor, up_to(setting_range::kettle_factor.high)},
     FigureRange{&SystemSettings::tinseth_factor, up_to(setting_range::tinseth_factor.high)},
     FigureRange{&SystemSettings::grain_absorption, setting_range::absorption},
